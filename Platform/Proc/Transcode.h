@@ -1,0 +1,81 @@
+#pragma once
+
+#include "Core/Export.h"
+#include "Core/RefCounted.h"
+#include "Core/Result.h"
+
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Korvex::Proc
+{
+
+class SettingsSubtitleMixer;
+class SettingsSubtitleSoft;
+
+/// What one conversion has to do. At most one of `soft` and `mixer` is set; with neither no subtitles go out.
+struct SettingsTranscode
+{
+    ioPath input;
+    ioPath output;
+    std::string formatId;                               ///< a Conf::IFormatFile container
+    std::shared_ptr<SettingsSubtitleSoft const> soft;   ///< shared with whoever made it, never changed here
+    std::shared_ptr<SettingsSubtitleMixer const> mixer;
+    std::string videoCodecId;  ///< empty: copy where nothing is drawn and the container can carry it, else "h264"
+    std::string audioCodecId;  ///< empty: copy where the container can carry it, else "aac"
+    int crf = 20;              ///< constant rate factor of libx264, 0 (lossless) to 51
+    std::string preset = "medium";  ///< libx264's name
+    bool overwrite = false;    ///< replace an existing output
+};
+
+struct TranscodeProgress
+{
+    std::chrono::microseconds done{0};
+    std::chrono::microseconds total{0};          ///< 0 when the input does not say how long it is
+    double speed = 0.0;                          ///< media seconds a second
+    std::optional<std::chrono::seconds> remaining;
+};
+
+/// How a job ended.
+struct TranscodeReport
+{
+    std::optional<Core::Error> error;   ///< ErrorCode::Cancelled after a cancel
+    std::vector<std::string> warnings;  ///< sentences for the user about what is in the output but not as expected
+    ioPath output;
+    std::chrono::microseconds duration{0};
+};
+
+/// Hears from a running job on one of the job's own threads.
+class ITranscodeObserver
+{
+public:
+    virtual void OnProgress(TranscodeProgress const& progress) = 0;
+    /// Exactly once, the last call of a job that was started.
+    virtual void OnFinished(TranscodeReport const& report) = 0;
+
+protected:
+    ~ITranscodeObserver() = default;
+};
+
+/// One conversion on its own threads. Dropping the last reference cancels and waits. The output is written beside its
+/// target under a temporary name and renamed at the very end.
+class KORVEX_PLATFORM_API ITranscodeJob : public Core::RefCounted
+{
+public:
+    /// Once. The observer is not owned and has to live until `OnFinished` has returned.
+    virtual void Start(ITranscodeObserver& observer) = 0;
+    /// Asks the job to stop; returns at once. Any thread; more than once is harmless.
+    virtual void Cancel() = 0;
+    /// Blocks until `OnFinished` has returned.
+    virtual void Wait() = 0;
+};
+
+/// Checks everything that can be known before the first frame: both paths, the container, each track against the
+/// container, encoders.
+[[nodiscard]] KORVEX_PLATFORM_API Core::Result<boost::intrusive_ptr<ITranscodeJob>> MakeTranscodeJob(
+    SettingsTranscode const& settings);
+
+}  // namespace Korvex::Proc

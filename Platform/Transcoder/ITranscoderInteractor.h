@@ -1,0 +1,81 @@
+#pragma once
+
+#include "Core/EventPublisher.h"
+#include "Core/Export.h"
+#include "Core/Result.h"
+#include "Transcoder/Preset.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace Korvex::Proc
+{
+class SettingsSubtitleMixer;
+class SettingsSubtitleSoft;
+struct TranscodeProgress;
+struct TranscodeReport;
+}  // namespace Korvex::Proc
+
+namespace Korvex::Converter::Transcoder::Entities
+{
+
+/// A film that is queued for conversion.
+struct MediaItem
+{
+    ioPath path;
+    /// Number of the subtitle collection that belongs to the film; 0 when it has none.
+    std::uint32_t subtitleCollectionId = 0;
+};
+
+/// Everything that one conversion needs. At most one of the two subtitle settings is set; they are shared, so that the
+/// user may go on editing while the conversion runs.
+struct ConversionRequest
+{
+    MediaItem item;
+    ioPath output;
+    Preset preset;
+    std::shared_ptr<Proc::SettingsSubtitleSoft const> soft;
+    std::shared_ptr<Proc::SettingsSubtitleMixer const> mixer;
+    bool overwrite = false;
+};
+
+using ConversionId = std::uint32_t;
+
+/// Hears of one conversion, on the thread that started it, from that thread's event loop.
+class IConversionObserver
+{
+public:
+    virtual void OnConversionProgress(ConversionId id, Proc::TranscodeProgress const& progress) = 0;
+    /// Exactly once; nothing follows.
+    virtual void OnConversionFinished(ConversionId id, Proc::TranscodeReport const& report) = 0;
+
+protected:
+    ~IConversionObserver() = default;
+};
+
+/// News of the queue for whoever keeps something per film.
+class ITranscoderInteractorEventObserver
+{
+public:
+    /// A film came in; its subtitle collection has been handed to its interactor.
+    virtual void OnMediaItemAdded(MediaItem const& item) = 0;
+    virtual ~ITranscoderInteractorEventObserver() = default;
+};
+
+/// The host's queue of films and its running conversions. The thread that made it is the only one that calls it; that
+/// thread runs a Qt event loop.
+class ITranscoderInteractor : public Core::EventPublisher<ITranscoderInteractorEventObserver>
+{
+public:
+    /// Announces a film to the observers.
+    virtual void AddMediaItem(MediaItem const& item) = 0;
+
+    /// Checks the request and starts it. The observer is not owned; it has to live until `OnConversionFinished`.
+    virtual Core::Result<ConversionId> StartConversion(ConversionRequest const& request,
+                                                       IConversionObserver& observer) = 0;
+
+    /// Asks a conversion to stop; it then finishes as cancelled. An unknown or finished id does nothing.
+    virtual void CancelConversion(ConversionId id) = 0;
+};
+
+}  // namespace Korvex::Converter::Transcoder::Entities

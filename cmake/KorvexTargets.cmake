@@ -1,0 +1,42 @@
+# korvex_add_layer(<target> LIBRARY <shared library> SOURCES <file>... [LINKS <library>...])
+#   One folder's objects; they become part of the shared library named. A layer sees the include roots of the project and
+#   what it links, nothing else.
+function(korvex_add_layer target)
+    cmake_parse_arguments(ARG "" "LIBRARY" "SOURCES;LINKS" ${ARGN})
+    add_library(${target} OBJECT ${ARG_SOURCES})
+    target_include_directories(${target} PUBLIC
+        "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Platform>" "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Modules>")
+    target_link_libraries(${target} PRIVATE korvex_compiler ${ARG_LINKS})
+    string(TOUPPER ${ARG_LIBRARY} macro)
+    target_compile_definitions(${target} PRIVATE ${macro}_BUILD)
+    set_property(GLOBAL APPEND PROPERTY ${ARG_LIBRARY}_LAYERS ${target})
+endfunction()
+
+# korvex_add_library(<target> LINKS <library>... PUBLIC_LINKS <library>...)
+#   The shared library made of the layers that named it.
+function(korvex_add_library target)
+    cmake_parse_arguments(ARG "" "" "LINKS;PUBLIC_LINKS" ${ARGN})
+    get_property(layers GLOBAL PROPERTY ${target}_LAYERS)
+    add_library(${target} SHARED)
+    foreach(layer IN LISTS layers)
+        target_sources(${target} PRIVATE "$<TARGET_OBJECTS:${layer}>")
+    endforeach()
+    target_include_directories(${target} PUBLIC
+        "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Platform>" "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Modules>"
+        "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/korvex>")
+    target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:korvex_compiler> ${ARG_LINKS} PUBLIC ${ARG_PUBLIC_LINKS})
+    set_target_properties(${target} PROPERTIES
+        LINKER_LANGUAGE CXX VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+endfunction()
+
+# korvex_add_test(<name> SOURCES <file>... [LINKS <library>...])
+#   One test program, one ctest entry, headless.
+function(korvex_add_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/Tests")
+    target_link_libraries(${name} PRIVATE korvex_compiler ${ARG_LINKS} GTest::gmock GTest::gtest_main)
+    target_precompile_headers(${name} PRIVATE <gmock/gmock.h> <gtest/gtest.h> <string> <vector>)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+endfunction()
