@@ -17,4 +17,4 @@ std::shared_ptr<void> GUIContainer::Get(std::type_index type, std::string const&
     return found == m_components.end() ? nullptr : found->second.lock();
 }
 
-}  // namespace Korvex::Converter::Gui
+} // namespace Korvex::Converter::Gui

@@ -42,4 +42,4 @@ private:
     std::map<std::pair<std::type_index, std::string>, std::weak_ptr<void>> m_components;
 };
 
-}  // namespace Korvex::Converter::Gui
+} // namespace Korvex::Converter::Gui

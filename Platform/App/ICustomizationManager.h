@@ -24,4 +24,4 @@ public:
     [[nodiscard]] virtual std::shared_ptr<IFeatureSettings> GetFeatureSettings() const = 0;
 };
 
-}  // namespace Korvex::App
+} // namespace Korvex::App

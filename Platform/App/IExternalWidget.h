@@ -10,4 +10,4 @@ public:
     virtual ~IExternalWidget() = default;
 };
 
-}  // namespace Korvex::Converter::Gui
+} // namespace Korvex::Converter::Gui

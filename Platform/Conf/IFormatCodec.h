@@ -11,7 +11,7 @@ namespace Korvex::Conf
 class KORVEX_PLATFORM_API IFormatCodec : public Core::RefCounted
 {
 public:
-    static std::string const CODEC_ID_NONE;  ///< the empty text: no codec, or one that is not known
+    static std::string const CODEC_ID_NONE; ///< the empty text: no codec, or one that is not known
 
     /// FFmpeg's name of the codec ("h264", "subrip"), or an own value where FFmpeg has none.
     [[nodiscard]] virtual std::string GetCodecID() const = 0;
@@ -20,4 +20,4 @@ public:
 /// A codec that is nothing but its identifier.
 [[nodiscard]] KORVEX_PLATFORM_API boost::intrusive_ptr<IFormatCodec> MakeFormatCodec(std::string codecId);
 
-}  // namespace Korvex::Conf
+} // namespace Korvex::Conf

@@ -36,4 +36,4 @@ private:
     std::unique_ptr<Impl> m_impl;
 };
 
-}  // namespace Korvex::Core
+} // namespace Korvex::Core

@@ -28,4 +28,4 @@ private:
     ioPath m_path;
 };
 
-}  // namespace Korvex::Core
+} // namespace Korvex::Core

@@ -93,4 +93,4 @@ private:
     int m_depth = 0;
 };
 
-}  // namespace Korvex::Core
+} // namespace Korvex::Core

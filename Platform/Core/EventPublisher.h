@@ -14,4 +14,4 @@ public:
     virtual ~EventPublisher() = default;
 };
 
-}  // namespace Korvex::Core
+} // namespace Korvex::Core

@@ -13,9 +13,9 @@
 namespace Korvex::Core
 {
 
-[[nodiscard]] KORVEX_PLATFORM_API bool FileExists(ioPath const& path);       ///< a regular file (links followed)
+[[nodiscard]] KORVEX_PLATFORM_API bool FileExists(ioPath const& path); ///< a regular file (links followed)
 [[nodiscard]] KORVEX_PLATFORM_API bool FolderExists(ioPath const& path);
-[[nodiscard]] KORVEX_PLATFORM_API bool PathExists(ioPath const& path);       ///< anything at all, dangling links included
+[[nodiscard]] KORVEX_PLATFORM_API bool PathExists(ioPath const& path); ///< anything at all, dangling links included
 /// True when both name one existing file (links, spellings and hard links included).
 [[nodiscard]] KORVEX_PLATFORM_API bool IsSameFile(ioPath const& a, ioPath const& b);
 /// The names (not paths) of the entries of a folder, sorted by bytes; empty when it cannot be read.
@@ -41,8 +41,9 @@ KORVEX_PLATFORM_API void RemoveFile(ioPath const& path);
 /// Removes a folder and all that is in it; only ever called for folders that `CreateWorkFolder` made.
 KORVEX_PLATFORM_API void RemoveWorkFolder(ioPath const& folder);
 
-/// Refuses an output that must not be written: same file as an input, folder missing, target present without `overwrite`.
+/// Refuses an output that must not be written: same file as an input, folder missing, target present without
+/// `overwrite`.
 [[nodiscard]] KORVEX_PLATFORM_API Status CheckOutput(ioPath const& output, std::vector<ioPath> const& inputs,
-                                                   bool overwrite);
+                                                     bool overwrite);
 
-}  // namespace Korvex::Core
+} // namespace Korvex::Core

@@ -16,6 +16,7 @@ public:
 };
 
 /// The texts of `domain`; for an unknown domain one that translates nothing. Lives until the process ends.
-[[nodiscard]] KORVEX_PLATFORM_API ILocalizationManager const& GetLocalizationManagerForDomain(std::string const& domain);
+[[nodiscard]] KORVEX_PLATFORM_API ILocalizationManager const&
+GetLocalizationManagerForDomain(std::string const& domain);
 
-}  // namespace Korvex::Core
+} // namespace Korvex::Core

@@ -11,4 +11,4 @@ void RefCounted::Release() const noexcept
         delete this;
 }
 
-}  // namespace Korvex::Core
+} // namespace Korvex::Core

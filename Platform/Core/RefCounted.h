@@ -39,4 +39,4 @@ inline void intrusive_ptr_release(RefCounted const* object) noexcept
     object->Release();
 }
 
-}  // namespace Korvex::Core
+} // namespace Korvex::Core

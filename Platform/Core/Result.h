@@ -15,8 +15,8 @@ template <typename T>
 class [[nodiscard]] Result
 {
 public:
-    Result(T value) : m_state(std::in_place_index<0>, std::move(value)) {}      // NOLINT(google-explicit-constructor)
-    Result(Error error) : m_state(std::in_place_index<1>, std::move(error)) {}  // NOLINT(google-explicit-constructor)
+    Result(T value) : m_state(std::in_place_index<0>, std::move(value)) {}     // NOLINT(google-explicit-constructor)
+    Result(Error error) : m_state(std::in_place_index<1>, std::move(error)) {} // NOLINT(google-explicit-constructor)
 
     explicit operator bool() const noexcept { return m_state.index() == 0; }
 
@@ -54,4 +54,4 @@ private:
 using Status = std::optional<Error>;
 inline constexpr std::nullopt_t SUCCESS = std::nullopt;
 
-}  // namespace Korvex::Core
+} // namespace Korvex::Core

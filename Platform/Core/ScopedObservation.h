@@ -12,7 +12,8 @@ class ScopedObservation
 {
 public:
     ScopedObservation(EventPublisher<Observer>& publisher, Observer& observer)
-        : m_publisher(publisher), m_observer(observer)
+        : m_publisher(publisher),
+          m_observer(observer)
     {
         m_publisher.RegisterEventHandler(&m_observer);
     }
@@ -25,4 +26,4 @@ private:
     Observer& m_observer;
 };
 
-}  // namespace Korvex::Core
+} // namespace Korvex::Core

@@ -16,8 +16,8 @@ class KORVEX_PLATFORM_API ioPath
 {
 public:
     ioPath() = default;
-    ioPath(std::string utf8) : m_utf8(std::move(utf8)) {}  // NOLINT(google-explicit-constructor)
-    ioPath(char const* utf8) : m_utf8(utf8) {}             // NOLINT(google-explicit-constructor)
+    ioPath(std::string utf8) : m_utf8(std::move(utf8)) {} // NOLINT(google-explicit-constructor)
+    ioPath(char const* utf8) : m_utf8(utf8) {}            // NOLINT(google-explicit-constructor)
 
     /// The whole path in UTF-8, exactly as it was given.
     [[nodiscard]] std::string const& utf8string() const noexcept { return m_utf8; }
@@ -42,4 +42,4 @@ private:
     std::string m_utf8;
 };
 
-}  // namespace Korvex
+} // namespace Korvex

@@ -29,4 +29,4 @@ public:
     [[nodiscard]] virtual MediaInfo const& GetMediaInfo() const = 0;
 };
 
-}  // namespace Korvex::Proc
+} // namespace Korvex::Proc

@@ -18,7 +18,7 @@ enum class StreamKind
     Video,
     Audio,
     Subtitle,
-    Attachment,  ///< a font or another file inside the container
+    Attachment, ///< a font or another file inside the container
     Other,
 };
 
@@ -27,14 +27,14 @@ struct StreamInfo
 {
     std::uint32_t index = 0;
     StreamKind kind = StreamKind::Other;
-    std::string codecId;   ///< FFmpeg's name
-    std::string language;  ///< as the container has it ("eng", "pt-BR"); "und" counts as unknown and is left out
+    std::string codecId;  ///< FFmpeg's name
+    std::string language; ///< as the container has it ("eng", "pt-BR"); "und" counts as unknown and is left out
     std::string title;
     bool isDefault = false;
     bool isForced = false;
     bool isHearingImpaired = false;
     bool isCommentary = false;
-    bool isAttachedPicture = false;  ///< a cover picture, not moving video
+    bool isAttachedPicture = false; ///< a cover picture, not moving video
     bool isTextSubtitle = false;
     bool isBitmapSubtitle = false;
     std::chrono::microseconds duration{0};
@@ -45,7 +45,7 @@ struct StreamInfo
     int height = 0;
     int sampleAspectNumerator = 1;
     int sampleAspectDenominator = 1;
-    int rotationDegrees = 0;  ///< clockwise, to show the picture upright: 0, 90, 180 or 270
+    int rotationDegrees = 0; ///< clockwise, to show the picture upright: 0, 90, 180 or 270
     double framesPerSecond = 0.0;
 };
 
@@ -53,10 +53,10 @@ struct StreamInfo
 struct MediaInfo
 {
     ioPath path;
-    std::string formatId;  ///< FFmpeg's demuxer name, or IFormatFile::FORMAT_SRT, _ASS, _SSA, "sami" for text files
+    std::string formatId; ///< FFmpeg's demuxer name, or IFormatFile::FORMAT_SRT, _ASS, _SSA, "sami" for text files
     std::string title;
     std::chrono::microseconds duration{0};
-    std::chrono::microseconds startTime{0};  ///< the container's time that counts as zero
+    std::chrono::microseconds startTime{0}; ///< the container's time that counts as zero
     std::vector<StreamInfo> streams;
 
     /// The stream that conversions and previews show: the first moving video stream; null when there is none.
@@ -67,4 +67,4 @@ struct MediaInfo
 /// Reads the headers of a media or subtitle file. Any thread; may take as long as the disk does.
 [[nodiscard]] KORVEX_PLATFORM_API Core::Result<MediaInfo> ProbeMedia(ioPath const& path);
 
-}  // namespace Korvex::Proc
+} // namespace Korvex::Proc

@@ -20,7 +20,7 @@ struct RgbaImage
     int height = 0;
     int sampleAspectNumerator = 1;
     int sampleAspectDenominator = 1;
-    std::chrono::microseconds time{0};  ///< of the frame that is shown, from the start of the file
+    std::chrono::microseconds time{0}; ///< of the frame that is shown, from the start of the file
     std::vector<std::uint8_t> rgba;
 };
 
@@ -39,4 +39,4 @@ public:
 
 [[nodiscard]] KORVEX_PLATFORM_API Core::Result<boost::intrusive_ptr<IPreview>> MakePreview(ioPath const& mediaPath);
 
-}  // namespace Korvex::Proc
+} // namespace Korvex::Proc

@@ -9,4 +9,4 @@ namespace Korvex::Proc
 /// start-up, by the host; more calls do nothing.
 KORVEX_PLATFORM_API void RegisterFactories();
 
-}  // namespace Korvex::Proc
+} // namespace Korvex::Proc

@@ -27,7 +27,7 @@ enum class AlignmentHorizontal : std::int32_t
     Center = 0,
     Left = 1,
     Right = 2,
-    Default = 3,  ///< as the track's own style says, centred where it says nothing
+    Default = 3, ///< as the track's own style says, centred where it says nothing
 };
 
 /// Where text stands down the picture. Numbers are part of the interface.
@@ -36,7 +36,7 @@ enum class AlignmentVertical : std::int32_t
     Center = 0,
     Bottom = 1,
     Top = 2,
-    Default = 3,  ///< as the track's own style says, at the bottom where it says nothing
+    Default = 3, ///< as the track's own style says, at the bottom where it says nothing
 };
 
 /// Colour of 8 bits a component, without transparency.
@@ -153,17 +153,17 @@ struct SubtitleTrack
 {
     enum class Kind : std::int32_t
     {
-        Stream = 0,  ///< stream `streamIndex` of the converted file
-        File = 1,    ///< the first subtitle stream of the file `path`
+        Stream = 0, ///< stream `streamIndex` of the converted file
+        File = 1,   ///< the first subtitle stream of the file `path`
     };
 
     Kind kind = Kind::Stream;
     ioPath path;
     std::uint32_t streamIndex = 0;
-    std::string language;              ///< short name as the source gave it; empty: not stated
-    std::string title;                 ///< empty: none
-    std::optional<bool> isDefault;     ///< not set: as in the source; a file of its own is then not default
-    std::optional<bool> isForced;      ///< likewise
+    std::string language;          ///< short name as the source gave it; empty: not stated
+    std::string title;             ///< empty: none
+    std::optional<bool> isDefault; ///< not set: as in the source; a file of its own is then not default
+    std::optional<bool> isForced;  ///< likewise
 };
 
 /// The tracks that go out as switchable streams, in the order in which they were listed.
@@ -177,4 +177,4 @@ private:
     std::vector<SubtitleTrack> m_tracks;
 };
 
-}  // namespace Korvex::Proc
+} // namespace Korvex::Proc

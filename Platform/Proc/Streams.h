@@ -18,8 +18,8 @@ namespace Korvex::Proc
 /// One packet of a raw stream.
 struct RawPacket
 {
-    std::chrono::microseconds start{0};     ///< counted from the container's start time
-    std::chrono::microseconds duration{0};  ///< 0 when the container does not say
+    std::chrono::microseconds start{0};    ///< counted from the container's start time
+    std::chrono::microseconds duration{0}; ///< 0 when the container does not say
     std::vector<std::uint8_t> data;
 };
 
@@ -60,4 +60,4 @@ public:
 /// stream is asked for.
 [[nodiscard]] KORVEX_PLATFORM_API boost::intrusive_ptr<IStreamReader> MakeStreamReader(ioPath const& path);
 
-}  // namespace Korvex::Proc
+} // namespace Korvex::Proc

@@ -17,10 +17,10 @@ namespace Korvex::Proc
 /// What the text of a cue is written in.
 enum class TextMarkup
 {
-    Ass,     ///< the text field of an ASS event: override blocks in braces, "\N" breaks the line
-    SubRip,  ///< HTML-like tags b, i, u, s, font; lines separated by '\n'
-    Sami,    ///< HTML of a SAMI body; lines separated by <br>
-    Plain,   ///< no markup at all; lines separated by '\n'
+    Ass,    ///< the text field of an ASS event: override blocks in braces, "\N" breaks the line
+    SubRip, ///< HTML-like tags b, i, u, s, font; lines separated by '\n'
+    Sami,   ///< HTML of a SAMI body; lines separated by <br>
+    Plain,  ///< no markup at all; lines separated by '\n'
 };
 
 /// One text event, shown from `start` up to but not including `end`. Times count from the start of the media file.
@@ -28,7 +28,7 @@ struct TextCue
 {
     std::chrono::microseconds start{0};
     std::chrono::microseconds end{0};
-    std::string text;  ///< UTF-8, in the document's markup
+    std::string text; ///< UTF-8, in the document's markup
 
     // Fields of an ASS event. Formats without them leave the defaults.
     int layer = 0;
@@ -43,7 +43,7 @@ struct TextCue
 /// A font that travels with the subtitles (an attachment of the media file or the [Fonts] section of a script).
 struct FontAttachment
 {
-    std::string name;  ///< file name as stored
+    std::string name; ///< file name as stored
     std::shared_ptr<std::vector<std::uint8_t> const> data;
 };
 
@@ -52,31 +52,31 @@ struct TextDecodeReport
 {
     enum class Source
     {
-        Stated,         ///< the caller named the encoding
+        Stated, ///< the caller named the encoding
         ByteOrderMark,
         ValidUtf8,
-        Detector,       ///< statistics over the text
-        Fallback,       ///< nothing else gave an answer
+        Detector, ///< statistics over the text
+        Fallback, ///< nothing else gave an answer
     };
 
-    std::string encoding;             ///< the core's name of the encoding used ("CP1251", "UTF-16LE")
+    std::string encoding; ///< the core's name of the encoding used ("CP1251", "UTF-16LE")
     Source source = Source::Stated;
-    double confidence = 1.0;          ///< 0..1, how sure the choice of `encoding` is
-    std::size_t replacedBytes = 0;    ///< bytes that did not decode; each run shows as U+FFFD in the text
+    double confidence = 1.0;       ///< 0..1, how sure the choice of `encoding` is
+    std::size_t replacedBytes = 0; ///< bytes that did not decode; each run shows as U+FFFD in the text
 };
 
 /// All text events of one track.
 struct TextDocument
 {
-    std::string codecId;  ///< a Conf::IFormatCodecSubtitle identifier, or FFmpeg's name
+    std::string codecId; ///< a Conf::IFormatCodecSubtitle identifier, or FFmpeg's name
     TextMarkup markup = TextMarkup::Ass;
     /// ASS only: [Script Info] and [V4+ Styles] as a script of version 4+, without events. Empty for formats that have
     /// no look of their own; those are drawn with the look that the user set.
     std::string scriptHeader;
-    std::vector<TextCue> cues;  ///< in the order of the source, which decides who lies on top
+    std::vector<TextCue> cues; ///< in the order of the source, which decides who lies on top
     std::vector<FontAttachment> fonts;
     TextDecodeReport decoding;
-    std::size_t skippedCues = 0;  ///< cues of the source that made no sense (no usable times)
+    std::size_t skippedCues = 0; ///< cues of the source that made no sense (no usable times)
 
     [[nodiscard]] bool HasOwnLook() const { return !scriptHeader.empty(); }
 };
@@ -84,7 +84,7 @@ struct TextDocument
 /// One rectangle of a bitmap subtitle, straight (not premultiplied) RGBA, 4 bytes a pixel, rows without padding.
 struct BitmapRect
 {
-    int x = 0;  ///< on the cue's canvas
+    int x = 0; ///< on the cue's canvas
     int y = 0;
     int width = 0;
     int height = 0;
@@ -111,4 +111,4 @@ struct BitmapDocument
 
 using SubtitleDocument = std::variant<TextDocument, BitmapDocument>;
 
-}  // namespace Korvex::Proc
+} // namespace Korvex::Proc

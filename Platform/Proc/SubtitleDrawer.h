@@ -24,18 +24,18 @@ public:
     /// True when `Draw` would change a picture at this time. Cheap for times at which nothing is shown.
     [[nodiscard]] virtual bool IsVisibleAt(std::chrono::microseconds time) = 0;
 
-    /// Paints what is shown at `time` (counted from the start of the media file, before the track's time shift) onto the
-    /// picture, whose size has to be the geometry's. Returns true when a sample may have changed.
+    /// Paints what is shown at `time` (counted from the start of the media file, before the track's time shift) onto
+    /// the picture, whose size has to be the geometry's. Returns true when a sample may have changed.
     virtual bool Draw(PictureView const& picture, std::chrono::microseconds time) = 0;
 };
 
 /// Reads the track that the settings name (a stream of `mediaPath` or an external file), whole, and prepares to draw it
 /// on pictures of `geometry`.
-[[nodiscard]] KORVEX_PLATFORM_API Core::Result<boost::intrusive_ptr<ISubtitleDrawer>> MakeSubtitleDrawer(
-    SettingsSubtitleMixer const& settings, ioPath const& mediaPath, PictureGeometry const& geometry);
+[[nodiscard]] KORVEX_PLATFORM_API Core::Result<boost::intrusive_ptr<ISubtitleDrawer>>
+MakeSubtitleDrawer(SettingsSubtitleMixer const& settings, ioPath const& mediaPath, PictureGeometry const& geometry);
 
 /// The same for events that are already in memory.
-[[nodiscard]] KORVEX_PLATFORM_API Core::Result<boost::intrusive_ptr<ISubtitleDrawer>> MakeSubtitleDrawer(
-    SettingsSubtitleDrawer const& settings, SubtitleDocument document, PictureGeometry const& geometry);
+[[nodiscard]] KORVEX_PLATFORM_API Core::Result<boost::intrusive_ptr<ISubtitleDrawer>>
+MakeSubtitleDrawer(SettingsSubtitleDrawer const& settings, SubtitleDocument document, PictureGeometry const& geometry);
 
-}  // namespace Korvex::Proc
+} // namespace Korvex::Proc

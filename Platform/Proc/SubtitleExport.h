@@ -15,11 +15,11 @@ namespace Korvex::Proc
 /// Which track of which file, read how.
 struct SubtitleSource
 {
-    ioPath path;                               ///< the media file or the external subtitle file
-    std::optional<std::uint32_t> streamIndex;  ///< not set: an external subtitle file
-    std::string encoding;                      ///< the core's name; empty: detect. External text only
-    std::chrono::microseconds timeShift{0};    ///< added to every time
-    std::string samiClass;                     ///< which class of a SAMI file; empty: the first
+    ioPath path;                              ///< the media file or the external subtitle file
+    std::optional<std::uint32_t> streamIndex; ///< not set: an external subtitle file
+    std::string encoding;                     ///< the core's name; empty: detect. External text only
+    std::chrono::microseconds timeShift{0};   ///< added to every time
+    std::string samiClass;                    ///< which class of a SAMI file; empty: the first
 };
 
 /// What `PrepareSubtitle` or `ExtractSubtitle` wrote.
@@ -27,26 +27,26 @@ struct ExportedSubtitle
 {
     ioPath path;
     std::string sourceCodecId;
-    std::string codecId;             ///< of the track in the written file
-    std::string encoding;            ///< how text was decoded; empty for bitmaps
+    std::string codecId;  ///< of the track in the written file
+    std::string encoding; ///< how text was decoded; empty for bitmaps
     std::size_t cueCount = 0;
-    std::size_t replacedBytes = 0;   ///< bytes that did not decode
+    std::size_t replacedBytes = 0; ///< bytes that did not decode
     std::size_t skippedCues = 0;
 };
 
 /// Saves a track as a file of its own, as it is: text to SRT or ASS in UTF-8, PGS to ".sup", other bitmaps to Matroska.
 /// The target's extension chooses the format. Written aside and renamed; refuses an existing target.
 [[nodiscard]] KORVEX_PLATFORM_API Core::Result<ExportedSubtitle> ExtractSubtitle(SubtitleSource const& source,
-                                                                               ioPath const& target);
+                                                                                 ioPath const& target);
 
-/// Writes a text track as a working file that a container with these soft codecs can carry (SRT, ASS, or an MP4 with one
-/// mov_text track), in UTF-8 and with the shift applied, into `folder` under a free name that begins with `baseName`.
-/// Bitmap tracks are refused with ContainerCannotCarry.
-[[nodiscard]] KORVEX_PLATFORM_API Core::Result<ExportedSubtitle> PrepareSubtitle(
-    SubtitleSource const& source, std::vector<std::string> const& allowedCodecIds, ioPath const& folder,
-    std::string const& baseName);
+/// Writes a text track as a working file that a container with these soft codecs can carry (SRT, ASS, or an MP4 with
+/// one mov_text track), in UTF-8 and with the shift applied, into `folder` under a free name that begins with
+/// `baseName`. Bitmap tracks are refused with ContainerCannotCarry.
+[[nodiscard]] KORVEX_PLATFORM_API Core::Result<ExportedSubtitle>
+PrepareSubtitle(SubtitleSource const& source, std::vector<std::string> const& allowedCodecIds, ioPath const& folder,
+                std::string const& baseName);
 
 /// The extension (without dot) that `ExtractSubtitle` suggests for a codec: "srt", "ass", "sup" or "mkv".
 [[nodiscard]] KORVEX_PLATFORM_API std::string SuggestExtractExtension(std::string const& codecId);
 
-}  // namespace Korvex::Proc
+} // namespace Korvex::Proc

@@ -21,29 +21,29 @@ struct SettingsTranscode
 {
     ioPath input;
     ioPath output;
-    std::string formatId;                               ///< a Conf::IFormatFile container
-    std::shared_ptr<SettingsSubtitleSoft const> soft;   ///< shared with whoever made it, never changed here
+    std::string formatId;                             ///< a Conf::IFormatFile container
+    std::shared_ptr<SettingsSubtitleSoft const> soft; ///< shared with whoever made it, never changed here
     std::shared_ptr<SettingsSubtitleMixer const> mixer;
-    std::string videoCodecId;  ///< empty: copy where nothing is drawn and the container can carry it, else "h264"
-    std::string audioCodecId;  ///< empty: copy where the container can carry it, else "aac"
-    int crf = 20;              ///< constant rate factor of libx264, 0 (lossless) to 51
-    std::string preset = "medium";  ///< libx264's name
-    bool overwrite = false;    ///< replace an existing output
+    std::string videoCodecId;      ///< empty: copy where nothing is drawn and the container can carry it, else "h264"
+    std::string audioCodecId;      ///< empty: copy where the container can carry it, else "aac"
+    int crf = 20;                  ///< constant rate factor of libx264, 0 (lossless) to 51
+    std::string preset = "medium"; ///< libx264's name
+    bool overwrite = false;        ///< replace an existing output
 };
 
 struct TranscodeProgress
 {
     std::chrono::microseconds done{0};
-    std::chrono::microseconds total{0};          ///< 0 when the input does not say how long it is
-    double speed = 0.0;                          ///< media seconds a second
+    std::chrono::microseconds total{0}; ///< 0 when the input does not say how long it is
+    double speed = 0.0;                 ///< media seconds a second
     std::optional<std::chrono::seconds> remaining;
 };
 
 /// How a job ended.
 struct TranscodeReport
 {
-    std::optional<Core::Error> error;   ///< ErrorCode::Cancelled after a cancel
-    std::vector<std::string> warnings;  ///< sentences for the user about what is in the output but not as expected
+    std::optional<Core::Error> error;  ///< ErrorCode::Cancelled after a cancel
+    std::vector<std::string> warnings; ///< sentences for the user about what is in the output but not as expected
     ioPath output;
     std::chrono::microseconds duration{0};
 };
@@ -75,7 +75,7 @@ public:
 
 /// Checks everything that can be known before the first frame: both paths, the container, each track against the
 /// container, encoders.
-[[nodiscard]] KORVEX_PLATFORM_API Core::Result<boost::intrusive_ptr<ITranscodeJob>> MakeTranscodeJob(
-    SettingsTranscode const& settings);
+[[nodiscard]] KORVEX_PLATFORM_API Core::Result<boost::intrusive_ptr<ITranscodeJob>>
+MakeTranscodeJob(SettingsTranscode const& settings);
 
-}  // namespace Korvex::Proc
+} // namespace Korvex::Proc

@@ -14,7 +14,7 @@ class SettingsSubtitleMixer;
 class SettingsSubtitleSoft;
 struct TranscodeProgress;
 struct TranscodeReport;
-}  // namespace Korvex::Proc
+} // namespace Korvex::Proc
 
 namespace Korvex::Converter::Transcoder::Entities
 {
@@ -78,4 +78,4 @@ public:
     virtual void CancelConversion(ConversionId id) = 0;
 };
 
-}  // namespace Korvex::Converter::Transcoder::Entities
+} // namespace Korvex::Converter::Transcoder::Entities

@@ -15,4 +15,4 @@ struct Preset
     std::string encoderPreset = "medium"; ///< libx264's name
 };
 
-}  // namespace Korvex::Converter::Transcoder::Entities
+} // namespace Korvex::Converter::Transcoder::Entities

@@ -17,15 +17,15 @@ namespace Korvex::Proc::Text
 enum class TextFormat
 {
     SubRip,
-    Ass,   ///< version 4+
-    Ssa,   ///< version 4 and older
+    Ass, ///< version 4+
+    Ssa, ///< version 4 and older
     Sami,
 };
 
-/// Which format a text is, from its content and its extension (without dot, any case) together: the content decides where
-/// it is clear, the extension where it is not. Empty when it is none of these.
+/// Which format a text is, from its content and its extension (without dot, any case) together: the content decides
+/// where it is clear, the extension where it is not. Empty when it is none of these.
 [[nodiscard]] KORVEX_PLATFORM_API std::optional<TextFormat> DetermineTextFormat(std::string_view utf8,
-                                                                              std::string const& extension);
+                                                                                std::string const& extension);
 
 [[nodiscard]] KORVEX_PLATFORM_API TextDocument ReadSubRip(std::string_view utf8);
 /// Reads ASS and SSA alike; version 4 styles and events become version 4+.
@@ -44,10 +44,10 @@ enum class TextFormat
 [[nodiscard]] KORVEX_PLATFORM_API std::string ToAssText(std::string_view text, TextMarkup markup);
 [[nodiscard]] KORVEX_PLATFORM_API std::string ToSubRipText(std::string_view text, TextMarkup markup);
 
-/// Reads a text file whole when it is one of the formats above: decode, determine, read. Empty (and no error) when the file
-/// exists but is none of them, so that another reader may try. `encoding` as in DecodeText; language hints come from the
-/// file's name ("Movie.uk.srt"). Files over 64 MiB are refused.
-[[nodiscard]] KORVEX_PLATFORM_API Core::Result<std::optional<TextDocument>> LoadTextFile(
-    ioPath const& path, std::string const& encoding, std::string const& samiClass = {});
+/// Reads a text file whole when it is one of the formats above: decode, determine, read. Empty (and no error) when the
+/// file exists but is none of them, so that another reader may try. `encoding` as in DecodeText; language hints come
+/// from the file's name ("Movie.uk.srt"). Files over 64 MiB are refused.
+[[nodiscard]] KORVEX_PLATFORM_API Core::Result<std::optional<TextDocument>>
+LoadTextFile(ioPath const& path, std::string const& encoding, std::string const& samiClass = {});
 
-}  // namespace Korvex::Proc::Text
+} // namespace Korvex::Proc::Text

@@ -1,0 +1,221 @@
+#include "Core/FileSystem.h"
+
+#include "Core/PlatformFile.h"
+
+#include <boost/filesystem.hpp>
+#include <boost/filesystem/fstream.hpp>
+
+#include <algorithm>
+#include <atomic>
+
+namespace Korvex::Core
+{
+
+namespace fs = boost::filesystem;
+
+namespace
+{
+
+fs::path Native(ioPath const& path)
+{
+#if defined(_WIN32)
+    static std::locale const UTF8_LOCALE(std::locale(), new boost::filesystem::detail::utf8_codecvt_facet);
+    return fs::path(path.utf8string(), UTF8_LOCALE.template use_facet<fs::path::codecvt_type>());
+#else
+    return fs::path(path.utf8string());
+#endif
+}
+
+std::string ToUtf8(fs::path const& path)
+{
+#if defined(_WIN32)
+    return path.string(boost::filesystem::detail::utf8_codecvt_facet());
+#else
+    return path.string();
+#endif
+}
+
+Error MakeError(ErrorCode code, ioPath const& file, std::string detail = {})
+{
+    Error error;
+    error.code = code;
+    error.file = file;
+    error.detail = std::move(detail);
+    return error;
+}
+
+Error WriteError(ioPath const& file, std::error_code const& reason)
+{
+    if (reason == std::errc::no_space_on_device)
+        return MakeError(ErrorCode::DiskFull, file);
+    return MakeError(ErrorCode::OutputNotWritable, file, reason.message());
+}
+
+std::error_code Convert(boost::system::error_code const& error)
+{
+    return {error.value(), std::generic_category()};
+}
+
+} // namespace
+
+bool FileExists(ioPath const& path)
+{
+    boost::system::error_code error;
+    return fs::is_regular_file(Native(path), error);
+}
+
+bool FolderExists(ioPath const& path)
+{
+    boost::system::error_code error;
+    return fs::is_directory(Native(path), error);
+}
+
+bool PathExists(ioPath const& path)
+{
+    boost::system::error_code error;
+    return fs::symlink_status(Native(path), error).type() > fs::file_not_found;
+}
+
+bool IsSameFile(ioPath const& a, ioPath const& b)
+{
+    boost::system::error_code error;
+    return fs::equivalent(Native(a), Native(b), error) && !error;
+}
+
+std::vector<std::string> ListFolder(ioPath const& folder)
+{
+    std::vector<std::string> names;
+    boost::system::error_code error;
+    fs::directory_iterator entry(Native(folder.empty() ? ioPath(".") : folder), error);
+    for (; !error && entry != fs::directory_iterator(); entry.increment(error))
+        names.push_back(ToUtf8(entry->path().filename()));
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+Result<std::string> ReadFile(ioPath const& path, std::size_t limit)
+{
+    if (!PathExists(path))
+        return MakeError(ErrorCode::FileNotFound, path);
+    if (FolderExists(path))
+        return MakeError(ErrorCode::FileUnreadable, path, "it is a folder");
+    fs::ifstream stream(Native(path), std::ios::binary);
+    if (!stream)
+        return MakeError(ErrorCode::FileUnreadable, path);
+
+    // The size that the system states may be wrong (devices, growing files): what counts is what can be read.
+    constexpr std::size_t BLOCK = 1 << 16;
+    std::string bytes;
+    while (stream)
+    {
+        std::size_t const before = bytes.size();
+        if (before > limit)
+            return MakeError(ErrorCode::FileUnreadable, path, "it is larger than " + std::to_string(limit) + " bytes");
+        bytes.resize(before + BLOCK);
+        stream.read(&bytes[before], BLOCK);
+        bytes.resize(before + static_cast<std::size_t>(stream.gcount()));
+    }
+    if (stream.bad())
+        return MakeError(ErrorCode::FileUnreadable, path);
+    if (bytes.size() > limit)
+        return MakeError(ErrorCode::FileUnreadable, path, "it is larger than " + std::to_string(limit) + " bytes");
+    return bytes;
+}
+
+ioPath MakeTemporaryPath(ioPath const& target)
+{
+    static std::atomic<unsigned> counter{0};
+    std::string const extension = target.Extension();
+    // A long name with our additions could pass the file system's limit of 255 bytes.
+    std::string const stem = target.Stem().substr(0, 180);
+    for (;;)
+    {
+        std::string const number = std::to_string(PlatformFile::ProcessId()) + "-" + std::to_string(++counter);
+        std::string const name =
+            "." + stem + "." + number + ".part" + (extension.empty() ? std::string() : "." + extension);
+        ioPath const candidate = target.Parent().empty() ? ioPath(name) : target.Parent() / name;
+        if (!PathExists(candidate))
+            return candidate;
+    }
+}
+
+Status CommitFile(ioPath const& temporary, ioPath const& target, bool overwrite)
+{
+    std::error_code error = PlatformFile::Synchronize(temporary);
+    if (!error)
+        error = overwrite ? PlatformFile::ReplaceFile(temporary, target)
+                          : PlatformFile::RenameWithoutReplacing(temporary, target);
+    if (!error)
+        return SUCCESS;
+    if (error == std::errc::file_exists)
+        return MakeError(ErrorCode::OutputExists, target);
+    return WriteError(target, error);
+}
+
+void RemoveFile(ioPath const& path)
+{
+    boost::system::error_code error;
+    fs::remove(Native(path), error);
+}
+
+Status WriteFile(ioPath const& target, std::string const& bytes, bool overwrite)
+{
+    ioPath const temporary = MakeTemporaryPath(target);
+    fs::ofstream stream(Native(temporary), std::ios::binary | std::ios::trunc);
+    if (!stream)
+        return WriteError(target, {errno, std::generic_category()});
+    stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    stream.close();
+    Status result = stream ? CommitFile(temporary, target, overwrite)
+                           : Status(WriteError(target, {errno, std::generic_category()}));
+    if (result)
+        RemoveFile(temporary);
+    return result;
+}
+
+Status CreateFolders(ioPath const& folder)
+{
+    boost::system::error_code error;
+    fs::create_directories(Native(folder), error);
+    if (error && !FolderExists(folder))
+        return WriteError(folder, Convert(error));
+    return SUCCESS;
+}
+
+Result<ioPath> CreateWorkFolder()
+{
+    boost::system::error_code error;
+    fs::path const folder = fs::temp_directory_path(error) / fs::unique_path("korvex-%%%%-%%%%-%%%%-%%%%");
+    if (!error)
+        fs::create_directory(folder, error);
+    if (!error)
+        fs::permissions(folder, fs::owner_all, error);
+    if (error)
+        return WriteError(ToUtf8(folder), Convert(error));
+    return ioPath(ToUtf8(folder));
+}
+
+void RemoveWorkFolder(ioPath const& folder)
+{
+    boost::system::error_code error;
+    fs::remove_all(Native(folder), error);
+}
+
+Status CheckOutput(ioPath const& output, std::vector<ioPath> const& inputs, bool overwrite)
+{
+    for (ioPath const& input : inputs)
+    {
+        if (output == input || IsSameFile(output, input))
+            return MakeError(ErrorCode::OutputIsInput, output);
+    }
+    ioPath const folder = output.Parent();
+    if (output.FileName().empty() || FolderExists(output))
+        return MakeError(ErrorCode::OutputNotWritable, output, "it names a folder");
+    if (!folder.empty() && !FolderExists(folder))
+        return MakeError(ErrorCode::OutputFolderMissing, output);
+    if (!overwrite && PathExists(output))
+        return MakeError(ErrorCode::OutputExists, output);
+    return SUCCESS;
+}
+
+} // namespace Korvex::Core

@@ -1,0 +1,80 @@
+#include "Core/FileSystem.h"
+
+#include <boost/filesystem.hpp>
+
+namespace Korvex::Core
+{
+namespace
+{
+
+class FileSystemTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        auto folder = CreateWorkFolder();
+        ASSERT_TRUE(folder) << ToSentence(folder.GetError());
+        m_folder = *folder;
+    }
+    void TearDown() override { RemoveWorkFolder(m_folder); }
+
+    [[nodiscard]] ioPath Path(std::string const& name) const { return m_folder / name; }
+    [[nodiscard]] std::string Content(ioPath const& path) const
+    {
+        auto bytes = ReadFile(path, 1 << 20);
+        return bytes ? *bytes : "failed: " + ToSentence(bytes.GetError());
+    }
+
+    ioPath m_folder;
+};
+
+TEST_F(FileSystemTest, WritesAsideAndNeverOverAnExistingFileUnasked)
+{
+    ioPath const target = Path("фильм.srt");
+    ASSERT_FALSE(WriteFile(target, "one", false));
+    Status const refused = WriteFile(target, "two", false);
+    ASSERT_TRUE(refused);
+    EXPECT_EQ(refused->code, ErrorCode::OutputExists);
+    EXPECT_EQ(Content(target), "one");
+    ASSERT_FALSE(WriteFile(target, "three", true));
+    EXPECT_EQ(Content(target), "three");
+    EXPECT_EQ(ListFolder(m_folder), std::vector<std::string>{"фильм.srt"}) << "no temporary file may stay behind";
+}
+
+TEST_F(FileSystemTest, SaysWhyAFileCannotBeReadOrWritten)
+{
+    ASSERT_FALSE(WriteFile(Path("big"), std::string(5000, 'x'), false));
+    EXPECT_EQ(ReadFile(Path("absent"), 10).GetError().code, ErrorCode::FileNotFound);
+    EXPECT_EQ(ReadFile(m_folder, 10).GetError().code, ErrorCode::FileUnreadable);
+    EXPECT_EQ(ReadFile(Path("big"), 4999).GetError().code, ErrorCode::FileUnreadable);
+    EXPECT_TRUE(ReadFile(Path("big"), 5000));
+    EXPECT_EQ(WriteFile(Path("absent") / "file", "x", false)->code, ErrorCode::OutputNotWritable);
+}
+
+TEST_F(FileSystemTest, ChecksOutputsBeforeAnythingIsWritten)
+{
+    ioPath const input = Path("in.mkv");
+    ASSERT_FALSE(WriteFile(input, "film", false));
+    boost::filesystem::create_symlink("in.mkv", Path("link.mkv").utf8string());
+
+    EXPECT_FALSE(CheckOutput(Path("out.mkv"), {input}, false));
+    EXPECT_EQ(CheckOutput(input, {input}, true)->code, ErrorCode::OutputIsInput);
+    EXPECT_EQ(CheckOutput(Path("link.mkv"), {input}, true)->code, ErrorCode::OutputIsInput);
+    EXPECT_EQ(CheckOutput(m_folder / "." / "in.mkv", {input}, true)->code, ErrorCode::OutputIsInput);
+    EXPECT_EQ(CheckOutput(input, {}, false)->code, ErrorCode::OutputExists);
+    EXPECT_EQ(CheckOutput(Path("absent") / "out.mkv", {input}, false)->code, ErrorCode::OutputFolderMissing);
+    EXPECT_EQ(CheckOutput(m_folder, {input}, true)->code, ErrorCode::OutputNotWritable);
+}
+
+TEST_F(FileSystemTest, TemporaryNamesStayBesideTheTargetAndWithinTheLimit)
+{
+    ioPath const target = Path(std::string(250, 'n') + ".mp4");
+    ioPath const temporary = MakeTemporaryPath(target);
+    EXPECT_EQ(temporary.Parent(), m_folder);
+    EXPECT_EQ(temporary.Extension(), "mp4");
+    EXPECT_LE(temporary.FileName().size(), 255U);
+    EXPECT_NE(MakeTemporaryPath(target), temporary);
+}
+
+} // namespace
+} // namespace Korvex::Core
