@@ -14,6 +14,7 @@ find_package(Iconv REQUIRED)
 
 # The dependency-injection container: the installed library when there is one, else the project's own header with the
 # same public builder interface.
+set(KORVEX_CONTAINER_IS_OWN OFF)
 find_package(Hypodermic CONFIG QUIET)
 add_library(korvex_container INTERFACE)
 if(TARGET Hypodermic::Hypodermic)
@@ -27,7 +28,9 @@ elseif(Hypodermic_ROOT)
     set(KORVEX_CONTAINER "Hypodermic in ${HYPODERMIC_INCLUDE_DIR}")
 else()
     target_include_directories(korvex_container INTERFACE
-        "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Platform/Hypodermic>")
+        "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Platform/Hypodermic>"
+        "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/korvex/Hypodermic>")
+    set(KORVEX_CONTAINER_IS_OWN ON)
     set(KORVEX_CONTAINER "the project's own header")
 endif()
 message(STATUS "Container: ${KORVEX_CONTAINER}")
