@@ -122,6 +122,21 @@ Result<std::string> ReadFile(ioPath const& path, std::size_t limit)
     return bytes;
 }
 
+Result<std::string> ReadFileHead(ioPath const& path, std::size_t count)
+{
+    if (!PathExists(path))
+        return MakeError(ErrorCode::FileNotFound, path);
+    if (!FileExists(path))
+        return MakeError(ErrorCode::FileUnreadable, path, FolderExists(path) ? "it is a folder" : "it is not a file");
+    fs::ifstream stream(Native(path), std::ios::binary);
+    std::string bytes(count, '\0');
+    stream.read(&bytes[0], static_cast<std::streamsize>(count));
+    if (!stream.eof() && stream.fail())
+        return MakeError(ErrorCode::FileUnreadable, path);
+    bytes.resize(static_cast<std::size_t>(stream.gcount()));
+    return bytes;
+}
+
 ioPath MakeTemporaryPath(ioPath const& target)
 {
     static std::atomic<unsigned> counter{0};

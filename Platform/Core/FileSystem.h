@@ -24,6 +24,10 @@ namespace Korvex::Core
 /// The file's bytes, at most `limit`; a larger file fails with FileUnreadable and says so.
 [[nodiscard]] KORVEX_PLATFORM_API Result<std::string> ReadFile(ioPath const& path, std::size_t limit);
 
+/// The first `count` bytes of a regular file, fewer when it is shorter. Folders, devices and pipes fail with
+/// FileUnreadable.
+[[nodiscard]] KORVEX_PLATFORM_API Result<std::string> ReadFileHead(ioPath const& path, std::size_t count);
+
 /// A name beside `target` that does not exist yet: ".<stem>.<number>.part.<extension>".
 [[nodiscard]] KORVEX_PLATFORM_API ioPath MakeTemporaryPath(ioPath const& target);
 /// Makes the file's bytes durable, then gives it its final name in one step. With `overwrite` an existing target is
