@@ -1,0 +1,246 @@
+#include "Proc/Blend/BitmapInkSource.h"
+
+#include "Proc/Blend/BitmapScaler.h"
+#include "Proc/Blend/Placement.h"
+#include "Proc/Settings.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace Korvex::Proc::Blend
+{
+namespace
+{
+
+/// Tracks whose canvas is the coded picture itself, whatever the shape of its samples.
+constexpr std::array<char const*, 3> CODED_PICTURE_CODECS{"dvd_subtitle", "dvb_subtitle", "xsub"};
+
+/// Shapes that differ by less than this are one shape, cut by a few lines for the coder's sake.
+constexpr double SHAPE_TOLERANCE = 0.02;
+
+/// From canvas to picture.
+struct Mapping
+{
+    double scaleX = 1.0;
+    double scaleY = 1.0;
+    double offsetX = 0.0;
+    double offsetY = 0.0;
+};
+
+class BitmapInkSource : public IInkSource
+{
+public:
+    BitmapInkSource(SettingsSubtitleDrawer const& settings, BitmapDocument document, PictureGeometry const& geometry)
+        : m_settings(settings),
+          m_document(std::move(document)),
+          m_geometry(geometry),
+          m_timeShift(settings.GetTimeShift())
+    {
+    }
+
+    [[nodiscard]] bool IsActiveAt(std::chrono::microseconds time) const override { return FindCue(time) != nullptr; }
+    bool Update(std::chrono::microseconds time) override;
+    [[nodiscard]] Ink const& CurrentInk() const override { return m_ink; }
+
+private:
+    struct Placed
+    {
+        BitmapRect const* rect;
+        PixelBox box;
+    };
+
+    [[nodiscard]] BitmapCue const* FindCue(std::chrono::microseconds time) const;
+    [[nodiscard]] Mapping MapCanvas(BitmapCue const& cue) const;
+    [[nodiscard]] std::vector<Placed> Place(BitmapCue const& cue) const;
+    [[nodiscard]] PixelOffset AlignmentOffset(PixelBox const& box) const;
+    void MoveTogether(std::vector<Placed>& placed) const;
+    void MoveByThirds(std::vector<Placed>& placed) const;
+    void Rasterize(Placed const& placed);
+
+    SettingsSubtitleDrawer m_settings;
+    BitmapDocument m_document;
+    PictureGeometry m_geometry;
+    std::chrono::microseconds m_timeShift;
+    BitmapCue const* m_cue = nullptr;
+    std::vector<std::vector<std::uint8_t>> m_pixels; ///< scaled ones
+    Ink m_ink;
+};
+
+BitmapCue const* BitmapInkSource::FindCue(std::chrono::microseconds time) const
+{
+    std::chrono::microseconds const now = time - m_timeShift;
+    auto const next = std::upper_bound(m_document.cues.begin(), m_document.cues.end(), now,
+                                       [](std::chrono::microseconds t, BitmapCue const& cue) { return t < cue.start; });
+    if (next == m_document.cues.begin())
+        return nullptr;
+    BitmapCue const& cue = *std::prev(next);
+    return now < cue.end && !cue.rects.empty() ? &cue : nullptr;
+}
+
+Mapping BitmapInkSource::MapCanvas(BitmapCue const& cue) const
+{
+    // A canvas without a size is as large as what lies on it.
+    int width = cue.canvasWidth;
+    int height = cue.canvasHeight;
+    if (width <= 0 || height <= 0)
+    {
+        width = m_geometry.width;
+        height = m_geometry.height;
+    }
+    Mapping mapping{static_cast<double>(m_geometry.width) / width, static_cast<double>(m_geometry.height) / height, 0.0,
+                    0.0};
+    if (std::find(CODED_PICTURE_CODECS.begin(), CODED_PICTURE_CODECS.end(), m_document.codecId) !=
+        CODED_PICTURE_CODECS.end())
+        return mapping;
+    // The canvas has square samples. A picture of another shape is a part cut out of the canvas' middle.
+    double const sampleAspect =
+        static_cast<double>(m_geometry.sampleAspectNumerator) / m_geometry.sampleAspectDenominator;
+    double const acrossSquare = mapping.scaleX * sampleAspect;
+    if (std::abs(acrossSquare / mapping.scaleY - 1.0) <= SHAPE_TOLERANCE)
+        return mapping;
+    double const scale = std::max(acrossSquare, mapping.scaleY);
+    mapping.scaleX = scale / sampleAspect;
+    mapping.scaleY = scale;
+    mapping.offsetX = (m_geometry.width - width * mapping.scaleX) / 2.0;
+    mapping.offsetY = (m_geometry.height - height * mapping.scaleY) / 2.0;
+    return mapping;
+}
+
+std::vector<BitmapInkSource::Placed> BitmapInkSource::Place(BitmapCue const& cue) const
+{
+    Mapping const mapping = MapCanvas(cue);
+    auto const column = [&](int x) { return static_cast<int>(std::lround(x * mapping.scaleX + mapping.offsetX)); };
+    auto const row = [&](int y) { return static_cast<int>(std::lround(y * mapping.scaleY + mapping.offsetY)); };
+    std::vector<Placed> placed;
+    for (BitmapRect const& rect : cue.rects)
+    {
+        std::size_t const size =
+            4 * static_cast<std::size_t>(std::max(rect.width, 0)) * static_cast<std::size_t>(std::max(rect.height, 0));
+        if (size == 0 || !rect.rgba || rect.rgba->size() < size)
+            continue;
+        int const left = column(rect.x);
+        int const top = row(rect.y);
+        placed.push_back({&rect,
+                          {left, top, std::max(column(rect.x + rect.width), left + 1),
+                           std::max(row(rect.y + rect.height), top + 1)}});
+    }
+    return placed;
+}
+
+PixelOffset BitmapInkSource::AlignmentOffset(PixelBox const& box) const
+{
+    auto const marginX = static_cast<int>(std::lround(LinesToColumns(LAYOUT_MARGIN, m_geometry)));
+    auto const marginY = static_cast<int>(std::lround(LinesToRows(LAYOUT_MARGIN, m_geometry)));
+    PixelOffset offset;
+    switch (m_settings.GetHorizontalAlignment())
+    {
+    case AlignmentHorizontal::Left:
+        offset.x = marginX - box.left;
+        break;
+    case AlignmentHorizontal::Center:
+        offset.x = (m_geometry.width - box.left - box.right) / 2;
+        break;
+    case AlignmentHorizontal::Right:
+        offset.x = m_geometry.width - marginX - box.right;
+        break;
+    case AlignmentHorizontal::Default:
+        break;
+    }
+    switch (m_settings.GetVerticalAligment())
+    {
+    case AlignmentVertical::Top:
+        offset.y = marginY - box.top;
+        break;
+    case AlignmentVertical::Center:
+        offset.y = (m_geometry.height - box.top - box.bottom) / 2;
+        break;
+    case AlignmentVertical::Bottom:
+        offset.y = m_geometry.height - marginY - box.bottom;
+        break;
+    case AlignmentVertical::Default:
+        break;
+    }
+    return offset;
+}
+
+/// Moves the rectangles as one box into the picture and by the user's shift.
+void BitmapInkSource::MoveTogether(std::vector<Placed>& placed) const
+{
+    PixelBox box;
+    for (Placed const& item : placed)
+        box = Unite(box, item.box);
+    PixelOffset const inside = BringInside(box, m_geometry);
+    PixelOffset const shift = MoveInside(Translate(box, inside), m_settings, m_geometry);
+    for (Placed& item : placed)
+        item.box = Translate(item.box, {inside.x + shift.x, inside.y + shift.y});
+}
+
+/// The rectangles in the upper, middle and lower third move apart from each other: what stands at the top must not keep
+/// what stands at the bottom from moving up.
+void BitmapInkSource::MoveByThirds(std::vector<Placed>& placed) const
+{
+    std::array<std::vector<Placed>, 3> thirds;
+    for (Placed const& item : placed)
+    {
+        int const middle = std::clamp((item.box.top + item.box.bottom) / 2, 0, m_geometry.height - 1);
+        thirds[static_cast<std::size_t>(middle * 3 / m_geometry.height)].push_back(item);
+    }
+    placed.clear();
+    for (std::vector<Placed>& third : thirds)
+    {
+        MoveTogether(third);
+        placed.insert(placed.end(), third.begin(), third.end());
+    }
+}
+
+void BitmapInkSource::Rasterize(Placed const& placed)
+{
+    BitmapRect const& rect = *placed.rect;
+    int const width = placed.box.right - placed.box.left;
+    int const height = placed.box.bottom - placed.box.top;
+    std::uint8_t const* pixels = rect.rgba->data();
+    if (width != rect.width || height != rect.height)
+    {
+        m_pixels.push_back(ScaleRgba(pixels, rect.width, rect.height, width, height));
+        pixels = m_pixels.back().data();
+    }
+    m_ink.bitmaps.push_back({placed.box.left, placed.box.top, width, height, pixels});
+}
+
+bool BitmapInkSource::Update(std::chrono::microseconds time)
+{
+    BitmapCue const* const cue = FindCue(time);
+    if (cue == m_cue)
+        return false;
+    m_cue = cue;
+    m_pixels.clear();
+    m_ink.bitmaps.clear();
+    if (cue == nullptr)
+        return true;
+    std::vector<Placed> placed = Place(*cue);
+    PixelBox box;
+    for (Placed const& item : placed)
+        box = Unite(box, item.box);
+    PixelOffset const offset = AlignmentOffset(box);
+    for (Placed& item : placed)
+        item.box = Translate(item.box, offset);
+
+    if (m_settings.GetVerticalAligment() == AlignmentVertical::Default)
+        MoveByThirds(placed);
+    else
+        MoveTogether(placed);
+    for (Placed const& item : placed)
+        Rasterize(item);
+    return true;
+}
+
+} // namespace
+
+Core::Result<std::unique_ptr<IInkSource>> MakeBitmapInkSource(SettingsSubtitleDrawer const& settings,
+                                                              BitmapDocument document, PictureGeometry const& geometry)
+{
+    return std::unique_ptr<IInkSource>(std::make_unique<BitmapInkSource>(settings, std::move(document), geometry));
+}
+
+} // namespace Korvex::Proc::Blend
