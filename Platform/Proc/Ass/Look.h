@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Proc/Picture.h"
+#include "Proc/Settings.h"
+
+#include <string>
+
+namespace Korvex::Proc::Ass
+{
+
+/// The alignment, 1..9 as on a numeric keypad, that `base` becomes when the user has chosen on one or both axes.
+[[nodiscard]] int ChooseAlignment(int base, AlignmentHorizontal horizontal, AlignmentVertical vertical);
+
+/// The script without events that text without a look of its own is drawn with: one style, named "Default".
+[[nodiscard]] std::string MakeLookScript(SettingsSubtitleDrawer const& settings, PictureGeometry const& geometry);
+
+/// The [Events] section that every script is given: the order of fields in which events are added.
+[[nodiscard]] std::string EventSection();
+
+} // namespace Korvex::Proc::Ass
