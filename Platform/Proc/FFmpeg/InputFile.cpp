@@ -217,7 +217,17 @@ Core::Result<InputFile> InputFile::OpenText(std::string utf8, ioPath const& path
 
 std::chrono::microseconds InputFile::StartTime() const
 {
-    return std::chrono::microseconds(m_context->start_time == AV_NOPTS_VALUE ? 0 : m_context->start_time);
+    // A file of subtitles alone counts from zero: its first event begins when it says.
+    bool hasMedia = false;
+    for (unsigned i = 0; i < m_context->nb_streams; ++i)
+    {
+        AVStream const& stream = *m_context->streams[i];
+        AVMediaType const type = stream.codecpar->codec_type;
+        bool const isPicture = type == AVMEDIA_TYPE_VIDEO && !(stream.disposition & AV_DISPOSITION_ATTACHED_PIC);
+        hasMedia = hasMedia || isPicture || type == AVMEDIA_TYPE_AUDIO;
+    }
+    bool const isKnown = m_context->start_time != AV_NOPTS_VALUE;
+    return std::chrono::microseconds(hasMedia && isKnown ? m_context->start_time : 0);
 }
 
 AVStream* InputFile::FindStream(std::uint32_t index) const

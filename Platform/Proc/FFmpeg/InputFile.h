@@ -48,7 +48,8 @@ public:
     [[nodiscard]] AVFormatContext& Context() const { return *m_context; }
     [[nodiscard]] ioPath const& Path() const { return m_path; }
 
-    /// The container's time that counts as zero everywhere (a transport stream may begin at an hour).
+    /// The container's time that counts as zero everywhere (a transport stream may begin at an hour). Zero for files
+    /// without picture and sound.
     [[nodiscard]] std::chrono::microseconds StartTime() const;
 
     /// Null for an index that the file does not have.

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "Proc/FFmpeg/InputFile.h"
+
+#include "Proc/MediaInfo.h"
+
+namespace Korvex::Proc::FFmpeg
+{
+
+/// What an opened file says of itself; texts are valid UTF-8.
+[[nodiscard]] MediaInfo DescribeFile(InputFile const& file);
+[[nodiscard]] StreamInfo DescribeStream(InputFile const& file, std::uint32_t index);
+
+/// FFmpeg's name of a codec; empty for none.
+[[nodiscard]] std::string CodecName(AVCodecID codec);
+[[nodiscard]] bool IsTextSubtitle(AVCodecID codec);
+[[nodiscard]] bool IsBitmapSubtitle(AVCodecID codec);
+
+/// A value of a stream's or file's metadata as valid UTF-8; empty when it is not there.
+[[nodiscard]] std::string MetadataText(AVDictionary const* metadata, char const* key);
+
+} // namespace Korvex::Proc::FFmpeg

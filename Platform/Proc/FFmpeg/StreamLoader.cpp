@@ -1,0 +1,276 @@
+#include "Proc/FFmpeg/StreamLoader.h"
+
+#include "Proc/FFmpeg/StreamFacts.h"
+#include "Proc/FFmpeg/TextPackets.h"
+
+#include "Proc/Text/TextDecoder.h"
+#include "Proc/Text/TextSubtitles.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <numeric>
+
+namespace Korvex::Proc::FFmpeg
+{
+
+namespace
+{
+
+using Core::ErrorCode;
+using std::chrono::microseconds;
+
+constexpr microseconds OPEN_CUE_DURATION = std::chrono::seconds(5);
+
+std::string_view ViewOf(RawPacket const& packet)
+{
+    return {reinterpret_cast<char const*>(packet.data.data()), packet.data.size()};
+}
+
+bool IsFont(AVStream const& stream)
+{
+    if (stream.codecpar->codec_type != AVMEDIA_TYPE_ATTACHMENT || stream.codecpar->extradata_size <= 0)
+        return false;
+    std::string const name = MetadataText(stream.metadata, "filename");
+    std::string extension = ioPath(name).Extension();
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    constexpr std::array<char const*, 4> EXTENSIONS{"ttf", "otf", "ttc", "otc"};
+    if (std::find(EXTENSIONS.begin(), EXTENSIONS.end(), extension) != EXTENSIONS.end())
+        return true;
+    std::string const type = MetadataText(stream.metadata, "mimetype");
+    return type.find("font") != std::string::npos || type.find("truetype") != std::string::npos ||
+           type.find("opentype") != std::string::npos;
+}
+
+void CollectFonts(InputFile const& file, std::vector<FontAttachment>& fonts)
+{
+    AVFormatContext const& context = file.Context();
+    for (unsigned i = 0; i < context.nb_streams; ++i)
+    {
+        AVStream const& stream = *context.streams[i];
+        if (!IsFont(stream))
+            continue;
+        std::uint8_t const* bytes = stream.codecpar->extradata;
+        auto data = std::make_shared<std::vector<std::uint8_t>>(bytes, bytes + stream.codecpar->extradata_size);
+        fonts.push_back({MetadataText(stream.metadata, "filename"), std::move(data)});
+    }
+}
+
+/// How the text of a whole track becomes UTF-8. Containers promise UTF-8, but not every program keeps the promise.
+class TrackText
+{
+public:
+    TrackText(std::vector<RawPacket> const& packets, std::string const& language)
+    {
+        std::string all;
+        for (RawPacket const& packet : packets)
+            all.append(ViewOf(packet)).append("\n");
+        std::size_t broken = 0;
+        static_cast<void>(Text::RepairUtf8(all, broken));
+        auto const beyondAscii = std::count_if(all.begin(), all.end(), [](char c) { return (c & 0x80) != 0; });
+        m_report.encoding = "UTF-8";
+        m_report.source = TextDecodeReport::Source::ValidUtf8;
+        // A few damaged bytes among good ones are damage; when most are bad, the track was never UTF-8.
+        if (broken * 4 < static_cast<std::size_t>(beyondAscii) || broken == 0)
+            return;
+        Text::DetectionHints hints;
+        if (!language.empty())
+            hints.languages.push_back(language);
+        if (Core::Result<Text::DecodedText> const decoded = Text::DecodeText(all, {}, hints))
+        {
+            m_report = decoded->report;
+            m_report.replacedBytes = 0;
+        }
+    }
+
+    std::string Decode(RawPacket const& packet)
+    {
+        if (m_report.encoding == "UTF-8")
+            return Text::RepairUtf8(ViewOf(packet), m_report.replacedBytes);
+        Core::Result<Text::DecodedText> decoded = Text::DecodeText(ViewOf(packet), m_report.encoding);
+        if (!decoded)
+            return Text::RepairUtf8(ViewOf(packet), m_report.replacedBytes);
+        m_report.replacedBytes += decoded->report.replacedBytes;
+        return std::move(decoded->utf8);
+    }
+
+    [[nodiscard]] TextDecodeReport const& Report() const { return m_report; }
+
+private:
+    TextDecodeReport m_report;
+};
+
+/// Brings ASS events back into the order of their script, which decides who lies on top.
+void SortByReadOrder(std::vector<TextCue>& cues, std::vector<int> const& readOrders)
+{
+    std::vector<std::size_t> order(cues.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t a, std::size_t b) { return readOrders[a] < readOrders[b]; });
+    std::vector<TextCue> sorted;
+    sorted.reserve(cues.size());
+    for (std::size_t index : order)
+        sorted.push_back(std::move(cues[index]));
+    cues = std::move(sorted);
+}
+
+/// Cues whose packet had no duration last until the next one begins, but not for ever.
+void CloseOpenCues(std::vector<TextCue>& cues)
+{
+    for (std::size_t i = 0; i < cues.size(); ++i)
+    {
+        if (cues[i].end > cues[i].start)
+            continue;
+        cues[i].end = cues[i].start + OPEN_CUE_DURATION;
+        if (i + 1 < cues.size() && cues[i + 1].start > cues[i].start)
+            cues[i].end = std::min(cues[i].end, cues[i + 1].start);
+    }
+}
+
+/// Takes over what a script's header says: styles and fonts of its own.
+void ReadScriptHeader(AVCodecParameters const& parameters, TextDocument& document)
+{
+    if (parameters.extradata_size <= 0)
+        return;
+    std::size_t replaced = 0;
+    TextDocument header = Text::ReadAss(Text::RepairUtf8(
+        {reinterpret_cast<char const*>(parameters.extradata), static_cast<std::size_t>(parameters.extradata_size)},
+        replaced));
+    document.scriptHeader = std::move(header.scriptHeader);
+    document.fonts = std::move(header.fonts);
+}
+
+/// Tracks whose packets hold the text itself: read without a decoder, so that the markup stays what it was.
+TextDocument ReadNativeText(InputFile const& file, std::uint32_t index, std::vector<RawPacket> const& packets,
+                            TextMarkup markup)
+{
+    AVStream const& stream = *file.FindStream(index);
+    TextDocument document;
+    document.codecId = CodecName(stream.codecpar->codec_id);
+    document.markup = markup;
+    TrackText text(packets, MetadataText(stream.metadata, "language"));
+    std::vector<int> readOrders;
+    for (RawPacket const& packet : packets)
+    {
+        int readOrder = static_cast<int>(readOrders.size());
+        TextCue cue = ReadTextPacket(text.Decode(packet), markup, readOrder);
+        if (cue.text.empty())
+            continue;
+        cue.start = packet.start;
+        cue.end = packet.start + packet.duration;
+        document.cues.push_back(std::move(cue));
+        readOrders.push_back(readOrder);
+    }
+    CloseOpenCues(document.cues);
+    document.decoding = text.Report();
+    if (markup == TextMarkup::Ass)
+    {
+        ReadScriptHeader(*stream.codecpar, document);
+        SortByReadOrder(document.cues, readOrders);
+    }
+    return document;
+}
+
+Core::Result<SubtitleDocument> ReadByDecoder(InputFile const& file, std::uint32_t index,
+                                             std::vector<RawPacket> const& packets)
+{
+    Core::Result<SubtitleDecoder> decoder = SubtitleDecoder::Make(TraitsOf(file, index));
+    if (!decoder)
+        return decoder.GetError();
+    std::vector<DecodedEvent> events;
+    for (RawPacket const& packet : packets)
+    {
+        if (std::optional<DecodedEvent> event = decoder->Decode(packet))
+            events.push_back(std::move(*event));
+    }
+    AVCodecID const codec = file.FindStream(index)->codecpar->codec_id;
+    if (IsBitmapSubtitle(codec))
+        return SubtitleDocument(BitmapDocument{CodecName(codec), CloseBitmapEvents(std::move(events))});
+    TextDocument document;
+    document.codecId = CodecName(codec);
+    document.cues = CloseTextEvents(std::move(events));
+    document.decoding.encoding = "UTF-8";
+    document.decoding.replacedBytes = decoder->ReplacedBytes();
+    return SubtitleDocument(std::move(document));
+}
+
+} // namespace
+
+SubtitleStreamTraits TraitsOf(InputFile const& file, std::uint32_t index)
+{
+    SubtitleStreamTraits traits;
+    traits.parameters = file.FindStream(index)->codecpar;
+    traits.path = file.Path();
+    AVFormatContext const& context = file.Context();
+    for (unsigned i = 0; i < context.nb_streams; ++i)
+    {
+        AVStream const& stream = *context.streams[i];
+        if (stream.codecpar->codec_type == AVMEDIA_TYPE_VIDEO && !(stream.disposition & AV_DISPOSITION_ATTACHED_PIC))
+        {
+            traits.fallbackCanvasWidth = stream.codecpar->width;
+            traits.fallbackCanvasHeight = stream.codecpar->height;
+            break;
+        }
+    }
+    return traits;
+}
+
+std::optional<RawPacket> ToRawPacket(InputFile const& file, AVPacket const& packet)
+{
+    std::int64_t const time = packet.pts != AV_NOPTS_VALUE ? packet.pts : packet.dts;
+    if (time == AV_NOPTS_VALUE || packet.size < 0)
+        return std::nullopt;
+    AVRational const timeBase = file.FindStream(static_cast<std::uint32_t>(packet.stream_index))->time_base;
+    RawPacket raw;
+    raw.start = file.ToMediaTime(time, timeBase);
+    if (packet.duration > 0)
+        raw.duration = microseconds(av_rescale_q(packet.duration, timeBase, AV_TIME_BASE_Q));
+    raw.data.assign(packet.data, packet.data + packet.size);
+    return raw;
+}
+
+Core::Result<std::vector<RawPacket>> ReadAllPackets(InputFile const& file, std::uint32_t index)
+{
+    file.SelectOnly(index);
+    std::vector<RawPacket> packets;
+    Packet const packet = MakePacket();
+    for (;;)
+    {
+        Core::Result<bool> const more = file.ReadPacket(*packet);
+        if (!more)
+            return more.GetError();
+        if (!*more)
+            return packets;
+        if (packet->stream_index != static_cast<int>(index))
+            continue;
+        if (std::optional<RawPacket> raw = ToRawPacket(file, *packet))
+            packets.push_back(std::move(*raw));
+    }
+}
+
+Core::Result<SubtitleDocument> LoadStream(InputFile const& file, std::uint32_t index)
+{
+    AVStream const* stream = file.FindStream(index);
+    if (!stream || stream->codecpar->codec_type != AVMEDIA_TYPE_SUBTITLE)
+    {
+        Core::Error error = MakeError(stream ? ErrorCode::TrackNotSubtitle : ErrorCode::NoSuchTrack, file.Path());
+        error.track = std::to_string(index);
+        return error;
+    }
+    Core::Result<std::vector<RawPacket>> const packets = ReadAllPackets(file, index);
+    if (!packets)
+        return packets.GetError();
+
+    std::optional<TextMarkup> const markup = PacketMarkup(CodecName(stream->codecpar->codec_id));
+    Core::Result<SubtitleDocument> document = markup ? SubtitleDocument(ReadNativeText(file, index, *packets, *markup))
+                                                     : ReadByDecoder(file, index, *packets);
+    if (document)
+    {
+        if (auto* text = std::get_if<TextDocument>(&*document))
+            CollectFonts(file, text->fonts);
+    }
+    return document;
+}
+
+} // namespace Korvex::Proc::FFmpeg
