@@ -53,9 +53,9 @@ public:
         }
         FinishFont();
         m_document.markup = TextMarkup::Ass;
+        m_document.scriptHeader = MakeHeader();
         m_document.codecId =
             m_isVersion4 ? Conf::IFormatCodecSubtitle::CODEC_ID_SSA : Conf::IFormatCodecSubtitle::CODEC_ID_ASS;
-        m_document.scriptHeader = MakeHeader();
         return std::move(m_document);
     }
 

@@ -1,9 +1,16 @@
 #include "Proc/Text/EncodingDetector.h"
 
 #include "Proc/Text/CharacterConverter.h"
+#include "Proc/Text/EncodingModels.h"
+#include "Proc/Text/EncodingScore.h"
 
 #include <uchardet.h>
 
+#include <algorithm>
+#include <clocale>
+#include <cmath>
+#include <cstdlib>
+#include <map>
 #include <memory>
 
 namespace Korvex::Proc::Text
@@ -12,36 +19,174 @@ namespace Korvex::Proc::Text
 namespace
 {
 
+// Bonuses to logarithms of likelihoods; each is worth about as much as one odd letter.
+constexpr double HINT_BONUS = 6.0;     ///< the language that the file's name gives
+constexpr double LOCALE_BONUS = 1.5;   ///< the language of the user's machine
+constexpr double UCHARDET_BONUS = 3.0; ///< the other detector says so
+
 struct UchardetDeleter
 {
     void operator()(uchardet_t detector) const { uchardet_delete(detector); }
 };
 using UchardetPointer = std::unique_ptr<std::remove_pointer_t<uchardet_t>, UchardetDeleter>;
 
+UchardetPointer MakeUchardet()
+{
+    return UchardetPointer(uchardet_new());
+}
+
 std::string AskUchardet(std::string_view bytes)
 {
-    UchardetPointer const detector(uchardet_new());
-    if (uchardet_handle_data(detector.get(), bytes.data(), bytes.size()) != 0)
+    auto const detector = MakeUchardet();
+    if (!detector || uchardet_handle_data(detector.get(), bytes.data(), bytes.size()) != 0)
     {
         return {};
     }
     uchardet_data_end(detector.get());
-    return NormalizeEncodingName(uchardet_get_charset(detector.get()));
+    std::string const name = NormalizeEncodingName(uchardet_get_charset(detector.get()));
+    return name == "SHIFT_JIS" ? "CP932" : (name == "GB18030" ? "CP936" : (name == "BIG5" ? "BIG-5" : name));
 }
+
+/// The language of the user's messages, as the environment and the C library know it.
+LanguageModel const* GetLocaleLanguage()
+{
+    for (char const* const variable : {"LC_ALL", "LC_MESSAGES", "LANG"})
+    {
+        char const* const value = std::getenv(variable);
+        if (value != nullptr && *value != '\0')
+        {
+            return FindLanguage(value);
+        }
+    }
+    char const* const name = std::setlocale(LC_CTYPE, nullptr);
+    return name != nullptr ? FindLanguage(name) : nullptr;
+}
+
+struct Candidate
+{
+    std::string encoding;
+    double score;
+};
+
+class Detection
+{
+public:
+    Detection(std::string_view bytes, DetectionHints const& hints)
+        : m_sample(TakeSample(bytes)),
+          m_stripped(StripMarkup(m_sample))
+    {
+        for (std::string const& name : hints.languages)
+        {
+            if (LanguageModel const* const language = FindLanguage(name))
+            {
+                m_hinted.push_back(language);
+            }
+        }
+        for (LanguageModel const& language : GetLanguageModels())
+        {
+            m_wordScores[&language] = ScoreWords(m_stripped, language);
+        }
+        m_locale = GetLocaleLanguage();
+        m_uchardet = AskUchardet(m_stripped);
+    }
+
+    DetectedEncoding Detect()
+    {
+        for (EncodingModel const& encoding : GetByteEncodings())
+        {
+            Consider(encoding,
+                     [&](LanguageModel const& language) { return ScoreByteEncoding(m_stripped, encoding, language); });
+        }
+        for (EncodingModel const& encoding : GetPairEncodings())
+        {
+            Consider(encoding,
+                     [&](LanguageModel const& language) { return ScorePairEncoding(m_sample, encoding, language); });
+        }
+        return Choose();
+    }
+
+private:
+    template <typename Score>
+    void Consider(EncodingModel const& encoding, Score&& score)
+    {
+        Candidate best{std::string(encoding.name), -HUGE_VAL};
+        for (LanguageModel const& language : GetLanguageModels())
+        {
+            if (HasWord(encoding.languages, language.codes.substr(0, language.codes.find(' '))))
+            {
+                best.score = std::max(best.score, score(language) + GetBonus(language));
+            }
+        }
+        best.score += encoding.prior;
+        best.score += m_uchardet == encoding.name ? UCHARDET_BONUS : 0;
+        m_candidates.push_back(std::move(best));
+    }
+
+    double GetBonus(LanguageModel const& language) const
+    {
+        bool const isHinted = std::find(m_hinted.begin(), m_hinted.end(), &language) != m_hinted.end();
+        return language.prior + m_wordScores.at(&language) + (isHinted ? HINT_BONUS : 0) +
+               (m_locale == &language ? LOCALE_BONUS : 0);
+    }
+
+    DetectedEncoding Choose()
+    {
+        // Of equals the first stays first: the lists are in order of preference.
+        std::stable_sort(m_candidates.begin(), m_candidates.end(),
+                         [](Candidate const& a, Candidate const& b) { return a.score > b.score; });
+        Candidate const& best = m_candidates.front();
+        double const rivalScore = FindRivalScore();
+        double const high = static_cast<double>(
+            std::count_if(m_stripped.begin(), m_stripped.end(), [](char byte) { return (byte & 0x80) != 0; }));
+        // Nothing reads as text: what the user's machine used to write is as good as any.
+        static constexpr double HOPELESS = -10.0;
+        if (high == 0 || best.score / high < HOPELESS)
+        {
+            static constexpr double CONFIDENCE = 0.1;
+            LanguageModel const* const language = !m_hinted.empty() ? m_hinted.front() : m_locale;
+            return {language != nullptr ? std::string(language->codePage) : "CP1252",
+                    TextDecodeReport::Source::Fallback, CONFIDENCE};
+        }
+        static constexpr double SURE = 5.0;
+        double const confidence = 1 - std::exp(-(best.score - rivalScore) / SURE);
+        return {best.encoding, TextDecodeReport::Source::Detector, std::clamp(confidence, 0.05, 0.99)};
+    }
+
+    /// The best score among those that would give another text.
+    double FindRivalScore() const
+    {
+        std::string const text = Decode(m_candidates.front().encoding);
+        for (Candidate const& candidate : m_candidates)
+        {
+            if (Decode(candidate.encoding) != text)
+            {
+                return candidate.score;
+            }
+        }
+        return m_candidates.back().score;
+    }
+
+    std::string Decode(std::string const& encoding) const
+    {
+        auto const converter = CharacterConverter::Make(encoding);
+        std::size_t replaced = 0;
+        return converter ? converter->Convert(m_sample, replaced) : std::string();
+    }
+
+    std::string m_sample;
+    std::string m_stripped;
+    std::map<LanguageModel const*, double> m_wordScores;
+    std::vector<LanguageModel const*> m_hinted;
+    LanguageModel const* m_locale = nullptr;
+    std::string m_uchardet;
+    std::vector<Candidate> m_candidates;
+};
 
 } // namespace
 
-DetectedEncoding DetectEncoding(std::string_view bytes, DetectionHints const&)
+DetectedEncoding DetectEncoding(std::string_view bytes, DetectionHints const& hints)
 {
-    DetectedEncoding result;
-    result.encoding = AskUchardet(bytes);
-    result.source = TextDecodeReport::Source::Detector;
-    result.confidence = 0.8;
-    if (result.encoding.empty() || !CharacterConverter::Make(result.encoding))
-    {
-        result = {"CP1252", TextDecodeReport::Source::Fallback, 0.1};
-    }
-    return result;
+    return Detection(bytes, hints).Detect();
 }
 
 } // namespace Korvex::Proc::Text

@@ -6,6 +6,7 @@
 #include "Proc/Text/Utf8.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace Korvex::Proc::Text
 {
@@ -75,6 +76,91 @@ char const* GuessWideEncoding(std::string_view bytes)
     return even > enough && odd * 20 < even ? "UTF-16BE" : nullptr;
 }
 
+/// Well-formed sequences of more than one byte, and runs of bytes that are none.
+struct Utf8Share
+{
+    std::size_t sequences = 0;
+    std::size_t badRuns = 0;
+};
+
+Utf8Share MeasureUtf8(std::string_view bytes)
+{
+    Utf8Share share;
+    bool inBadRun = false;
+    for (std::size_t position = 0; position < bytes.size();)
+    {
+        char32_t codePoint = 0;
+        std::size_t const length = MeasureSequence(bytes, position, codePoint);
+        share.sequences += length > 1 ? 1 : 0;
+        share.badRuns += length == 0 && !inBadRun ? 1 : 0;
+        inBadRun = length == 0;
+        position += std::max<std::size_t>(length, 1);
+    }
+    return share;
+}
+
+/// UTF-8 that was damaged or cut off: what is well-formed in it cannot be chance.
+bool IsDamagedUtf8(std::string_view bytes)
+{
+    Utf8Share const share = MeasureUtf8(bytes);
+    return share.sequences >= 4 && share.sequences >= share.badRuns * 2;
+}
+
+/// The escape sequences of ISO-2022-JP, which is ASCII to everybody else.
+bool IsIso2022Jp(std::string_view bytes)
+{
+    std::size_t const escape = bytes.find("\x1B$");
+    return escape != std::string_view::npos && escape + 2 < bytes.size() &&
+           (bytes[escape + 2] == 'B' || bytes[escape + 2] == '@') && bytes.find("\x1B(") != std::string_view::npos;
+}
+
+/// A file put together from pieces: some lines are UTF-8, the others are not. Returns the others, nothing for any other
+/// file.
+std::string FindLegacyLines(std::string_view bytes)
+{
+    static constexpr std::size_t LEAST_LINES = 3;
+    static constexpr std::size_t LEAST_SEQUENCES = 20;
+    std::size_t utf8Lines = 0;
+    std::size_t sequences = 0;
+    std::size_t legacyLines = 0;
+    std::string legacy;
+    for (std::string_view const line : SplitLines(bytes))
+    {
+        Utf8Share const share = MeasureUtf8(line);
+        if (share.badRuns > 0)
+        {
+            ++legacyLines;
+            legacy += line;
+            legacy += '\n';
+        }
+        else if (share.sequences >= LEAST_LINES)
+        {
+            ++utf8Lines;
+            sequences += share.sequences;
+        }
+    }
+    bool const isMixed = utf8Lines >= LEAST_LINES && sequences >= LEAST_SEQUENCES && utf8Lines * 10 >= legacyLines;
+    return isMixed ? legacy : std::string();
+}
+
+/// Converts line by line what is not UTF-8.
+std::string ConvertMixed(std::string_view bytes, CharacterConverter& converter, std::size_t& replacedBytes)
+{
+    std::string result;
+    replacedBytes = 0;
+    std::size_t start = 0;
+    while (start < bytes.size())
+    {
+        std::size_t const end = std::min(bytes.find('\n', start), bytes.size() - 1) + 1;
+        std::string_view const line = bytes.substr(start, end - start);
+        std::size_t replaced = 0;
+        result += IsValidUtf8(line) ? std::string(line) : converter.Convert(line, replaced);
+        replacedBytes += replaced;
+        start = end;
+    }
+    return result;
+}
+
 /// Removes the marks of other systems behind the text: the end-of-file sign of DOS, and padding, which is counted.
 void TrimPadding(std::string& text, std::size_t& replacedBytes)
 {
@@ -114,41 +200,61 @@ std::string ReplaceControls(std::string text, std::size_t& replacedBytes)
     return result;
 }
 
-/// What to take the bytes for; the mark is not a part of the text.
-TextDecodeReport ChooseEncoding(std::string_view& bytes, std::string const& stated, DetectionHints const& hints)
+struct Choice
 {
     TextDecodeReport report;
-    report.encoding = NormalizeEncodingName(stated);
+    bool isMixed = false; ///< with lines in UTF-8
+};
+
+/// Which encoding bytes without a mark are in.
+Choice DetectReport(std::string_view bytes, DetectionHints const& hints)
+{
+    static constexpr double VERY_LIKELY = 0.9;
+    static constexpr double LIKELY = 0.7;
+    auto const make = [](std::string encoding, Source source, double confidence)
+    {
+        Choice choice;
+        choice.report.encoding = std::move(encoding);
+        choice.report.source = source;
+        choice.report.confidence = confidence;
+        return choice;
+    };
+    if (char const* const wide = GuessWideEncoding(bytes))
+    {
+        return make(wide, Source::Detector, VERY_LIKELY);
+    }
+    if (IsIso2022Jp(bytes))
+    {
+        return make("ISO-2022-JP", Source::Detector, VERY_LIKELY);
+    }
+    if (IsValidUtf8(bytes))
+    {
+        return make("UTF-8", Source::ValidUtf8, 1);
+    }
+    if (IsDamagedUtf8(bytes))
+    {
+        return make("UTF-8", Source::Detector, LIKELY);
+    }
+    std::string const legacy = FindLegacyLines(bytes);
+    auto const detected = DetectEncoding(legacy.empty() ? bytes : std::string_view(legacy), hints);
+    Choice choice = make(detected.encoding, detected.source, detected.confidence);
+    choice.isMixed = !legacy.empty();
+    return choice;
+}
+
+/// What to take the bytes for; the mark is not a part of the text.
+Choice ChooseEncoding(std::string_view& bytes, std::string const& stated, DetectionHints const& hints)
+{
+    Choice choice;
+    choice.report.encoding = NormalizeEncodingName(stated);
     if (auto const mark = FindByteOrderMark(bytes))
     {
         bytes.remove_prefix(mark->bytes.size());
-        report.source = report.encoding == mark->encoding ? Source::Stated : Source::ByteOrderMark;
-        report.encoding = mark->encoding;
+        choice.report.source = choice.report.encoding == mark->encoding ? Source::Stated : Source::ByteOrderMark;
+        choice.report.encoding = mark->encoding;
+        return choice;
     }
-    else if (!stated.empty())
-    {
-        report.source = Source::Stated;
-    }
-    else if (char const* const wide = GuessWideEncoding(bytes))
-    {
-        static constexpr double CONFIDENCE = 0.9;
-        report.encoding = wide;
-        report.source = Source::Detector;
-        report.confidence = CONFIDENCE;
-    }
-    else if (IsValidUtf8(bytes))
-    {
-        report.encoding = "UTF-8";
-        report.source = Source::ValidUtf8;
-    }
-    else
-    {
-        auto const detected = DetectEncoding(bytes, hints);
-        report.encoding = detected.encoding;
-        report.source = detected.source;
-        report.confidence = detected.confidence;
-    }
-    return report;
+    return stated.empty() ? DetectReport(bytes, hints) : choice;
 }
 
 } // namespace
@@ -162,16 +268,19 @@ Core::Result<DecodedText> DecodeText(std::string_view bytes, std::string const& 
         error.detail = "the text encoding \"" + encoding + "\" is not known";
         return error;
     }
-    DecodedText result;
-    result.report = ChooseEncoding(bytes, encoding, hints);
-    auto const converter = CharacterConverter::Make(result.report.encoding);
+    Choice const choice = ChooseEncoding(bytes, encoding, hints);
+    auto const converter = CharacterConverter::Make(choice.report.encoding);
     if (!converter)
     {
         Core::Error error;
-        error.detail = "iconv_open(" + result.report.encoding + ')';
+        error.detail = "iconv_open(" + choice.report.encoding + ')';
         return error;
     }
-    result.utf8 = ReplaceControls(converter->Convert(bytes, result.report.replacedBytes), result.report.replacedBytes);
+    DecodedText result;
+    result.report = choice.report;
+    std::size_t& replaced = result.report.replacedBytes;
+    std::string text = choice.isMixed ? ConvertMixed(bytes, *converter, replaced) : converter->Convert(bytes, replaced);
+    result.utf8 = ReplaceControls(std::move(text), replaced);
     return result;
 }
 
