@@ -70,7 +70,7 @@ Core::Error OpenError(int averror, ioPath const& path, std::string head)
         return MakeError(ErrorCode::Cancelled, path);
     if (averror == AVERROR(ENOENT))
         return MakeError(ErrorCode::FileNotFound, path);
-    if (averror == AVERROR(EACCES) || averror == AVERROR(EPERM) || averror == AVERROR(EIO))
+    if (averror == AVERROR(EACCES) || averror == AVERROR(EPERM))
         return MakeError(ErrorCode::FileUnreadable, path, ErrorText(averror));
     if (IsKnownFormat(path, std::move(head)))
         return MakeError(ErrorCode::FileDamaged, path, "its header cannot be read");
@@ -253,9 +253,10 @@ Core::Result<bool> InputFile::ReadPacket(AVPacket& packet) const
             return MakeError(ErrorCode::Cancelled, m_path);
         if (result == AVERROR(EAGAIN))
             continue;
-        if (result == AVERROR(EIO))
-            return MakeError(ErrorCode::FileUnreadable, m_path, ErrorText(result));
-        // A file that breaks off or goes wrong in the middle gives what came before.
+        // Demuxers report a file that breaks off as an input error too; only the reader below them knows.
+        int const readError = m_context->pb ? m_context->pb->error : 0;
+        if (readError < 0 && readError != AVERROR_EOF)
+            return MakeError(ErrorCode::FileUnreadable, m_path, ErrorText(readError));
         return false;
     }
 }

@@ -43,20 +43,6 @@ bool IsFont(AVStream const& stream)
            type.find("opentype") != std::string::npos;
 }
 
-void CollectFonts(InputFile const& file, std::vector<FontAttachment>& fonts)
-{
-    AVFormatContext const& context = file.Context();
-    for (unsigned i = 0; i < context.nb_streams; ++i)
-    {
-        AVStream const& stream = *context.streams[i];
-        if (!IsFont(stream))
-            continue;
-        std::uint8_t const* bytes = stream.codecpar->extradata;
-        auto data = std::make_shared<std::vector<std::uint8_t>>(bytes, bytes + stream.codecpar->extradata_size);
-        fonts.push_back({MetadataText(stream.metadata, "filename"), std::move(data)});
-    }
-}
-
 /// How the text of a whole track becomes UTF-8. Containers promise UTF-8, but not every program keeps the promise.
 class TrackText
 {
@@ -86,13 +72,19 @@ public:
 
     std::string Decode(RawPacket const& packet)
     {
-        if (m_report.encoding == "UTF-8")
-            return Text::RepairUtf8(ViewOf(packet), m_report.replacedBytes);
-        Core::Result<Text::DecodedText> decoded = Text::DecodeText(ViewOf(packet), m_report.encoding);
-        if (!decoded)
-            return Text::RepairUtf8(ViewOf(packet), m_report.replacedBytes);
-        m_report.replacedBytes += decoded->report.replacedBytes;
-        return std::move(decoded->utf8);
+        if (m_report.encoding != "UTF-8")
+        {
+            Core::Result<Text::DecodedText> decoded = Text::DecodeText(ViewOf(packet), m_report.encoding);
+            if (decoded)
+            {
+                m_report.replacedBytes += decoded->report.replacedBytes;
+                return std::move(decoded->utf8);
+            }
+        }
+        std::size_t replaced = 0;
+        std::string text = Text::RepairUtf8(ViewOf(packet), replaced);
+        m_report.replacedBytes += replaced;
+        return text;
     }
 
     [[nodiscard]] TextDecodeReport const& Report() const { return m_report; }
@@ -196,6 +188,20 @@ Core::Result<SubtitleDocument> ReadByDecoder(InputFile const& file, std::uint32_
 }
 
 } // namespace
+
+void CollectFonts(InputFile const& file, std::vector<FontAttachment>& fonts)
+{
+    AVFormatContext const& context = file.Context();
+    for (unsigned i = 0; i < context.nb_streams; ++i)
+    {
+        AVStream const& stream = *context.streams[i];
+        if (!IsFont(stream))
+            continue;
+        std::uint8_t const* bytes = stream.codecpar->extradata;
+        auto data = std::make_shared<std::vector<std::uint8_t>>(bytes, bytes + stream.codecpar->extradata_size);
+        fonts.push_back({MetadataText(stream.metadata, "filename"), std::move(data)});
+    }
+}
 
 SubtitleStreamTraits TraitsOf(InputFile const& file, std::uint32_t index)
 {

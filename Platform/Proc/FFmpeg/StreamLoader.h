@@ -19,6 +19,9 @@ namespace Korvex::Proc::FFmpeg
 /// Every packet of one stream, from the start of a file that was just opened.
 [[nodiscard]] Core::Result<std::vector<RawPacket>> ReadAllPackets(InputFile const& file, std::uint32_t index);
 
+/// Appends the fonts that are attached to the file.
+void CollectFonts(InputFile const& file, std::vector<FontAttachment>& fonts);
+
 /// One subtitle stream, whole, from a file that was just opened, with the fonts that are attached to the file. Fails
 /// with NoSuchTrack, TrackNotSubtitle, CodecNotSupported or what reading fails with.
 [[nodiscard]] Core::Result<SubtitleDocument> LoadStream(InputFile const& file, std::uint32_t index);

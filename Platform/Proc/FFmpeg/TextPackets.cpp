@@ -72,6 +72,14 @@ std::string BigEndian16(std::size_t value)
     return {static_cast<char>((value >> 8) & 0xFF), static_cast<char>(value & 0xFF)};
 }
 
+std::string Repair(std::string_view text, std::size_t& replacedBytes)
+{
+    std::size_t replaced = 0;
+    std::string repaired = Text::RepairUtf8(text, replaced);
+    replacedBytes += replaced;
+    return repaired;
+}
+
 /// mov_text: the length of the text, the text, then boxes of styles, which count characters and stay as they are.
 std::string RepairMovText(std::string_view bytes, std::size_t& replacedBytes)
 {
@@ -90,7 +98,7 @@ std::string RepairMovText(std::string_view bytes, std::size_t& replacedBytes)
     }
     else
     {
-        repaired = Text::RepairUtf8(text, replacedBytes);
+        repaired = Repair(text, replacedBytes);
     }
     repaired.resize(std::min<std::size_t>(repaired.size(), 0xFFFF));
     return BigEndian16(repaired.size()) + repaired + std::string(bytes.substr(2 + length));
@@ -131,7 +139,7 @@ std::string RepairTextPacket(std::string_view bytes, std::string const& codecId,
 {
     if (codecId == Codec::CODEC_ID_MOV_TEXT)
         return RepairMovText(bytes, replacedBytes);
-    return Text::RepairUtf8(bytes, replacedBytes);
+    return Repair(bytes, replacedBytes);
 }
 
 } // namespace Korvex::Proc::FFmpeg

@@ -1,0 +1,221 @@
+#include "Proc/SubtitleExport.h"
+
+#include "Support/MediaMaker.h"
+
+#include "Core/FileSystem.h"
+#include "Proc/MediaInfo.h"
+#include "Proc/Register.h"
+#include "Proc/SubtitleLoader.h"
+
+namespace Korvex::Proc
+{
+
+namespace
+{
+
+using Core::ErrorCode;
+using std::chrono::milliseconds;
+using Testing::MadeCue;
+using Testing::MadeMedia;
+using Testing::MadeSubtitle;
+using Testing::TemporaryFolder;
+
+class ExportTest : public ::testing::Test
+{
+protected:
+    static void SetUpTestSuite() { RegisterFactories(); }
+
+    ioPath Make(std::string const& name, std::string const& format, std::vector<std::string> const& codecs,
+                milliseconds startTime = milliseconds(0))
+    {
+        MadeMedia media;
+        media.formatId = format;
+        media.video = Testing::MadeVideo{};
+        media.startTime = startTime;
+        for (std::string const& codec : codecs)
+        {
+            MadeSubtitle subtitle;
+            subtitle.codecId = codec;
+            subtitle.language = "eng";
+            bool const isBitmap = codec.find("subtitle") != std::string::npos;
+            subtitle.cues = isBitmap ? Testing::MakeBoxCues() : Testing::MakeTextCues();
+            media.subtitles.push_back(subtitle);
+        }
+        ioPath path = m_folder / name;
+        Testing::MakeMedia(path, media);
+        return path;
+    }
+
+    ioPath Write(std::string const& name, std::string const& bytes)
+    {
+        EXPECT_FALSE(Core::WriteFile(m_folder / name, bytes, false));
+        return m_folder / name;
+    }
+
+    TemporaryFolder m_folder;
+};
+
+SubtitleSource StreamOf(ioPath const& path, std::uint32_t index)
+{
+    SubtitleSource source;
+    source.path = path;
+    source.streamIndex = index;
+    return source;
+}
+
+SubtitleSource FileOf(ioPath const& path)
+{
+    SubtitleSource source;
+    source.path = path;
+    return source;
+}
+
+std::string BytesOf(ioPath const& path)
+{
+    Core::Result<std::string> const bytes = Core::ReadFile(path, 1'000'000);
+    return bytes ? *bytes : std::string();
+}
+
+template <typename Document>
+Document Load(ioPath const& path)
+{
+    Core::Result<SubtitleDocument> const document = LoadSubtitleFile(path, {});
+    EXPECT_TRUE(document) << Core::ToSentence(document.GetError());
+    return document ? std::get<Document>(*document) : Document();
+}
+
+} // namespace
+
+TEST_F(ExportTest, TextComesOutAsItIsInTheFile)
+{
+    ioPath const film = Make("film.mkv", "matroska", {"subrip", "ass"});
+    Core::Result<ExportedSubtitle> const srt = ExtractSubtitle(StreamOf(film, 1), m_folder / "out.srt");
+    ASSERT_TRUE(srt) << Core::ToSentence(srt.GetError());
+    EXPECT_EQ(srt->cueCount, 3U);
+    EXPECT_EQ(BytesOf(srt->path), "1\n00:00:00,500 --> 00:00:01,000\nFirst\n\n2\n00:00:01,000 --> 00:00:01,500\n"
+                                  "Second \xC3\xBC\n\n3\n00:00:01,600 --> 00:00:01,900\nThird\n\n");
+    Core::Result<ExportedSubtitle> const ass = ExtractSubtitle(StreamOf(film, 2), m_folder / "out.ass");
+    ASSERT_TRUE(ass);
+    EXPECT_NE(BytesOf(ass->path).find("PlayResY: 180"), std::string::npos) << "the script's own header";
+    EXPECT_NE(BytesOf(ass->path).find("Dialogue: 0,0:00:00.50,0:00:01.00,Default,,0,0,0,,First"), std::string::npos);
+
+    EXPECT_EQ(ExtractSubtitle(StreamOf(film, 1), m_folder / "out.srt").GetError().code, ErrorCode::OutputExists);
+    EXPECT_EQ(ExtractSubtitle(StreamOf(film, 0), m_folder / "x.srt").GetError().code, ErrorCode::TrackNotSubtitle);
+    EXPECT_EQ(ExtractSubtitle(StreamOf(film, 1), m_folder / "x.sup").GetError().code, ErrorCode::ContainerCannotCarry);
+    EXPECT_EQ(ExtractSubtitle(StreamOf(film, 1), m_folder / "x.doc").GetError().code, ErrorCode::ContainerUnknown);
+    EXPECT_EQ(ExtractSubtitle(StreamOf(film, 1), m_folder / "no folder/x.srt").GetError().code,
+              ErrorCode::OutputFolderMissing);
+    EXPECT_EQ(Core::ListFolder(m_folder.Path()), (std::vector<std::string>{"film.mkv", "out.ass", "out.srt"}))
+        << "refusals leave nothing behind";
+}
+
+TEST_F(ExportTest, BluRayTracksAreTheSameInAFileOfTheirOwn)
+{
+    // The stamps of the source begin at an hour.
+    ioPath const film = Make("film.m2ts", "m2ts", {"hdmv_pgs_subtitle"}, milliseconds(3'601'000));
+    Core::Result<SubtitleDocument> const source = LoadSubtitleStream(film, 1);
+    ASSERT_TRUE(source);
+    Core::Result<ExportedSubtitle> const sup = ExtractSubtitle(StreamOf(film, 1), m_folder / "out.sup");
+    ASSERT_TRUE(sup) << Core::ToSentence(sup.GetError());
+    EXPECT_EQ(sup->cueCount, 3U);
+    std::string const bytes = BytesOf(sup->path);
+    ASSERT_GT(bytes.size(), 13U);
+    EXPECT_EQ(bytes.substr(0, 6), (std::string{'P', 'G', 0, 0, '\xAF', '\xC8'})) << "0.5 s in units of 90 kHz";
+
+    auto const before = std::get<BitmapDocument>(*source);
+    auto const after = Load<BitmapDocument>(sup->path);
+    ASSERT_EQ(after.cues.size(), before.cues.size());
+    for (std::size_t i = 0; i < after.cues.size(); ++i)
+    {
+        EXPECT_EQ(after.cues[i].start, before.cues[i].start);
+        EXPECT_EQ(after.cues[i].end, before.cues[i].end);
+        EXPECT_EQ(*after.cues[i].rects[0].rgba, *before.cues[i].rects[0].rgba);
+    }
+    EXPECT_EQ(ExtractSubtitle(StreamOf(film, 1), m_folder / "x.srt").GetError().code, ErrorCode::ContainerCannotCarry);
+}
+
+TEST_F(ExportTest, AnyTrackFitsIntoMatroska)
+{
+    ioPath const film = Make("film.mkv", "matroska", {"dvd_subtitle", "ass"});
+    Core::Result<ExportedSubtitle> const bitmaps = ExtractSubtitle(StreamOf(film, 1), m_folder / "dvd.mkv");
+    ASSERT_TRUE(bitmaps) << Core::ToSentence(bitmaps.GetError());
+    EXPECT_EQ(Load<BitmapDocument>(bitmaps->path).cues.at(2).start, milliseconds(1600));
+    Core::Result<MediaInfo> const info = ProbeMedia(bitmaps->path);
+    ASSERT_TRUE(info);
+    ASSERT_EQ(info->streams.size(), 1U);
+    EXPECT_EQ(info->streams[0].language, "eng");
+    ASSERT_TRUE(ExtractSubtitle(StreamOf(film, 2), m_folder / "ass.mkv"));
+    EXPECT_TRUE(Load<TextDocument>(m_folder / "ass.mkv").HasOwnLook());
+    // Matroska has no mov_text.
+    ioPath const mp4 = Make("film.mp4", "mp4", {"mov_text"});
+    Core::Result<ExportedSubtitle> const text = ExtractSubtitle(StreamOf(mp4, 1), m_folder / "text.mkv");
+    ASSERT_TRUE(text) << Core::ToSentence(text.GetError());
+    EXPECT_EQ(text->codecId, "subrip");
+    EXPECT_EQ(Load<TextDocument>(text->path).cues.at(1).text, "Second \xC3\xBC");
+}
+
+TEST_F(ExportTest, AMovTextFileGivesBackTheCues)
+{
+    // CP1251; the second and the third overlap.
+    ioPath const srt =
+        Write("a.srt", "1\n00:00:10,000 --> 00:00:12,000\n<i>\xCF\xF0\xE8\xE2\xE5\xF2</i>, \xEC\xE8\xF0\n\n"
+                       "2\n00:00:20,000 --> 00:00:24,000\nTwo\nlines\n\n"
+                       "3\n00:00:22,000 --> 00:00:26,000\nOver\n");
+    SubtitleSource source = FileOf(srt);
+    source.encoding = "CP1251";
+    source.timeShift = milliseconds(-1500);
+    Core::Result<ExportedSubtitle> const prepared =
+        PrepareSubtitle(source, {"dvd_subtitle", "mov_text"}, m_folder.Path(), "work");
+    ASSERT_TRUE(prepared) << Core::ToSentence(prepared.GetError());
+    EXPECT_EQ(prepared->path.FileName(), "work.mp4");
+    EXPECT_EQ(prepared->codecId, "mov_text");
+    EXPECT_EQ(prepared->cueCount, 3U);
+
+    auto const document = Load<TextDocument>(prepared->path);
+    ASSERT_EQ(document.cues.size(), 4U);
+    EXPECT_EQ(document.cues[0].start, milliseconds(8500)) << "counted from zero, not from the first text";
+    EXPECT_EQ(document.cues[0].end, milliseconds(10500));
+    EXPECT_NE(document.cues[0].text.find("\xD0\x9F\xD1\x80\xD0\xB8\xD0\xB2\xD0\xB5\xD1\x82"), std::string::npos);
+    EXPECT_NE(document.cues[0].text.find("\\i1"), std::string::npos);
+    EXPECT_EQ(document.cues[1].text, "Two\\Nlines");
+    EXPECT_EQ(document.cues[2].text, "Two\\Nlines\\NOver");
+    EXPECT_EQ(document.cues[3].text, "Over");
+    EXPECT_EQ(document.cues[3].end, milliseconds(24500));
+}
+
+TEST_F(ExportTest, PreparingPicksWhatLosesLeast)
+{
+    ioPath const film = Make("film.mkv", "matroska", {"ass", "hdmv_pgs_subtitle"});
+    ioPath const mp4 = Make("film.mp4", "mp4", {"mov_text"});
+    std::vector<std::string> const matroska{"ass", "hdmv_pgs_subtitle", "ssa", "subrip", "text"};
+    Core::Result<ExportedSubtitle> const script = PrepareSubtitle(StreamOf(film, 1), matroska, m_folder.Path(), "w");
+    Core::Result<ExportedSubtitle> const plain = PrepareSubtitle(StreamOf(mp4, 1), matroska, m_folder.Path(), "w");
+    Core::Result<ExportedSubtitle> const again = PrepareSubtitle(StreamOf(mp4, 1), matroska, m_folder.Path(), "w");
+    ASSERT_TRUE(script && plain && again);
+    EXPECT_EQ(script->path.FileName(), "w.ass");
+    EXPECT_EQ(plain->path.FileName(), "w.srt");
+    EXPECT_EQ(again->path.FileName(), "w-2.srt") << "a taken name is left alone";
+
+    EXPECT_EQ(PrepareSubtitle(StreamOf(film, 2), matroska, m_folder.Path(), "w").GetError().code,
+              ErrorCode::ContainerCannotCarry);
+    EXPECT_EQ(PrepareSubtitle(StreamOf(film, 1), {"dvb_subtitle"}, m_folder.Path(), "w").GetError().code,
+              ErrorCode::ContainerCannotCarry);
+}
+
+TEST_F(ExportTest, AClassOfSamiAndAShiftBeforeZero)
+{
+    ioPath const smi = Write("a.smi", "<SAMI><HEAD><STYLE><!-- .ENCC {lang: en-US;} .KRCC {lang: ko-KR;} --></STYLE>"
+                                      "</HEAD><BODY><SYNC Start=1000><P Class=ENCC>Hello<P Class=KRCC>Annyeong"
+                                      "<SYNC Start=5000><P Class=ENCC>World<P Class=KRCC>Segye"
+                                      "<SYNC Start=9000><P Class=ENCC>&nbsp;<P Class=KRCC>&nbsp;</BODY></SAMI>");
+    SubtitleSource source = FileOf(smi);
+    source.samiClass = "KRCC";
+    source.timeShift = milliseconds(-6000);
+    Core::Result<ExportedSubtitle> const prepared = PrepareSubtitle(source, {"subrip"}, m_folder.Path(), "w");
+    ASSERT_TRUE(prepared) << Core::ToSentence(prepared.GetError());
+    EXPECT_EQ(BytesOf(prepared->path), "1\n00:00:00,000 --> 00:00:03,000\nSegye\n\n");
+    EXPECT_EQ(prepared->skippedCues, 1U) << "the cue that would end before the film begins";
+    EXPECT_EQ(prepared->sourceCodecId, "sami");
+}
+
+} // namespace Korvex::Proc

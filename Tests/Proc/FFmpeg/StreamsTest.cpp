@@ -1,0 +1,144 @@
+#include "Proc/Streams.h"
+
+#include "Support/MediaMaker.h"
+
+#include "Core/CoreManager.h"
+#include "Core/FileSystem.h"
+#include "Proc/Register.h"
+#include "Proc/SubtitleLoader.h"
+
+#include <stdexcept>
+
+namespace Korvex::Proc
+{
+
+namespace
+{
+
+using std::chrono::milliseconds;
+using Testing::MadeMedia;
+using Testing::MadeSubtitle;
+using Testing::TemporaryFolder;
+
+std::vector<SubtitleEvent> ReadEvents(ioPath const& path, std::uint32_t index)
+{
+    RegisterFactories();
+    boost::intrusive_ptr<IStreamRaw> const raw = MakeStreamReader(path)->GetRawStream(index);
+    boost::intrusive_ptr<IStreamSubtitle> const stream =
+        Core::CoreManager::Instance().GetCodecFactory()->CreateSubtitleStream(raw, "");
+    EXPECT_TRUE(stream);
+    std::vector<SubtitleEvent> events;
+    for (;;)
+    {
+        Core::Result<std::optional<SubtitleEvent>> const event = stream->ReadEvent();
+        EXPECT_TRUE(event);
+        if (!event || !*event)
+            return events;
+        events.push_back(**event);
+    }
+}
+
+ioPath MakeFilm(TemporaryFolder const& folder)
+{
+    MadeMedia media;
+    media.video = Testing::MadeVideo{};
+    for (char const* codec : {"subrip", "ass", "webvtt", "hdmv_pgs_subtitle"})
+    {
+        MadeSubtitle subtitle;
+        subtitle.codecId = codec;
+        bool const isBitmap = std::string(codec) == "hdmv_pgs_subtitle";
+        subtitle.cues = isBitmap ? Testing::MakeBoxCues() : Testing::MakeTextCues();
+        if (!isBitmap && std::string(codec) != "webvtt")
+            subtitle.cues[2].text = std::string(codec) == "ass" ? "{\\i1}Third{\\i0}" : "<i>Third</i>";
+        media.subtitles.push_back(subtitle);
+    }
+    ioPath path = folder / "film.mkv";
+    Testing::MakeMedia(path, media);
+    return path;
+}
+
+} // namespace
+
+TEST(StreamsTest, DecodedEventsAreThoseOfTheWholeTrack)
+{
+    TemporaryFolder const folder;
+    ioPath const film = MakeFilm(folder);
+    for (std::uint32_t index = 1; index <= 4; ++index)
+    {
+        SCOPED_TRACE(index);
+        std::vector<SubtitleEvent> const events = ReadEvents(film, index);
+        Core::Result<SubtitleDocument> const document = LoadSubtitleStream(film, index);
+        ASSERT_TRUE(document);
+        ASSERT_EQ(events.size(), 3U);
+        for (std::size_t i = 0; i < events.size(); ++i)
+        {
+            if (auto const* text = std::get_if<TextDocument>(&*document))
+            {
+                EXPECT_EQ(std::get<TextCue>(events[i]).start, text->cues[i].start);
+                EXPECT_EQ(std::get<TextCue>(events[i]).end, text->cues[i].end);
+            }
+            else
+            {
+                BitmapCue const& cue = std::get<BitmapDocument>(*document).cues[i];
+                EXPECT_EQ(std::get<BitmapCue>(events[i]).start, cue.start);
+                EXPECT_EQ(std::get<BitmapCue>(events[i]).end, cue.end);
+                EXPECT_EQ(*std::get<BitmapCue>(events[i]).rects[0].rgba, *cue.rects[0].rgba);
+            }
+        }
+    }
+    EXPECT_EQ(std::get<TextCue>(ReadEvents(film, 1)[2]).text.substr(0, 10), "{\\i1}Third") << "the markup of ASS";
+}
+
+TEST(StreamsTest, RawStreamsGivePacketsAsTheyAreAndReadIndependently)
+{
+    TemporaryFolder const folder;
+    boost::intrusive_ptr<IStreamReader> const reader = MakeStreamReader(MakeFilm(folder));
+    boost::intrusive_ptr<IStreamRaw> const first = reader->GetRawStream(1);
+    boost::intrusive_ptr<IStreamRaw> const second = reader->GetRawStream(2);
+    EXPECT_EQ(first->GetCodecID(), "subrip");
+    EXPECT_EQ(second->GetCodecID(), "ass");
+    std::vector<std::uint8_t> const& header = second->GetCodecHeader();
+    EXPECT_NE(std::string(header.begin(), header.end()).find("[V4+ Styles]"), std::string::npos);
+    for (boost::intrusive_ptr<IStreamRaw> const& raw : {first, second})
+    {
+        Core::Result<std::optional<RawPacket>> const packet = raw->ReadPacket();
+        ASSERT_TRUE(packet && *packet);
+        EXPECT_EQ((*packet)->start, milliseconds(500));
+        EXPECT_EQ((*packet)->duration, milliseconds(500));
+        std::string const text((*packet)->data.begin(), (*packet)->data.end());
+        EXPECT_EQ(text, raw == first ? "First" : "0,0,Default,,0,0,0,,First");
+    }
+}
+
+TEST(StreamsTest, AnExternalFileIsStreamZeroOfItself)
+{
+    TemporaryFolder const folder;
+    ioPath const srt = folder / "a.srt";
+    // CP1251, and the text has a tag.
+    std::string const word = "<i>\xCF\xF0\xE8\xE2\xE5\xF2, \xEC\xE8\xF0, \xEA\xE0\xEA \xE4\xE5\xEB\xE0</i>";
+    ASSERT_FALSE(Core::WriteFile(srt, "1\n00:00:01,000 --> 00:00:02,000\n" + word + "\n", false));
+    std::vector<SubtitleEvent> const events = ReadEvents(srt, 0);
+    ASSERT_EQ(events.size(), 1U);
+    EXPECT_EQ(std::get<TextCue>(events[0]).text.substr(0, 17),
+              "{\\i1}\xD0\x9F\xD1\x80\xD0\xB8\xD0\xB2\xD0\xB5\xD1\x82");
+    EXPECT_EQ(std::get<TextCue>(events[0]).start, std::chrono::seconds(1));
+
+    ioPath const vtt = folder / "a.vtt";
+    ASSERT_FALSE(Core::WriteFile(vtt, "WEBVTT\n\n00:01.000 --> 00:02.000\n<b>Hello</b>\n", false));
+    ASSERT_EQ(ReadEvents(vtt, 0).size(), 1U);
+    EXPECT_EQ(std::get<TextCue>(ReadEvents(vtt, 0)[0]).text, "{\\b1}Hello{\\b0}");
+
+    EXPECT_THROW(static_cast<void>(MakeStreamReader(srt)->GetRawStream(1)), std::runtime_error);
+    EXPECT_THROW(static_cast<void>(MakeStreamReader(folder / "missing.mkv")->GetRawStream(0)), std::runtime_error);
+}
+
+TEST(StreamsTest, ThereIsNoDecoderForStreamsThatAreNoSubtitles)
+{
+    TemporaryFolder const folder;
+    boost::intrusive_ptr<IStreamRaw> const video = MakeStreamReader(MakeFilm(folder))->GetRawStream(0);
+    RegisterFactories();
+    EXPECT_FALSE(Core::CoreManager::Instance().GetCodecFactory()->CreateSubtitleStream(video, ""));
+    EXPECT_FALSE(Core::CoreManager::Instance().GetCodecFactory()->CreateSubtitleStream({}, ""));
+}
+
+} // namespace Korvex::Proc
