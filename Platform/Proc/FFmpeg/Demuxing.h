@@ -1,0 +1,79 @@
+#pragma once
+
+#include "Proc/FFmpeg/BoundedQueue.h"
+#include "Proc/FFmpeg/InputFile.h"
+#include "Proc/FFmpeg/JobControl.h"
+#include "Proc/FFmpeg/PacketMerger.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace Korvex::Proc::FFmpeg
+{
+
+using PacketQueue = BoundedQueue<Packet>;
+
+/// Gives the packets of one copied stream the times that muxers ask for: both set, neither before the other.
+class CopyClock
+{
+public:
+    explicit CopyClock(AVStream const& stream);
+
+    void Complete(AVPacket& packet);
+
+private:
+    AVMediaType const m_type;
+    std::int64_t const m_frameDuration; ///< in the stream's time base; 0 when not known
+    std::int64_t const m_delay;         ///< between decoding and showing the first picture
+    std::optional<std::int64_t> m_nextDts;
+};
+
+/// Where the packets of one input stream go.
+struct Route
+{
+    std::vector<std::size_t> copies; ///< streams of the merger
+    PacketQueue* decoder = nullptr;  ///< not owned
+    BitstreamFilter filter;          ///< on the way to the copies; empty: none
+};
+
+/// Reads the input to its end and hands its packets on. Their times then count from the file's start time, and
+/// `time_base` is set. A jump in the times of a transport stream is closed.
+class Demuxing
+{
+public:
+    /// One route for each stream of the file.
+    Demuxing(InputFile const& file, std::vector<Route> routes, PacketMerger& merger, JobControl& control);
+
+    /// Until the end of the file or of the job. On a thread of its own.
+    void Run();
+
+private:
+    struct Stream
+    {
+        Route route;
+        std::int64_t start = 0; ///< the file's start time in the stream's time base
+        std::unique_ptr<CopyClock> clock;
+        std::optional<std::int64_t> expectedUs; ///< when the next packet should begin
+    };
+
+    bool Dispatch(Packet packet);
+    bool Copy(Stream& stream, AVPacket const& packet);
+    bool PushCopies(Stream& stream, AVPacket const& packet);
+    bool FlushFilter(Stream& stream);
+    void MoveToZero(Stream& stream, AVPacket& packet);
+    void CloseJump(Stream& stream, AVPacket& packet);
+    void Finish();
+
+    InputFile const& m_file;
+    std::vector<Stream> m_streams;
+    PacketMerger& m_merger;
+    JobControl& m_control;
+    std::int64_t m_jumpUs = 0; ///< taken off all times since the last jump
+};
+
+/// The filter that a stream needs to be copied into this muxer and that the muxer does not insert itself.
+[[nodiscard]] BitstreamFilter MakeCopyFilter(AVStream const& stream, char const* muxerName);
+
+} // namespace Korvex::Proc::FFmpeg

@@ -1,0 +1,192 @@
+#include "Proc/FFmpeg/SubtitlePayload.h"
+
+#include "Proc/FFmpeg/InputFile.h"
+
+#include "Conf/IFormatCodecSubtitle.h"
+#include "Proc/Text/TextSubtitles.h"
+
+#include <algorithm>
+#include <cstring>
+#include <numeric>
+#include <optional>
+
+namespace Korvex::Proc::FFmpeg
+{
+
+namespace
+{
+
+using Conf::IFormatCodecSubtitle;
+
+constexpr char const* EVENTS_HEADER =
+    "[Events]\nFormat: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\n";
+
+void SetExtraData(AVCodecParameters& parameters, std::string const& bytes)
+{
+    auto* data = static_cast<std::uint8_t*>(av_mallocz(bytes.size() + AV_INPUT_BUFFER_PADDING_SIZE));
+    if (!data)
+        throw std::bad_alloc();
+    std::memcpy(data, bytes.data(), bytes.size());
+    parameters.extradata = data;
+    parameters.extradata_size = static_cast<int>(bytes.size());
+}
+
+Packet MakeTextPacket(std::string const& text, TextCue const& cue)
+{
+    Packet packet = MakePacket();
+    if (av_new_packet(packet.get(), static_cast<int>(text.size())) < 0)
+        throw std::bad_alloc();
+    std::memcpy(packet->data, text.data(), text.size());
+    std::int64_t const start = std::max<std::int64_t>(0, cue.start.count());
+    packet->pts = packet->dts = start;
+    packet->duration = std::max<std::int64_t>(0, cue.end.count() - start);
+    packet->time_base = AV_TIME_BASE_Q;
+    packet->flags |= AV_PKT_FLAG_KEY;
+    return packet;
+}
+
+/// The fields of an event in the order in which Matroska keeps them: read order first, no times.
+std::string AssEvent(TextCue const& cue, TextMarkup markup, std::size_t readOrder)
+{
+    return std::to_string(readOrder) + "," + std::to_string(cue.layer) + "," + cue.style + "," + cue.name + "," +
+           std::to_string(cue.marginLeft) + "," + std::to_string(cue.marginRight) + "," +
+           std::to_string(cue.marginVertical) + "," + cue.effect + "," + Text::ToAssText(cue.text, markup);
+}
+
+std::vector<std::size_t> OrderByStart(std::vector<TextCue> const& cues)
+{
+    std::vector<std::size_t> order(cues.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t a, std::size_t b) { return cues[a].start < cues[b].start; });
+    return order;
+}
+
+std::string ScriptHeader(TextDocument const& document)
+{
+    std::string header = document.scriptHeader;
+    if (!header.empty() && header.back() != '\n')
+        header += '\n';
+    return header + "\n" + EVENTS_HEADER;
+}
+
+void AddDecodingWarnings(TextDocument const& document, ioPath const& path, std::vector<std::string>& warnings)
+{
+    std::string const file = "\"" + path.utf8string() + "\"";
+    if (document.decoding.replacedBytes > 0)
+        warnings.push_back(std::to_string(document.decoding.replacedBytes) + " bytes of " + file + " are not valid " +
+                           document.decoding.encoding + " and show as a replacement character.");
+    if (document.skippedCues > 0)
+        warnings.push_back(std::to_string(document.skippedCues) + " cues of " + file +
+                           " have no usable times and were left out.");
+}
+
+std::string Tag(AVDictionary const* tags, char const* key)
+{
+    AVDictionaryEntry const* entry = av_dict_get(tags, key, nullptr, 0);
+    return entry ? entry->value : std::string();
+}
+
+AVStream const* FindFirstSubtitle(InputFile const& file)
+{
+    for (unsigned i = 0; i < file.Context().nb_streams; ++i)
+    {
+        if (file.Context().streams[i]->codecpar->codec_type == AVMEDIA_TYPE_SUBTITLE)
+            return file.Context().streams[i];
+    }
+    return nullptr;
+}
+
+/// Fills in what a demuxer of subtitles may leave open and counts from the file's beginning. False for a packet
+/// without any time.
+bool CompleteTimes(AVPacket& packet, AVRational timeBase, std::int64_t start)
+{
+    if (packet.pts == AV_NOPTS_VALUE)
+        packet.pts = packet.dts;
+    if (packet.pts == AV_NOPTS_VALUE)
+        return false;
+    packet.pts -= start;
+    packet.dts = packet.pts;
+    packet.time_base = timeBase;
+    return true;
+}
+
+Core::Result<SubtitlePayload> CopyFirstSubtitleStream(ioPath const& path)
+{
+    Core::Result<InputFile> file = InputFile::Open(path);
+    if (!file)
+        return file.GetError();
+    AVStream const* stream = FindFirstSubtitle(*file);
+    if (!stream)
+        return MakeError(Core::ErrorCode::FormatUnknown, path, "it holds no subtitles");
+    file->SelectOnly(static_cast<std::uint32_t>(stream->index));
+
+    SubtitlePayload payload;
+    payload.parameters = MakeCodecParameters(*stream->codecpar);
+    payload.timeBase = stream->time_base;
+    payload.language = Tag(stream->metadata, "language");
+    payload.title = Tag(stream->metadata, "title");
+    payload.disposition = stream->disposition;
+    // Subtitles count from the beginning of the film that they belong to, so only a clip with a picture has an offset
+    // of its own.
+    bool const isFilm = av_find_best_stream(&file->Context(), AVMEDIA_TYPE_VIDEO, -1, -1, nullptr, 0) >= 0;
+    std::int64_t const start = isFilm ? av_rescale_q(file->StartTime().count(), AV_TIME_BASE_Q, stream->time_base) : 0;
+    for (;;)
+    {
+        Packet packet = MakePacket();
+        Core::Result<bool> const more = file->ReadPacket(*packet);
+        if (!more)
+            return more.GetError();
+        if (!*more)
+            return payload;
+        if (packet->stream_index == stream->index && CompleteTimes(*packet, stream->time_base, start))
+            payload.packets.push_back(std::move(packet));
+    }
+}
+
+} // namespace
+
+SubtitlePayload MakeTextPayload(TextDocument const& document, ioPath const& path)
+{
+    bool const isSubRip = document.codecId == IFormatCodecSubtitle::CODEC_ID_SUBRIP;
+    bool const isAss = document.codecId == IFormatCodecSubtitle::CODEC_ID_ASS ||
+                       document.codecId == IFormatCodecSubtitle::CODEC_ID_SSA;
+
+    SubtitlePayload payload;
+    payload.parameters = MakeCodecParameters();
+    payload.parameters->codec_type = AVMEDIA_TYPE_SUBTITLE;
+    payload.fonts = document.fonts;
+    AddDecodingWarnings(document, path, payload.warnings);
+    if (!isSubRip && !isAss)
+    {
+        // No container carries it; its name is wanted all the same, to say so.
+        AVCodecDescriptor const* descriptor = avcodec_descriptor_get_by_name(document.codecId.c_str());
+        payload.parameters->codec_id = descriptor ? descriptor->id : AV_CODEC_ID_NONE;
+        return payload;
+    }
+    payload.parameters->codec_id = isSubRip ? AV_CODEC_ID_SUBRIP : AV_CODEC_ID_ASS;
+    if (isAss)
+        SetExtraData(*payload.parameters, ScriptHeader(document));
+    for (std::size_t const index : OrderByStart(document.cues))
+    {
+        TextCue const& cue = document.cues[index];
+        if (cue.end <= std::chrono::microseconds(0))
+            continue; // over before the film begins
+        std::string const text =
+            isAss ? AssEvent(cue, document.markup, index) : Text::ToSubRipText(cue.text, document.markup);
+        payload.packets.push_back(MakeTextPacket(text, cue));
+    }
+    return payload;
+}
+
+Core::Result<SubtitlePayload> LoadSubtitlePayload(ioPath const& path)
+{
+    Core::Result<std::optional<TextDocument>> const text = Text::LoadTextFile(path, {});
+    if (!text)
+        return text.GetError();
+    if (*text)
+        return MakeTextPayload(**text, path);
+    return CopyFirstSubtitleStream(path);
+}
+
+} // namespace Korvex::Proc::FFmpeg

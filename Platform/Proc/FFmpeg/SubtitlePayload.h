@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Proc/FFmpeg/Handles.h"
+
+#include "Core/Result.h"
+#include "Proc/SubtitleContent.h"
+
+#include <string>
+#include <vector>
+
+namespace Korvex::Proc::FFmpeg
+{
+
+/// The subtitles of a file of their own, ready to be written as one stream of another file.
+struct SubtitlePayload
+{
+    CodecParameters parameters;
+    AVRational timeBase{1, 1000000};
+    std::vector<Packet> packets; ///< with `dts` and `time_base`, in rising order
+    std::string language;        ///< what the file says of itself; empty when it does not
+    std::string title;
+    int disposition = 0; ///< AV_DISPOSITION_ flags
+    std::vector<FontAttachment> fonts;
+    std::vector<std::string> warnings;
+};
+
+/// Reads a subtitle file whole. Text becomes UTF-8, SSA of any version becomes ASS; the packets of a media file (an MP4
+/// with one text track, a bitmap file) stay as they are.
+[[nodiscard]] Core::Result<SubtitlePayload> LoadSubtitlePayload(ioPath const& path);
+
+/// Packets of a document as Matroska keeps them. A document that is neither SubRip nor ASS has none, only its codec.
+[[nodiscard]] SubtitlePayload MakeTextPayload(TextDocument const& document, ioPath const& path);
+
+} // namespace Korvex::Proc::FFmpeg

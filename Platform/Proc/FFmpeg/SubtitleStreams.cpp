@@ -1,0 +1,173 @@
+#include "Proc/FFmpeg/SubtitleStreams.h"
+
+#include "Proc/FFmpeg/SubtitlePayload.h"
+
+#include "Proc/Settings.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace Korvex::Proc::FFmpeg
+{
+
+namespace
+{
+
+using Source = OutputStream::Source;
+using Kind = SubtitleTrack::Kind;
+
+/// The module lists tracks by their text keys, which puts "10" before "2".
+std::vector<SubtitleTrack> InOrder(std::vector<SubtitleTrack> tracks)
+{
+    std::stable_sort(tracks.begin(), tracks.end(),
+                     [](SubtitleTrack const& a, SubtitleTrack const& b)
+                     {
+                         if (a.kind != b.kind)
+                             return a.kind == Kind::Stream;
+                         return a.kind == Kind::Stream && a.streamIndex < b.streamIndex;
+                     });
+    return tracks;
+}
+
+void SetTag(OutputStream& stream, std::string const& key, std::string const& value)
+{
+    auto const old =
+        std::find_if(stream.tags.begin(), stream.tags.end(), [&](auto const& tag) { return tag.first == key; });
+    if (old != stream.tags.end())
+        stream.tags.erase(old);
+    if (!value.empty())
+        stream.tags.emplace_back(key, value);
+}
+
+void SetFlag(int& disposition, int flag, std::optional<bool> wanted)
+{
+    if (wanted)
+        disposition = *wanted ? disposition | flag : disposition & ~flag;
+}
+
+void DescribeTrack(OutputStream& stream, SubtitleTrack const& track, ContainerRule const& rule)
+{
+    if (!track.language.empty())
+        SetTag(stream, "language", ToIso6392(track.language, rule.languageForm));
+    if (!track.title.empty())
+    {
+        SetTag(stream, "title", track.title);
+        // MP4 players show this one.
+        SetTag(stream, "handler_name", track.title);
+    }
+    SetFlag(stream.disposition, AV_DISPOSITION_DEFAULT, track.isDefault);
+    SetFlag(stream.disposition, AV_DISPOSITION_FORCED, track.isForced);
+}
+
+Core::Error CannotCarry(ioPath const& file, std::string track, AVCodecID codec, ContainerRule const& rule)
+{
+    Core::Error error = MakeError(Core::ErrorCode::ContainerCannotCarry, file, rule.subtitleAdvice);
+    error.track = std::move(track);
+    error.codec = CodecDisplayName(codec);
+    error.container = rule.displayName;
+    return error;
+}
+
+Core::Status AddInputStream(SubtitleTrack const& track, InputFile const& input, StreamMap& map)
+{
+    std::string const number = std::to_string(track.streamIndex);
+    AVStream const* stream = input.FindStream(track.streamIndex);
+    if (!stream || stream->codecpar->codec_type != AVMEDIA_TYPE_SUBTITLE)
+    {
+        Core::Error error =
+            MakeError(stream ? Core::ErrorCode::TrackNotSubtitle : Core::ErrorCode::NoSuchTrack, input.Path());
+        error.track = number;
+        return error;
+    }
+    if (!CanCarry(*map.rule, *stream->codecpar))
+        return CannotCarry(input.Path(), number, stream->codecpar->codec_id, *map.rule);
+    OutputStream output;
+    output.source = Source::Copied;
+    output.inputIndex = track.streamIndex;
+    output.parameters = CopyParametersForOutput(*stream->codecpar, *map.rule);
+    output.timeBase = stream->time_base;
+    output.disposition = stream->disposition;
+    AVDictionaryEntry const* tag = nullptr;
+    while ((tag = av_dict_get(stream->metadata, "", tag, AV_DICT_IGNORE_SUFFIX)))
+        output.tags.emplace_back(tag->key, tag->value);
+    DescribeTrack(output, track, *map.rule);
+    map.streams.push_back(std::move(output));
+    return Core::SUCCESS;
+}
+
+char const* FontMimeType(std::string const& name)
+{
+    std::string const extension = ioPath(name).Extension();
+    return extension == "otf" || extension == "OTF" ? "application/vnd.ms-opentype" : "application/x-truetype-font";
+}
+
+void AddFonts(std::vector<FontAttachment> const& fonts, StreamMap& map)
+{
+    if (!map.rule->carriesAttachments)
+        return;
+    for (FontAttachment const& font : fonts)
+    {
+        if (!font.data || font.data->empty())
+            continue;
+        OutputStream output;
+        output.source = Source::HeaderOnly;
+        output.parameters = MakeCodecParameters();
+        output.parameters->codec_type = AVMEDIA_TYPE_ATTACHMENT;
+        bool const isOpenType = std::strcmp(FontMimeType(font.name), "application/vnd.ms-opentype") == 0;
+        output.parameters->codec_id = isOpenType ? AV_CODEC_ID_OTF : AV_CODEC_ID_TTF;
+        output.parameters->extradata =
+            static_cast<std::uint8_t*>(av_mallocz(font.data->size() + AV_INPUT_BUFFER_PADDING_SIZE));
+        if (!output.parameters->extradata)
+            throw std::bad_alloc();
+        std::memcpy(output.parameters->extradata, font.data->data(), font.data->size());
+        output.parameters->extradata_size = static_cast<int>(font.data->size());
+        output.tags = {{"filename", font.name}, {"mimetype", FontMimeType(font.name)}};
+        map.streams.push_back(std::move(output));
+    }
+}
+
+Core::Status AddFile(SubtitleTrack const& track, StreamMap& map)
+{
+    Core::Result<SubtitlePayload> payload = LoadSubtitlePayload(track.path);
+    if (!payload)
+        return payload.GetError();
+    if (!CanCarry(*map.rule, *payload->parameters))
+        return CannotCarry(track.path, track.title.empty() ? "0" : "\"" + track.title + "\"",
+                           payload->parameters->codec_id, *map.rule);
+    OutputStream output;
+    output.source = Source::Preloaded;
+    output.parameters = CopyParametersForOutput(*payload->parameters, *map.rule);
+    output.timeBase = payload->timeBase;
+    output.packets = std::move(payload->packets);
+    // A file of its own says nothing of whether this conversion should show it by default.
+    output.disposition = payload->disposition & ~(AV_DISPOSITION_DEFAULT | AV_DISPOSITION_FORCED);
+    SetTag(output, "language", ToIso6392(payload->language, map.rule->languageForm));
+    SetTag(output, "title", payload->title);
+    DescribeTrack(output, track, *map.rule);
+    map.streams.push_back(std::move(output));
+    map.warnings.insert(map.warnings.end(), payload->warnings.begin(), payload->warnings.end());
+    AddFonts(payload->fonts, map);
+    return Core::SUCCESS;
+}
+
+} // namespace
+
+Core::Status AddSoftSubtitles(SettingsTranscode const& settings, InputFile const& input, StreamMap& map)
+{
+    for (SubtitleTrack const& track : InOrder(settings.soft->GetTracksInfo()))
+    {
+        if (track.kind == Kind::File && track.path.empty())
+        {
+            map.warnings.push_back("A subtitle track without a file" +
+                                   (track.title.empty() ? std::string() : " (\"" + track.title + "\")") +
+                                   " is not in the output.");
+            continue;
+        }
+        Core::Status failed = track.kind == Kind::Stream ? AddInputStream(track, input, map) : AddFile(track, map);
+        if (failed)
+            return failed;
+    }
+    return Core::SUCCESS;
+}
+
+} // namespace Korvex::Proc::FFmpeg

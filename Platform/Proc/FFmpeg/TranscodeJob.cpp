@@ -1,0 +1,239 @@
+#include "Proc/FFmpeg/Conversion.h"
+
+#include "Core/FileSystem.h"
+#include "Proc/Settings.h"
+#include "Proc/Transcode.h"
+
+#include <algorithm>
+#include <condition_variable>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <utility>
+
+namespace Korvex::Proc
+{
+
+namespace
+{
+
+using namespace FFmpeg;
+using Clock = std::chrono::steady_clock;
+
+constexpr auto PROGRESS_INTERVAL = std::chrono::milliseconds(200);
+
+/// Turns the times of written packets into about five reports a second.
+class ProgressMeter
+{
+public:
+    ProgressMeter(std::chrono::microseconds total, ITranscodeObserver& observer)
+        : m_observer(observer),
+          m_begin(Clock::now()),
+          m_lastReport(m_begin)
+    {
+        m_progress.total = total;
+    }
+
+    void Advance(std::chrono::microseconds time)
+    {
+        m_progress.done = std::max(m_progress.done, time);
+        if (m_progress.total.count() > 0)
+            m_progress.done = std::min(m_progress.done, m_progress.total);
+        Clock::time_point const now = Clock::now();
+        if (now - m_lastReport < PROGRESS_INTERVAL)
+            return;
+        m_lastReport = now;
+        Report(now);
+    }
+
+    /// The last report says that all is done.
+    void Complete()
+    {
+        if (m_progress.total.count() > 0)
+            m_progress.done = m_progress.total;
+        Report(Clock::now());
+    }
+
+    [[nodiscard]] std::chrono::microseconds Done() const { return m_progress.done; }
+
+private:
+    void Report(Clock::time_point now)
+    {
+        double const elapsed = std::chrono::duration<double>(now - m_begin).count();
+        double const done = std::chrono::duration<double>(m_progress.done).count();
+        m_progress.speed = elapsed > 0 ? done / elapsed : 0.0;
+        m_progress.remaining.reset();
+        if (m_progress.total.count() > 0 && m_progress.speed > 0)
+        {
+            double const left = std::chrono::duration<double>(m_progress.total - m_progress.done).count();
+            m_progress.remaining = std::chrono::seconds(static_cast<std::int64_t>(left / m_progress.speed + 0.5));
+        }
+        m_observer.OnProgress(m_progress);
+    }
+
+    ITranscodeObserver& m_observer;
+    Clock::time_point const m_begin;
+    Clock::time_point m_lastReport;
+    TranscodeProgress m_progress;
+};
+
+/// Everything that the job's thread needs. It outlives the job object, which may go inside `OnFinished`.
+class JobState
+{
+public:
+    JobState(SettingsTranscode settings, std::unique_ptr<JobControl> jobControl, InputFile input, StreamMap plan)
+        : control(std::move(jobControl)),
+          m_settings(std::move(settings)),
+          m_input(std::move(input)),
+          m_plan(std::move(plan))
+    {
+    }
+
+    void Cancel() { control->Fail(MakeError(Core::ErrorCode::Cancelled, m_settings.input)); }
+
+    void Run(ITranscodeObserver& observer)
+    {
+        std::int64_t const total = m_input->Context().duration;
+        ProgressMeter meter(std::chrono::microseconds(total == AV_NOPTS_VALUE ? 0 : total), observer);
+        TranscodeReport report;
+        {
+            Conversion conversion(m_settings, *m_input, m_plan, *control);
+            report.error = conversion.Run([&](std::chrono::microseconds time) { meter.Advance(time); });
+        }
+        m_input.reset();
+        report.warnings = m_plan.warnings;
+        for (std::string& warning : control->TakeWarnings())
+            report.warnings.push_back(std::move(warning));
+        report.output = m_settings.output;
+        report.duration = meter.Done();
+        if (!report.error)
+            meter.Complete();
+        observer.OnFinished(report);
+    }
+
+    void MarkFinished()
+    {
+        {
+            std::lock_guard const lock(m_mutex);
+            m_isFinished = true;
+        }
+        m_finished.notify_all();
+    }
+
+    void WaitFinished()
+    {
+        std::unique_lock lock(m_mutex);
+        m_finished.wait(lock, [this] { return m_isFinished; });
+    }
+
+    std::unique_ptr<JobControl> const control;
+
+private:
+    SettingsTranscode const m_settings;
+    std::optional<InputFile> m_input;
+    StreamMap m_plan;
+    std::mutex m_mutex;
+    std::condition_variable m_finished;
+    bool m_isFinished = false;
+};
+
+class TranscodeJob final : public ITranscodeJob
+{
+public:
+    explicit TranscodeJob(std::shared_ptr<JobState> state) : m_state(std::move(state)) {}
+
+    void Start(ITranscodeObserver& observer) override
+    {
+        m_thread = std::thread(
+            [state = m_state, &observer]
+            {
+                state->Run(observer);
+                state->MarkFinished();
+            });
+    }
+
+    void Cancel() override { m_state->Cancel(); }
+
+    void Wait() override
+    {
+        if (m_thread.joinable() && m_thread.get_id() != std::this_thread::get_id())
+            m_state->WaitFinished();
+    }
+
+private:
+    ~TranscodeJob() override
+    {
+        if (!m_thread.joinable())
+            return;
+        if (m_thread.get_id() == std::this_thread::get_id())
+        {
+            m_thread.detach(); // the last reference went inside OnFinished; the thread keeps what it needs
+            return;
+        }
+        m_state->Cancel();
+        m_thread.join();
+    }
+
+    std::shared_ptr<JobState> m_state;
+    std::thread m_thread;
+};
+
+std::vector<ioPath> InputsOf(SettingsTranscode const& settings)
+{
+    std::vector<ioPath> inputs{settings.input};
+    if (settings.mixer && !settings.mixer->GetFilename().empty())
+        inputs.push_back(settings.mixer->GetFilename());
+    if (settings.soft)
+    {
+        for (SubtitleTrack const& track : settings.soft->GetTracksInfo())
+        {
+            if (track.kind == SubtitleTrack::Kind::File && !track.path.empty())
+                inputs.push_back(track.path);
+        }
+    }
+    return inputs;
+}
+
+/// What can be said of a burned-in track without reading it.
+Core::Status CheckMixer(SettingsTranscode const& settings, InputFile const& input)
+{
+    if (!settings.mixer)
+        return Core::SUCCESS;
+    std::optional<std::uint32_t> const index = settings.mixer->GetSubtitleStreamIndex();
+    if (!index)
+    {
+        if (Core::PathExists(settings.mixer->GetFilename()))
+            return Core::SUCCESS;
+        return MakeError(Core::ErrorCode::FileNotFound, settings.mixer->GetFilename());
+    }
+    AVStream const* stream = input.FindStream(*index);
+    if (stream && stream->codecpar->codec_type == AVMEDIA_TYPE_SUBTITLE)
+        return Core::SUCCESS;
+    Core::Error error =
+        MakeError(stream ? Core::ErrorCode::TrackNotSubtitle : Core::ErrorCode::NoSuchTrack, settings.input);
+    error.track = std::to_string(*index);
+    return error;
+}
+
+} // namespace
+
+Core::Result<boost::intrusive_ptr<ITranscodeJob>> MakeTranscodeJob(SettingsTranscode const& settings)
+{
+    if (Core::Status failed = Core::CheckOutput(settings.output, InputsOf(settings), settings.overwrite))
+        return *failed;
+    auto control = std::make_unique<JobControl>();
+    InputOptions options;
+    options.cancelled = &control->StopFlag();
+    Core::Result<InputFile> input = InputFile::Open(settings.input, options);
+    if (!input)
+        return input.GetError();
+    if (Core::Status failed = CheckMixer(settings, *input))
+        return *failed;
+    Core::Result<StreamMap> plan = MakeStreamMap(settings, *input);
+    if (!plan)
+        return plan.GetError();
+    auto state = std::make_shared<JobState>(settings, std::move(control), std::move(*input), std::move(*plan));
+    return boost::intrusive_ptr<ITranscodeJob>(new TranscodeJob(std::move(state)));
+}
+
+} // namespace Korvex::Proc
