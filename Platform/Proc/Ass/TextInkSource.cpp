@@ -1,5 +1,6 @@
 #include "Proc/Ass/TextInkSource.h"
 
+#include "Proc/Ass/CjkBreaks.h"
 #include "Proc/Ass/EventTrack.h"
 #include "Proc/Ass/Look.h"
 #include "Proc/Ass/RenderContext.h"
@@ -73,12 +74,13 @@ class TextInkSource : public Blend::IInkSource
 {
 public:
     TextInkSource(SettingsSubtitleDrawer const& settings, PictureGeometry const& geometry,
-                  std::unique_ptr<RenderContext> context, std::string script)
+                  std::unique_ptr<RenderContext> context, std::string script, LayoutRules rules)
         : m_settings(settings),
           m_geometry(geometry),
           m_timeShift(settings.GetTimeShift()),
           m_context(std::move(context)),
-          m_script(std::move(script))
+          m_script(std::move(script)),
+          m_rules(rules)
     {
     }
 
@@ -106,6 +108,7 @@ private:
 
     [[nodiscard]] bool IsMoved() const { return m_settings.GetMoveUp() != 0 || m_settings.GetMoveRight() != 0; }
     void Add(TextCue const& cue, std::string text, int readOrder, int styleAlignment, bool hasOwnLook);
+    [[nodiscard]] int LongestCjkRun() const;
     [[nodiscard]] EventTrack& TrackOf(Place place);
     void TakeImages(Group& group) const;
     void Move(Group& group) const;
@@ -115,6 +118,7 @@ private:
     std::chrono::microseconds m_timeShift;
     std::unique_ptr<RenderContext> m_context;
     std::string m_script;
+    LayoutRules m_rules;
     std::vector<Group> m_groups;
     Blend::Ink m_ink;
 };
@@ -125,20 +129,30 @@ EventTrack& TextInkSource::TrackOf(Place place)
         std::find_if(m_groups.begin(), m_groups.end(), [place](Group const& g) { return g.place == place; });
     if (group != m_groups.end())
         return group->track;
-    m_groups.push_back({place, EventTrack(*m_context, m_context->MakeScriptTrack(m_script)), {}, {}});
+    m_groups.push_back({place, EventTrack(*m_context, m_context->MakeScriptTrack(m_script, m_rules)), {}, {}});
     return m_groups.back().track;
+}
+
+/// How many wide characters surely have room in a line: none is wider than the font's size.
+int TextInkSource::LongestCjkRun() const
+{
+    double const columns = m_geometry.width / Blend::LinesToColumns(1.0, m_geometry) - 2 * Blend::LAYOUT_MARGIN;
+    return static_cast<int>(columns / std::max(m_settings.GetAssRendererSettings().GetFontSize(), 1.0));
 }
 
 void TextInkSource::Load(TextDocument const& document)
 {
-    TrackPtr const styles = m_context->MakeScriptTrack(m_script);
+    TrackPtr const styles = m_context->MakeScriptTrack(m_script, m_rules);
     if (document.HasOwnLook())
         m_ink.authoredMatrix = AuthoredMatrix(styles->YCbCrMatrix);
+    bool const breaksCjk = !document.HasOwnLook() && !m_context->CanBreakCjk();
     int readOrder = 0;
     for (TextCue const& cue : document.cues)
     {
-        Add(cue, document.markup == TextMarkup::Ass ? cue.text : Text::ToAssText(cue.text, document.markup),
-            readOrder++, StyleAlignment(*styles, cue.style), document.HasOwnLook());
+        std::string text = document.markup == TextMarkup::Ass ? cue.text : Text::ToAssText(cue.text, document.markup);
+        if (breaksCjk)
+            text = AddCjkBreaks(text, LongestCjkRun());
+        Add(cue, std::move(text), readOrder++, StyleAlignment(*styles, cue.style), document.HasOwnLook());
     }
     for (Group& group : m_groups)
         group.track.Finish();
@@ -229,7 +243,7 @@ void TextInkSource::Move(Group& group) const
         return;
     Blend::PixelBox box;
     for (Blend::MaskLayer const& layer : group.layers)
-        box = Blend::Unite(box, {layer.x, layer.y, layer.x + layer.width, layer.y + layer.height});
+        box = Blend::Unite(box, Blend::InkBoxOf(layer));
     Blend::PixelOffset const offset = Blend::MoveInside(box, m_settings, m_geometry);
     for (Blend::MaskLayer& layer : group.layers)
     {
@@ -243,14 +257,18 @@ void TextInkSource::Move(Group& group) const
 Core::Result<std::unique_ptr<Blend::IInkSource>>
 MakeTextInkSource(SettingsSubtitleDrawer const& settings, TextDocument const& document, PictureGeometry const& geometry)
 {
-    std::unique_ptr<RenderContext> context = RenderContext::Make(geometry, document.fonts);
+    std::unique_ptr<RenderContext> context = RenderContext::Make(document.fonts);
     if (!context)
         return Core::Error{Core::ErrorCode::Internal, {}, {}, {}, {}, "the text renderer could not be set up"};
-    std::string script = document.HasOwnLook() ? document.scriptHeader : MakeLookScript(settings, geometry);
+    std::string look = MakeLookScript(settings, geometry);
     // Fonts that the file brings need not have Latin letters.
-    if (document.fonts.empty() && !context->CanDrawLetters(MakeLookScript(settings, geometry)))
+    if (document.fonts.empty() && !context->CanDrawLetters(look))
         return Core::Error{Core::ErrorCode::NoUsableFont, {}, {}, {}, {}, {}};
-    auto source = std::make_unique<TextInkSource>(settings, geometry, std::move(context), std::move(script));
+    bool const hasOwnLook = document.HasOwnLook();
+    context->SetGeometry(geometry, hasOwnLook ? GlyphShape::AsStored : GlyphShape::AsShown);
+    auto source = std::make_unique<TextInkSource>(settings, geometry, std::move(context),
+                                                  hasOwnLook ? document.scriptHeader : std::move(look),
+                                                  hasOwnLook ? LayoutRules::Script : LayoutRules::Modern);
     source->Load(document);
     return std::unique_ptr<Blend::IInkSource>(std::move(source));
 }

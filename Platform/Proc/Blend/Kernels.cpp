@@ -14,23 +14,41 @@ inline std::uint16_t HighProduct(std::uint16_t a, std::uint16_t b)
     return static_cast<std::uint16_t>((static_cast<std::uint32_t>(a) * b) >> 16);
 }
 
-/// `under` seen through coverage `a` of `over`. 65536 - a does not fit for a = 0, where nothing changes.
-inline std::uint16_t Over(std::uint16_t under, std::uint16_t over, std::uint16_t a)
+/// All bits set where the condition holds; compilers turn the selection by such masks into vector code.
+inline std::uint16_t MaskOf(bool condition)
 {
-    auto const rest = static_cast<std::uint16_t>(0 - a);
-    auto const mixed = static_cast<std::uint16_t>(HighProduct(under, rest) + HighProduct(over, a));
-    std::uint16_t const shown = a == FULL ? over : mixed;
-    return a == 0 ? under : shown;
+    return condition ? FULL : std::uint16_t{0};
+}
+
+/// A plane of the chunk seen through coverage of `over`, one value or one for each sample.
+template <typename Colors>
+inline void Cover(std::uint16_t* plane, ChunkCoverage const& coverage, Colors over)
+{
+    ChunkCoverage under;
+    std::memcpy(under.data(), plane, sizeof(under));
+    for (int i = 0; i < CHUNK; ++i)
+    {
+        std::uint16_t const a = coverage[i];
+        // 65536 - a does not fit for a = 0, where nothing changes.
+        auto const rest = static_cast<std::uint16_t>(0 - a);
+        auto const mixed = static_cast<std::uint16_t>(HighProduct(under[i], rest) + HighProduct(over(i), a));
+        std::uint16_t const isClear = MaskOf(a == 0);
+        std::uint16_t const isFull = MaskOf(a == FULL);
+        under[i] =
+            static_cast<std::uint16_t>((under[i] & isClear) | (over(i) & isFull) | (mixed & ~(isClear | isFull)));
+    }
+    std::memcpy(plane, under.data(), sizeof(under));
+}
+
+template <typename Colors>
+inline void CoverAll(InkChunk const& chunk, ChunkCoverage const& coverage, Colors const& colors)
+{
+    for (std::size_t c = 0; c < chunk.color.size(); ++c)
+        Cover(chunk.color[c], coverage, [&colors, c](int i) { return colors(c, i); });
+    Cover(chunk.keep, coverage, [](int) { return std::uint16_t{0}; });
 }
 
 } // namespace
-
-bool IsBlank(std::uint8_t const* coverage)
-{
-    std::uint64_t halves[2];
-    std::memcpy(halves, coverage, sizeof(halves));
-    return (halves[0] | halves[1]) == 0;
-}
 
 void CoverChunk(InkChunk const& chunk, std::uint8_t const* coverage, std::uint16_t opacity,
                 std::array<std::uint16_t, 3> const& color)
@@ -46,27 +64,12 @@ void CoverChunk(InkChunk const& chunk, std::uint8_t const* coverage, std::uint16
         for (int i = 0; i < CHUNK; ++i)
             amount[i] = HighProduct(static_cast<std::uint16_t>(coverage[i] * 257), opacity);
     }
-    for (std::size_t c = 0; c < color.size(); ++c)
-    {
-        std::uint16_t* const plane = chunk.color[c];
-        std::uint16_t const value = color[c];
-        for (int i = 0; i < CHUNK; ++i)
-            plane[i] = Over(plane[i], value, amount[i]);
-    }
-    for (int i = 0; i < CHUNK; ++i)
-        chunk.keep[i] = Over(chunk.keep[i], 0, amount[i]);
+    CoverAll(chunk, amount, [&color](std::size_t c, int) { return color[c]; });
 }
 
 void CoverChunk(InkChunk const& chunk, ChunkCoverage const& coverage, ChunkColors const& colors)
 {
-    for (std::size_t c = 0; c < colors.size(); ++c)
-    {
-        std::uint16_t* const plane = chunk.color[c];
-        for (int i = 0; i < CHUNK; ++i)
-            plane[i] = Over(plane[i], colors[c][i], coverage[i]);
-    }
-    for (int i = 0; i < CHUNK; ++i)
-        chunk.keep[i] = Over(chunk.keep[i], 0, coverage[i]);
+    CoverAll(chunk, coverage, [&colors](std::size_t c, int i) { return colors[c][static_cast<std::size_t>(i)]; });
 }
 
 void BlendRow(std::uint8_t* __restrict samples, std::uint16_t const* __restrict keep,

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 /// The loops over samples. Plain C++ that compilers turn into vector code: all of it is 16-bit arithmetic whose only
 /// product is the high half of 16 x 16 bits, which every vector unit has.
@@ -28,7 +29,12 @@ using ChunkCoverage = std::array<std::uint16_t, CHUNK>;
 using ChunkColors = std::array<std::array<std::uint16_t, CHUNK>, 3>;
 
 /// True when all 16 bytes are zero.
-[[nodiscard]] bool IsBlank(std::uint8_t const* coverage);
+[[nodiscard]] inline bool IsBlank(std::uint8_t const* coverage)
+{
+    std::array<std::uint64_t, 2> halves;
+    std::memcpy(halves.data(), coverage, sizeof(halves));
+    return (halves[0] | halves[1]) == 0;
+}
 
 /// Lays one colour over a chunk through 16 bytes of coverage. `opacity` is 65535 for an opaque layer.
 void CoverChunk(InkChunk const& chunk, std::uint8_t const* coverage, std::uint16_t opacity,

@@ -43,6 +43,35 @@ struct RowRange
     int end;
 };
 
+/// Writes the spans of one component: what stays of every sample, and what is added, rounding included.
+void StoreColor(std::uint16_t* keepOut, std::uint16_t* addOut, int step, std::uint16_t const* keep,
+                std::uint16_t const* color, std::uint16_t half, int count)
+{
+    if (step == 1)
+    {
+        std::copy_n(keep, count, keepOut);
+        for (int i = 0; i < count; ++i)
+            addOut[i] = static_cast<std::uint16_t>(color[i] + half);
+        return;
+    }
+    for (int i = 0; i < count; ++i, keepOut += step, addOut += step)
+    {
+        *keepOut = keep[i];
+        *addOut = static_cast<std::uint16_t>(color[i] + half);
+    }
+}
+
+/// The same for the picture's own transparency, which goes where ink is.
+void StoreAlpha(std::uint16_t* keepOut, std::uint16_t* addOut, int step, std::uint16_t const* keep,
+                std::uint16_t opaque, std::uint16_t half, int count)
+{
+    for (int i = 0; i < count; ++i, keepOut += step, addOut += step)
+    {
+        *keepOut = keep[i];
+        *addOut = static_cast<std::uint16_t>((((65535U - keep[i]) * opaque) >> 16U) + half);
+    }
+}
+
 /// The rows of every layer, for finding the bands that have to be composed at all.
 std::vector<RowRange> RowRangesOf(Ink const& ink)
 {
@@ -113,8 +142,7 @@ void Overlay::Build(Ink const& ink, PictureView const& kind)
     m_kind = kind;
     m_groups = MakeGroups();
     m_spans.clear();
-    m_keep.clear();
-    m_add.clear();
+    m_used = 0;
 
     ColorEncoder const encoder(kind.layout, kind.color, ink.authoredMatrix);
     std::vector<std::array<std::uint16_t, 3>> colors;
@@ -260,24 +288,36 @@ void Overlay::Emit(Group const& group, int row, int first, int count, std::uint1
     }
     std::size_t const samples = static_cast<std::size_t>(count - 1) * static_cast<std::size_t>(group.step) +
                                 static_cast<std::size_t>(high - low) + 1;
-    std::size_t const offset = m_keep.size();
+    std::size_t const offset = Reserve(samples);
     m_spans.push_back({group.plane, row, static_cast<std::ptrdiff_t>(first) * group.step + low, samples, offset});
-    m_keep.resize(offset + samples, 65535);
-    m_add.resize(offset + samples, half);
 
     auto const opaque = static_cast<std::uint16_t>(((1U << layout.bitDepth) - 1U) << fraction);
+    if (group.components.size() < static_cast<std::size_t>(group.step))
+    {
+        // Samples in between that belong to nothing, or to components of another resolution, stay as they are.
+        std::fill_n(m_keep.data() + offset, samples, std::uint16_t{65535});
+        std::fill_n(m_add.data() + offset, samples, half);
+    }
     for (std::size_t const component : group.components)
     {
-        std::size_t at = offset + static_cast<std::size_t>(sampleOffset(component) - low);
-        auto const step = static_cast<std::size_t>(group.step);
-        for (int i = 0; i < count; ++i, at += step)
-        {
-            m_keep[at] = keep[i];
-            auto const ink = component == ALPHA ? static_cast<std::uint16_t>(((65535U - keep[i]) * opaque) >> 16U)
-                                                : color[component][i];
-            m_add[at] = static_cast<std::uint16_t>(ink + half);
-        }
+        std::size_t const at = offset + static_cast<std::size_t>(sampleOffset(component) - low);
+        if (component == ALPHA)
+            StoreAlpha(m_keep.data() + at, m_add.data() + at, group.step, keep, opaque, half, count);
+        else
+            StoreColor(m_keep.data() + at, m_add.data() + at, group.step, keep, color[component], half, count);
     }
+}
+
+std::size_t Overlay::Reserve(std::size_t samples)
+{
+    std::size_t const offset = m_used;
+    m_used += samples;
+    if (m_used > m_keep.size())
+    {
+        m_keep.resize(m_used * 2);
+        m_add.resize(m_used * 2);
+    }
+    return offset;
 }
 
 bool Overlay::BlendOnto(PictureView const& picture) const

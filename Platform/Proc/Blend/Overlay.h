@@ -62,11 +62,15 @@ private:
     void Emit(Group const& group, int row, int first, int count, std::uint16_t const* keep,
               std::array<std::uint16_t const*, 3> const& color);
 
+    /// Room for samples of one more span; its offset.
+    [[nodiscard]] std::size_t Reserve(std::size_t samples);
+
     PictureView m_kind;
     std::vector<Group> m_groups;
     std::vector<Span> m_spans;
-    std::vector<std::uint16_t> m_keep;
+    std::vector<std::uint16_t> m_keep; ///< of all spans, one behind the other; longer than what is used of it
     std::vector<std::uint16_t> m_add;
+    std::size_t m_used = 0;
 };
 
 } // namespace Korvex::Proc::Blend

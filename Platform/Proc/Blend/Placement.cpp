@@ -17,6 +17,26 @@ int Limit(int offset, int begin, int end, int size)
 
 } // namespace
 
+PixelBox InkBoxOf(MaskLayer const& layer)
+{
+    PixelBox box;
+    for (int y = 0; y < layer.height; ++y)
+    {
+        std::uint8_t const* const row = layer.coverage + y * layer.stride;
+        std::uint8_t const* const end = row + layer.width;
+        auto const isCovered = [](std::uint8_t coverage) { return coverage != 0; };
+        std::uint8_t const* const first = std::find_if(row, end, isCovered);
+        if (first == end)
+            continue;
+        std::uint8_t const* last = end;
+        while (last[-1] == 0)
+            --last;
+        int const left = layer.x + static_cast<int>(first - row);
+        box = Unite(box, {left, layer.y + y, layer.x + static_cast<int>(last - row), layer.y + y + 1});
+    }
+    return box;
+}
+
 PixelBox Unite(PixelBox const& a, PixelBox const& b)
 {
     if (a.left >= a.right || a.top >= a.bottom)

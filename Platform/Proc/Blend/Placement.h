@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Proc/Blend/Ink.h"
 #include "Proc/Picture.h"
 
 namespace Korvex::Proc
@@ -29,6 +30,9 @@ struct PixelOffset
     int x = 0;
     int y = 0;
 };
+
+/// The smallest box around what a mask covers, which may be much less than its size.
+[[nodiscard]] PixelBox InkBoxOf(MaskLayer const& layer);
 
 /// The smallest box around both; an empty box adds nothing.
 [[nodiscard]] PixelBox Unite(PixelBox const& a, PixelBox const& b);

@@ -1,69 +1,268 @@
-#include "Proc/Blend/TestPicture.h"
+#include "Proc/Drawer/DrawerFixture.h"
 
-#include "Proc/Settings.h"
-#include "Proc/SubtitleDrawer.h"
+#include <cstdlib>
 
 namespace Korvex::Proc::Tests
 {
 namespace
 {
 
-using std::chrono::microseconds;
-using std::chrono::milliseconds;
-using std::chrono::seconds;
-using DrawerPtr = boost::intrusive_ptr<ISubtitleDrawer>;
-
-SettingsSubtitleDrawer DejaVu(double size = 20.0)
-{
-    AssRendererSettings look;
-    look.SetFontName("DejaVu Sans");
-    look.SetFontSize(size);
-    SettingsSubtitleDrawer settings;
-    settings.SetAssRendererSettings(look);
-    return settings;
-}
-
-TextDocument PlainText(std::string const& text)
-{
-    TextDocument document;
-    document.markup = TextMarkup::Plain;
-    TextCue cue;
-    cue.start = seconds(1);
-    cue.end = seconds(2);
-    cue.text = text;
-    document.cues.push_back(cue);
-    return document;
-}
-
-DrawerPtr MakeDrawer(SettingsSubtitleDrawer const& settings, SubtitleDocument document, PictureGeometry const& geometry)
-{
-    auto drawer = MakeSubtitleDrawer(settings, std::move(document), geometry);
-    EXPECT_TRUE(drawer);
-    return drawer ? drawer.Value() : nullptr;
-}
+constexpr PictureGeometry FRAME{640, 360, 1, 1};
 
 TEST(SubtitleDrawer, DrawsWhileTheCueLastsAndOnlyThen)
 {
-    PictureGeometry const geometry{640, 360, 1, 1};
-    DrawerPtr const drawer = MakeDrawer(DejaVu(), PlainText("Guten Tag"), geometry);
-    TestPicture picture(640, 360, PlanarYuv(8, 1, 1));
-    for (microseconds const outside : {microseconds(0), microseconds(999'999), microseconds(2'000'000)})
+    for (milliseconds const shift : {milliseconds(0), milliseconds(700), milliseconds(-1500)})
     {
-        EXPECT_FALSE(drawer->IsVisibleAt(outside));
-        EXPECT_FALSE(drawer->Draw(picture.View(), outside));
-        EXPECT_TRUE(picture.Changed().IsEmpty());
+        SettingsSubtitleDrawer settings = DejaVu();
+        settings.SetTimeShift(microseconds(shift).count());
+        DrawerPtr const drawer = MakeDrawer(settings, PlainText({"Guten Tag"}), FRAME);
+        TestPicture picture(640, 360, PlanarYuv(8, 1, 1));
+        for (microseconds const outside : {microseconds(0), microseconds(999'999), microseconds(2'000'000)})
+        {
+            EXPECT_FALSE(drawer->IsVisibleAt(outside + shift));
+            EXPECT_FALSE(drawer->Draw(picture.View(), outside + shift));
+            EXPECT_TRUE(picture.Changed().IsEmpty());
+        }
+        for (microseconds const inside : {microseconds(1'000'000), microseconds(1'999'999)})
+        {
+            picture.Restore();
+            EXPECT_TRUE(drawer->IsVisibleAt(inside + shift));
+            EXPECT_TRUE(drawer->Draw(picture.View(), inside + shift));
+            EXPECT_FALSE(picture.Changed().IsEmpty());
+        }
     }
-    for (microseconds const inside : {microseconds(1'000'000), microseconds(1'999'999)})
+}
+
+TEST(SubtitleDrawer, TextWithoutInkIsNotVisible)
+{
+    DrawerPtr const drawer = MakeDrawer(DejaVu(), Script({"{\\an8}", " \\N\\h{\\i1} "}), FRAME);
+    EXPECT_FALSE(drawer->IsVisibleAt(milliseconds(1500)));
+    TextDocument reversed = PlainText({"Never"});
+    std::swap(reversed.cues[0].start, reversed.cues[0].end);
+    EXPECT_FALSE(MakeDrawer(DejaVu(), reversed, FRAME)->IsVisibleAt(milliseconds(1500)));
+    EXPECT_FALSE(MakeDrawer(DejaVu(), PlainText({}), FRAME)->IsVisibleAt(milliseconds(1500)));
+}
+
+TEST(SubtitleDrawer, PaintsTheLookAskedFor)
+{
+    SettingsSubtitleDrawer settings = DejaVu(60.0);
+    AssRendererSettings look = settings.GetAssRendererSettings();
+    look.SetPrimaryColour(255, 0, 0);
+    look.SetOutlineColour(0, 0, 255);
+    settings.SetAssRendererSettings(look);
+    // A full block has ink of the text's colour in its middle. BT.709, limited range.
+    TestPicture picture(640, 360, PlanarYuv(8, 1, 1));
+    MakeDrawer(settings, PlainText({"\xE2\x96\x88\xE2\x96\x88"}), FRAME)->Draw(picture.View(), milliseconds(1500));
+    InkBox const ink = picture.Changed();
+    EXPECT_EQ(picture.Sample(0, ink.CenterX(), ink.CenterY()), 63);
+    EXPECT_EQ(picture.Sample(1, ink.CenterX() / 2, ink.CenterY() / 2), 102);
+    EXPECT_EQ(picture.Sample(2, ink.CenterX() / 2, ink.CenterY() / 2), 240);
+    int blueRows = 0;
+    for (int y = ink.top; y < ink.bottom; ++y)
+        blueRows += picture.Sample(0, ink.CenterX(), y) == 32 ? 1 : 0;
+    EXPECT_GE(blueRows, 2);
+
+    // Bold is wider, underlined is deeper, italic leans out of its box, struck out has more ink in the middle.
+    auto const boxWith = [](unsigned flags)
     {
-        picture.Restore();
-        EXPECT_TRUE(drawer->IsVisibleAt(inside));
-        EXPECT_TRUE(drawer->Draw(picture.View(), inside));
-        InkBox const ink = picture.Changed();
-        EXPECT_GT(ink.Width(), 60);
-        EXPECT_GT(ink.top, 300);
-        EXPECT_NEAR(ink.CenterX(), 320, 3);
+        SettingsSubtitleDrawer flagged = DejaVu(60.0);
+        AssRendererSettings flaggedLook = flagged.GetAssRendererSettings();
+        flaggedLook.SetFlags(flags);
+        flagged.SetAssRendererSettings(flaggedLook);
+        return DrawnBox(flagged, PlainText({"lunes"}), FRAME);
+    };
+    InkBox const plain = boxWith(0);
+    EXPECT_GT(boxWith(AssRendererSettings::BOLD).Width(), plain.Width() * 11 / 10);
+    EXPECT_GT(boxWith(AssRendererSettings::UNDERLINE).bottom, plain.bottom);
+    EXPECT_NE(boxWith(AssRendererSettings::ITALIC).Width(), plain.Width());
+    EXPECT_GE(boxWith(AssRendererSettings::STRIKE_OUT).Width(), plain.Width());
+}
+
+TEST(SubtitleDrawer, LooksAlikeAtEveryResolutionAndSampleShape)
+{
+    InkBox const small = DrawnBox(DejaVu(), PlainText({"Hamburgefonts"}), {640, 360, 1, 1});
+    InkBox const large = DrawnBox(DejaVu(), PlainText({"Hamburgefonts"}), {1920, 1080, 1, 1});
+    EXPECT_NEAR(large.Width(), small.Width() * 3, 6);
+    EXPECT_NEAR(large.Height(), small.Height() * 3, 6);
+    EXPECT_NEAR(large.bottom, small.bottom * 3, 4);
+    // Three quarters as many columns for the same picture.
+    InkBox const anamorphic = DrawnBox(DejaVu(), PlainText({"Hamburgefonts"}), {1440, 1080, 4, 3});
+    EXPECT_NEAR(anamorphic.Width(), large.Width() * 3 / 4, 4);
+    EXPECT_NEAR(anamorphic.Height(), large.Height(), 2);
+    EXPECT_NEAR(anamorphic.CenterX(), 720, 3);
+    // 20 of the 288 lines: capitals without descenders are about three quarters of that.
+    InkBox const line = DrawnBox(DejaVu(20.0), PlainText({"|"}), {512, 288, 1, 1});
+    EXPECT_NEAR(line.Height(), 20, 4);
+}
+
+TEST(SubtitleDrawer, ReplacesAFontThatIsNotInstalled)
+{
+    SettingsSubtitleDrawer settings = DejaVu();
+    AssRendererSettings look = settings.GetAssRendererSettings();
+    look.SetFontName("No Such Family, Really");
+    settings.SetAssRendererSettings(look);
+    EXPECT_GT(DrawnBox(settings, PlainText({"Text"}), FRAME).Width(), 20);
+}
+
+TEST(SubtitleDrawer, ShapesArabicAndDrawsEveryScript)
+{
+    // "salam" joined is narrower than its letters apart; the non-joiner keeps them apart without taking room.
+    InkBox const joined = DrawnBox(DejaVu(40.0), PlainText({"\u0633\u0644\u0627\u0645"}), FRAME);
+    InkBox const apart = DrawnBox(DejaVu(40.0), PlainText({"\u0633\u200C\u0644\u200C\u0627\u200C\u0645"}), FRAME);
+    EXPECT_GT(joined.Width(), 30);
+    EXPECT_GT(apart.Width(), joined.Width() * 5 / 4);
+
+    // Right to left: the alef stands at the end of the word, which is its left side.
+    InkBox const hebrew = DrawnBox(DejaVu(40.0), PlainText({"\u05E9\u05DC\u05D5\u05DD"}), FRAME);
+    EXPECT_GT(hebrew.Width(), 40);
+    for (char const* const text :
+         {"\u65E5\u672C\u8A9E", "\uD55C\uAD6D\uC5B4", "\u0420\u0443\u0441", "\u0395\u03BB\u03BB"})
+        EXPECT_GT(DrawnBox(DejaVu(40.0), PlainText({text}), FRAME).Width(), 50) << text;
+}
+
+TEST(SubtitleDrawer, WrapsCjkTextThatHasNoSpaces)
+{
+    std::string text;
+    for (int i = 0; i < 60; ++i)
+        text += "\u6F22";
+    InkBox const ink = DrawnBox(DejaVu(), PlainText({text}), FRAME);
+    EXPECT_GT(ink.left, 4);
+    EXPECT_LT(ink.right, 636);
+    EXPECT_GT(ink.Height(), 40);
+}
+
+TEST(SubtitleDrawer, KeepsScriptsStylesAndConvertsTheirColoursAsTheirAuthorsSawThem)
+{
+    // Drawn blocks: no font involved. Red through BT.601 unless the script says otherwise.
+    std::string const block = "{\\pos(192,144)\\bord0\\shad0\\1c&H0000FF&\\p1}m 0 0 l 100 0 100 100 0 100{\\p0}";
+    auto const lumaOf = [&](std::string const& header, ColorDescription const& color)
+    {
+        TestPicture picture(384, 288, PlanarYuv(8, 1, 1));
+        picture.View().color = color;
+        MakeDrawer(DejaVu(), Script({block}, "An5", header), {384, 288, 1, 1})
+            ->Draw(picture.View(), milliseconds(1500));
+        return picture.Sample(0, 192, 144);
+    };
+    ColorDescription hd;
+    EXPECT_EQ(lumaOf("", hd), 81);
+    EXPECT_EQ(lumaOf("YCbCr Matrix: TV.601\n", hd), 81);
+    EXPECT_EQ(lumaOf("YCbCr Matrix: TV.709\n", hd), 63);
+    EXPECT_EQ(lumaOf("YCbCr Matrix: None\n", hd), 63);
+    ColorDescription sd;
+    sd.matrix = YuvMatrix::Bt601;
+    EXPECT_EQ(lumaOf("YCbCr Matrix: None\n", sd), 81);
+}
+
+TEST(SubtitleDrawer, AnimatedEventsChangeFromFrameToFrame)
+{
+    for (char const* const text :
+         {"{\\t(\\fscx200)}Wide", "{\\move(50,100,300,100)}Move", "{\\fad(1000,0)}Fade", "{\\k30}a{\\k30}b{\\k40}c",
+          "{\\fade(255,0,255,0,500,600,1000)}Fade", "{\\K100}Sweep"})
+    {
+        DrawerPtr const drawer = MakeDrawer(DejaVu(), Script({text}, "An5"), FRAME);
+        auto const first = DrawnBytes(*drawer, milliseconds(1100));
+        EXPECT_NE(first, DrawnBytes(*drawer, milliseconds(1700))) << text;
+        EXPECT_EQ(first, DrawnBytes(*drawer, milliseconds(1100))) << text;
+    }
+    TextDocument banner = Script({"Breaking news"}, "An5");
+    banner.cues[0].effect = "Banner;5;0;0";
+    DrawerPtr const drawer = MakeDrawer(DejaVu(), banner, FRAME);
+    EXPECT_NE(DrawnBytes(*drawer, milliseconds(1500)), DrawnBytes(*drawer, milliseconds(1900)));
+}
+
+/// Cues that overlap, follow each other and repeat, in several layers and animated ones among them.
+TextDocument BusyScript()
+{
+    TextDocument document = Script({});
+    auto const add = [&](int startMs, int endMs, std::string const& text, std::string const& style)
+    {
+        document.cues.push_back(MakeCue(milliseconds(startMs), milliseconds(endMs), text));
+        document.cues.back().style = style;
+    };
+    add(0, 1000, "First", "An2");
+    add(500, 1500, "Second stands above the first", "An2");
+    add(1200, 2500, "Third takes the free place", "An2");
+    add(700, 2200, "{\\an8}Top", "An2");
+    add(900, 1800, "{\\pos(100,100)}Sign", "An7");
+    add(1400, 2000, "{\\fad(200,200)}Fading", "An5");
+    add(3000, 3500, "Alone", "An2");
+    return document;
+}
+
+TEST(SubtitleDrawer, ThePictureDependsOnTheTimeAlone)
+{
+    SettingsSubtitleDrawer moved = DejaVu();
+    moved.SetMoveSubtitles(20, 0);
+    for (SettingsSubtitleDrawer const& settings : {DejaVu(), moved})
+    {
+        DrawerPtr const forwards = MakeDrawer(settings, BusyScript(), FRAME);
+        std::vector<std::vector<std::uint8_t>> frames;
+        for (int i = 0; i < 90; ++i)
+            frames.push_back(DrawnBytes(*forwards, milliseconds(i * 40)));
+
+        DrawerPtr const backwards = MakeDrawer(settings, BusyScript(), FRAME);
+        for (int i = 89; i >= 0; --i)
+            ASSERT_EQ(DrawnBytes(*backwards, milliseconds(i * 40)), frames[static_cast<std::size_t>(i)]) << i;
+        for (int i = 0; i < 90; i += 11)
+        {
+            DrawerPtr const fresh = MakeDrawer(settings, BusyScript(), FRAME);
+            ASSERT_EQ(DrawnBytes(*fresh, milliseconds(i * 40)), frames[static_cast<std::size_t>(i)]) << i;
+        }
+    }
+}
+
+TEST(SubtitleDrawer, KeepsApartPicturesOfDifferentKinds)
+{
+    DrawerPtr const drawer = MakeDrawer(DejaVu(), PlainText({"Both"}), FRAME);
+    TestPicture yuv(640, 360, PlanarYuv(8, 1, 1));
+    TestPicture rgb(640, 360, PackedRgb({2, 1, 0, 3}));
+    drawer->Draw(yuv.View(), milliseconds(1500));
+    auto const first = yuv.Bytes();
+    drawer->Draw(rgb.View(), milliseconds(1500));
+    yuv.Restore();
+    drawer->Draw(yuv.View(), milliseconds(1500));
+    EXPECT_EQ(yuv.Bytes(), first);
+    InkBox const a = yuv.Changed();
+    InkBox const b = rgb.Changed();
+    EXPECT_NEAR(a.Width(), b.Width(), 4);
+    EXPECT_EQ(rgb.Sample(3, a.CenterX(), a.CenterY()) != rgb.Original(3, a.CenterX(), a.CenterY()) ||
+                  rgb.Sample(0, a.CenterX(), a.CenterY()) == rgb.Original(0, a.CenterX(), a.CenterY()),
+              true);
+}
+
+TEST(SubtitleDrawer, SurvivesOddGeometry)
+{
+    for (PictureGeometry const& geometry :
+         {PictureGeometry{1, 1, 1, 1}, {2, 2000, 1, 1}, {1999, 3, 1, 1}, {321, 243, 0, 0}, {320, 240, 1000, 1}})
+    {
+        TestPicture picture(geometry.width, geometry.height, PlanarYuv(8, 1, 1));
+        static_cast<void>(
+            MakeDrawer(DejaVu(), PlainText({"Text in a corner"}), geometry)->Draw(picture.View(), milliseconds(1500)));
         EXPECT_FALSE(picture.IsGuardTouched());
     }
+    auto const refused = MakeSubtitleDrawer(DejaVu(), PlainText({"x"}), {0, 100, 1, 1});
+    ASSERT_FALSE(refused);
+    EXPECT_EQ(refused.GetError().code, Core::ErrorCode::InvalidSetting);
+}
+
+TEST(SubtitleDrawer, SaysThatNoFontIsInstalled)
+{
+    char const* const usual = std::getenv("FONTCONFIG_FILE");
+    std::string const before = usual != nullptr ? usual : "";
+    std::string const config = testing::TempDir() + "no-fonts.conf";
+    std::FILE* const file = std::fopen(config.c_str(), "w");
+    ASSERT_NE(file, nullptr);
+    std::fputs("<?xml version=\"1.0\"?><fontconfig></fontconfig>", file);
+    std::fclose(file);
+    ASSERT_EQ(setenv("FONTCONFIG_FILE", config.c_str(), 1), 0);
+    auto const drawer = MakeSubtitleDrawer(DejaVu(), PlainText({"x"}), FRAME);
+    if (before.empty())
+        unsetenv("FONTCONFIG_FILE");
+    else
+        setenv("FONTCONFIG_FILE", before.c_str(), 1);
+    std::remove(config.c_str());
+    ASSERT_FALSE(drawer);
+    EXPECT_EQ(drawer.GetError().code, Core::ErrorCode::NoUsableFont);
 }
 
 } // namespace
