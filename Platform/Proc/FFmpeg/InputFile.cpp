@@ -77,6 +77,21 @@ Core::Error OpenError(int averror, ioPath const& path, std::string head)
     return MakeError(ErrorCode::FormatUnknown, path);
 }
 
+/// True when no frames have to be timed to learn the frame rate: the header states it, or the coded stream will.
+bool StatesFrameRates(AVFormatContext const& context)
+{
+    std::string const name = context.iformat->name;
+    if (name == "mpegts" || name == "mpeg")
+        return true;
+    for (unsigned i = 0; i < context.nb_streams; ++i)
+    {
+        AVStream const& stream = *context.streams[i];
+        if (stream.codecpar->codec_type == AVMEDIA_TYPE_VIDEO && stream.avg_frame_rate.num == 0)
+            return false;
+    }
+    return context.nb_streams > 0;
+}
+
 /// Stream parameters, as far as asked. Zero on success.
 int Analyse(AVFormatContext& context, StreamAnalysis analysis)
 {
@@ -84,8 +99,9 @@ int Analyse(AVFormatContext& context, StreamAnalysis analysis)
         return 0;
     if (analysis == StreamAnalysis::Quick)
     {
-        // Frame rates come from the header or from the first few frames; sparse subtitle streams are not waited for.
-        context.fps_probe_size = 0;
+        if (StatesFrameRates(context))
+            context.fps_probe_size = 0;
+        // Sparse subtitle streams are not waited for.
         context.max_analyze_duration = 3 * AV_TIME_BASE;
     }
     return avformat_find_stream_info(&context, nullptr);
