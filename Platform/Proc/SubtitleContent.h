@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Core/Export.h"
 #include "Core/ioPath.h"
 
 #include <chrono>
@@ -81,14 +82,21 @@ struct TextDocument
     [[nodiscard]] bool HasOwnLook() const { return !scriptHeader.empty(); }
 };
 
-/// One rectangle of a bitmap subtitle, straight (not premultiplied) RGBA, 4 bytes a pixel, rows without padding.
-struct BitmapRect
+class PackedPicture;
+
+/// One rectangle of a bitmap subtitle. `rgba` or `packed` holds its picture.
+struct KORVEX_PLATFORM_API BitmapRect
 {
     int x = 0; ///< on the cue's canvas
     int y = 0;
     int width = 0;
     int height = 0;
-    std::shared_ptr<std::vector<std::uint8_t> const> rgba;
+    std::shared_ptr<std::vector<std::uint8_t> const> rgba{}; ///< as `Pixels` gives it
+    std::shared_ptr<PackedPicture const> packed{};           ///< what the readers make
+
+    /// Straight (not premultiplied) RGBA, 4 bytes a pixel, rows without padding. Null when there is no picture. Unpacks
+    /// at every call: keep the result while it is shown.
+    [[nodiscard]] std::shared_ptr<std::vector<std::uint8_t> const> Pixels() const;
 };
 
 /// One bitmap event. The canvas is the picture that the track was made for; it is scaled onto the real one.

@@ -63,7 +63,7 @@ private:
     PictureGeometry m_geometry;
     std::chrono::microseconds m_timeShift;
     BitmapCue const* m_cue = nullptr;
-    std::vector<std::vector<std::uint8_t>> m_pixels; ///< scaled ones
+    std::vector<std::shared_ptr<std::vector<std::uint8_t> const>> m_pixels; ///< those that m_ink shows
     Ink m_ink;
 };
 
@@ -115,9 +115,7 @@ std::vector<BitmapInkSource::Placed> BitmapInkSource::Place(BitmapCue const& cue
     std::vector<Placed> placed;
     for (BitmapRect const& rect : cue.rects)
     {
-        std::size_t const size =
-            4 * static_cast<std::size_t>(std::max(rect.width, 0)) * static_cast<std::size_t>(std::max(rect.height, 0));
-        if (size == 0 || !rect.rgba || rect.rgba->size() < size)
+        if (rect.width <= 0 || rect.height <= 0 || (!rect.rgba && !rect.packed))
             continue;
         int const left = column(rect.x);
         int const top = row(rect.y);
@@ -199,13 +197,14 @@ void BitmapInkSource::Rasterize(Placed const& placed)
     BitmapRect const& rect = *placed.rect;
     int const width = placed.box.right - placed.box.left;
     int const height = placed.box.bottom - placed.box.top;
-    std::uint8_t const* pixels = rect.rgba->data();
+    std::shared_ptr<std::vector<std::uint8_t> const> pixels = rect.Pixels();
+    if (pixels->size() < 4 * static_cast<std::size_t>(rect.width) * static_cast<std::size_t>(rect.height))
+        return;
     if (width != rect.width || height != rect.height)
-    {
-        m_pixels.push_back(ScaleRgba(pixels, rect.width, rect.height, width, height));
-        pixels = m_pixels.back().data();
-    }
-    m_ink.bitmaps.push_back({placed.box.left, placed.box.top, width, height, pixels});
+        pixels = std::make_shared<std::vector<std::uint8_t> const>(
+            ScaleRgba(pixels->data(), rect.width, rect.height, width, height));
+    m_ink.bitmaps.push_back({placed.box.left, placed.box.top, width, height, pixels->data()});
+    m_pixels.push_back(std::move(pixels));
 }
 
 bool BitmapInkSource::Update(std::chrono::microseconds time)

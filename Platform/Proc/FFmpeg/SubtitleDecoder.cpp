@@ -3,6 +3,8 @@
 #include "Proc/FFmpeg/StreamFacts.h"
 #include "Proc/FFmpeg/TextPackets.h"
 
+#include "Proc/PackedPicture.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -57,13 +59,25 @@ std::optional<Box> FindInk(AVSubtitleRect const& rect, std::uint32_t const* pale
     return box.bottom > box.top ? std::optional<Box>(box) : std::nullopt;
 }
 
-/// Pictures are kept without their transparent margins, which are most of the memory in some tracks.
-std::optional<BitmapRect> ToRgba(AVSubtitleRect const& rect)
+std::vector<PackedPicture::Color> ToColors(std::uint32_t const* palette, int count)
+{
+    std::vector<PackedPicture::Color> colors;
+    for (int i = 0; i < count; ++i)
+    {
+        auto const component = [argb = palette[i]](int shift) { return static_cast<std::uint8_t>(argb >> shift); };
+        colors.push_back({component(16), component(8), component(0), component(24)});
+    }
+    return colors;
+}
+
+/// Pictures are kept without their transparent margins, which are most of some tracks.
+std::optional<BitmapRect> MakeRect(AVSubtitleRect const& rect)
 {
     if (rect.type != SUBTITLE_BITMAP || rect.w <= 0 || rect.h <= 0 || !rect.data[0] || !rect.data[1])
         return std::nullopt;
     std::uint32_t palette[256] = {};
-    std::memcpy(palette, rect.data[1], static_cast<std::size_t>(std::clamp(rect.nb_colors, 0, 256)) * 4);
+    int const colorCount = std::clamp(rect.nb_colors, 0, 256);
+    std::memcpy(palette, rect.data[1], static_cast<std::size_t>(colorCount) * 4);
     std::optional<Box> const ink = FindInk(rect, palette);
     if (!ink)
         return std::nullopt;
@@ -73,19 +87,14 @@ std::optional<BitmapRect> ToRgba(AVSubtitleRect const& rect)
     result.y = rect.y + ink->top;
     result.width = ink->right - ink->left;
     result.height = ink->bottom - ink->top;
-    auto pixels = std::make_shared<std::vector<std::uint8_t>>();
-    pixels->reserve(static_cast<std::size_t>(result.width) * static_cast<std::size_t>(result.height) * 4);
+    std::vector<std::uint8_t> indices;
+    indices.reserve(static_cast<std::size_t>(result.width) * static_cast<std::size_t>(result.height));
     for (int y = ink->top; y < ink->bottom; ++y)
     {
         std::uint8_t const* row = rect.data[0] + static_cast<std::ptrdiff_t>(y) * rect.linesize[0];
-        for (int x = ink->left; x < ink->right; ++x)
-        {
-            std::uint32_t const argb = palette[row[x]];
-            for (int shift : {16, 8, 0, 24})
-                pixels->push_back(static_cast<std::uint8_t>(argb >> shift));
-        }
+        indices.insert(indices.end(), row + ink->left, row + ink->right);
     }
-    result.rgba = std::move(pixels);
+    result.packed = std::make_shared<PackedPicture const>(indices, ToColors(palette, colorCount));
     return result;
 }
 
@@ -202,7 +211,7 @@ BitmapCue SubtitleDecoder::MakeBitmap(AVSubtitle const& subtitle) const
     cue.canvasHeight = hasCanvas ? m_decoder->height : m_fallbackCanvasHeight;
     for (unsigned i = 0; i < subtitle.num_rects; ++i)
     {
-        std::optional<BitmapRect> rect = ToRgba(*subtitle.rects[i]);
+        std::optional<BitmapRect> rect = MakeRect(*subtitle.rects[i]);
         if (!rect)
             continue;
         cue.isForced = cue.isForced || (subtitle.rects[i]->flags & AV_SUBTITLE_FLAG_FORCED) != 0;

@@ -129,7 +129,7 @@ TEST_F(ExportTest, BluRayTracksAreTheSameInAFileOfTheirOwn)
     {
         EXPECT_EQ(after.cues[i].start, before.cues[i].start);
         EXPECT_EQ(after.cues[i].end, before.cues[i].end);
-        EXPECT_EQ(*after.cues[i].rects[0].rgba, *before.cues[i].rects[0].rgba);
+        EXPECT_EQ(*after.cues[i].rects[0].Pixels(), *before.cues[i].rects[0].Pixels());
     }
     EXPECT_EQ(ExtractSubtitle(StreamOf(film, 1), m_folder / "x.srt").GetError().code, ErrorCode::ContainerCannotCarry);
 }

@@ -82,7 +82,7 @@ TEST(StreamsTest, DecodedEventsAreThoseOfTheWholeTrack)
                 BitmapCue const& cue = std::get<BitmapDocument>(*document).cues[i];
                 EXPECT_EQ(std::get<BitmapCue>(events[i]).start, cue.start);
                 EXPECT_EQ(std::get<BitmapCue>(events[i]).end, cue.end);
-                EXPECT_EQ(*std::get<BitmapCue>(events[i]).rects[0].rgba, *cue.rects[0].rgba);
+                EXPECT_EQ(*std::get<BitmapCue>(events[i]).rects[0].Pixels(), *cue.rects[0].Pixels());
             }
         }
     }
