@@ -30,9 +30,11 @@ else()
     target_include_directories(korvex_container INTERFACE
         "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Platform/Hypodermic>"
         "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/korvex/Hypodermic>")
+    target_link_libraries(korvex_container INTERFACE Boost::headers)
     set(KORVEX_CONTAINER_IS_OWN ON)
     set(KORVEX_CONTAINER "the project's own header")
 endif()
+add_library(Korvex::Container ALIAS korvex_container)
 message(STATUS "Container: ${KORVEX_CONTAINER}")
 
 if(KORVEX_BUILD_TESTS)

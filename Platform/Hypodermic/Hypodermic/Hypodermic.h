@@ -1,0 +1,4 @@
+#pragma once
+
+#include "Hypodermic/Container.h"
+#include "Hypodermic/ContainerBuilder.h"
