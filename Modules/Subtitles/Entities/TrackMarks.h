@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Subtitles/Entities/Export.h"
+
+#include <string>
+
+namespace Korvex::Converter::Subtitles::Entities
+{
+
+/// What tells tracks of one language apart.
+struct TrackMarks
+{
+    bool isForced = false;
+    bool isHearingImpaired = false;
+    bool isCommentary = false;
+};
+
+/// The marks as a track's `detail`: "Forced SDH"; empty without any.
+[[nodiscard]] KVSUBTITLES_API std::string DescribeMarks(TrackMarks const& marks);
+
+} // namespace Korvex::Converter::Subtitles::Entities

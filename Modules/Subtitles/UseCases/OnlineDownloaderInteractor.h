@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Subtitles/Entities/Export.h"
+#include "Subtitles/UseCases/IOnlineDownloaderInteractor.h"
+
+#include <memory>
+#include <vector>
+
+namespace Korvex::Converter::Subtitles::UseCases
+{
+
+class IOnlineDownloaderController;
+class IOnlineSearchMetadataFiller;
+
+class KVSUBTITLES_API OnlineDownloaderInteractor final : public IOnlineDownloaderInteractor
+{
+public:
+    /// @param services the online services that are set up; the first one serves, none is allowed
+    /// @param fillers adds what the service understands about files; none is allowed
+    OnlineDownloaderInteractor(std::shared_ptr<IOnlineDownloaderController> const& controller,
+                               std::vector<std::shared_ptr<IOnlineSearchController>> const& services,
+                               std::vector<std::shared_ptr<IOnlineSearchMetadataFiller>> const& fillers);
+    ~OnlineDownloaderInteractor() override;
+
+    void RegisterEventHandler(IOnlineDownloaderInteractorObserver* observer) override;
+    void UnregisterEventHandler(IOnlineDownloaderInteractorObserver* observer) override;
+    bool IsAvailable() const override;
+    SearchRequest MakeQuery(Entities::SubtitleSearchMediaInfoSettings const& media) const override;
+    IOnlineSearchController::Status StartSearch(Entities::SubtitleCollectionID collection,
+                                                SearchRequest const& request) override;
+    IOnlineSearchController::Status Download(Entities::SubtitleCollectionID collection,
+                                             std::vector<std::shared_ptr<SearchResult>> const& results,
+                                             ioPath const& folder) override;
+    bool Cancel() override;
+
+private:
+    class Impl;
+    std::unique_ptr<Impl> m_impl;
+};
+
+} // namespace Korvex::Converter::Subtitles::UseCases

@@ -1,0 +1,8 @@
+#include "Subtitles/UseCases/SearchResult.h"
+
+namespace Korvex::Converter::Subtitles::UseCases
+{
+
+SearchResult::~SearchResult() = default;
+
+} // namespace Korvex::Converter::Subtitles::UseCases
