@@ -1,0 +1,34 @@
+# Who may include whom. One rule a folder: the folder, then what its files may include besides themselves and the
+# standard library. The longest folder that a file lies in decides. A pattern with a slash or an extension is a regular
+# expression on the text of the include; the words below stand for groups.
+
+set(INCLUDE_GROUPS
+    "BOOST_POINTERS=^boost/(smart_ptr|core)/"
+    "BOOST=^boost/"
+    "GLOG=^glog/"
+    "QT_CORE=^Q(ByteArray|CoreApplication|DateTime|Dir|EventLoop|File|FileInfo|Json[A-Za-z]*|Locale|MetaObject|MetaType|Object|Pointer|Settings|StandardPaths|String|StringList|TextStream|Thread|Timer|Translator|Url|UrlQuery|Variant|tEndian)$"
+    "QT_GUI=^Q(Font|Color|Image|ImageWriter|FontDatabase|GuiApplication|Painter|Transform)$"
+    "FFMPEG=^lib(av[a-z]*|sw[a-z]*)/"
+    "ASS=^(ass/|fontconfig/)"
+    "TEXT=^(uchardet|iconv\\.h)"
+    "CONTAINER=^Hypodermic/"
+)
+
+set(INCLUDE_RULES
+    # folder                                  allowed
+    "Modules/Subtitles/Entities|^Subtitles/Entities/ ^Core/(ioPath|EventPublisher|EventHandlerList)\\.h QT_CORE QT_GUI BOOST"
+    "Modules/Subtitles/UseCases|^Subtitles/(Entities|UseCases)/ ^Transcoder/ ^Core/(ioPath|FileSystem|ScopedObservation)\\.h QT_CORE BOOST_POINTERS GLOG CONTAINER"
+    "Modules/Subtitles/Adapters|^Subtitles/(Entities|UseCases|Adapters)/ ^Proc/[A-Za-z]+\\.h ^Core/ ^Conf/ ^App/ QT_CORE QT_GUI BOOST_POINTERS GLOG CONTAINER"
+    "Modules/Subtitles|^Subtitles/"
+    "Platform/Conf|^Conf/ ^Core/"
+    "Platform/Core|^Core/ BOOST ^(fcntl|unistd|windows|io|dirent|share)\\.h ^sys/"
+    "Platform/Proc/FFmpeg|^Proc/ ^Core/ ^Conf/ FFMPEG BOOST_POINTERS GLOG"
+    "Platform/Proc/Ass|^Proc/ ^Core/ ^Conf/ ASS BOOST_POINTERS GLOG"
+    "Platform/Proc/Text|^Proc/ ^Core/ ^Conf/ TEXT BOOST_POINTERS GLOG"
+    "Platform/Proc/Blend|^Proc/ ^Core/ ^[a-z0-9]*intrin\\.h ^arm_neon\\.h"
+    "Platform/Proc|^Proc/ ^Core/ ^Conf/ BOOST_POINTERS GLOG"
+    "Platform/Transcoder|^Transcoder/ ^Proc/[A-Za-z]+\\.h ^Core/ ^Conf/ QT_CORE GLOG"
+    "Platform/App|^App/ ^Core/ QT_CORE GLOG"
+    "Platform/Hypodermic|^Hypodermic/ BOOST"
+    "Hosts|^Subtitles/Subtitles\\.h ^Subtitles/Entities/ ^Subtitles/UseCases/(Composition|I[A-Z][A-Za-z]*Factory)\\.h ^Subtitles/Adapters/HostBridge\\.h ^(App|Core|Conf|Proc|Transcoder)/[A-Za-z]+\\.h ^(Cli|Desktop|Common)/ QT_CORE QT_GUI GLOG CONTAINER"
+)
