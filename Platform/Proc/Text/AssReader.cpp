@@ -97,7 +97,11 @@ private:
             return false;
         }
         std::string const name = ToLower(Trim(line.substr(1, end - 1)));
-        bool const isData = m_section == Section::Fonts;
+        // Encoded data may begin with a bracket; it has no small letters.
+        if (m_section == Section::Fonts && line.find_first_of("abcdefghijklmnopqrstuvwxyz") == std::string_view::npos)
+        {
+            return false;
+        }
         bool const isStyles = name.size() > 6 && name.compare(name.size() - 6, 6, "styles") == 0;
         if (name == "script info")
         {
@@ -116,10 +120,6 @@ private:
         else if (name == "fonts")
         {
             m_section = Section::Fonts;
-        }
-        else if (isData && name.find_first_of("abcdefghijklmnopqrstuvwxyz") == std::string::npos)
-        {
-            return false;
         }
         else
         {

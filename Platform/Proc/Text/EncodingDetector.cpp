@@ -62,10 +62,18 @@ LanguageModel const* GetLocaleLanguage()
     return name != nullptr ? FindLanguage(name) : nullptr;
 }
 
+/// How many bytes a character has.
+enum class Width
+{
+    Byte,
+    Pair,
+};
+
 struct Candidate
 {
     std::string encoding;
     double score;
+    Width width;
 };
 
 class Detection
@@ -94,12 +102,12 @@ public:
     {
         for (EncodingModel const& encoding : GetByteEncodings())
         {
-            Consider(encoding,
+            Consider(encoding, Width::Byte,
                      [&](LanguageModel const& language) { return ScoreByteEncoding(m_stripped, encoding, language); });
         }
         for (EncodingModel const& encoding : GetPairEncodings())
         {
-            Consider(encoding,
+            Consider(encoding, Width::Pair,
                      [&](LanguageModel const& language) { return ScorePairEncoding(m_sample, encoding, language); });
         }
         return Choose();
@@ -107,9 +115,9 @@ public:
 
 private:
     template <typename Score>
-    void Consider(EncodingModel const& encoding, Score&& score)
+    void Consider(EncodingModel const& encoding, Width width, Score&& score)
     {
-        Candidate best{std::string(encoding.name), -HUGE_VAL};
+        Candidate best{std::string(encoding.name), -HUGE_VAL, width};
         for (LanguageModel const& language : GetLanguageModels())
         {
             if (HasWord(encoding.languages, language.codes.substr(0, language.codes.find(' '))))
@@ -139,8 +147,9 @@ private:
         double const high = static_cast<double>(
             std::count_if(m_stripped.begin(), m_stripped.end(), [](char byte) { return (byte & 0x80) != 0; }));
         // Nothing reads as text: what the user's machine used to write is as good as any.
-        static constexpr double HOPELESS = -10.0;
-        if (high == 0 || best.score / high < HOPELESS)
+        static constexpr double HOPELESS = -7.5;
+        static constexpr double HOPELESS_PAIR = -5.2; // a byte is half a character there
+        if (high == 0 || best.score / high < (best.width == Width::Pair ? HOPELESS_PAIR : HOPELESS))
         {
             static constexpr double CONFIDENCE = 0.1;
             LanguageModel const* const language = !m_hinted.empty() ? m_hinted.front() : m_locale;
@@ -149,7 +158,33 @@ private:
         }
         static constexpr double SURE = 5.0;
         double const confidence = 1 - std::exp(-(best.score - rivalScore) / SURE);
-        return {best.encoding, TextDecodeReport::Source::Detector, std::clamp(confidence, 0.05, 0.99)};
+        return {PreferOffered(best.encoding), TextDecodeReport::Source::Detector, std::clamp(confidence, 0.05, 0.99)};
+    }
+
+    /// Of pages that give the same text the one that the core's users can choose. Bytes at 80 to 9F speak against the
+    /// ISO pages, which have no characters there.
+    std::string PreferOffered(std::string const& encoding) const
+    {
+        static constexpr std::string_view OFFERED =
+            "ISO-8859-15 CP1251 CP1250 KOI8-R KOI8-U ISO-8859-9 ISO-8859-7 ISO-8859-8 "
+            "ISO-8859-13 ISO-8859-3 CP932 CP936 BIG-5";
+        if (HasWord(OFFERED, encoding))
+        {
+            return encoding;
+        }
+        bool const hasWindowsBytes = std::any_of(m_sample.begin(), m_sample.end(),
+                                                 [](char byte) { return static_cast<unsigned char>(byte) >> 5 == 4; });
+        std::string const text = Decode(encoding);
+        for (Candidate const& candidate : m_candidates)
+        {
+            bool const isIso = candidate.encoding.compare(0, 3, "ISO") == 0;
+            if (HasWord(OFFERED, candidate.encoding) && !(isIso && hasWindowsBytes) &&
+                Decode(candidate.encoding) == text)
+            {
+                return candidate.encoding;
+            }
+        }
+        return encoding;
     }
 
     /// The best score among those that would give another text.

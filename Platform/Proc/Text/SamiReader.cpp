@@ -32,16 +32,9 @@ bool HasVisibleText(std::string_view html)
         if (html[0] == '<')
         {
             auto const tag = ParseTag(html, 0);
-            bool const isComment = html.substr(0, 4) == "<!--";
             if (tag)
             {
                 html.remove_prefix(tag->length);
-                continue;
-            }
-            if (isComment)
-            {
-                std::size_t const end = html.find("-->");
-                html.remove_prefix(end == std::string_view::npos ? 4 : end + 3);
                 continue;
             }
         }
@@ -125,8 +118,12 @@ private:
 
     std::size_t TakeComment(std::size_t position)
     {
-        std::size_t const end = m_text.find("-->", position);
-        return end == std::string_view::npos ? position + 4 : end + 3;
+        // Looked up once for all comments that are not closed.
+        if (m_commentEnd <= position)
+        {
+            m_commentEnd = std::min(m_text.find("-->", position), m_text.size());
+        }
+        return m_commentEnd == m_text.size() ? position + 4 : m_commentEnd + 3;
     }
 
     /// The attributes of the tag at `position`; `end` is set behind it. A tag that is not closed ends where its
@@ -236,6 +233,7 @@ private:
 
     std::string_view m_text;
     Paragraph m_current;
+    std::size_t m_commentEnd = 0;
     microseconds m_lastTime{0};
     bool m_isInSync = false;
     bool m_hasParagraph = false;

@@ -251,7 +251,8 @@ std::optional<TimeLine> ParseTimeLine(std::string_view line)
     {
         result.start = start->time;
         result.end = end->time;
-        result.rest = Trim(rest);
+        rest = Trim(rest);
+        result.rest = rest == ":" ? std::string_view() : rest;
         return result;
     }
     if (arrow == Arrow::Exact && (start || end) && Trim(rest).empty())

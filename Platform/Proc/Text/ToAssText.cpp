@@ -377,8 +377,11 @@ private:
     {
         if (m_text.substr(m_position, 4) == "<!--")
         {
-            std::size_t const end = m_text.find("-->", m_position);
-            m_position = end == std::string_view::npos ? m_position + 4 : end + 3;
+            if (m_commentEnd <= m_position)
+            {
+                m_commentEnd = std::min(m_text.find("-->", m_position), m_text.size());
+            }
+            m_position = m_commentEnd == m_text.size() ? m_position + 4 : m_commentEnd + 3;
             return true;
         }
         auto const tag = ParseTag(m_text, m_position);
@@ -403,6 +406,7 @@ private:
 
     bool m_hasText = false;
     bool m_blankWaits = false;
+    std::size_t m_commentEnd = 0;
 };
 
 std::string EscapePlain(std::string_view text)

@@ -248,7 +248,7 @@ private:
         Put(std::string_view(&letter, 1));
         std::string_view const rest = m_text.substr(position + 1);
         bool const wouldBeTag = letter == '<' && !rest.empty() && (IsLetter(rest[0]) || rest[0] == '/');
-        bool const wouldBeBlock = letter == '{' && (rest.substr(0, 1) == "\\" || rest.substr(1, 1) == ":");
+        bool const wouldBeBlock = letter == '{' && (rest.substr(0, 1) == "\\" || (rest.size() > 1 && rest[1] == ':'));
         bool wouldBeReference = false;
         if (letter == '&')
         {
