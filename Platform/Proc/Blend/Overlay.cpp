@@ -14,7 +14,12 @@ namespace
 
 /// Rows composed at a time: a multiple of every chroma block, by field too, and few enough to stay in the cache.
 constexpr int STRIP_ROWS = 16;
-constexpr std::size_t ALPHA = 3;
+
+/// Grey pictures carry their transparency right behind the only other component.
+bool IsAlpha(PixelLayout const& layout, std::size_t component)
+{
+    return component == 3 || (layout.model == ColorModel::Gray && component == 1);
+}
 
 bool IsSame(PixelLayout const& a, PixelLayout const& b)
 {
@@ -301,7 +306,7 @@ void Overlay::Emit(Group const& group, int row, int first, int count, std::uint1
     for (std::size_t const component : group.components)
     {
         std::size_t const at = offset + static_cast<std::size_t>(sampleOffset(component) - low);
-        if (component == ALPHA)
+        if (IsAlpha(layout, component))
             StoreAlpha(m_keep.data() + at, m_add.data() + at, group.step, keep, opaque, half, count);
         else
             StoreColor(m_keep.data() + at, m_add.data() + at, group.step, keep, color[component], half, count);

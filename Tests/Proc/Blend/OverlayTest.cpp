@@ -54,7 +54,8 @@ public:
     {
         ReferencePixel const ink = InkOf(component, x, y);
         double const peak = (1 << m_kind.layout.bitDepth) - 1;
-        double const added = component == 3 ? (1.0 - ink.keep) * peak : ink.color[static_cast<std::size_t>(component)];
+        bool const isAlpha = component == 3 || (m_kind.layout.model == ColorModel::Gray && component == 1);
+        double const added = isAlpha ? (1.0 - ink.keep) * peak : ink.color[static_cast<std::size_t>(component)];
         return std::min(picture.Original(component, x, y) * ink.keep + added, peak);
     }
 
@@ -219,6 +220,14 @@ PixelLayout Yuyv()
     return layout;
 }
 
+PixelLayout GrayAlpha()
+{
+    PixelLayout layout = GrayLayout(8);
+    layout.componentCount = 2;
+    layout.components = {{{0, 2, 0}, {0, 2, 1}, {}, {}}};
+    return layout;
+}
+
 PixelLayout WithAlpha(PixelLayout layout)
 {
     layout.componentCount = 4;
@@ -268,7 +277,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Kind{"yuv422p12", PlanarYuv(12, 1, 0), Sited(0, 2)}, Kind{"yuv444p12", PlanarYuv(12, 0, 0), {}},
                     Kind{"nv12", SemiPlanarYuv(), Sited(0, 2)}, Kind{"yuyv", Yuyv(), Sited(0, 2)},
                     Kind{"gray", GrayLayout(8), {}}, Kind{"gray10", GrayLayout(10), {}},
-                    Kind{"rgb24", PackedRgb({0, 1, 2}), {}}, Kind{"bgra", PackedRgb({2, 1, 0, 3}), {}},
+                    Kind{"grayAlpha", GrayAlpha(), {}}, Kind{"rgb24", PackedRgb({0, 1, 2}), {}},
+                    Kind{"bgra", PackedRgb({2, 1, 0, 3}), {}},
                     Kind{"argb", PackedRgb({3, 0, 1, 2}), {}, false, RowOrder::BottomUp},
                     Kind{"gbrp10", PlanarRgb(10), {}},
                     Kind{"single", PlanarYuv(8, 1, 1), Sited(0, 2), true, RowOrder::TopDown, 1, 1}),

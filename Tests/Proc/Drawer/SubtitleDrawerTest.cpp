@@ -1,5 +1,7 @@
 #include "Proc/Drawer/DrawerFixture.h"
 
+#include "Core/FileSystem.h"
+
 #include <cstdlib>
 
 namespace Korvex::Proc::Tests
@@ -243,6 +245,27 @@ TEST(SubtitleDrawer, SurvivesOddGeometry)
     auto const refused = MakeSubtitleDrawer(DejaVu(), PlainText({"x"}), {0, 100, 1, 1});
     ASSERT_FALSE(refused);
     EXPECT_EQ(refused.GetError().code, Core::ErrorCode::InvalidSetting);
+}
+
+TEST(SubtitleDrawer, ReadsTheTrackThatTheSettingsName)
+{
+    ioPath const file(testing::TempDir() + "drawer-cp1251.srt");
+    // "\xCF\xF0" is the beginning of a Russian word; read as another encoding it would be other letters.
+    ASSERT_FALSE(Core::WriteFile(file, "1\n00:00:01,000 --> 00:00:02,000\n\xCF\xF0\xE8\xE2\xE5\xF2\n", true));
+    SettingsSubtitleMixer settings;
+    settings.SetDrawerSettings(DejaVu());
+    settings.SetFilename(file);
+    settings.SetEncoding("CP1251");
+    auto const drawer = MakeSubtitleDrawer(settings, {}, FRAME);
+    Core::RemoveFile(file);
+    ASSERT_TRUE(drawer);
+    DrawerPtr const same = MakeDrawer(DejaVu(), PlainText({"\u041F\u0440\u0438\u0432\u0435\u0442"}), FRAME);
+    EXPECT_EQ(DrawnBytes(**drawer, milliseconds(1500)), DrawnBytes(*same, milliseconds(1500)));
+
+    auto const missing = MakeSubtitleDrawer(settings, {}, FRAME);
+    ASSERT_FALSE(missing);
+    EXPECT_EQ(missing.GetError().code, Core::ErrorCode::FileNotFound);
+    EXPECT_EQ(missing.GetError().file, file);
 }
 
 TEST(SubtitleDrawer, SaysThatNoFontIsInstalled)
