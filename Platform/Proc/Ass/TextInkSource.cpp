@@ -16,14 +16,18 @@ namespace Korvex::Proc::Ass
 namespace
 {
 
-/// Which lines stop together when the user's shift takes them to the edge.
+/// Which lines stop together when the user's shift takes them to the edge; from the bottom up.
 enum class Place
 {
-    Bottom,
+    Fixed, ///< not moved at all
     Middle,
     Top,
-    Fixed, ///< not moved at all
+    Bottom,
 };
+constexpr std::array PLACES{Place::Fixed, Place::Middle, Place::Top, Place::Bottom};
+
+/// How many events are tried before a script with fonts of its own is found to be without any that can be used.
+constexpr std::size_t TRIED_EVENTS = 16;
 
 std::int64_t FloorToMs(std::chrono::microseconds time)
 {
@@ -85,6 +89,9 @@ public:
     }
 
     void Load(TextDocument const& document);
+
+    /// True when one of the first events leaves ink, or when there are no events.
+    [[nodiscard]] bool LeavesInk(TextDocument const& document);
 
     [[nodiscard]] bool IsActiveAt(std::chrono::microseconds time) const override
     {
@@ -158,6 +165,23 @@ void TextInkSource::Load(TextDocument const& document)
         group.track.Finish();
 }
 
+bool TextInkSource::LeavesInk(TextDocument const& document)
+{
+    std::size_t tried = 0;
+    for (auto cue = document.cues.begin(); cue != document.cues.end() && tried < TRIED_EVENTS; ++cue)
+    {
+        // Half-way, in case it fades in.
+        std::chrono::microseconds const time = m_timeShift + cue->start + (cue->end - cue->start) / 2;
+        if (!IsActiveAt(time))
+            continue;
+        ++tried;
+        Update(time);
+        if (!m_ink.IsEmpty())
+            return true;
+    }
+    return tried == 0;
+}
+
 void TextInkSource::Add(TextCue const& cue, std::string text, int readOrder, int styleAlignment, bool hasOwnLook)
 {
     TrackEvent event;
@@ -198,8 +222,14 @@ bool TextInkSource::Update(std::chrono::microseconds time)
     if (!hasChanged)
         return false;
     m_ink.masks.clear();
-    for (Group const& group : m_groups)
-        m_ink.masks.insert(m_ink.masks.end(), group.layers.begin(), group.layers.end());
+    for (Place const place : PLACES)
+    {
+        for (Group const& group : m_groups)
+        {
+            if (group.place == place)
+                m_ink.masks.insert(m_ink.masks.end(), group.layers.begin(), group.layers.end());
+        }
+    }
     return true;
 }
 
@@ -261,15 +291,19 @@ MakeTextInkSource(SettingsSubtitleDrawer const& settings, TextDocument const& do
     if (!context)
         return Core::Error{Core::ErrorCode::Internal, {}, {}, {}, {}, "the text renderer could not be set up"};
     std::string look = MakeLookScript(settings, geometry);
-    // Fonts that the file brings need not have Latin letters.
-    if (document.fonts.empty() && !context->CanDrawLetters(look))
-        return Core::Error{Core::ErrorCode::NoUsableFont, {}, {}, {}, {}, {}};
+    Core::Error const noFont{Core::ErrorCode::NoUsableFont, {}, {}, {}, {}, {}};
+    bool const hasLetters = context->CanDrawLetters(look);
+    if (!hasLetters && document.fonts.empty())
+        return noFont;
     bool const hasOwnLook = document.HasOwnLook();
     context->SetGeometry(geometry, hasOwnLook ? GlyphShape::AsStored : GlyphShape::AsShown);
     auto source = std::make_unique<TextInkSource>(settings, geometry, std::move(context),
                                                   hasOwnLook ? document.scriptHeader : std::move(look),
                                                   hasOwnLook ? LayoutRules::Script : LayoutRules::Modern);
     source->Load(document);
+    // Fonts that the file brings may be all there is, and need not have Latin letters.
+    if (!hasLetters && !source->LeavesInk(document))
+        return noFont;
     return std::unique_ptr<Blend::IInkSource>(std::move(source));
 }
 

@@ -24,6 +24,8 @@ namespace Korvex::Proc::Ass
 /// all but the latter; lines that stand at the top, in the middle and at the bottom stop at the frame's edge each for
 /// themselves.
 ///
+/// While a shift is set, events that stay lie under those that move, whatever their layers.
+///
 /// The picture at a time depends on that time alone, whatever was drawn before it.
 ///
 /// Fails with NoUsableFont when letters leave no ink, which is all that happens where no font is installed.

@@ -2,7 +2,11 @@
 
 #include "Core/FileSystem.h"
 
+#include <fontconfig/fontconfig.h>
+
 #include <cstdlib>
+#include <memory>
+#include <optional>
 
 namespace Korvex::Proc::Tests
 {
@@ -268,24 +272,77 @@ TEST(SubtitleDrawer, ReadsTheTrackThatTheSettingsName)
     EXPECT_EQ(missing.GetError().file, file);
 }
 
-TEST(SubtitleDrawer, SaysThatNoFontIsInstalled)
+/// While it lives no font of the system is found.
+class NoInstalledFonts
 {
-    char const* const usual = std::getenv("FONTCONFIG_FILE");
-    std::string const before = usual != nullptr ? usual : "";
-    std::string const config = testing::TempDir() + "no-fonts.conf";
-    std::FILE* const file = std::fopen(config.c_str(), "w");
-    ASSERT_NE(file, nullptr);
-    std::fputs("<?xml version=\"1.0\"?><fontconfig></fontconfig>", file);
-    std::fclose(file);
-    ASSERT_EQ(setenv("FONTCONFIG_FILE", config.c_str(), 1), 0);
+public:
+    NoInstalledFonts() : m_config(testing::TempDir() + "no-fonts.conf")
+    {
+        if (char const* const usual = std::getenv("FONTCONFIG_FILE"))
+            m_before = usual;
+        EXPECT_FALSE(Core::WriteFile(m_config, "<?xml version=\"1.0\"?><fontconfig></fontconfig>", true));
+        setenv("FONTCONFIG_FILE", m_config.utf8string().c_str(), 1);
+    }
+    ~NoInstalledFonts()
+    {
+        if (m_before)
+            setenv("FONTCONFIG_FILE", m_before->c_str(), 1);
+        else
+            unsetenv("FONTCONFIG_FILE");
+        Core::RemoveFile(m_config);
+    }
+    NoInstalledFonts(NoInstalledFonts const&) = delete;
+    NoInstalledFonts& operator=(NoInstalledFonts const&) = delete;
+
+private:
+    ioPath m_config;
+    std::optional<std::string> m_before;
+};
+
+/// The bytes of an installed font.
+std::string ReadInstalledFont(char const* family)
+{
+    std::string bytes;
+    FcPattern* const wanted = FcNameParse(reinterpret_cast<FcChar8 const*>(family));
+    FcConfigSubstitute(nullptr, wanted, FcMatchPattern);
+    FcDefaultSubstitute(wanted);
+    FcResult result = FcResultNoMatch;
+    FcPattern* const found = FcFontMatch(nullptr, wanted, &result);
+    FcChar8* path = nullptr;
+    if (found != nullptr && FcPatternGetString(found, FC_FILE, 0, &path) == FcResultMatch)
+        bytes = std::move(Core::ReadFile(reinterpret_cast<char const*>(path), 1 << 24)).Value();
+    if (found != nullptr)
+        FcPatternDestroy(found);
+    FcPatternDestroy(wanted);
+    return bytes;
+}
+
+TEST(SubtitleDrawer, SaysThatThereIsNoFontToDrawWith)
+{
+    NoInstalledFonts const none;
     auto const drawer = MakeSubtitleDrawer(DejaVu(), PlainText({"x"}), FRAME);
-    if (before.empty())
-        unsetenv("FONTCONFIG_FILE");
-    else
-        setenv("FONTCONFIG_FILE", before.c_str(), 1);
-    std::remove(config.c_str());
-    ASSERT_FALSE(drawer);
-    EXPECT_EQ(drawer.GetError().code, Core::ErrorCode::NoUsableFont);
+    // A font that comes with the file and is none is no help.
+    TextDocument script = Script({"x"});
+    script.fonts.push_back({"broken.ttf", std::make_shared<std::vector<std::uint8_t> const>(100, std::uint8_t{7})});
+    auto const withBrokenFont = MakeSubtitleDrawer(DejaVu(), script, FRAME);
+    for (auto const* const result : {&drawer, &withBrokenFont})
+    {
+        ASSERT_FALSE(*result);
+        EXPECT_EQ(result->GetError().code, Core::ErrorCode::NoUsableFont);
+    }
+}
+
+TEST(SubtitleDrawer, DrawsWithTheFontsThatComeWithTheFile)
+{
+    std::string const bytes = ReadInstalledFont("DejaVu Sans");
+    InkBox const installed = DrawnBox(DejaVu(), Script({"Attached"}), FRAME);
+    TextDocument script = Script({"Attached"});
+    script.fonts.push_back(
+        {"any name.bin", std::make_shared<std::vector<std::uint8_t> const>(bytes.begin(), bytes.end())});
+    NoInstalledFonts const none;
+    InkBox const attached = DrawnBox(DejaVu(), script, FRAME);
+    EXPECT_EQ(attached.Width(), installed.Width());
+    EXPECT_EQ(attached.top, installed.top);
 }
 
 } // namespace
