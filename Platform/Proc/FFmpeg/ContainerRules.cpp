@@ -33,6 +33,7 @@ std::vector<ContainerRule> MakeRules()
     mp4.subtitleCodecs = {AV_CODEC_ID_DVD_SUBTITLE, AV_CODEC_ID_MOV_TEXT};
     mp4.languageForm = LanguageForm::Terminology;
     mp4.carriesCoverPictures = true;
+    mp4.carriesDisplayMatrix = true;
     mp4.subtitleAdvice = "let text be converted to MOV text, burn the track into the picture, or choose Matroska";
 
     ContainerRule mov = mp4;
@@ -56,9 +57,8 @@ std::vector<ContainerRule> MakeRules()
     ContainerRule m2ts = mpegts;
     m2ts.formatId = IFormatFile::FORMAT_MPEG2TS;
     m2ts.displayName = "M2TS";
-    m2ts.mediaCodecs = {AV_CODEC_ID_MPEG2VIDEO, AV_CODEC_ID_H264,  AV_CODEC_ID_HEVC, AV_CODEC_ID_AC3,
-                        AV_CODEC_ID_EAC3,       AV_CODEC_ID_DTS,   AV_CODEC_ID_AAC,  AV_CODEC_ID_MP2,
-                        AV_CODEC_ID_MP3,        AV_CODEC_ID_TRUEHD};
+    m2ts.mediaCodecs = {AV_CODEC_ID_MPEG2VIDEO, AV_CODEC_ID_H264, AV_CODEC_ID_HEVC, AV_CODEC_ID_AC3,
+                        AV_CODEC_ID_EAC3,       AV_CODEC_ID_DTS,  AV_CODEC_ID_AAC,  AV_CODEC_ID_TRUEHD};
 
     ContainerRule avi;
     avi.formatId = IFormatFile::FORMAT_AVI;

@@ -24,6 +24,7 @@ struct ContainerRule
     bool carriesAttachments = false;
     bool carriesCoverPictures = false;
     bool carriesOneStreamPerKind = false;
+    bool carriesDisplayMatrix = false;
     bool storesPresentationTimes = true; ///< false: pictures are shown in the order and at the rate of the file
     char const* subtitleAdvice = "";     ///< what would work in place of a track that does not fit
 };

@@ -115,6 +115,9 @@ Core::Status Conversion::PrepareStream(std::size_t index, std::vector<Route>& ro
     {
         Route& route = routes[*stream.inputIndex];
         route.copies.push_back(index);
+        route.dropsLeadIn = stream.Type() == AVMEDIA_TYPE_AUDIO && !KeepsLeadIn(*m_plan.rule);
+        if (route.dropsLeadIn && stream.parameters->codec_id == AV_CODEC_ID_AAC)
+            stream.parameters->initial_padding = 0;
         if (!route.filter)
             route.filter = MakeCopyFilter(*m_input.FindStream(*stream.inputIndex), m_plan.rule->muxerName);
         if (route.filter)

@@ -1,5 +1,14 @@
 #include "Proc/FFmpeg/Decoding.h"
 
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+extern "C"
+{
+#include <libavutil/mathematics.h>
+}
+
 namespace Korvex::Proc::FFmpeg
 {
 
@@ -24,6 +33,25 @@ Core::Result<CodecContext> OpenDecoder(AVStream const& stream, ioPath const& pat
     if (result < 0)
         return unsupported("its decoder refuses the stream: " + ErrorText(result));
     return decoder;
+}
+
+bool LacksPresentationTimes(AVFormatContext const& file, AVStream const& stream)
+{
+    static constexpr std::array<char const*, 4> BARE_DEMUXERS{"avi", "h264", "hevc", "m4v"};
+    bool const isBare = std::any_of(BARE_DEMUXERS.begin(), BARE_DEMUXERS.end(),
+                                    [&](char const* name) { return std::strcmp(name, file.iformat->name) == 0; });
+    return isBare && stream.codecpar->video_delay > 0;
+}
+
+std::int64_t DecodingLead(AVFormatContext const& file, AVStream const& stream)
+{
+    if (!LacksPresentationTimes(file, stream))
+        return 0;
+    if (std::strcmp(file.iformat->name, "avi") == 0)
+        return stream.codecpar->video_delay; // one tick of its clock is one picture
+    if (stream.avg_frame_rate.num <= 0)
+        return 0;
+    return av_rescale_q(stream.codecpar->video_delay, av_inv_q(stream.avg_frame_rate), stream.time_base);
 }
 
 } // namespace Korvex::Proc::FFmpeg

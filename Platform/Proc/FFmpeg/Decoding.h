@@ -10,6 +10,13 @@ namespace Korvex::Proc::FFmpeg
 /// A decoder for a stream, open, on as many threads as the machine has. Fails with CodecNotSupported.
 [[nodiscard]] Core::Result<CodecContext> OpenDecoder(AVStream const& stream, ioPath const& path);
 
+/// Some sources (AVI, bare H.264) state decoding times alone. Where pictures are stored out of order nothing then says
+/// when they are shown, except that the decoder gives them in the right order.
+[[nodiscard]] bool LacksPresentationTimes(AVFormatContext const& file, AVStream const& stream);
+
+/// How much later than shown the decoded pictures of such a stream are stamped, in its time base; 0 for all others.
+[[nodiscard]] std::int64_t DecodingLead(AVFormatContext const& file, AVStream const& stream);
+
 /// Sends one packet (null: the end) and calls `take(Frame)` for every frame that is ready. A packet that does not
 /// decode is skipped and counted in `damaged`. False when `take` wanted no more.
 template <typename Take>

@@ -147,6 +147,8 @@ bool Demuxing::Copy(Stream& stream, AVPacket const& packet)
 {
     Packet copy = Reference(packet);
     stream.clock->Complete(*copy);
+    if (stream.route.dropsLeadIn && copy->pts + copy->duration <= 0)
+        return true;
     if (!stream.route.filter)
         return PushCopies(stream, *copy);
     if (av_bsf_send_packet(stream.route.filter.get(), copy.get()) < 0)

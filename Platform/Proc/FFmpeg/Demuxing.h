@@ -36,6 +36,9 @@ struct Route
     std::vector<std::size_t> copies; ///< streams of the merger
     PacketQueue* decoder = nullptr;  ///< not owned
     BitstreamFilter filter;          ///< on the way to the copies; empty: none
+    /// Leaves out sound that ends before the file's start: the encoder's lead-in, which only some containers can mark
+    /// as not to be heard.
+    bool dropsLeadIn = false;
 };
 
 /// Reads the input to its end and hands its packets on. Their times then count from the file's start time, and

@@ -2,6 +2,7 @@
 
 #include "Proc/FFmpeg/LibraryVersions.h"
 
+#include "Conf/IFormatFile.h"
 #include "Core/FileSystem.h"
 
 #include <algorithm>
@@ -96,6 +97,9 @@ Core::Result<std::unique_ptr<OutputFile>> OutputFile::Create(ContainerRule const
     file->m_context->interrupt_callback.callback = &IsStopped;
     file->m_context->interrupt_callback.opaque = const_cast<JobControl*>(&control);
     file->m_context->max_delay = TRANSPORT_DELAY_US;
+    // Matroska would move all streams by the lead-in of one; it stores that lead-in as such.
+    if (rule.formatId == Conf::IFormatFile::FORMAT_MATROSKA)
+        file->m_context->avoid_negative_ts = AVFMT_AVOID_NEG_TS_DISABLED;
     if (int const result = OpenOutputFile(*file->m_context, file->m_temporary); result < 0)
         return file->WriteFailed("avio_open2", result);
     return file;

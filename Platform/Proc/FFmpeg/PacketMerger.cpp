@@ -42,7 +42,7 @@ bool PacketMerger::Push(std::size_t stream, Packet packet)
     if (target.pace == Pace::Gating)
     {
         ++m_waitingProducers;
-        m_canPush.wait(lock, [this] { return m_isCancelled || m_bytes < m_limits.bytes || IsAnyStarving(); });
+        m_canPush.wait(lock, [this] { return m_isCancelled || HasRoom(); });
         --m_waitingProducers;
         m_bytes += Cost(*packet);
     }
@@ -101,6 +101,11 @@ bool PacketMerger::IsAnyStarving() const
     return std::any_of(m_streams.begin(), m_streams.end(),
                        [](Stream const& stream)
                        { return stream.pace == Pace::Gating && !stream.isFinished && stream.packets.empty(); });
+}
+
+bool PacketMerger::HasRoom() const
+{
+    return m_bytes < m_limits.bytes || (IsAnyStarving() && !IsPatienceOver());
 }
 
 bool PacketMerger::IsPatienceOver() const

@@ -67,6 +67,7 @@ private:
 
     [[nodiscard]] bool IsAnyStarving() const;
     [[nodiscard]] bool IsPatienceOver() const;
+    [[nodiscard]] bool HasRoom() const;
     [[nodiscard]] bool CanPop() const;
     [[nodiscard]] std::optional<std::size_t> FindNext() const;
 

@@ -43,7 +43,8 @@ public:
         : m_file(file),
           m_stream(stream),
           m_decoder(std::move(decoder)),
-          m_start(av_rescale_q(file.StartTime().count(), AV_TIME_BASE_Q, stream.time_base))
+          m_start(av_rescale_q(file.StartTime().count(), AV_TIME_BASE_Q, stream.time_base) +
+                  DecodingLead(file.Context(), stream))
     {
         file.SelectOnly(static_cast<std::uint32_t>(stream.index));
     }
@@ -119,9 +120,11 @@ private:
         avcodec_flush_buffers(m_decoder.get());
         if (from)
             return av_seek_frame(&m_file.Context(), m_stream.index, target, AVSEEK_FLAG_BACKWARD) >= 0;
+        // Without an index, looking for the earliest time may end behind it; the first byte is the first byte.
+        if (m_file.Context().iformat->flags & AVFMT_TS_DISCONT)
+            return av_seek_frame(&m_file.Context(), -1, 0, AVSEEK_FLAG_BYTE) >= 0;
         return avformat_seek_file(&m_file.Context(), m_stream.index, target, m_start,
-                                  std::numeric_limits<std::int64_t>::max(), 0) >= 0 ||
-               av_seek_frame(&m_file.Context(), -1, 0, AVSEEK_FLAG_BYTE) >= 0;
+                                  std::numeric_limits<std::int64_t>::max(), 0) >= 0;
     }
 
     Core::Result<bool> DecodeUpTo(microseconds time, bool needsEarlierKey, Skipping skipping)
@@ -205,7 +208,7 @@ private:
     InputFile const& m_file;
     AVStream const& m_stream;
     CodecContext m_decoder;
-    std::int64_t const m_start; ///< the file's start time in the stream's time base
+    std::int64_t const m_start; ///< of the picture that is shown at the file's start, in the stream's time base
     Frame m_found;
     microseconds m_foundFrom{0}; ///< the times at which `m_found` is shown
     microseconds m_foundUntil{0};

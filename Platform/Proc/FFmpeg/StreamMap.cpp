@@ -1,5 +1,7 @@
 #include "Proc/FFmpeg/StreamMap.h"
 
+#include "Proc/FFmpeg/Decoding.h"
+#include "Proc/FFmpeg/FrameRotation.h"
 #include "Proc/FFmpeg/SubtitleStreams.h"
 
 #include "Proc/Settings.h"
@@ -198,21 +200,12 @@ private:
                                      " cannot carry them.");
     }
 
-    /// Some sources state decoding times alone. Where pictures are stored out of order, nothing then says when they
-    /// are shown, unless the target does not ask for it either.
-    [[nodiscard]] bool LacksPresentationTimes(AVStream const& stream) const
-    {
-        static constexpr std::array<char const*, 4> BARE_DEMUXERS{"avi", "h264", "hevc", "m4v"};
-        char const* const demuxer = m_input.Context().iformat->name;
-        bool const isBare = std::any_of(BARE_DEMUXERS.begin(), BARE_DEMUXERS.end(),
-                                        [&](char const* name) { return std::strcmp(name, demuxer) == 0; });
-        return isBare && stream.codecpar->video_delay > 0;
-    }
-
     [[nodiscard]] bool CanCopy(AVStream const& stream) const
     {
-        if (m_rule.storesPresentationTimes && LacksPresentationTimes(stream))
+        if (m_rule.storesPresentationTimes && LacksPresentationTimes(m_input.Context(), stream))
             return false;
+        if (!m_rule.carriesDisplayMatrix && !OrientationOf(stream).IsUpright())
+            return false; // copied it would lie on its side
         return CanCarry(m_rule, *stream.codecpar);
     }
 

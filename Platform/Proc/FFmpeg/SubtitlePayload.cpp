@@ -1,6 +1,7 @@
 #include "Proc/FFmpeg/SubtitlePayload.h"
 
 #include "Proc/FFmpeg/InputFile.h"
+#include "Proc/FFmpeg/TextPackets.h"
 
 #include "Conf/IFormatCodecSubtitle.h"
 #include "Proc/Text/TextSubtitles.h"
@@ -45,12 +46,12 @@ Packet MakeTextPacket(std::string const& text, TextCue const& cue)
     return packet;
 }
 
-/// The fields of an event in the order in which Matroska keeps them: read order first, no times.
-std::string AssEvent(TextCue const& cue, TextMarkup markup, std::size_t readOrder)
+std::string PacketText(TextCue cue, TextMarkup markup, std::size_t readOrder, bool isAss)
 {
-    return std::to_string(readOrder) + "," + std::to_string(cue.layer) + "," + cue.style + "," + cue.name + "," +
-           std::to_string(cue.marginLeft) + "," + std::to_string(cue.marginRight) + "," +
-           std::to_string(cue.marginVertical) + "," + cue.effect + "," + Text::ToAssText(cue.text, markup);
+    if (!isAss)
+        return Text::ToSubRipText(cue.text, markup);
+    cue.text = Text::ToAssText(cue.text, markup);
+    return WriteAssPacket(cue, static_cast<int>(readOrder));
 }
 
 std::vector<std::size_t> OrderByStart(std::vector<TextCue> const& cues)
@@ -172,9 +173,7 @@ SubtitlePayload MakeTextPayload(TextDocument const& document, ioPath const& path
         TextCue const& cue = document.cues[index];
         if (cue.end <= std::chrono::microseconds(0))
             continue; // over before the film begins
-        std::string const text =
-            isAss ? AssEvent(cue, document.markup, index) : Text::ToSubRipText(cue.text, document.markup);
-        payload.packets.push_back(MakeTextPacket(text, cue));
+        payload.packets.push_back(MakeTextPacket(PacketText(cue, document.markup, index, isAss), cue));
     }
     return payload;
 }

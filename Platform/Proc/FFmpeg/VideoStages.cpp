@@ -28,7 +28,8 @@ VideoStages::VideoStages(InputFile const& file, AVStream& stream, CodecContext d
       m_merger(merger),
       m_target(target),
       m_control(control),
-      m_frameRate(av_guess_frame_rate(&file.Context(), &stream, nullptr))
+      m_frameRate(av_guess_frame_rate(&file.Context(), &stream, nullptr)),
+      m_lead(DecodingLead(file.Context(), stream))
 {
     bool const lies = m_settings.liesOnGrid && m_frameRate.num > 0;
     m_settings.encoder.timeBase = lies ? av_inv_q(m_frameRate) : stream.time_base;
@@ -59,11 +60,12 @@ void VideoStages::RunDecoder()
 bool VideoStages::PassOn(Frame frame)
 {
     std::int64_t pts = frame->best_effort_timestamp;
+    if (pts != AV_NOPTS_VALUE)
+        pts -= m_lead;
     if (m_last)
     {
-        std::int64_t const shown = FrameDuration(*m_last);
         if (pts == AV_NOPTS_VALUE)
-            pts = m_last->pts + std::max<std::int64_t>(1, shown);
+            pts = m_last->pts + std::max<std::int64_t>(1, DurationOf(*m_last));
         if (pts <= m_last->pts)
             return true; // a second picture for one instant
         SetFrameDuration(*m_last, pts - m_last->pts);
@@ -75,12 +77,19 @@ bool VideoStages::PassOn(Frame frame)
     return true;
 }
 
+std::int64_t VideoStages::DurationOf(AVFrame const& frame) const
+{
+    std::int64_t const stated = FrameDuration(frame);
+    if (stated > 0 || m_frameRate.num <= 0)
+        return stated;
+    return av_rescale_q(1, av_inv_q(m_frameRate), m_stream.time_base);
+}
+
 bool VideoStages::PassOnLast()
 {
     if (!m_last)
         return true;
-    if (FrameDuration(*m_last) <= 0 && m_frameRate.num > 0)
-        SetFrameDuration(*m_last, av_rescale_q(1, av_inv_q(m_frameRate), m_stream.time_base));
+    SetFrameDuration(*m_last, DurationOf(*m_last));
     return m_decoded.Push(std::move(m_last));
 }
 

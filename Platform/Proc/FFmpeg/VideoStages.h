@@ -44,6 +44,7 @@ public:
 private:
     bool PassOn(Frame frame);
     bool PassOnLast();
+    [[nodiscard]] std::int64_t DurationOf(AVFrame const& frame) const; ///< as stated, else as the rate has it
     [[nodiscard]] Core::Result<VideoEncoder> OpenEncoder(AVFrame const& first);
     [[nodiscard]] FieldOrder FieldsOf(AVFrame const& first) const;
     bool EncodeFrame(VideoEncoder& encoder, Frame frame);
@@ -56,7 +57,8 @@ private:
     PacketMerger& m_merger;
     std::size_t const m_target;
     JobControl& m_control;
-    AVRational m_frameRate;
+    AVRational const m_frameRate;
+    std::int64_t const m_lead;
 
     PacketQueue m_packets{PACKETS_BEFORE_DECODER};
     FrameQueue m_decoded{FRAMES_BETWEEN_STAGES};
