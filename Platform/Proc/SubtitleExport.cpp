@@ -66,6 +66,17 @@ void ShiftCues(TextDocument& document, microseconds shift)
     document.cues = std::move(kept);
 }
 
+/// mov_text counts milliseconds in 31 bits and the bytes of a text in 16.
+void DropWhatMovTextCannotHold(TextDocument& document)
+{
+    static constexpr microseconds LATEST = std::chrono::hours(500);
+    static constexpr std::size_t LONGEST = 60'000;
+    std::size_t const before = document.cues.size();
+    auto const isTooMuch = [](TextCue const& cue) { return cue.end > LATEST || cue.text.size() > LONGEST; };
+    document.cues.erase(std::remove_if(document.cues.begin(), document.cues.end(), isTooMuch), document.cues.end());
+    document.skippedCues += before - document.cues.size();
+}
+
 std::string CodecOf(SubtitleDocument const& document)
 {
     return std::visit([](auto const& kind) { return kind.codecId; }, document);
@@ -264,6 +275,8 @@ Core::Result<ExportedSubtitle> PrepareSubtitle(SubtitleSource const& source,
                          "no working file can be made that would fit");
 
     ShiftCues(*text, source.timeShift);
+    if (*codec == Codec::CODEC_ID_MOV_TEXT)
+        DropWhatMovTextCannotHold(*text);
     Core::Result<ioPath> const path = WriteUnderFreeName(*text, ExtensionOf(*codec), folder, baseName);
     if (!path)
         return path.GetError();

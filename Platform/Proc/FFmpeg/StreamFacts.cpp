@@ -1,5 +1,7 @@
 #include "Proc/FFmpeg/StreamFacts.h"
 
+#include "Proc/FFmpeg/LibraryVersions.h"
+
 #include "Proc/Text/TextDecoder.h"
 
 extern "C"

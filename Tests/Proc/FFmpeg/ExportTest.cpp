@@ -183,6 +183,18 @@ TEST_F(ExportTest, AMovTextFileGivesBackTheCues)
     EXPECT_EQ(document.cues[3].end, milliseconds(24500));
 }
 
+TEST_F(ExportTest, WhatMovTextCannotHoldIsCounted)
+{
+    ioPath const srt = Write("long.srt", "1\n00:00:01,000 --> 00:00:02,000\n" + std::string(70000, 'x') +
+                                             "\n\n2\n00:00:03,000 --> 00:00:04,000\nHello\n\n"
+                                             "3\n999:00:00,000 --> 999:00:01,000\nLate\n");
+    Core::Result<ExportedSubtitle> const prepared = PrepareSubtitle(FileOf(srt), {"mov_text"}, m_folder.Path(), "w");
+    ASSERT_TRUE(prepared) << Core::ToSentence(prepared.GetError());
+    EXPECT_EQ(prepared->cueCount, 1U);
+    EXPECT_EQ(prepared->skippedCues, 2U);
+    EXPECT_EQ(Load<TextDocument>(prepared->path).cues.at(0).text, "Hello");
+}
+
 TEST_F(ExportTest, PreparingPicksWhatLosesLeast)
 {
     ioPath const film = Make("film.mkv", "matroska", {"ass", "hdmv_pgs_subtitle"});

@@ -6,6 +6,8 @@
 #include "Proc/MediaInfo.h"
 #include "Proc/Register.h"
 
+#include <algorithm>
+
 namespace Korvex::Proc
 {
 
@@ -104,6 +106,16 @@ TEST_F(LoaderTest, EveryTextTrackGivesTheSameCuesAsAFileOfItsOwn)
     EXPECT_EQ(Lines(movText), EXPECTED);
     EXPECT_FALSE(movText.HasOwnLook()) << "the user's look applies";
     EXPECT_EQ(Lines(TextOf(LoadSubtitleFile(mp4, {}))), EXPECTED) << "the first subtitle stream of a media file";
+
+    // FLV has no durations: a text stays until the next one, the last for a while.
+    ioPath const flv = Make("film.flv", "flv", {MakeTrack("text", Testing::MakeTextCues())});
+    Core::Result<MediaInfo> const info = ProbeMedia(flv);
+    ASSERT_TRUE(info);
+    auto const isText = [](StreamInfo const& stream) { return stream.isTextSubtitle; };
+    auto const text = std::find_if(info->streams.begin(), info->streams.end(), isText);
+    ASSERT_NE(text, info->streams.end());
+    EXPECT_EQ(Lines(TextOf(LoadSubtitleStream(flv, text->index))),
+              (std::vector<std::string>{"500-1000 First", "1000-1600 Second \xC3\xBC", "1600-6600 Third"}));
 }
 
 TEST_F(LoaderTest, TextKeepsItsMarkupAndScriptsTheirOrder)
