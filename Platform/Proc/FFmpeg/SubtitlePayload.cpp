@@ -4,6 +4,7 @@
 #include "Proc/FFmpeg/TextPackets.h"
 
 #include "Conf/IFormatCodecSubtitle.h"
+#include "Proc/ExternalText.h"
 #include "Proc/Text/TextSubtitles.h"
 
 #include <algorithm>
@@ -180,11 +181,11 @@ SubtitlePayload MakeTextPayload(TextDocument const& document, ioPath const& path
 
 Core::Result<SubtitlePayload> LoadSubtitlePayload(ioPath const& path)
 {
-    Core::Result<std::optional<TextDocument>> const text = Text::LoadTextFile(path, {});
+    Core::Result<std::optional<ExternalText>> const text = LoadExternalText(path, {});
     if (!text)
         return text.GetError();
     if (*text)
-        return MakeTextPayload(**text, path);
+        return MakeTextPayload((*text)->document, path);
     return CopyFirstSubtitleStream(path);
 }
 
