@@ -108,7 +108,8 @@ public:
         for (EncodingModel const& encoding : GetPairEncodings())
         {
             Consider(encoding, Width::Pair,
-                     [&](LanguageModel const& language) { return ScorePairEncoding(m_sample, encoding, language); });
+                     [&](LanguageModel const& language)
+                     { return ScorePairEncoding(m_sample, encoding, language, FindFloor()); });
         }
         return Choose();
     }
@@ -128,6 +129,18 @@ private:
         best.score += encoding.prior;
         best.score += m_uchardet == encoding.name ? UCHARDET_BONUS : 0;
         m_candidates.push_back(std::move(best));
+    }
+
+    /// A score so far below the best one that no bonus lifts it up again.
+    double FindFloor() const
+    {
+        static constexpr double DISTANCE = 100;
+        double best = -HUGE_VAL;
+        for (Candidate const& candidate : m_candidates)
+        {
+            best = std::max(best, candidate.score);
+        }
+        return best - DISTANCE;
     }
 
     double GetBonus(LanguageModel const& language) const

@@ -348,7 +348,8 @@ double ScoreByteEncoding(std::string_view stripped, EncodingModel const& encodin
     return score;
 }
 
-double ScorePairEncoding(std::string_view sample, EncodingModel const& encoding, LanguageModel const& language)
+double ScorePairEncoding(std::string_view sample, EncodingModel const& encoding, LanguageModel const& language,
+                         double floor)
 {
     auto const converter = CharacterConverter::Make(std::string(encoding.name));
     if (!converter)
@@ -356,7 +357,7 @@ double ScorePairEncoding(std::string_view sample, EncodingModel const& encoding,
         return NO_TEXT * static_cast<double>(sample.size());
     }
     double score = 0;
-    for (std::size_t i = 0; i < sample.size();)
+    for (std::size_t i = 0; i < sample.size() && score > floor;)
     {
         if (!IsHigh(sample[i]))
         {

@@ -3,6 +3,7 @@
 #include "Proc/Text/CharacterConverter.h"
 #include "Proc/Text/EncodingDetector.h"
 #include "Proc/Text/Lines.h"
+#include "Proc/Text/TextProbe.h"
 #include "Proc/Text/Utf8.h"
 
 #include <algorithm>
@@ -15,104 +16,6 @@ namespace
 {
 
 using Source = TextDecodeReport::Source;
-
-struct ByteOrderMark
-{
-    std::string_view bytes;
-    char const* encoding;
-};
-
-/// The longer marks come first: that of UTF-32LE begins like that of UTF-16LE.
-std::optional<ByteOrderMark> FindByteOrderMark(std::string_view bytes)
-{
-    using namespace std::string_view_literals;
-    static constexpr ByteOrderMark MARKS[] = {{"\xFF\xFE\0\0"sv, "UTF-32LE"},
-                                              {"\0\0\xFE\xFF"sv, "UTF-32BE"},
-                                              {"\xEF\xBB\xBF"sv, "UTF-8"},
-                                              {"\xFF\xFE"sv, "UTF-16LE"},
-                                              {"\xFE\xFF"sv, "UTF-16BE"}};
-    for (ByteOrderMark const& mark : MARKS)
-    {
-        if (bytes.substr(0, mark.bytes.size()) == mark.bytes)
-        {
-            return mark;
-        }
-    }
-    return std::nullopt;
-}
-
-/// UTF-16 or UTF-32 without a mark, by where the zero bytes of digits and line ends stand; null for anything else.
-char const* GuessWideEncoding(std::string_view bytes)
-{
-    static constexpr std::size_t SAMPLE = 4096;
-    static constexpr std::size_t LEAST = 8;
-    std::string_view const sample = bytes.substr(0, SAMPLE).substr(0, bytes.size() / 4 * 4);
-    if (sample.size() < LEAST)
-    {
-        return nullptr;
-    }
-    std::size_t zeros[4] = {};
-    for (std::size_t i = 0; i < sample.size(); ++i)
-    {
-        zeros[i % 4] += sample[i] == '\0' ? 1 : 0;
-    }
-    std::size_t const quarter = sample.size() / 4;
-    std::size_t const odd = zeros[1] + zeros[3];
-    std::size_t const even = zeros[0] + zeros[2];
-    if (zeros[3] == quarter && zeros[2] >= quarter * 9 / 10)
-    {
-        return "UTF-32LE";
-    }
-    if (zeros[0] == quarter && zeros[1] >= quarter * 9 / 10)
-    {
-        return "UTF-32BE";
-    }
-    // Times, numbers and line ends make up a good part of every subtitle file.
-    std::size_t const enough = sample.size() / 2 / 8;
-    if (odd > enough && even * 20 < odd)
-    {
-        return "UTF-16LE";
-    }
-    return even > enough && odd * 20 < even ? "UTF-16BE" : nullptr;
-}
-
-/// Well-formed sequences of more than one byte, and runs of bytes that are none.
-struct Utf8Share
-{
-    std::size_t sequences = 0;
-    std::size_t badRuns = 0;
-};
-
-Utf8Share MeasureUtf8(std::string_view bytes)
-{
-    Utf8Share share;
-    bool inBadRun = false;
-    for (std::size_t position = 0; position < bytes.size();)
-    {
-        char32_t codePoint = 0;
-        std::size_t const length = MeasureSequence(bytes, position, codePoint);
-        share.sequences += length > 1 ? 1 : 0;
-        share.badRuns += length == 0 && !inBadRun ? 1 : 0;
-        inBadRun = length == 0;
-        position += std::max<std::size_t>(length, 1);
-    }
-    return share;
-}
-
-/// UTF-8 that was damaged or cut off: what is well-formed in it cannot be chance.
-bool IsDamagedUtf8(std::string_view bytes)
-{
-    Utf8Share const share = MeasureUtf8(bytes);
-    return share.sequences >= 4 && share.sequences >= share.badRuns * 2;
-}
-
-/// The escape sequences of ISO-2022-JP, which is ASCII to everybody else.
-bool IsIso2022Jp(std::string_view bytes)
-{
-    std::size_t const escape = bytes.find("\x1B$");
-    return escape != std::string_view::npos && escape + 2 < bytes.size() &&
-           (bytes[escape + 2] == 'B' || bytes[escape + 2] == '@') && bytes.find("\x1B(") != std::string_view::npos;
-}
 
 /// A file put together from pieces: some lines are UTF-8, the others are not. Returns the others, nothing for any other
 /// file.
@@ -181,6 +84,16 @@ bool IsControl(char32_t codePoint)
 std::string ReplaceControls(std::string text, std::size_t& replacedBytes)
 {
     TrimPadding(text, replacedBytes);
+    // Almost every text has none; a C1 control begins with this byte.
+    bool const mayHaveAny = std::any_of(text.begin(), text.end(),
+                                        [](char byte) {
+                                            return byte == '\xC2' || byte == 0x7F ||
+                                                   (byte >= 0 && byte < 0x20 && IsControl(static_cast<char32_t>(byte)));
+                                        });
+    if (!mayHaveAny)
+    {
+        return text;
+    }
     std::string result;
     result.reserve(text.size());
     for (std::size_t position = 0; position < text.size();)

@@ -2,6 +2,7 @@
 
 #include "Proc/Text/Lines.h"
 #include "Proc/Text/TextDecoder.h"
+#include "Proc/Text/TextProbe.h"
 
 #include "Core/FileSystem.h"
 
@@ -13,36 +14,29 @@ namespace Korvex::Proc::Text
 namespace
 {
 
-/// The parts of "Movie.uk.forced.srt" between the dots that may be names of languages.
+/// The last parts of "Movie.uk.forced.srt" between the dots; one may be the name of a language.
 DetectionHints HintsFromName(ioPath const& path)
 {
     static constexpr std::size_t SHORTEST = 2;
     static constexpr std::size_t LONGEST = 6;
+    static constexpr std::size_t MOST_PARTS = 3; // what stands farther in front belongs to the title
     DetectionHints hints;
     std::string const stem = path.Stem();
-    for (std::size_t dot = stem.find_first_of("._"); dot != std::string::npos;)
+    for (std::size_t end = stem.size(), count = 0; count < MOST_PARTS; ++count)
     {
-        std::size_t const next = stem.find_first_of("._", dot + 1);
-        std::string const part = ToLower(std::string_view(stem).substr(dot + 1, next - dot - 1));
+        std::size_t const dot = end == 0 ? std::string::npos : stem.find_last_of("._", end - 1);
+        if (dot == std::string::npos)
+        {
+            break;
+        }
+        std::string const part = ToLower(std::string_view(stem).substr(dot + 1, end - dot - 1));
         if (part.size() >= SHORTEST && part.size() <= LONGEST)
         {
             hints.languages.push_back(part);
         }
-        dot = next;
+        end = dot;
     }
     return hints;
-}
-
-/// Media files and pictures are told from text before anything is decoded: zeros without the pattern of UTF-16, in a
-/// share that no damage explains.
-bool IsBinary(std::string_view bytes)
-{
-    static constexpr std::size_t SAMPLE = 4096;
-    std::string_view const sample = bytes.substr(0, SAMPLE);
-    auto const isControl = [](char byte) { return static_cast<unsigned char>(byte) < 9; };
-    auto const controls = std::count_if(sample.begin(), sample.end(), isControl);
-    auto const zeros = std::count(sample.begin(), sample.end(), '\0');
-    return static_cast<std::size_t>(controls - zeros) * 50 > sample.size();
 }
 
 TextDocument Read(std::string_view utf8, TextFormat format, std::string const& samiClass)
@@ -71,13 +65,14 @@ Core::Result<std::optional<TextDocument>> LoadTextFile(ioPath const& path, std::
     {
         return bytes.GetError();
     }
-    auto decoded =
-        DecodeText(IsBinary(*bytes) ? std::string_view() : std::string_view(*bytes), encoding, HintsFromName(path));
+    // An encoding that does not exist is told even where nothing is to be decoded.
+    bool const isBinary = IsBinary(*bytes);
+    auto decoded = DecodeText(isBinary ? std::string_view() : std::string_view(*bytes), encoding, HintsFromName(path));
     if (!decoded)
     {
         return decoded.GetError();
     }
-    if (IsBinary(*bytes))
+    if (isBinary)
     {
         return std::optional<TextDocument>();
     }

@@ -134,6 +134,11 @@ bool IsValidUtf8(std::string_view text)
     char32_t codePoint = 0;
     for (std::size_t position = 0; position < text.size();)
     {
+        if (ByteAt(text, position) < 0x80)
+        {
+            ++position;
+            continue;
+        }
         std::size_t const length = MeasureSequence(text, position, codePoint);
         if (length == 0)
         {
@@ -147,6 +152,10 @@ bool IsValidUtf8(std::string_view text)
 std::string RepairUtf8(std::string_view text, std::size_t& replacedBytes)
 {
     replacedBytes = 0;
+    if (IsValidUtf8(text))
+    {
+        return std::string(text);
+    }
     std::string result;
     result.reserve(text.size());
     std::string healed;

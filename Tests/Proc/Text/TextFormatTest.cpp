@@ -1,4 +1,5 @@
 #include "Cues.h"
+#include "SystemEncoder.h"
 
 #include "Core/FileSystem.h"
 
@@ -78,6 +79,15 @@ TEST_F(TextFileTest, LoadsWhatIsTextAndLeavesTheRest)
     auto const stated = LoadTextFile(path, "CP1251");
     ASSERT_TRUE(stated && *stated);
     EXPECT_EQ((*stated)->decoding.source, TextDecodeReport::Source::Stated);
+
+    for (std::string const mark : {"", "\xFF\xFE"})
+    {
+        std::string const wide =
+            mark + Testing::EncodeText("1\n00:00:01,000 --> 00:00:02,000\nУже поздно\n", "UTF-16LE");
+        auto const read = LoadTextFile(Write("wide.srt", wide), "");
+        ASSERT_TRUE(read && *read);
+        EXPECT_EQ(CuesOf(**read), (Cues{{1000, 2000, "Уже поздно"}}));
+    }
 
     auto const picture = LoadTextFile(Write("picture.srt", std::string("GIF89a\1\2\3\4\5\6\0\0\1\2\3", 17)), "");
     ASSERT_TRUE(picture);
