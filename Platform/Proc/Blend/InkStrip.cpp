@@ -119,12 +119,17 @@ void InkStrip::AddRow(int row, RgbaLayer const& layer, ColorEncoder const& encod
 
 std::array<std::uint16_t, 3> const& InkStrip::CachedCode(std::uint32_t rgb, ColorEncoder const& encoder)
 {
+    // Neighbours are mostly of one colour.
+    if (m_lastCode != nullptr && m_lastRgb == rgb)
+        return *m_lastCode;
     auto const [entry, isNew] = m_codes.try_emplace(rgb);
     if (isNew)
     {
         entry->second = encoder.EncodeFixed({static_cast<std::uint8_t>(rgb), static_cast<std::uint8_t>(rgb >> 8U),
                                              static_cast<std::uint8_t>(rgb >> 16U)});
     }
+    m_lastRgb = rgb;
+    m_lastCode = &entry->second;
     return entry->second;
 }
 

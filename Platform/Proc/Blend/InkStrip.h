@@ -80,6 +80,8 @@ private:
     std::array<std::vector<std::uint16_t>, 3> m_color;
     std::vector<ChunkState> m_states;
     std::unordered_map<std::uint32_t, std::array<std::uint16_t, 3>> m_codes; ///< of colours met in bitmaps
+    std::uint32_t m_lastRgb = 0;
+    std::array<std::uint16_t, 3> const* m_lastCode = nullptr; ///< into m_codes, whose entries stay where they are
 };
 
 } // namespace Korvex::Proc::Blend

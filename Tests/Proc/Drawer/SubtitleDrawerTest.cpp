@@ -101,6 +101,21 @@ TEST(SubtitleDrawer, LooksAlikeAtEveryResolutionAndSampleShape)
     EXPECT_NEAR(line.Height(), 20, 4);
 }
 
+TEST(SubtitleDrawer, StretchesScriptsWithThePictureUnlessTheySayOtherwise)
+{
+    // Letters of scripts have their shape in samples, as their authors' tools showed them; LayoutRes makes it the shape
+    // on the screen. A square of 3:4 samples is told from one of square samples by its ratio.
+    std::string const block = "\xE2\x96\x88";
+    auto const ratioOf = [&](std::string const& header, PictureGeometry const& geometry)
+    {
+        InkBox const ink = DrawnBox(DejaVu(), Script({block}, "An5", header), geometry);
+        return static_cast<double>(ink.Width()) / ink.Height();
+    };
+    double const shape = ratioOf("", {1920, 1080, 1, 1});
+    EXPECT_NEAR(ratioOf("", {1440, 1080, 4, 3}), shape, 0.03);
+    EXPECT_NEAR(ratioOf("LayoutResX: 1920\nLayoutResY: 1080\n", {1440, 1080, 4, 3}), shape * 3 / 4, 0.03);
+}
+
 TEST(SubtitleDrawer, ReplacesAFontThatIsNotInstalled)
 {
     SettingsSubtitleDrawer settings = DejaVu();
