@@ -42,9 +42,11 @@ Core::Result<std::unique_ptr<Blend::IInkSource>> MakeSource(SettingsSubtitleDraw
     return Ass::MakeTextInkSource(settings, std::get<TextDocument>(document), geometry);
 }
 
+/// Far beyond any video, near enough to keep products of sizes within 32 bits.
+constexpr int MAX_SIDE = 32768;
+
 bool IsUsable(PictureGeometry const& geometry)
 {
-    constexpr int MAX_SIDE = 32768;
     return geometry.width > 0 && geometry.width <= MAX_SIDE && geometry.height > 0 && geometry.height <= MAX_SIDE;
 }
 

@@ -41,7 +41,7 @@ EventTrack::EventTrack(RenderContext& context, TrackPtr track)
 {
 }
 
-void EventTrack::Add(TextCue const& cue, TrackEvent event)
+void EventTrack::Add(TextCue const& cue, TrackEvent const& event)
 {
     std::string chunk = std::to_string(event.readOrder) + ',' + std::to_string(cue.layer) + ',' + ToField(cue.style) +
                         ',' + ToField(cue.name) + ',' + std::to_string(cue.marginLeft) + ',' +

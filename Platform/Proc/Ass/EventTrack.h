@@ -33,7 +33,7 @@ public:
     /// `context` has to outlive the track.
     EventTrack(RenderContext& context, TrackPtr track);
 
-    void Add(TextCue const& cue, TrackEvent event);
+    void Add(TextCue const& cue, TrackEvent const& event);
     /// After the last event, before the first question.
     void Finish();
 

@@ -204,7 +204,7 @@ void TextInkSource::Add(TextCue const& cue, std::string text, int readOrder, int
     if (IsMoved() && !event.traits.hasPosition)
         place = std::array{Place::Bottom, Place::Middle, Place::Top}[static_cast<std::size_t>((alignment - 1) / 3)];
     event.text = std::move(text);
-    TrackOf(place).Add(cue, std::move(event));
+    TrackOf(place).Add(cue, event);
 }
 
 bool TextInkSource::Update(std::chrono::microseconds time)
@@ -290,7 +290,7 @@ MakeTextInkSource(SettingsSubtitleDrawer const& settings, TextDocument const& do
     std::unique_ptr<RenderContext> context = RenderContext::Make(document.fonts);
     if (!context)
         return Core::Error{Core::ErrorCode::Internal, {}, {}, {}, {}, "the text renderer could not be set up"};
-    std::string look = MakeLookScript(settings, geometry);
+    std::string const look = MakeLookScript(settings, geometry);
     Core::Error const noFont{Core::ErrorCode::NoUsableFont, {}, {}, {}, {}, {}};
     bool const hasLetters = context->CanDrawLetters(look);
     if (!hasLetters && document.fonts.empty())
@@ -298,7 +298,7 @@ MakeTextInkSource(SettingsSubtitleDrawer const& settings, TextDocument const& do
     bool const hasOwnLook = document.HasOwnLook();
     context->SetGeometry(geometry, hasOwnLook ? GlyphShape::AsStored : GlyphShape::AsShown);
     auto source = std::make_unique<TextInkSource>(settings, geometry, std::move(context),
-                                                  hasOwnLook ? document.scriptHeader : std::move(look),
+                                                  hasOwnLook ? document.scriptHeader : look,
                                                   hasOwnLook ? LayoutRules::Script : LayoutRules::Modern);
     source->Load(document);
     // Fonts that the file brings may be all there is, and need not have Latin letters.

@@ -57,9 +57,9 @@ void ScaleRow(std::uint8_t const* rgba, std::vector<Taps> const& columns, float*
         std::uint8_t const* pixel = rgba + 4 * static_cast<std::ptrdiff_t>(taps.first);
         for (float const weight : taps.weights)
         {
-            float const alpha = weight * pixel[3];
+            float const alpha = weight * static_cast<float>(pixel[3]);
             for (int c = 0; c < 3; ++c)
-                sum[c] += alpha * pixel[c];
+                sum[c] += alpha * static_cast<float>(pixel[c]);
             sum[3] += alpha;
             pixel += 4;
         }

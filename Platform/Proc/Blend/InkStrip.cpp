@@ -11,7 +11,7 @@ InkStrip::InkStrip(int pictureWidth, int pictureHeight, int rows)
       m_height(pictureHeight),
       m_rows(rows),
       m_chunkCount((pictureWidth + CHUNK - 1) / CHUNK),
-      m_stride(static_cast<std::size_t>(m_chunkCount) * CHUNK + 2 * MARGIN)
+      m_stride(static_cast<std::size_t>(m_chunkCount) * CHUNK + 2 * static_cast<std::size_t>(MARGIN))
 {
     std::size_t const size = m_stride * static_cast<std::size_t>(rows);
     m_keep.resize(size);

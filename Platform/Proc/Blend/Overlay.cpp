@@ -97,7 +97,7 @@ struct Overlay::ChromaScratch
         : columns(MakeAxisFilter(picture.layout.chromaShiftX, picture.color.chromaSite.x)),
           rows(picture)
     {
-        std::size_t const size = static_cast<std::size_t>(picture.width) + 4 * CHUNK;
+        std::size_t const size = static_cast<std::size_t>(picture.width) + 4 * static_cast<std::size_t>(CHUNK);
         mixed.resize(size);
         for (auto& plane : planes)
             plane.resize(size);
