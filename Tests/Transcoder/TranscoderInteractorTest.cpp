@@ -1,0 +1,261 @@
+#include "Transcoder/TranscoderInteractor.h"
+
+#include "Proc/Settings.h"
+#include "Proc/Transcode.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QTest>
+
+#include <atomic>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+
+namespace Korvex::Converter::Transcoder
+{
+namespace
+{
+
+using namespace std::chrono_literals;
+
+Core::Error MakeError(Core::ErrorCode code)
+{
+    Core::Error error;
+    error.code = code;
+    return error;
+}
+
+/// A job that a test drives by hand: it reports from a thread of its own whatever the test tells it to.
+class ScriptedJob final : public Proc::ITranscodeJob
+{
+public:
+    using Script = std::function<void(ScriptedJob&, Proc::ITranscodeObserver&)>;
+
+    explicit ScriptedJob(Script script) : m_script(std::move(script)) {}
+
+    void Start(Proc::ITranscodeObserver& observer) override
+    {
+        m_thread = std::thread(
+            [this, &observer]
+            {
+                m_script(*this, observer);
+                Proc::TranscodeReport report;
+                if (m_cancelled)
+                    report.error = MakeError(Core::ErrorCode::Cancelled);
+                observer.OnFinished(report);
+                // Being still inside the call when the news is delivered has to be harmless.
+                std::this_thread::sleep_for(5ms);
+            });
+    }
+    void Cancel() override
+    {
+        std::lock_guard const lock(m_mutex);
+        m_cancelled = true;
+        m_condition.notify_all();
+    }
+    void Wait() override
+    {
+        if (m_thread.joinable())
+            m_thread.join();
+    }
+    void WaitForCancel()
+    {
+        std::unique_lock lock(m_mutex);
+        m_condition.wait(lock, [this] { return m_cancelled.load(); });
+    }
+
+private:
+    ~ScriptedJob() override
+    {
+        Cancel();
+        Wait();
+    }
+
+    Script m_script;
+    std::thread m_thread;
+    std::mutex m_mutex;
+    std::condition_variable m_condition;
+    std::atomic<bool> m_cancelled{false};
+};
+
+struct Listener final : Entities::IConversionObserver
+{
+    void OnConversionProgress(Entities::ConversionId, Proc::TranscodeProgress const& progress) override
+    {
+        EXPECT_EQ(std::this_thread::get_id(), thread);
+        EXPECT_EQ(reports.size(), 0U) << "nothing may follow the report";
+        seconds.push_back(progress.done / 1s);
+        if (onProgress)
+            onProgress();
+    }
+    void OnConversionFinished(Entities::ConversionId, Proc::TranscodeReport const& report) override
+    {
+        EXPECT_EQ(std::this_thread::get_id(), thread);
+        reports.push_back(report);
+        if (onFinished)
+            onFinished();
+    }
+
+    std::thread::id thread = std::this_thread::get_id();
+    std::vector<long> seconds;
+    std::vector<Proc::TranscodeReport> reports;
+    std::function<void()> onProgress;
+    std::function<void()> onFinished;
+};
+
+Proc::TranscodeProgress At(std::chrono::seconds done)
+{
+    Proc::TranscodeProgress progress;
+    progress.done = done;
+    return progress;
+}
+
+class TranscoderInteractorTest : public testing::Test
+{
+protected:
+    std::unique_ptr<TranscoderInteractor> MakeInteractor(ScriptedJob::Script script)
+    {
+        return std::make_unique<TranscoderInteractor>(
+            [this,
+             script](Proc::SettingsTranscode const& settings) -> Core::Result<boost::intrusive_ptr<Proc::ITranscodeJob>>
+            {
+                m_settings = settings;
+                return boost::intrusive_ptr<Proc::ITranscodeJob>(new ScriptedJob(script));
+            });
+    }
+
+    static int& ArgumentCount()
+    {
+        static int count = 1;
+        return count;
+    }
+    char m_name[5] = "test";
+    char* m_arguments[2] = {m_name, nullptr};
+    QCoreApplication m_application{ArgumentCount(), m_arguments};
+    Proc::SettingsTranscode m_settings;
+    Entities::ConversionRequest m_request;
+    Listener m_listener;
+};
+
+TEST_F(TranscoderInteractorTest, TheRequestReachesTheJobWhole)
+{
+    auto const interactor = MakeInteractor([](ScriptedJob&, Proc::ITranscodeObserver&) {});
+    m_request.item.path = "in.mkv";
+    m_request.output = "out.mp4";
+    m_request.preset = {"mp4", "h264", "aac", 7, "slow"};
+    m_request.mixer = std::make_shared<Proc::SettingsSubtitleMixer>();
+    m_request.overwrite = true;
+    ASSERT_TRUE(interactor->StartConversion(m_request, m_listener));
+
+    EXPECT_EQ(m_settings.input, ioPath("in.mkv"));
+    EXPECT_EQ(m_settings.output, ioPath("out.mp4"));
+    EXPECT_EQ(m_settings.formatId, "mp4");
+    EXPECT_EQ(m_settings.videoCodecId, "h264");
+    EXPECT_EQ(m_settings.audioCodecId, "aac");
+    EXPECT_EQ(m_settings.crf, 7);
+    EXPECT_EQ(m_settings.preset, "slow");
+    EXPECT_EQ(m_settings.mixer, m_request.mixer);
+    EXPECT_EQ(m_settings.soft, nullptr);
+    EXPECT_TRUE(m_settings.overwrite);
+}
+
+TEST_F(TranscoderInteractorTest, ARefusedJobIsAnErrorAndNoConversion)
+{
+    TranscoderInteractor interactor(
+        [](Proc::SettingsTranscode const&) -> Core::Result<boost::intrusive_ptr<Proc::ITranscodeJob>>
+        { return MakeError(Core::ErrorCode::OutputExists); });
+    auto const started = interactor.StartConversion(m_request, m_listener);
+    ASSERT_FALSE(started);
+    EXPECT_EQ(started.GetError().code, Core::ErrorCode::OutputExists);
+}
+
+TEST_F(TranscoderInteractorTest, NewsArrivesOnTheOwnersThreadInOrderAndEndsWithTheReport)
+{
+    auto const interactor = MakeInteractor(
+        [](ScriptedJob&, Proc::ITranscodeObserver& observer)
+        {
+            for (int second = 1; second <= 1000; ++second)
+                observer.OnProgress(At(std::chrono::seconds(second)));
+        });
+    ASSERT_TRUE(interactor->StartConversion(m_request, m_listener));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_listener.reports.empty(); }));
+    QTest::qWait(20);
+
+    EXPECT_EQ(m_listener.reports.size(), 1U);
+    EXPECT_FALSE(m_listener.reports.front().error);
+    EXPECT_TRUE(std::is_sorted(m_listener.seconds.begin(), m_listener.seconds.end()));
+}
+
+TEST_F(TranscoderInteractorTest, ALoopThatDoesNotRunIsNotFloodedWithProgress)
+{
+    std::atomic<bool> reported{false};
+    auto const interactor = MakeInteractor(
+        [&](ScriptedJob& job, Proc::ITranscodeObserver& observer)
+        {
+            for (int second = 1; second <= 500; ++second)
+                observer.OnProgress(At(std::chrono::seconds(second)));
+            reported = true;
+            job.WaitForCancel();
+        });
+    auto const id = interactor->StartConversion(m_request, m_listener);
+    ASSERT_TRUE(id);
+    while (!reported)
+        std::this_thread::yield();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_listener.seconds, std::vector<long>{500});
+
+    interactor->CancelConversion(*id);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_listener.reports.empty(); }));
+    ASSERT_TRUE(m_listener.reports.front().error);
+    EXPECT_EQ(m_listener.reports.front().error->code, Core::ErrorCode::Cancelled);
+    interactor->CancelConversion(*id);
+}
+
+TEST_F(TranscoderInteractorTest, DestroyingItCancelsWaitsAndSilencesEverything)
+{
+    std::atomic<bool> left{false};
+    auto interactor = MakeInteractor(
+        [&](ScriptedJob& job, Proc::ITranscodeObserver& observer)
+        {
+            observer.OnProgress(At(1s));
+            job.WaitForCancel();
+            observer.OnProgress(At(2s));
+            left = true;
+        });
+    ASSERT_TRUE(interactor->StartConversion(m_request, m_listener));
+    interactor.reset();
+    EXPECT_TRUE(left);
+    QTest::qWait(20);
+    EXPECT_TRUE(m_listener.seconds.empty());
+    EXPECT_TRUE(m_listener.reports.empty());
+}
+
+TEST_F(TranscoderInteractorTest, AnObserverMayDestroyItOrStartTheNextConversion)
+{
+    auto interactor =
+        MakeInteractor([](ScriptedJob&, Proc::ITranscodeObserver& observer) { observer.OnProgress(At(1s)); });
+    Listener second;
+    second.onFinished = [&] { interactor.reset(); };
+    m_listener.onFinished = [&] { EXPECT_TRUE(interactor->StartConversion(m_request, second)); };
+    ASSERT_TRUE(interactor->StartConversion(m_request, m_listener));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return interactor == nullptr; }));
+    EXPECT_EQ(m_listener.reports.size(), 1U);
+    EXPECT_EQ(second.reports.size(), 1U);
+
+    auto other = MakeInteractor(
+        [](ScriptedJob& job, Proc::ITranscodeObserver& observer)
+        {
+            observer.OnProgress(At(1s));
+            job.WaitForCancel();
+        });
+    Listener third;
+    third.onProgress = [&] { other.reset(); };
+    ASSERT_TRUE(other->StartConversion(m_request, third));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return other == nullptr; }));
+    EXPECT_TRUE(third.reports.empty());
+}
+
+} // namespace
+} // namespace Korvex::Converter::Transcoder
