@@ -6,7 +6,7 @@ set(INCLUDE_GROUPS
     "BOOST_POINTERS=^boost/(smart_ptr|core)/"
     "BOOST=^boost/"
     "GLOG=^glog/"
-    "QT_CORE=^Q(ByteArray|CoreApplication|DateTime|Dir|EventLoop|File|FileInfo|Json[A-Za-z]*|Locale|MetaObject|MetaType|Object|Pointer|Settings|StandardPaths|String|StringList|TextStream|Thread|Timer|Translator|Url|UrlQuery|Variant|tEndian)$"
+    "QT_CORE=^Q(Buffer|ByteArray|CoreApplication|DateTime|Dir|Event|EventLoop|File|FileInfo|Json[A-Za-z]*|Locale|MetaObject|MetaType|Object|Pointer|Settings|StandardPaths|String|StringList|TextStream|Thread|Timer|Translator|Url|UrlQuery|Variant|tEndian)$"
     "QT_GUI=^Q(Font|Color|Image|ImageWriter|FontDatabase|GuiApplication|Painter|Transform)$"
     "FFMPEG=^lib(av[a-z]*|sw[a-z]*)/"
     "ASS=^(ass/|fontconfig/)"
@@ -30,5 +30,5 @@ set(INCLUDE_RULES
     "Platform/Transcoder|^Transcoder/ ^Proc/[A-Za-z]+\\.h ^Core/ ^Conf/ QT_CORE GLOG"
     "Platform/App|^App/ ^Core/ QT_CORE GLOG"
     "Platform/Hypodermic|^Hypodermic/ BOOST"
-    "Hosts|^Subtitles/Subtitles\\.h ^Subtitles/Entities/ ^Subtitles/UseCases/(Composition|I[A-Z][A-Za-z]*Factory)\\.h ^Subtitles/Adapters/HostBridge\\.h ^(App|Core|Conf|Proc|Transcoder)/[A-Za-z]+\\.h ^(Cli|Desktop|Common)/ QT_CORE QT_GUI GLOG CONTAINER"
+    "Hosts|^Subtitles/Subtitles\\.h ^Subtitles/Entities/ ^Subtitles/UseCases/(Composition|ISubtitleController|I[A-Z][A-Za-z]*Factory)\\.h ^Subtitles/Adapters/(HostBridge|SubtitleEncodingNames)\\.h ^(App|Core|Conf|Proc|Transcoder)/[A-Za-z]+\\.h ^(Cli|Desktop|Common)/ ^(io|shellapi|unistd|windows)\\.h QT_CORE QT_GUI GLOG CONTAINER"
 )

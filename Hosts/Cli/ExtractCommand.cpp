@@ -1,0 +1,79 @@
+#include "Cli/ExtractCommand.h"
+
+#include "Cli/Format.h"
+#include "Cli/Services.h"
+#include "Common/MediaItemSession.h"
+#include "Common/Sentences.h"
+#include "Common/SessionError.h"
+
+#include "Subtitles/Subtitles.h"
+
+#include "Core/FileSystem.h"
+#include "Proc/MediaInfo.h"
+#include "Proc/SubtitleExport.h"
+#include "Transcoder/Preset.h"
+
+#include <ostream>
+
+namespace Korvex::Cli
+{
+
+using Converter::Subtitles::Entities::SubtitleTrack;
+
+namespace
+{
+
+/// Where the track's events are: in the input, or in the file beside it that the track is.
+Proc::SubtitleSource FindSource(Services& services, ioPath const& input, std::string const& id)
+{
+    Hosts::MediaItemSession session(services);
+    session.Open(input, {}, {});
+    SubtitleTrack const track = session.FindTrack(id);
+    Proc::SubtitleSource source;
+    source.path = track.isExternal ? track.path : input;
+    // A file that is nothing but subtitles is read as such, its text decoded before anything else sees it.
+    bool const isSubtitleFile = session.GetMediaInfo().streams.size() == 1;
+    if (!track.isExternal && !isSubtitleFile)
+        source.streamIndex = track.streamIndex;
+    return source;
+}
+
+} // namespace
+
+std::vector<OptionGroup> ExtractCommand::Options() const
+{
+    return {{"Options",
+             {{"--track", OptionValue::Required, "ID", "The track, as \"korvex tracks\" prints it."},
+              {"-o", OptionValue::Required, "FILE",
+               "The file to write: .srt or .ass for text, .sup for PGS, .mkv for every kind."}}}};
+}
+
+ExitCode ExtractCommand::Run(Arguments const& arguments, Console& console)
+{
+    GivenOption const* track = arguments.Find("--track");
+    GivenOption const* target = arguments.Find("-o");
+    if (arguments.inputs.size() != 1)
+        throw UsageError("\"korvex extract\" takes exactly one input.");
+    if (track == nullptr)
+        throw UsageError("Say which track with --track ID.");
+    if (target == nullptr)
+        throw UsageError("Say where to write with -o FILE.");
+
+    Services services;
+    Proc::SubtitleSource const source = FindSource(services, arguments.inputs.front(), track->Value());
+    if (auto const refused = Core::CheckOutput(target->Value(), {arguments.inputs.front(), source.path}, false))
+        throw Hosts::FileError(*refused);
+    auto const written = Proc::ExtractSubtitle(source, target->Value());
+    if (!written)
+        throw Hosts::FileError(written.GetError());
+    if (written->replacedBytes > 0)
+        console.err << "korvex: " << Count(written->replacedBytes, "byte") << " of track " << track->Value()
+                    << " did not decode as " << written->encoding << " and show as \"\xEF\xBF\xBD\".\n";
+    if (written->skippedCues > 0)
+        console.err << "korvex: " << Count(written->skippedCues, "cue") << " without usable times left out.\n";
+    console.out << "Wrote " << written->path.utf8string() << " (" << Hosts::DisplayName(written->codecId) << ", "
+                << Count(written->cueCount, "cue") << ").\n";
+    return ExitCode::Done;
+}
+
+} // namespace Korvex::Cli

@@ -1,0 +1,72 @@
+#include "Common/Sentences.h"
+
+#include "Core/CoreManager.h"
+#include "Core/Localization.h"
+#include "Proc/SubtitleContent.h"
+
+#include <array>
+#include <cmath>
+#include <cstdio>
+
+namespace Korvex::Hosts
+{
+
+std::string Quoted(ioPath const& path)
+{
+    return "\"" + path.utf8string() + "\"";
+}
+
+std::string DisplayName(std::string const& id)
+{
+    return Core::GetLocalizationManagerForDomain(Core::CoreManager::MESSAGE_DOMAIN).Translate(id);
+}
+
+std::string JoinWithOr(std::vector<std::string> const& words)
+{
+    std::string text;
+    for (std::size_t i = 0; i < words.size(); ++i)
+    {
+        if (i > 0)
+            text += i + 1 == words.size() ? " or " : ", ";
+        text += words[i];
+    }
+    return text;
+}
+
+std::string FormatSeconds(double seconds)
+{
+    long long const thousandths = std::llround(std::fabs(seconds) * 1000.0);
+    std::array<char, 8> fraction{};
+    std::snprintf(fraction.data(), fraction.size(), "%03d", static_cast<int>(thousandths % 1000));
+    std::string text = (seconds < 0.0 ? "-" : "") + std::to_string(thousandths / 1000) + "." + fraction.data();
+    text.erase(text.find_last_not_of('0') + 1);
+    if (text.back() == '.')
+        text.pop_back();
+    return text;
+}
+
+std::vector<std::string> DescribeReading(ioPath const& file, Proc::TextDecodeReport const& decoding,
+                                         std::size_t cueCount, std::size_t skippedCues)
+{
+    using Source = Proc::TextDecodeReport::Source;
+    std::vector<std::string> sentences;
+    if (decoding.source == Source::Detector)
+        sentences.push_back("The text of " + Quoted(file) + " was read as " + decoding.encoding +
+                            ", which was detected; --encoding names another encoding.");
+    else if (decoding.source == Source::Fallback)
+        sentences.push_back("Nothing tells the encoding of " + Quoted(file) + "; it was read as " + decoding.encoding +
+                            ", and --encoding names another.");
+    if (decoding.replacedBytes > 0)
+        sentences.push_back(std::to_string(decoding.replacedBytes) +
+                            (decoding.replacedBytes == 1 ? " byte of " : " bytes of ") + Quoted(file) +
+                            " did not decode as " + decoding.encoding +
+                            " and show as \"\xEF\xBF\xBD\"; check the encoding.");
+    if (skippedCues > 0)
+        sentences.push_back(std::to_string(skippedCues) + (skippedCues == 1 ? " cue of " : " cues of ") + Quoted(file) +
+                            " had no usable times and " + (skippedCues == 1 ? "was" : "were") + " left out.");
+    if (cueCount == 0)
+        sentences.push_back("The subtitle file " + Quoted(file) + " holds no cues.");
+    return sentences;
+}
+
+} // namespace Korvex::Hosts

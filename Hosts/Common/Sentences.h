@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Core/ioPath.h"
+
+#include <string>
+#include <vector>
+
+namespace Korvex::Proc
+{
+struct TextDecodeReport;
+} // namespace Korvex::Proc
+
+/// What hosts say about files and tracks, put into words in one place.
+namespace Korvex::Hosts
+{
+
+[[nodiscard]] std::string Quoted(ioPath const& path);
+
+/// The display name of a codec or container.
+[[nodiscard]] std::string DisplayName(std::string const& id);
+
+/// "a", "a or b", "a, b or c".
+[[nodiscard]] std::string JoinWithOr(std::vector<std::string> const& words);
+
+/// A number of seconds as short as possible: "1.5", "-0.25".
+[[nodiscard]] std::string FormatSeconds(double seconds);
+
+/// What is worth knowing about how a subtitle file was read: an encoding that had to be guessed, bytes that did not
+/// decode, cues without sense, no cues at all. Empty when everything is as expected.
+[[nodiscard]] std::vector<std::string> DescribeReading(ioPath const& file, Proc::TextDecodeReport const& decoding,
+                                                       std::size_t cueCount, std::size_t skippedCues);
+
+} // namespace Korvex::Hosts
