@@ -5,20 +5,23 @@ set -eu
 bin=$1
 cd "$(dirname "$(readlink -f "$0")")"
 
-[ -f clip.mkv ] || "$bin/korvex-make-sample" clip.mkv
+if [ ! -f clip.mkv ]; then
+    "$bin/korvex-make-sample" clip.part.mkv
+    mv clip.part.mkv clip.mkv
+fi
 mkdir -p output
-"$bin/korvex" convert clip.mkv -o output/clip-soft.mkv --overwrite --no-lookup \
+"$bin/korvex" convert clip.mkv -o output/clip-soft.mkv --overwrite --no-lookup --tracks none \
     --add clip.ru.srt --language ru --title "Русский" \
     --add clip.en.ass --language en --title "English" --default
 "$bin/korvex" convert clip.mkv -o output/clip-burned.mp4 --overwrite --no-lookup --add clip.en.ass --burn
-"$bin/korvex" preview clip.mkv --at 2.5 -o output/clip-preview.png --overwrite --no-lookup --add clip.ru.srt --burn
+"$bin/korvex" preview clip.mkv --at 1.5 -o output/clip-preview.png --overwrite --no-lookup --add clip.ru.srt --burn
 
 cat <<TEXT
 
 Written in $PWD/output:
     clip-soft.mkv      two switchable subtitle tracks, Russian (SubRip, was CP1251) and English (ASS)
     clip-burned.mp4    the English track drawn into the picture
-    clip-preview.png   the picture at 2.5 s with the Russian track
+    clip-preview.png   the picture at 1.5 s with the Russian track
 
 Play them with any player: 'mpv output/clip-soft.mkv', 'vlc ...' or 'ffplay ...'; in the first one choose the subtitle
 track in the player's menu.
