@@ -1,0 +1,147 @@
+#include "Subtitles/Fakes/FakeEditingPanel.h"
+
+#include "Subtitles/Adapters/IExternalSubtitlesDialog.h"
+#include "Subtitles/Adapters/IItemPanel.h"
+#include "Subtitles/Adapters/ItemPresenter.h"
+#include "Subtitles/Adapters/SubtitleCollectionPresenter.h"
+#include "Subtitles/Entities/SubtitlePresenterSettings.h"
+
+#include "App/GUIContainer.h"
+
+#include <QCoreApplication>
+
+namespace Korvex::Converter::Subtitles::Adapters
+{
+namespace
+{
+
+using Entities::SubtitlePresenterKind;
+using Entities::SubtitleTrack;
+using Entities::SubtitleTrackID;
+using Rows = std::vector<std::string>;
+
+class FakeItemPanel final : public Testing::FakeTrackList<IItemPanel>
+{
+public:
+    void Hide() override { isHidden = true; }
+
+    bool isHidden = false;
+};
+
+class FakeDialog final : public IExternalSubtitlesDialog
+{
+public:
+    std::vector<ioPath> ChooseFiles(std::vector<std::string> const& formats) override
+    {
+        offered = formats;
+        return {"a.srt", "b.ass"};
+    }
+
+    Rows offered;
+};
+
+class CollectionPresenterTest : public testing::Test, public UseCases::ISubtitleCollectionPresenterEventObserver
+{
+protected:
+    CollectionPresenterTest()
+    {
+        m_widgets->Register<IEditingPanel>(m_panel);
+        m_widgets->Register<IItemPanel>(m_item, static_cast<std::string>(m_collection));
+        m_presenter.RegisterEventHandler(this);
+        m_presenter.ReconnectToWidgets({SubtitlePresenterKind::Both}, m_collection);
+    }
+
+    void OnFilesChosen(std::vector<ioPath> const& paths) override
+    {
+        m_events.push_back("files " + std::to_string(paths.size()));
+    }
+    void OnFindFileRequested(std::string const& source) override { m_events.push_back("find " + source); }
+    void OnSubtitleTrackSelected(SubtitleTrackID const& id) override { m_events.push_back("track " + id.ToString()); }
+    void OnExtractSubtitleRequested(SubtitleTrackID const& id) override
+    {
+        m_events.push_back("extract " + id.ToString());
+    }
+    void OnNoSubtitlesSelected() override { m_events.push_back("none"); }
+    void OnAllSoftSubtitlesSelected() override { m_events.push_back("all soft"); }
+    void OnChoiceFinished() override { m_events.push_back("finished"); }
+
+    Entities::SubtitleCollectionID m_collection;
+    std::shared_ptr<Gui::GUIContainer> m_widgets = std::make_shared<Gui::GUIContainer>();
+    std::shared_ptr<Testing::FakeEditingPanel> m_panel = std::make_shared<Testing::FakeEditingPanel>();
+    std::shared_ptr<FakeItemPanel> m_item = std::make_shared<FakeItemPanel>();
+    std::shared_ptr<FakeDialog> m_dialog = std::make_shared<FakeDialog>();
+    SubtitleCollectionPresenter m_presenter{m_widgets, std::make_shared<ItemPresenter>(m_widgets), {m_dialog}};
+    Rows m_events;
+};
+
+TEST_F(CollectionPresenterTest, FillsBothListsInOrderAndShowsTheChoiceAgain)
+{
+    for (std::uint32_t const index : {10u, 2u, 10u})
+        m_presenter.AddSubtitleTrack(SubtitleTrack(index));
+    m_presenter.SetCurrentTrack(SubtitleTrackID(10u));
+    m_presenter.SetSoftSubAvailable(true);
+    EXPECT_TRUE(m_panel->rows.empty());
+    m_presenter.SortTracks();
+    m_presenter.FillWidgetsTracks();
+    EXPECT_EQ(m_panel->rows, (Rows{"2", "10"}));
+    EXPECT_EQ(m_item->rows, m_panel->rows);
+    EXPECT_EQ(m_panel->shown, "10");
+    EXPECT_EQ(m_item->shown, "10");
+    EXPECT_TRUE(m_item->softSubAvailable);
+
+    m_presenter.ClearTracks();
+    m_presenter.FillWidgetsTracks();
+    EXPECT_EQ(m_panel->shown, "nothing") << "another film's choice is forgotten";
+}
+
+TEST_F(CollectionPresenterTest, ShowsAChoiceInTheOtherListAndReportsItOnce)
+{
+    m_item->UserSelects(SubtitleTrackID(3u));
+    EXPECT_EQ(m_panel->shown, "3");
+    m_panel->UserSelectsNone();
+    EXPECT_EQ(m_item->shown, "without");
+    m_panel->UserSelectsAllSoft();
+    EXPECT_EQ(m_item->shown, "all soft");
+    m_panel->Raise([](auto* observer) { observer->OnExtractSubtitleRequested(SubtitleTrackID(4u)); });
+    m_panel->Raise([](auto* observer) { observer->OnFindFileRequested("editingPanel"); });
+    EXPECT_EQ(m_events, (Rows{"track 3", "none", "all soft", "extract 4", "find editingPanel"}));
+}
+
+TEST_F(CollectionPresenterTest, ServesTheItemPanelsCheckBox)
+{
+    m_item->applyToAllFiles = true;
+    EXPECT_TRUE(m_presenter.GetApplyToAllFiles());
+    m_item->Raise([](auto* observer) { observer->OnChoiceFinished(); });
+    EXPECT_EQ(m_events, Rows{"finished"});
+    m_presenter.Hide();
+    m_presenter.SetApplyToAllFiles(false);
+    EXPECT_TRUE(m_item->isHidden);
+    EXPECT_FALSE(m_item->applyToAllFiles);
+}
+
+TEST_F(CollectionPresenterTest, OpensTheDialogAfterTheNotification)
+{
+    int argumentCount = 0;
+    QCoreApplication const application(argumentCount, nullptr);
+    m_panel->Raise([](auto* observer) { observer->OnChooseFileRequested(); });
+    EXPECT_TRUE(m_dialog->offered.empty());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_dialog->offered, (Rows{"srt", "ass", "ssa"}));
+    EXPECT_EQ(m_events, Rows{"files 2"});
+}
+
+TEST_F(CollectionPresenterTest, FindsTheItemPanelByFilmOrTheCommonOne)
+{
+    auto const common = std::make_shared<FakeItemPanel>();
+    m_widgets->Register<IItemPanel>(common);
+    m_presenter.ReconnectToWidgets({SubtitlePresenterKind::ItemPanel}, Entities::SubtitleCollectionID());
+    m_presenter.SetWithoutSubtitles();
+    EXPECT_EQ(common->shown, "without");
+    EXPECT_EQ(m_item->shown, "nothing");
+    m_presenter.ClearConnectToWidgets();
+    m_presenter.SetAllSoftSubtitles();
+    EXPECT_EQ(common->shown, "without");
+}
+
+} // namespace
+} // namespace Korvex::Converter::Subtitles::Adapters

@@ -1,0 +1,172 @@
+#include "Subtitles/Adapters/SettingsBuilders.h"
+#include "Subtitles/Adapters/SubtitleEncodingNames.h"
+
+#include "Subtitles/Entities/ISubtitleImpl.h"
+#include "Subtitles/Entities/SubtitleCollection.h"
+
+#include "Proc/Settings.h"
+
+#include <limits>
+
+namespace Korvex::Converter::Subtitles::Adapters
+{
+namespace
+{
+
+using Entities::SubtitleAlign;
+using Entities::SubtitleCollection;
+using Entities::SubtitleEncoding;
+using Entities::SubtitleTrack;
+using Entities::SubtitleTrackID;
+using Kind = Proc::SubtitleTrack::Kind;
+
+SubtitleCollection MakeCollection(SubtitleTrack const& track)
+{
+    SubtitleCollection collection;
+    collection.tracks.emplace(track.id, track);
+    collection.currentTrack = track.id;
+    return collection;
+}
+
+SubtitleTrack MakeFile(ioPath const& path)
+{
+    SubtitleTrack track(path);
+    track.title = path.FileName();
+    track.isExternal = true;
+    return track;
+}
+
+Proc::AssRendererSettings RendererFor(QFont const& font)
+{
+    SubtitleCollection collection;
+    collection.textSettings.font = font;
+    return BuildDrawerSettings(collection).GetAssRendererSettings();
+}
+
+TEST(EncodingNamesTest, MapBothWaysExactly)
+{
+    for (int value = 1; value <= 14; ++value)
+    {
+        auto const encoding = static_cast<SubtitleEncoding>(value);
+        EXPECT_EQ(EncodingFromCoreString(EncodingToCoreString(encoding)), encoding) << value;
+    }
+    EXPECT_EQ(EncodingToCoreString(SubtitleEncoding::Auto), "");
+    EXPECT_EQ(EncodingToCoreString(static_cast<SubtitleEncoding>(15)), "");
+    EXPECT_EQ(EncodingFromCoreString("BIG-5"), SubtitleEncoding::BIG5);
+    EXPECT_EQ(EncodingFromCoreString("utf-8"), SubtitleEncoding::Auto);
+}
+
+TEST(MixerSettingsTest, NameTheTrackByStreamOrByFile)
+{
+    auto const stream = BuildMixerSettings(MakeCollection(SubtitleTrack(3u)));
+    ASSERT_NE(stream, nullptr);
+    EXPECT_EQ(stream->GetSubtitleStreamIndex(), 3u);
+
+    SubtitleTrack file = MakeFile("Movie.srt");
+    file.encoding = SubtitleEncoding::Windows1251;
+    file.streamIndex = 0;
+    auto const external = BuildMixerSettings(MakeCollection(file));
+    EXPECT_EQ(external->GetFilename(), ioPath("Movie.srt")) << "a file goes by its path, whatever its stream index";
+    EXPECT_FALSE(external->GetSubtitleStreamIndex());
+    EXPECT_EQ(external->GetEncoding(), "CP1251");
+
+    SubtitleTrack unmarked(ioPath("Movie.ass"));
+    EXPECT_EQ(BuildMixerSettings(MakeCollection(unmarked))->GetFilename(), ioPath("Movie.ass"));
+    EXPECT_EQ(BuildMixerSettings(SubtitleCollection()), nullptr);
+}
+
+TEST(DrawerSettingsTest, CarryTheLook)
+{
+    SubtitleCollection collection = MakeCollection(SubtitleTrack(3u));
+    collection.tracks.begin()->second.synchronizationOffset = -1.5;
+    collection.textSettings =
+        Entities::SubtitleTextSettings(9, QFont("Arial", 31), QColor(1, 2, 3), QColor(4, 5, 6), SubtitleAlign::Default);
+    auto const drawer = BuildDrawerSettings(collection);
+    auto const& renderer = drawer.GetAssRendererSettings();
+    EXPECT_EQ(drawer.GetTimeShift(), -1'500'000);
+    EXPECT_EQ(drawer.GetMoveUp(), 9);
+    EXPECT_EQ(drawer.GetMoveRight(), 0);
+    EXPECT_EQ(renderer.GetPrimaryColour().blue, 3);
+    EXPECT_EQ(renderer.GetOutlineColour().red, 4);
+    EXPECT_EQ(renderer.GetFontName(), "Arial");
+    EXPECT_EQ(renderer.GetFontSize(), 31.0);
+    EXPECT_EQ(renderer.GetFlags(), 0u);
+
+    collection.tracks.begin()->second.synchronizationOffset = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_EQ(BuildDrawerSettings(collection).GetTimeShift(), 0);
+}
+
+TEST(DrawerSettingsTest, SetOneAxisOfTheAlignment)
+{
+    struct Case
+    {
+        int align;
+        int horizontal;
+        int vertical;
+    };
+    for (Case const& c : {Case{0, 3, 3}, {1, 3, 2}, {2, 3, 0}, {3, 3, 1}, {4, 1, 3}, {5, 0, 3}, {6, 2, 3}, {7, 3, 3}})
+    {
+        SubtitleCollection collection;
+        collection.textSettings.align = static_cast<SubtitleAlign>(c.align);
+        auto const drawer = BuildDrawerSettings(collection);
+        EXPECT_EQ(static_cast<int>(drawer.GetHorizontalAlignment()), c.horizontal) << c.align;
+        EXPECT_EQ(static_cast<int>(drawer.GetVerticalAligment()), c.vertical) << c.align;
+    }
+}
+
+TEST(DrawerSettingsTest, TranslateTheFontsStyle)
+{
+    QFont font("Arial", 20);
+    font.setWeight(57);
+    EXPECT_EQ(RendererFor(font).GetFlags(), 0u) << "medium is regular";
+    font.setWeight(58);
+    font.setItalic(true);
+    font.setUnderline(true);
+    EXPECT_EQ(RendererFor(font).GetFlags(), 14u);
+    font.setStrikeOut(true);
+    EXPECT_EQ(RendererFor(font).GetFlags(), 15u);
+
+    QFont pixels;
+    pixels.setFamily(QString());
+    pixels.setPixelSize(40);
+    Proc::AssRendererSettings const defaults;
+    EXPECT_EQ(RendererFor(pixels).GetFontSize(), defaults.GetFontSize());
+    EXPECT_EQ(RendererFor(pixels).GetFontName(), defaults.GetFontName());
+}
+
+TEST(SoftSettingsTest, ListEveryTrackInKeyOrder)
+{
+    SubtitleCollection collection;
+    SubtitleTrack stream(9u);
+    stream.language = "eng";
+    stream.title = "Director's notes";
+    stream.isForced = true;
+    SubtitleTrack named = MakeFile("Movie.de.srt");
+    named.language = "de";
+    SubtitleTrack titled = MakeFile("Movie.fr.srt");
+    titled.title = "Français";
+    for (SubtitleTrack const& track : {stream, SubtitleTrack(12u), named, titled})
+        collection.tracks.emplace(track.id, track);
+
+    auto const tracks = BuildSoftSettings(collection)->GetTracksInfo();
+    ASSERT_EQ(tracks.size(), 4u);
+    EXPECT_EQ(tracks[0].streamIndex, 12u);
+    EXPECT_EQ(tracks[0].kind, Kind::Stream);
+    EXPECT_EQ(tracks[1].title, "Director's notes");
+    EXPECT_EQ(tracks[1].language, "eng");
+    EXPECT_EQ(tracks[1].isForced, std::make_optional(true));
+    EXPECT_EQ(tracks[1].isDefault, std::nullopt) << "as in the source";
+    EXPECT_EQ(tracks[2].kind, Kind::File);
+    EXPECT_EQ(tracks[2].path, ioPath("Movie.de.srt"));
+    EXPECT_EQ(tracks[2].language, "de");
+    EXPECT_EQ(tracks[2].title, "") << "nobody wants a file name as a title";
+    EXPECT_EQ(tracks[3].title, "Français");
+
+    collection.defaultTracks = {titled.id};
+    auto const marked = BuildSoftSettings(collection)->GetTracksInfo();
+    EXPECT_EQ(marked[1].isDefault, std::make_optional(false));
+    EXPECT_EQ(marked[3].isDefault, std::make_optional(true));
+}
+
+} // namespace
+} // namespace Korvex::Converter::Subtitles::Adapters

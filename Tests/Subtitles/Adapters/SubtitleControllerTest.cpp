@@ -1,0 +1,148 @@
+#include "Subtitles/Adapters/SubtitleController.h"
+#include "Subtitles/Adapters/SubtitleImpl.h"
+
+#include "Subtitles/Entities/SubtitleCodecs.h"
+#include "Subtitles/Entities/SubtitleCollection.h"
+
+#include "Conf/IFormatCodec.h"
+#include "Conf/IFormatCodecSubtitle.h"
+#include "Conf/IFormatFile.h"
+#include "Core/CoreManager.h"
+#include "Core/FileSystem.h"
+#include "Proc/Register.h"
+
+namespace Korvex::Converter::Subtitles::Adapters
+{
+namespace
+{
+
+using Conf::IFormatCodecSubtitle;
+using Conf::IFormatFile;
+using Entities::SubtitleCollection;
+using Entities::SubtitleCollectionMode;
+
+class SubtitleControllerTest : public testing::Test
+{
+protected:
+    SubtitleControllerTest()
+    {
+        m_collection->tracks.emplace(Entities::SubtitleTrackID(2u), Entities::SubtitleTrack(2u));
+    }
+
+    SubtitleImpl& Impl() { return dynamic_cast<SubtitleImpl&>(*m_collection->impl); }
+
+    void Apply(SubtitleCollectionMode mode)
+    {
+        m_collection->mode = mode;
+        m_controller.SetSubtitleCollection(m_collection);
+        m_controller.ApplySettings();
+    }
+
+    SubtitleController m_controller;
+    std::shared_ptr<SubtitleCollection> m_collection = std::make_shared<SubtitleCollection>();
+};
+
+TEST_F(SubtitleControllerTest, KnowsWhatContainersCarry)
+{
+    auto const codecs = [this](std::string const& format) { return m_controller.GetAllowedSoftCodecIds(format); };
+    EXPECT_EQ(
+        codecs(IFormatFile::FORMAT_MATROSKA),
+        (std::set<std::string>{"dvb_subtitle", "dvd_subtitle", "hdmv_pgs_subtitle", "subrip", "text", "ass", "ssa"}));
+    EXPECT_EQ(codecs(IFormatFile::FORMAT_MP4), (std::set<std::string>{"dvd_subtitle", "mov_text"}));
+    EXPECT_EQ(codecs(IFormatFile::FORMAT_MOV), codecs(IFormatFile::FORMAT_MP4));
+    EXPECT_EQ(codecs(IFormatFile::FORMAT_MPEGTS), (std::set<std::string>{"dvb_subtitle", "dvb_teletext"}));
+    EXPECT_EQ(codecs(IFormatFile::FORMAT_MPEG2TS), codecs(IFormatFile::FORMAT_MPEGTS));
+    EXPECT_EQ(codecs(IFormatFile::FORMAT_AVI), (std::set<std::string>{"xsub"}));
+    EXPECT_EQ(codecs(IFormatFile::FORMAT_FLV), (std::set<std::string>{"text"}));
+    EXPECT_TRUE(codecs("").empty());
+    EXPECT_TRUE(codecs("MATROSKA").empty());
+}
+
+TEST_F(SubtitleControllerTest, KnowsFilesByExtensionAndPath)
+{
+    for (char const* extension : {"srt", "SRT", "ass", "ssa", "Smi"})
+        EXPECT_TRUE(m_controller.IsFileExtensionSupported(extension)) << extension;
+    for (char const* extension : {".srt", "vtt", "", "sr"})
+        EXPECT_FALSE(m_controller.IsFileExtensionSupported(extension)) << extension;
+    EXPECT_EQ(m_controller.GetValidExternalFormats(), (std::vector<std::string>{"srt", "ass", "ssa"}));
+    EXPECT_TRUE(m_controller.PathIsDVD("/media/dvd://1"));
+    EXPECT_FALSE(m_controller.PathIsDVD("/media/dvd/1"));
+}
+
+TEST_F(SubtitleControllerTest, EntitiesKnowTheCoresCodecNames)
+{
+    std::set<std::string> const restylable = {
+        IFormatCodecSubtitle::CODEC_ID_SUBRIP, IFormatCodecSubtitle::CODEC_ID_SAMI, IFormatCodecSubtitle::CODEC_ID_TEXT,
+        IFormatCodecSubtitle::CODEC_ID_WEBVTT, IFormatCodecSubtitle::CODEC_ID_MOV_TEXT};
+    for (std::string const& codec : restylable)
+        EXPECT_TRUE(Entities::IsRestylableSubtitleCodec(codec) && Entities::IsTextSubtitleCodec(codec)) << codec;
+    for (std::string const& codec : {IFormatCodecSubtitle::CODEC_ID_ASS, IFormatCodecSubtitle::CODEC_ID_SSA})
+        EXPECT_TRUE(!Entities::IsRestylableSubtitleCodec(codec) && Entities::IsTextSubtitleCodec(codec)) << codec;
+    for (std::string const& codec :
+         {IFormatCodecSubtitle::CODEC_ID_HDMV_PGS_SUBTITLE, Conf::IFormatCodec::CODEC_ID_NONE})
+        EXPECT_FALSE(Entities::IsTextSubtitleCodec(codec)) << codec;
+}
+
+TEST_F(SubtitleControllerTest, DeterminesTheCodecOfRealFiles)
+{
+    Proc::RegisterFactories();
+    ioPath const folder = std::move(Core::CreateWorkFolder()).Value();
+    auto const codecOf = [&](char const* name, char const* bytes)
+    {
+        EXPECT_FALSE(Core::WriteFile(folder / name, bytes, false));
+        return m_controller.DetermineSubtitleCodec(folder / name);
+    };
+    EXPECT_EQ(codecOf("a.srt", "1\n00:00:01,000 --> 00:00:02,000\nHello\n"), IFormatCodecSubtitle::CODEC_ID_SUBRIP);
+    EXPECT_EQ(codecOf("empty.srt", ""), Conf::IFormatCodec::CODEC_ID_NONE);
+    EXPECT_EQ(codecOf("noise.srt", "\x01\x02\x03 nothing"), Conf::IFormatCodec::CODEC_ID_NONE);
+    EXPECT_EQ(m_controller.DetermineSubtitleCodec(folder / "missing.srt"), Conf::IFormatCodec::CODEC_ID_NONE);
+    EXPECT_NE(m_controller.GetCodecName(IFormatCodecSubtitle::CODEC_ID_SUBRIP), "");
+    Core::RemoveWorkFolder(folder);
+}
+
+TEST_F(SubtitleControllerTest, SoftAndBurnedInExcludeEachOther)
+{
+    Apply(SubtitleCollectionMode::AllSoftSubtitles);
+    EXPECT_NE(Impl().GetSubtitleSoftSettings(), nullptr);
+    EXPECT_EQ(Impl().GetSubtitleMixerSettings(), nullptr);
+
+    m_collection->currentTrack = Entities::SubtitleTrackID(2u);
+    Apply(SubtitleCollectionMode::SelectedTrack);
+    EXPECT_EQ(Impl().GetSubtitleSoftSettings(), nullptr);
+    auto const mixer = Impl().GetSubtitleMixerSettings();
+    EXPECT_NE(mixer, nullptr);
+
+    Apply(SubtitleCollectionMode::ModeNone);
+    EXPECT_EQ(Impl().GetSubtitleMixerSettings(), mixer) << "nothing decided, nothing changed";
+    m_collection->withoutSubtitles = 1;
+    Apply(SubtitleCollectionMode::SelectedTrack);
+    EXPECT_EQ(Impl().GetSubtitleMixerSettings(), nullptr);
+
+    m_collection->withoutSubtitles = 0;
+    Apply(SubtitleCollectionMode::AllSoftSubtitles);
+    m_controller.ClearSettings();
+    EXPECT_EQ(Impl().GetSubtitleSoftSettings(), nullptr);
+}
+
+TEST_F(SubtitleControllerTest, LeavesAnotherImplementationsHolderAlone)
+{
+    class ForeignImpl final : public Entities::ISubtitleImpl
+    {
+    public:
+        std::string GetImpl() const override { return "FOREIGN"; }
+    };
+    auto const foreign = std::make_shared<ForeignImpl>();
+    m_controller.ApplySettings();
+    m_collection->impl = foreign;
+    Apply(SubtitleCollectionMode::AllSoftSubtitles);
+    EXPECT_EQ(m_collection->impl, foreign);
+
+    auto const own = std::make_shared<SubtitleImpl>();
+    m_collection->impl = own;
+    Apply(SubtitleCollectionMode::AllSoftSubtitles);
+    EXPECT_EQ(m_collection->impl, own);
+    EXPECT_NE(own->GetSubtitleSoftSettings(), nullptr);
+}
+
+} // namespace
+} // namespace Korvex::Converter::Subtitles::Adapters

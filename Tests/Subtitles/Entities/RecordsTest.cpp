@@ -1,0 +1,123 @@
+#include "Subtitles/Entities/ISubtitleImpl.h"
+#include "Subtitles/Entities/MetaTypes.h"
+#include "Subtitles/Entities/SubtitleCollection.h"
+#include "Subtitles/Entities/TrackOrder.h"
+
+#include <QMetaType>
+
+namespace Korvex::Converter::Subtitles::Entities
+{
+namespace
+{
+
+TEST(SubtitleTrackIDTest, IsOrderedByText)
+{
+    EXPECT_LT(SubtitleTrackID(12u), SubtitleTrackID(9u));
+    EXPECT_GT(SubtitleTrackID(ioPath("/films/b.srt")), SubtitleTrackID(ioPath("/films/b")));
+    EXPECT_FALSE(SubtitleTrackID(0u).IsEmpty());
+    EXPECT_TRUE(SubtitleTrackID().IsEmpty());
+    EXPECT_EQ(SubtitleTrackID(7u), SubtitleTrackID(ioPath("7")));
+}
+
+TEST(SubtitleCollectionIDTest, NeverUsesANumberTwice)
+{
+    SubtitleCollectionID const first;
+    SubtitleCollectionID const copy = first;
+    SubtitleCollectionID const second;
+    EXPECT_EQ(copy, first);
+    EXPECT_LT(first, second);
+    EXPECT_EQ(static_cast<std::uint32_t>(second), static_cast<std::uint32_t>(first) + 1);
+    EXPECT_EQ(static_cast<std::string>(second), std::to_string(static_cast<std::uint32_t>(second)));
+}
+
+TEST(SubtitleTrackTest, KnowsWhereItComesFrom)
+{
+    EXPECT_EQ(SubtitleTrack(7u).streamIndex, 7u);
+    SubtitleTrack const file(ioPath("/films/Movie.srt"));
+    EXPECT_EQ(file.streamIndex, 4294967295u);
+    EXPECT_EQ(file.id.ToString(), "/films/Movie.srt");
+    EXPECT_FALSE(file.isExternal) << "set by whoever adds the file";
+}
+
+TEST(SubtitleTrackTest, ComparesEveryField)
+{
+    using Change = void (*)(SubtitleTrack&);
+    Change const changes[] = {
+        [](SubtitleTrack& t) { t.id = SubtitleTrackID(2u); },
+        [](SubtitleTrack& t) { t.title = "a"; },
+        [](SubtitleTrack& t) { t.path = "a"; },
+        [](SubtitleTrack& t) { t.streamIndex = 2; },
+        [](SubtitleTrack& t) { t.encoding = SubtitleEncoding::BIG5; },
+        [](SubtitleTrack& t) { t.language = "a"; },
+        [](SubtitleTrack& t) { t.synchronizationOffset = 0.1; },
+        [](SubtitleTrack& t) { t.detail = "a"; },
+        [](SubtitleTrack& t) { t.codecId = "a"; },
+        [](SubtitleTrack& t) { t.codecName = "a"; },
+        [](SubtitleTrack& t) { t.extra = "a"; },
+        [](SubtitleTrack& t) { t.isExternal = true; },
+        [](SubtitleTrack& t) { t.isForced = true; },
+        [](SubtitleTrack& t) { t.styleEditable = true; },
+        [](SubtitleTrack& t) { t.encodingEditable = true; },
+    };
+    SubtitleTrack const track(1u);
+    for (std::size_t i = 0; i < std::size(changes); ++i)
+    {
+        SubtitleTrack other = track;
+        changes[i](other);
+        EXPECT_NE(track, other) << "change " << i;
+    }
+    SubtitleTrack negativeZero = track;
+    negativeZero.synchronizationOffset = -0.0;
+    EXPECT_EQ(track, negativeZero);
+}
+
+TEST(SubtitleTextSettingsTest, HasOneDefaultLook)
+{
+    SubtitleTextSettings const defaults;
+    EXPECT_EQ(defaults.font.family(), "Verdana");
+    EXPECT_EQ(defaults.font.pointSize(), 20);
+    EXPECT_EQ(defaults.textColor, QColor(Qt::white));
+    EXPECT_EQ(defaults.outlineColor, QColor(Qt::black));
+    SubtitleTextSettings changed(5, QFont("Arial", 12), Qt::red, Qt::blue, SubtitleAlign::Top);
+    EXPECT_NE(changed, defaults);
+    changed.ResetToDefault();
+    EXPECT_EQ(changed, defaults);
+}
+
+TEST(TrackOrderTest, ListsStreamsByNumberThenFiles)
+{
+    std::map<SubtitleTrackID, SubtitleTrack> tracks;
+    for (std::uint32_t const index : {10u, 2u, 3u})
+        tracks.emplace(SubtitleTrackID(index), SubtitleTrack(index));
+    SubtitleTrack file(ioPath("1.srt"));
+    file.isExternal = true;
+    tracks.emplace(file.id, file);
+
+    std::vector<std::string> rows;
+    for (SubtitleTrack const* track : ListOrder(tracks))
+        rows.push_back(track->id.ToString());
+    EXPECT_EQ(rows, (std::vector<std::string>{"2", "3", "10", "1.srt"}));
+    EXPECT_EQ(FindListRow(tracks, SubtitleTrackID(10u)), 2);
+    EXPECT_EQ(FindListRow(tracks, SubtitleTrackID()), SubtitleCollection::NO_INDEX);
+}
+
+TEST(DisplayTextTest, UnknownValuesReadAsTheFirst)
+{
+    EXPECT_EQ(GetDisplayText(SubtitleEncoding::BIG5), "Traditional Chinese charset (BIG5)");
+    EXPECT_EQ(GetDisplayText(static_cast<SubtitleEncoding>(15)), "Auto");
+    EXPECT_EQ(GetDisplayText(static_cast<SubtitleEncoding>(-1)), "Auto");
+    EXPECT_EQ(GetDisplayText(SubtitleAlign::Right), "Right");
+    EXPECT_EQ(GetDisplayText(static_cast<SubtitleAlign>(7)), "Default");
+}
+
+TEST(MetaTypesTest, AreKnownByTheirFullNames)
+{
+    EXPECT_EQ(QMetaType::type("Korvex::Converter::Subtitles::Entities::SubtitleEncoding"),
+              qMetaTypeId<SubtitleEncoding>());
+    EXPECT_EQ(QMetaType::type("Korvex::Converter::Subtitles::Entities::SubtitleAlign"), qMetaTypeId<SubtitleAlign>());
+    EXPECT_NE(QMetaType::type("Korvex::Converter::Subtitles::UseCases::IOnlineSearchController::Status"),
+              static_cast<int>(QMetaType::UnknownType));
+}
+
+} // namespace
+} // namespace Korvex::Converter::Subtitles::Entities

@@ -1,0 +1,128 @@
+#include "Subtitles/UseCases/OnlineDownloaderInteractor.h"
+#include "Subtitles/Entities/SearchTags.h"
+#include "Subtitles/Entities/SubtitleSearchMediaInfoSettings.h"
+#include "Subtitles/UseCases/IOnlineDownloaderController.h"
+#include "Subtitles/UseCases/IOnlineSearchMetadataFiller.h"
+
+namespace Korvex::Converter::Subtitles::UseCases
+{
+namespace
+{
+
+using Entities::SearchTags;
+using Tags = std::map<std::string, std::string>;
+
+class FakeFiles final : public IOnlineDownloaderController
+{
+public:
+    std::optional<MediaFingerprint> DetermineFingerprint(ioPath const& path) const override
+    {
+        return path.empty() ? std::nullopt : std::make_optional(MediaFingerprint{"00000000000000ff", 200000});
+    }
+};
+
+class FakeService final : public IOnlineSearchController
+{
+public:
+    void RegisterEventHandler(IOnlineSearchControllerObserver* observer) override
+    {
+        observers.RegisterEventHandler(observer);
+    }
+    void UnregisterEventHandler(IOnlineSearchControllerObserver* observer) override
+    {
+        observers.UnregisterEventHandler(observer);
+    }
+    Status StartSearch(SearchRequest const&) override { return answer; }
+    Status AutoSuggest(std::string const&, QString const&) override { return answer; }
+    Status DownloadSubtitles(std::vector<std::shared_ptr<SearchResult>> const&, ioPath const&) override
+    {
+        return answer;
+    }
+    bool CancelOperation() override { return true; }
+
+    Core::EventHandlerList<IOnlineSearchControllerObserver> observers;
+    Status answer = Success;
+};
+
+class OnlineDownloaderInteractorTest : public testing::Test, public IOnlineDownloaderInteractorObserver
+{
+protected:
+    void OnSubtitlesDownloaded(Entities::SubtitleCollectionID collection, ioPath const& file) override
+    {
+        EXPECT_EQ(collection, m_film);
+        m_events.push_back("file " + file.utf8string());
+    }
+    void OnOperationFinished(Entities::SubtitleCollectionID) override { m_events.push_back("finished"); }
+    void OnOperationFailed(Entities::SubtitleCollectionID, IOnlineSearchController::Status status,
+                           QString const& message) override
+    {
+        m_events.push_back("failed " + std::to_string(status) + (message.isEmpty() ? "" : " with a sentence"));
+    }
+
+    Entities::SubtitleCollectionID m_film;
+    std::vector<std::string> m_events;
+    std::shared_ptr<FakeService> m_service = std::make_shared<FakeService>();
+};
+
+TEST_F(OnlineDownloaderInteractorTest, SaysThatNoServiceIsSetUp)
+{
+    OnlineDownloaderInteractor interactor(std::make_shared<FakeFiles>(), {}, {});
+    interactor.RegisterEventHandler(this);
+    EXPECT_FALSE(interactor.IsAvailable());
+    EXPECT_EQ(interactor.StartSearch(m_film, {}), IOnlineSearchController::UnsupportedSearch);
+    EXPECT_EQ(m_events, std::vector<std::string>{"failed 6 with a sentence"});
+    EXPECT_FALSE(interactor.Cancel());
+}
+
+TEST_F(OnlineDownloaderInteractorTest, ReportsToTheFilmThatAsked)
+{
+    OnlineDownloaderInteractor interactor(std::make_shared<FakeFiles>(), {m_service}, {});
+    interactor.RegisterEventHandler(this);
+    m_service->observers.Notify([](auto* observer) { observer->OnOperationFinished(); });
+    EXPECT_TRUE(m_events.empty()) << "nobody asked here";
+
+    EXPECT_EQ(interactor.Download(m_film, {}, "folder"), IOnlineSearchController::Success);
+    EXPECT_EQ(interactor.StartSearch(Entities::SubtitleCollectionID(), {}), IOnlineSearchController::Busy);
+    m_service->observers.Notify([](auto* observer) { observer->OnSubtitlesDownloaded(nullptr, "folder/a.srt"); });
+    m_service->observers.Notify([](auto* observer) { observer->OnOperationFinished(); });
+    EXPECT_EQ(m_events, (std::vector<std::string>{"failed 5", "file folder/a.srt", "finished"}));
+
+    m_events.clear();
+    m_service->answer = IOnlineSearchController::NoConnection;
+    EXPECT_EQ(interactor.StartSearch(m_film, {}), IOnlineSearchController::NoConnection);
+    m_service->answer = IOnlineSearchController::Success;
+    EXPECT_EQ(interactor.StartSearch(m_film, {}), IOnlineSearchController::Success) << "a refusal leaves it idle";
+    EXPECT_EQ(m_events, std::vector<std::string>{"failed 3"});
+}
+
+TEST_F(OnlineDownloaderInteractorTest, AsksByTheBestThatIsKnown)
+{
+    class Filler final : public IOnlineSearchMetadataFiller
+    {
+    public:
+        void FillMetadata(Entities::SubtitleSearchMediaInfoSettings const&, SearchRequest& request) override
+        {
+            request.tags["FILLED"] = "yes";
+        }
+    };
+    OnlineDownloaderInteractor const plain(std::make_shared<FakeFiles>(), {}, {});
+    OnlineDownloaderInteractor const filled(std::make_shared<FakeFiles>(), {}, {std::make_shared<Filler>()});
+
+    Entities::SubtitleSearchMediaInfoSettings media;
+    EXPECT_EQ(plain.MakeQuery(media).tags, Tags{});
+    media.path = "film.mkv";
+    EXPECT_EQ(plain.MakeQuery(media).tags,
+              (Tags{{SearchTags::MOVIE_HASH_OS, "00000000000000ff"}, {SearchTags::MOVIE_BYTE_SIZE, "200000"}}));
+    media.title = "Film";
+    media.season = 2;
+    media.episode = 5;
+    media.year = 1999;
+    EXPECT_EQ(plain.MakeQuery(media).tags,
+              (Tags{{SearchTags::TITLE, "Film"}, {SearchTags::SEASON_NUMBER, "2"}, {SearchTags::EPISODE_NUMBER, "5"}}));
+    media.imdbId = "tt0133093";
+    media.episode.reset();
+    EXPECT_EQ(filled.MakeQuery(media).tags, (Tags{{SearchTags::IMDB_ID, "tt0133093"}, {"FILLED", "yes"}}));
+}
+
+} // namespace
+} // namespace Korvex::Converter::Subtitles::UseCases

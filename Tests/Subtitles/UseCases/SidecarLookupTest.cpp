@@ -1,0 +1,70 @@
+#include "Subtitles/Fakes/FakeController.h"
+
+#include "Subtitles/UseCases/SidecarLookup.h"
+
+#include "Core/FileSystem.h"
+
+namespace Korvex::Converter::Subtitles::UseCases
+{
+namespace
+{
+
+class SidecarLookupTest : public testing::Test
+{
+protected:
+    void SetUp() override { m_folder = std::move(Core::CreateWorkFolder()).Value(); }
+    void TearDown() override { Core::RemoveWorkFolder(m_folder); }
+
+    void Write(std::string const& name)
+    {
+        ioPath const path = m_folder / name;
+        ASSERT_FALSE(Core::CreateFolders(path.Parent()));
+        ASSERT_FALSE(Core::WriteFile(path, "text", false));
+    }
+
+    std::vector<std::string> Find(std::string const& film)
+    {
+        std::vector<std::string> found;
+        for (Entities::SubtitleTrack const& track : FindSidecars(m_folder / film, m_controller))
+            found.push_back(track.path.utf8string().substr(m_folder.utf8string().size() + 1));
+        return found;
+    }
+
+    ioPath m_folder;
+    Testing::FakeController m_controller;
+};
+
+TEST_F(SidecarLookupTest, FindsFilesBesideTheFilmAndInItsFolders)
+{
+    for (char const* name : {"Movie.mkv", "Movie.srt", "movie.DE.SRT", "Movie.en.ass", "Movie.nfo", "Movie 2.srt",
+                             "Subs/Movie.fr.srt", "subtitles/Movie.srt", "Extras/Movie.srt"})
+        Write(name);
+    ASSERT_FALSE(Core::CreateFolders(m_folder / "Movie.es.srt"));
+
+    EXPECT_EQ(Find("Movie.mkv"), (std::vector<std::string>{"Movie.en.ass", "Movie.srt", "movie.DE.SRT",
+                                                           "Subs/Movie.fr.srt", "subtitles/Movie.srt"}));
+}
+
+TEST_F(SidecarLookupTest, LeavesFilesToTheFilmWithTheLongerName)
+{
+    for (char const* name : {"Movie.mkv", "Movie.Two.mp4", "Movie.Two.srt", "Movie.two.en.srt", "Movie.srt"})
+        Write(name);
+    EXPECT_EQ(Find("Movie.mkv"), (std::vector<std::string>{"Movie.srt"}));
+    EXPECT_EQ(Find("Movie.Two.mp4"), (std::vector<std::string>{"Movie.Two.srt", "Movie.two.en.srt"}));
+}
+
+TEST_F(SidecarLookupTest, DescribesTheTrack)
+{
+    Write("Movie.eng.forced.ass");
+    auto const tracks = FindSidecars(m_folder / "Movie.mkv", m_controller);
+    ASSERT_EQ(tracks.size(), 1u);
+    EXPECT_EQ(tracks[0].id, Entities::SubtitleTrackID(m_folder / "Movie.eng.forced.ass"));
+    EXPECT_EQ(tracks[0].title, "Movie.eng.forced.ass");
+    EXPECT_EQ(tracks[0].language, "eng");
+    EXPECT_EQ(tracks[0].detail, "Forced");
+    EXPECT_TRUE(tracks[0].isForced);
+    EXPECT_TRUE(FindSidecars(m_folder / "gone" / "Movie.mkv", m_controller).empty());
+}
+
+} // namespace
+} // namespace Korvex::Converter::Subtitles::UseCases
