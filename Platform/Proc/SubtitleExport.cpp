@@ -205,13 +205,48 @@ Core::Result<ioPath> WriteUnderFreeName(TextDocument const& document, std::strin
     return error;
 }
 
+bool IsMatroskaExtension(std::string const& extension)
+{
+    return extension == "mkv" || extension == "mks";
+}
+
+Core::Error PicturesAreNoText(SubtitleSource const& source, std::string const& codecId, std::string const& extension)
+{
+    Core::Error error = MakeError(ErrorCode::ContainerCannotCarry, source, codecId,
+                                  "it consists of pictures, so save it as ." + SuggestExtractExtension(codecId));
+    error.container = "a ." + extension + " file";
+    return error;
+}
+
+/// Through the core's own form of the cues: for the text formats, and for text that Matroska cannot carry as it is.
+Core::Result<ExportedSubtitle> ExtractCues(SubtitleSource const& source, ioPath const& target,
+                                           std::string const& extension)
+{
+    bool const isMatroska = IsMatroskaExtension(extension);
+    Core::Result<SubtitleDocument> document = Load(source);
+    if (!document)
+        return document.GetError();
+    auto* text = std::get_if<TextDocument>(&*document);
+    if (!text && isMatroska)
+        return ExtractPackets(source, target, FFmpeg::SubtitleContainer::Matroska);
+    if (!text)
+        return PicturesAreNoText(source, CodecOf(*document), extension);
+
+    ShiftCues(*text, source.timeShift);
+    if (Core::Status const failure = WriteText(*text, isMatroska ? "mkv" : extension, target))
+        return *failure;
+    bool const isScript = extension == "ass" || (isMatroska && text->HasOwnLook());
+    ExportedSubtitle exported = Describe(*text, isScript ? Codec::CODEC_ID_ASS : Codec::CODEC_ID_SUBRIP);
+    exported.path = target;
+    return exported;
+}
+
 } // namespace
 
 Core::Result<ExportedSubtitle> ExtractSubtitle(SubtitleSource const& source, ioPath const& target)
 {
     std::string const extension = LowerExtension(target);
-    bool const isMatroska = extension == "mkv" || extension == "mks";
-    if (extension != "srt" && extension != "ass" && extension != "sup" && !isMatroska)
+    if (extension != "srt" && extension != "ass" && extension != "sup" && !IsMatroskaExtension(extension))
     {
         Core::Error error;
         error.code = ErrorCode::ContainerUnknown;
@@ -223,34 +258,13 @@ Core::Result<ExportedSubtitle> ExtractSubtitle(SubtitleSource const& source, ioP
         return *refused;
     if (extension == "sup")
         return ExtractPackets(source, target, FFmpeg::SubtitleContainer::BluRay);
-    if (isMatroska && source.streamIndex)
+    if (IsMatroskaExtension(extension) && source.streamIndex)
     {
         Core::Result<ExportedSubtitle> copied = ExtractPackets(source, target, FFmpeg::SubtitleContainer::Matroska);
         if (copied || copied.GetError().code != ErrorCode::ContainerCannotCarry)
             return copied;
     }
-
-    Core::Result<SubtitleDocument> document = Load(source);
-    if (!document)
-        return document.GetError();
-    auto* text = std::get_if<TextDocument>(&*document);
-    if (!text && isMatroska)
-        return ExtractPackets(source, target, FFmpeg::SubtitleContainer::Matroska);
-    if (!text)
-    {
-        std::string const suggested = SuggestExtractExtension(CodecOf(*document));
-        Core::Error error = MakeError(ErrorCode::ContainerCannotCarry, source, CodecOf(*document),
-                                      "it consists of pictures, so save it as ." + suggested);
-        error.container = "a ." + extension + " file";
-        return error;
-    }
-    ShiftCues(*text, source.timeShift);
-    if (Core::Status const failure = WriteText(*text, isMatroska ? "mkv" : extension, target))
-        return *failure;
-    bool const isScript = extension == "ass" || (isMatroska && text->HasOwnLook());
-    ExportedSubtitle exported = Describe(*text, isScript ? Codec::CODEC_ID_ASS : Codec::CODEC_ID_SUBRIP);
-    exported.path = target;
-    return exported;
+    return ExtractCues(source, target, extension);
 }
 
 Core::Result<ExportedSubtitle> PrepareSubtitle(SubtitleSource const& source,

@@ -259,22 +259,21 @@ void InputFile::SelectOnly(std::uint32_t index) const
 
 Core::Result<bool> InputFile::ReadPacket(AVPacket& packet) const
 {
+    // A demuxer may ask to be called again, but a broken file must not keep it asking.
+    constexpr int MOST_ATTEMPTS = 1000;
     av_packet_unref(&packet);
-    for (;;)
-    {
-        int const result = av_read_frame(m_context.get(), &packet);
-        if (result >= 0)
-            return true;
-        if (result == AVERROR_EXIT)
-            return MakeError(ErrorCode::Cancelled, m_path);
-        if (result == AVERROR(EAGAIN))
-            continue;
-        // Demuxers report a file that breaks off as an input error too; only the reader below them knows.
-        int const readError = m_context->pb ? m_context->pb->error : 0;
-        if (readError < 0 && readError != AVERROR_EOF)
-            return MakeError(ErrorCode::FileUnreadable, m_path, ErrorText(readError));
-        return false;
-    }
+    int result = AVERROR(EAGAIN);
+    for (int attempt = 0; result == AVERROR(EAGAIN) && attempt < MOST_ATTEMPTS; ++attempt)
+        result = av_read_frame(m_context.get(), &packet);
+    if (result >= 0)
+        return true;
+    if (result == AVERROR_EXIT)
+        return MakeError(ErrorCode::Cancelled, m_path);
+    // Demuxers report a file that breaks off as an input error too; only the reader below them knows.
+    int const readError = m_context->pb ? m_context->pb->error : 0;
+    if (readError < 0 && readError != AVERROR_EOF)
+        return MakeError(ErrorCode::FileUnreadable, m_path, ErrorText(readError));
+    return false;
 }
 
 std::chrono::microseconds InputFile::ToMediaTime(std::int64_t timestamp, AVRational timeBase) const

@@ -128,6 +128,22 @@ void AddFonts(std::vector<FontAttachment> const& fonts, AVFormatContext& context
     }
 }
 
+/// Makes the stream that is written like the one that is read.
+void DescribeCopy(InputFile const& input, std::uint32_t index, SubtitleContainer container, Writer& writer)
+{
+    AVStream const& stream = *input.FindStream(index);
+    if (avcodec_parameters_copy(writer.Stream().codecpar, stream.codecpar) < 0)
+        throw std::bad_alloc();
+    writer.Stream().codecpar->codec_tag = 0;
+    CopyMetadata(stream, writer.Stream());
+    if (container == SubtitleContainer::Matroska && IsTextSubtitle(stream.codecpar->codec_id))
+    {
+        std::vector<FontAttachment> fonts;
+        CollectFonts(input, fonts);
+        AddFonts(fonts, writer.Context());
+    }
+}
+
 Core::Error CannotCarry(InputFile const& file, std::uint32_t index, SubtitleContainer container)
 {
     Core::Error error = MakeError(ErrorCode::ContainerCannotCarry, file.Path());
@@ -224,33 +240,22 @@ Core::Result<std::size_t> CopySubtitleStream(ioPath const& source, std::optional
     std::optional<std::uint32_t> const index = ChooseStream(*input, streamIndex);
     if (!index)
         return NoTrack(source, streamIndex);
-    AVStream const& stream = *input->FindStream(*index);
-    codecId = CodecName(stream.codecpar->codec_id);
-    if (!CanCarry(container, *stream.codecpar))
+    AVCodecParameters const& parameters = *input->FindStream(*index)->codecpar;
+    codecId = CodecName(parameters.codec_id);
+    if (!CanCarry(container, parameters))
         return CannotCarry(*input, *index, container);
     Core::Result<std::vector<RawPacket>> packets = ReadAllPackets(*input, *index);
     if (!packets)
         return packets.GetError();
 
-    bool const isMatroska = container == SubtitleContainer::Matroska;
-    Writer writer(isMatroska ? "matroska" : "sup", file);
-    if (avcodec_parameters_copy(writer.Stream().codecpar, stream.codecpar) < 0)
-        throw std::bad_alloc();
-    writer.Stream().codecpar->codec_tag = 0;
-    CopyMetadata(stream, writer.Stream());
-    if (isMatroska && IsTextSubtitle(stream.codecpar->codec_id))
-    {
-        std::vector<FontAttachment> fonts;
-        CollectFonts(*input, fonts);
-        AddFonts(fonts, writer.Context());
-    }
+    auto const isTooEarly = [&](RawPacket& packet) { return (packet.start += timeShift) < microseconds::zero(); };
+    packets->erase(std::remove_if(packets->begin(), packets->end(), isTooEarly), packets->end());
+    Writer writer(container == SubtitleContainer::Matroska ? "matroska" : "sup", file);
+    DescribeCopy(*input, *index, container, writer);
     if (Core::Status failure = writer.Begin())
         return *failure;
-    for (RawPacket& packet : *packets)
+    for (RawPacket const& packet : *packets)
     {
-        packet.start += timeShift;
-        if (packet.start < microseconds::zero())
-            continue;
         std::string_view const bytes(reinterpret_cast<char const*>(packet.data.data()), packet.data.size());
         if (Core::Status failure = writer.Write(bytes, packet.start, packet.duration))
             return *failure;
