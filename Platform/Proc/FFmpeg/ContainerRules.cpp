@@ -34,6 +34,7 @@ std::vector<ContainerRule> MakeRules()
     mp4.languageForm = LanguageForm::Terminology;
     mp4.carriesCoverPictures = true;
     mp4.carriesDisplayMatrix = true;
+    mp4.namesTracksByHandler = true;
     mp4.subtitleAdvice = "let text be converted to MOV text, burn the track into the picture, or choose Matroska";
 
     ContainerRule mov = mp4;

@@ -25,6 +25,7 @@ struct ContainerRule
     bool carriesCoverPictures = false;
     bool carriesOneStreamPerKind = false;
     bool carriesDisplayMatrix = false;
+    bool namesTracksByHandler = false;   ///< players show the handler's name as the track's title
     bool storesPresentationTimes = true; ///< false: pictures are shown in the order and at the rate of the file
     char const* subtitleAdvice = "";     ///< what would work in place of a track that does not fit
 };

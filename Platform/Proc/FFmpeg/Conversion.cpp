@@ -1,6 +1,7 @@
 #include "Proc/FFmpeg/Conversion.h"
 
 #include "Proc/FFmpeg/Decoding.h"
+#include "Proc/FFmpeg/StreamLoader.h"
 
 #include "Conf/IFormatFile.h"
 #include "Proc/Settings.h"
@@ -157,7 +158,7 @@ Core::Status Conversion::PrepareVideo(std::size_t index, AVStream& stream)
     boost::intrusive_ptr<ISubtitleDrawer> drawer;
     if (m_settings.mixer)
     {
-        auto made = MakeSubtitleDrawer(*m_settings.mixer, m_settings.input, shape->Geometry());
+        auto made = MakeDrawer(*shape);
         if (!made)
             return made.GetError();
         drawer = *made;
@@ -175,6 +176,28 @@ Core::Status Conversion::PrepareVideo(std::size_t index, AVStream& stream)
     m_video = std::make_unique<VideoStages>(m_input, stream, std::move(*decoder), *shape, std::move(drawer), settings,
                                             m_merger, index, m_control);
     return Core::SUCCESS;
+}
+
+/// A track of the film is read from its beginning to its end, which takes long enough to be cancelled.
+Core::Result<boost::intrusive_ptr<ISubtitleDrawer>> Conversion::MakeDrawer(PictureShape const& shape) const
+{
+    SettingsSubtitleMixer const& mixer = *m_settings.mixer;
+    std::optional<std::uint32_t> const index = mixer.GetSubtitleStreamIndex();
+    if (!index)
+        return MakeSubtitleDrawer(mixer, m_settings.input, shape.Geometry());
+    Core::Result<InputFile> const file =
+        InputFile::Open(m_settings.input, {StreamAnalysis::Quick, &m_control.StopFlag()});
+    if (!file)
+        return file.GetError();
+    Core::Result<SubtitleDocument> document = LoadStream(*file, *index);
+    if (!document)
+        return document.GetError();
+    auto drawer = MakeSubtitleDrawer(mixer.GetDrawerSettings(), std::move(*document), shape.Geometry());
+    if (drawer || !drawer.GetError().file.empty())
+        return drawer;
+    Core::Error error = drawer.GetError();
+    error.file = m_settings.input;
+    return error;
 }
 
 Core::Status Conversion::PrepareAudio(std::size_t index, AVStream const& stream)

@@ -33,6 +33,7 @@ private:
     [[nodiscard]] Core::Status Prepare();
     [[nodiscard]] Core::Status PrepareStream(std::size_t index, std::vector<Route>& routes);
     [[nodiscard]] Core::Status PrepareVideo(std::size_t index, AVStream& stream);
+    [[nodiscard]] Core::Result<boost::intrusive_ptr<ISubtitleDrawer>> MakeDrawer(PictureShape const& shape) const;
     [[nodiscard]] Core::Status PrepareAudio(std::size_t index, AVStream const& stream);
     void StartThreads();
     void Start(std::string what, std::function<void()> body);

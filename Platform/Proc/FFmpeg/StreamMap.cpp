@@ -165,6 +165,11 @@ private:
 
     Core::Status PlanAudio(AVStream const& stream)
     {
+        if (stream.codecpar->sample_rate <= 0 || stream.codecpar->ch_layout.nb_channels <= 0)
+        {
+            LeaveOut(stream, "a sound track", "nothing in it can be read");
+            return Core::SUCCESS;
+        }
         if (m_rule.carriesOneStreamPerKind && HasStreamOf(AVMEDIA_TYPE_AUDIO))
         {
             LeaveOut(stream, "a further sound track");
@@ -233,11 +238,13 @@ private:
         return m_map.streams.back();
     }
 
-    void LeaveOut(AVStream const& stream, char const* what)
+    void LeaveOut(AVStream const& stream, char const* what, std::string reason = {})
     {
+        if (reason.empty())
+            reason = std::string(m_rule.displayName) + " cannot carry it";
         m_map.warnings.push_back("Track " + std::to_string(stream.index) + " of " + Quoted(m_settings.input) + ", " +
                                  what + " (" + CodecDisplayName(stream.codecpar->codec_id) +
-                                 "), is not in the output, because " + m_rule.displayName + " cannot carry it.");
+                                 "), is not in the output, because " + reason + ".");
     }
 
     [[nodiscard]] Core::Error NoDecoder(AVStream const& stream) const

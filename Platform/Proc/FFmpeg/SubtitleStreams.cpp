@@ -52,8 +52,8 @@ void DescribeTrack(OutputStream& stream, SubtitleTrack const& track, ContainerRu
     if (!track.title.empty())
     {
         SetTag(stream, "title", track.title);
-        // MP4 players show this one.
-        SetTag(stream, "handler_name", track.title);
+        if (rule.namesTracksByHandler)
+            SetTag(stream, "handler_name", track.title);
     }
     SetFlag(stream.disposition, AV_DISPOSITION_DEFAULT, track.isDefault);
     SetFlag(stream.disposition, AV_DISPOSITION_FORCED, track.isForced);
