@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <map>
 #include <memory>
+#include <type_traits>
 
 namespace Korvex::Proc::Text
 {
@@ -160,7 +161,7 @@ private:
         double const high = static_cast<double>(
             std::count_if(m_stripped.begin(), m_stripped.end(), [](char byte) { return (byte & 0x80) != 0; }));
         // Nothing reads as text: what the user's machine used to write is as good as any.
-        static constexpr double HOPELESS = -7.5;
+        static constexpr double HOPELESS = -6.8;
         static constexpr double HOPELESS_PAIR = -5.2; // a byte is half a character there
         if (high == 0 || best.score / high < (best.width == Width::Pair ? HOPELESS_PAIR : HOPELESS))
         {

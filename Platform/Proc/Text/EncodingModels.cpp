@@ -68,8 +68,8 @@ std::vector<LanguageModel> const& GetLanguageModels()
         {"zh chi zho zhs zh-cn zht zhe zh-tw zh-hk", Script::EastAsian,
          U"的一是不了在人有我他这个们中来上大为和国地到以说时要就出会可也你对生能而子那得于着下自之年过发后作里用道行所"
          U"然家种事成方多经么去法学如都同现当没动面起看定天分还进好小部其些主样理心她本前开但因只从想实日意无力它与长把机"
-         U"情明知全三又关点正外将两高间由问很最手应头文体相见被什等新己身西月话回信给吗呢吧啊您谁爱妈爸"
-         U"這個們來為國說時會對發後裡學動現當沒還樣開從實無與長機關點將兩間問應頭體見話給嗎誰愛媽著過經麼種進",
+         U"情明知全三又关点正外将两高间由问很最手应头文体相见被什等新己身西月话回信给吗呢吧啊您谁爱妈爸谢请让快走真死喜欢先别"
+         U"這個們來為國說時會對發後裡學動現當沒還樣開從實無與長機關點將兩間問應頭體見話給嗎誰愛媽著過經麼種進謝請讓歡別",
          "CP936"},
         {"ko kor", Script::EastAsian,
          U"이다는에의가을를은고하지도로서한기사나인어아그자리시들대해라니수있게보만일스부정전제상거내주성음여안우소장조구마"
@@ -89,8 +89,8 @@ std::vector<EncodingModel> const& GetByteEncodings()
         {"ISO-8859-15", "fr de es pt it nl da sv is et"},
         {"CP1251", CYRILLIC},
         {"CP1250", CENTRAL},
-        {"KOI8-R", "ru bg"},
-        {"KOI8-U", "ru uk be"},
+        {"KOI8-R", "ru bg", -0.7},
+        {"KOI8-U", "ru uk be", -0.7},
         {"ISO-8859-9", "tr"},
         {"ISO-8859-7", "el"},
         {"ISO-8859-8", "he"},
@@ -100,13 +100,13 @@ std::vector<EncodingModel> const& GetByteEncodings()
         {"CP1253", "el"},
         {"CP1254", "tr"},
         {"CP1255", "he"},
-        {"CP1256", "ar"},
+        {"CP1256", "ar", -1},
         {"CP1257", "lt lv et pl"},
         {"ISO-8859-2", CENTRAL, -1.5},
         {"ISO-8859-5", CYRILLIC, -1.5},
         {"CP866", "ru", -1.5},
         {"ISO-8859-6", "ar", -1.5},
-        {"CP874", "th"},
+        {"CP874", "th", -2.5},
     };
     return MODELS;
 }

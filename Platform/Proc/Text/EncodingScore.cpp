@@ -18,10 +18,13 @@ namespace
 
 // Natural logarithms of rough probabilities. They were set by how the kinds of characters are distributed in running
 // text, not fitted to any file; what matters is their order.
-constexpr double CAPITAL = -2.5;         ///< a capital, compared with its small letter
-constexpr double CAPITAL_IN_RUN = -0.7;  ///< a capital after a capital
+constexpr double CAPITAL = -1.8;         ///< a capital, compared with its small letter
+constexpr double CAPITAL_IN_RUN = -0.2;  ///< a capital after a capital
 constexpr double CAPITAL_IN_WORD = -5.5; ///< a capital after a small letter
+constexpr double ALTERNATION = 0.26;     ///< a vowel next to a consonant, in Cyrillic and Greek
+constexpr double REPETITION = -0.36;     ///< two of a kind next to each other
 constexpr double ACCENTS_IN_ROW = -1.5;  ///< two letters outside ASCII in a row, in Latin script
+constexpr double FINAL_INSIDE = -9.0;    ///< a letter's form for the end of a word before another letter
 constexpr double MIXED_SCRIPTS = -4.0;   ///< a Cyrillic letter next to a Latin one
 constexpr double SIGN_IN_WORD = -3.0;    ///< a sign between two letters
 constexpr double FOREIGN_LETTER = -9.0;  ///< a letter of the script that the language does not use
@@ -54,11 +57,43 @@ enum class Kind : unsigned char
     Sign,
 };
 
+/// Which letters take turns in a word; for scripts where that is known.
+enum class Sound : unsigned char
+{
+    None,
+    Vowel,
+    Consonant,
+};
+
+Sound SoundOf(char32_t codePoint)
+{
+    static constexpr std::u32string_view VOWELS = U"аеёиоуыэюяіїєαεηιουωάέήίόύώϊϋΐΰ";
+    static constexpr std::u32string_view SILENT = U"ьъйў";
+    char32_t const letter = ToSmallLetter(codePoint);
+    auto const script = ScriptOf(letter);
+    if ((script != Script::Cyrillic && script != Script::Greek) || SILENT.find(letter) != std::u32string_view::npos)
+    {
+        return Sound::None;
+    }
+    return VOWELS.find(letter) != std::u32string_view::npos ? Sound::Vowel : Sound::Consonant;
+}
+
+double ScoreSounds(Sound before, Sound sound)
+{
+    if (before == Sound::None || sound == Sound::None)
+    {
+        return 0;
+    }
+    return before == sound ? REPETITION : ALTERNATION;
+}
+
 /// What one byte means in one encoding and how likely it is in one language.
 struct ByteModel
 {
     std::array<double, 256> score{};
     std::array<Kind, 256> kind{};
+    std::array<Sound, 256> sound{};
+    std::array<bool, 256> isFinalForm{};
 };
 
 double ScoreLetter(char32_t codePoint, LanguageModel const& language)
@@ -83,12 +118,15 @@ void ClassifyByte(ByteModel& model, std::size_t byte, std::string_view utf8, Lan
         model.kind[byte] = Kind::Sign;
         return;
     }
+    static constexpr std::u32string_view FINAL_FORMS = U"ςךםןףץ";
     std::size_t position = 0;
     char32_t const codePoint = NextCodePoint(utf8, position);
     bool const isOwnSign = language.letters.find(codePoint) != std::u32string_view::npos && !ScriptOf(codePoint);
     if (ScriptOf(codePoint))
     {
         model.score[byte] = ScoreLetter(codePoint, language);
+        model.sound[byte] = SoundOf(codePoint);
+        model.isFinalForm[byte] = FINAL_FORMS.find(codePoint) != std::u32string_view::npos;
         model.kind[byte] = ToSmallLetter(codePoint) == codePoint ? Kind::SmallLetter : Kind::CapitalLetter;
     }
     else if (isOwnSign)
@@ -339,6 +377,8 @@ double ScoreByteEncoding(std::string_view stripped, EncodingModel const& encodin
             Kind const after = model.kind[next];
             bool const nextToAscii = (!afterHigh && IsLetterKind(before)) || (next < 0x80 && IsLetterKind(after));
             score += model.score[byte];
+            score += model.isFinalForm[byte] && IsLetterKind(after) ? FINAL_INSIDE : 0;
+            score += afterHigh ? ScoreSounds(model.sound[indexAt(i - 1)], model.sound[byte]) : 0;
             score += IsLetterKind(kind) ? ScoreLetterContext(kind, before, afterHigh, nextToAscii, language.script)
                                         : ScoreSignContext(kind, before, after);
         }

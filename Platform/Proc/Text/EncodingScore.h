@@ -20,7 +20,7 @@ namespace Korvex::Proc::Text
 [[nodiscard]] double ScoreWords(std::string_view stripped, LanguageModel const& language);
 
 /// The logarithm of a likelihood: the higher the better, comparable between encodings for one sample. `stripped` is a
-/// sample after StripMarkup. Scores only fall on the way; below `floor` the rest is not looked at.
+/// sample after StripMarkup. Scores of pairs only fall on the way; below `floor` the rest is not looked at.
 [[nodiscard]] double ScoreByteEncoding(std::string_view stripped, EncodingModel const& encoding,
                                        LanguageModel const& language);
 [[nodiscard]] double ScorePairEncoding(std::string_view sample, EncodingModel const& encoding,

@@ -24,9 +24,21 @@ struct DecodedText
 };
 
 /// Converts bytes to UTF-8. `encoding` is one of the core's names or any that the system's converter knows; empty means
-/// detection: byte-order mark (UTF-8, UTF-16, UTF-32), UTF-16 without one, valid UTF-8, statistics helped by the hints,
-/// then the usual code page of the locale. A stated encoding yields to a byte-order mark that contradicts it.
-/// Fails with InvalidSetting for an encoding that does not exist; bytes never make it fail.
+/// detection: byte-order mark (UTF-8, UTF-16, UTF-32), UTF-16 or UTF-32 without one, ISO-2022-JP, valid or merely
+/// damaged UTF-8, then how the text reads in each candidate (letters of its languages, case, scripts), helped by the
+/// hints, by a second detector and by the locale; at last the usual code page of the hinted language or of the locale,
+/// else CP1252. A file with some lines in UTF-8 and the others not is decoded line by line. A stated encoding yields to
+/// a byte-order mark that contradicts it.
+///
+/// Names mean what files that carry them hold. "BIG-5" is code page 950 with the Hong Kong characters in its gaps,
+/// "CP936" falls back on GB18030. Bytes 80 to 9F of an ISO-8859 page, control characters there, are read as in the
+/// Windows page of the same letters.
+///
+/// Each run of bytes that are no character shows as one U+FFFD and is counted, and so do control characters (all below
+/// U+0020 but tab and line ends, U+007F to U+009F): they are no text. A zero byte inside a UTF-8 sequence is taken out
+/// of it and shown behind it. End-of-file signs and zeros behind the text go; the zeros are counted.
+///
+/// Fails with InvalidSetting for an encoding that does not exist; bytes never make it fail. Any thread.
 [[nodiscard]] KORVEX_PLATFORM_API Core::Result<DecodedText>
 DecodeText(std::string_view bytes, std::string const& encoding, DetectionHints const& hints = {});
 

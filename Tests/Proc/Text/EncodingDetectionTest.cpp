@@ -126,6 +126,17 @@ TEST_F(EncodingDetectionTest, NamesTheEncodingThatTheCoreOffers)
               "CP1254");
 }
 
+TEST_F(EncodingDetectionTest, CapitalsAloneAreTextToo)
+{
+    std::vector<std::string> const lines = {"ДОБРО ПОЖАЛОВАТЬ ДОМОЙ", "КОНЕЦ ПЕРВОЙ ЧАСТИ", "ЧЕТЫРЕ ГОДА СПУСТЯ",
+                                            "НЕ ВХОДИТЬ, ОПАСНО ДЛЯ ЖИЗНИ", "ПОСЛЕДНИЕ НОВОСТИ ЭТОГО ЧАСА"};
+    std::string const text = MakeSubRip(lines, lines.size());
+    for (char const* const encoding : {"CP1251", "KOI8-R"})
+    {
+        EXPECT_EQ(DecodeText(Testing::EncodeText(text, encoding), "")->utf8, text) << encoding;
+    }
+}
+
 TEST_F(EncodingDetectionTest, ManyTagsDoNotDrownAShortText)
 {
     std::string text = "[Script Info]\nTitle: a plain title\n[Events]\n";
