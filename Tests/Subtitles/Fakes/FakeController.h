@@ -5,6 +5,7 @@
 #include "Subtitles/UseCases/ISubtitleController.h"
 
 #include <map>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -37,6 +38,8 @@ public:
     std::vector<std::string> GetValidExternalFormats() const override { return {"srt"}; }
     bool IsFileExtensionSupported(std::string const& extension) override
     {
+        if (isBroken)
+            throw std::runtime_error("the disk is gone");
         return extension == "srt" || extension == "SRT" || extension == "ass" || extension == "ssa";
     }
     bool PathIsDVD(ioPath const& path) const override { return path.utf8string().find("dvd://") != std::string::npos; }
@@ -51,6 +54,7 @@ public:
     std::shared_ptr<Entities::SubtitleCollection> collection;
     std::map<std::string, std::string> codecs = {{"srt", "subrip"}, {"SRT", "subrip"}, {"ass", "ass"}, {"sup", "pgs"}};
     std::vector<std::string> calls;
+    bool isBroken = false; ///< the question about extensions throws
 
 private:
     Core::EventHandlerList<Observer> m_observers;

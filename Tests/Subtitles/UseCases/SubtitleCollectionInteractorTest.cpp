@@ -291,5 +291,15 @@ TEST_F(SidecarTest, KnowAFileThatTheUserAddedByAnotherSpelling)
     EXPECT_EQ(m_interactor.GetSubtitleCollection().tracks.size(), 1u);
 }
 
+TEST_F(SidecarTest, AFailingLookupLeavesTheFilmAsItIs)
+{
+    Write("Movie.srt");
+    m_interactor.SetSubtitleCollection(MakeCollection({MakeStream(2)}), true);
+    m_controller->isBroken = true;
+    EXPECT_NO_THROW(Announce());
+    EXPECT_EQ(m_interactor.GetSubtitleCollection().tracks.size(), 1u);
+    EXPECT_EQ(m_interactor.GetSubtitleCollection().mode, SubtitleCollectionMode::AllSoftSubtitles);
+}
+
 } // namespace
 } // namespace Korvex::Converter::Subtitles::UseCases
