@@ -103,6 +103,9 @@ private:
         }
         if (!avcodec_find_decoder(stream.codecpar->codec_id))
             return NoDecoder(stream);
+        if (wantsCopy)
+            m_map.warnings.push_back("The picture of " + Quoted(m_settings.input) + " is encoded anew, because " +
+                                     m_rule.displayName + " cannot carry it as it is.");
         OutputStream& output = Add(stream, Source::Encoded);
         output.parameters->codec_id = AV_CODEC_ID_H264;
         output.keepsDisplayMatrix = false;

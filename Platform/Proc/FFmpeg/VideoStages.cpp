@@ -112,6 +112,16 @@ void VideoStages::RunPainter()
 
 void VideoStages::RunEncoder()
 {
+    // Whoever waits for the parameters has to learn, however this ends, that there will be none.
+    struct Answer
+    {
+        ~Answer()
+        {
+            if (!stages.m_hasSetEncoded)
+                stages.m_encoded.set_value(std::nullopt);
+        }
+        VideoStages& stages;
+    } const answer{*this};
     std::optional<VideoEncoder> encoder;
     bool wantsMore = true;
     while (std::optional<Frame> frame = wantsMore ? m_painted.Pop() : std::nullopt)
@@ -132,8 +142,6 @@ void VideoStages::RunEncoder()
     }
     if (encoder && wantsMore && !m_control.IsStopped())
         EncodeFrame(*encoder, nullptr);
-    if (!m_hasSetEncoded)
-        m_encoded.set_value(std::nullopt);
     m_merger.Finish(m_target);
 }
 

@@ -229,6 +229,7 @@ TEST(SoftConversionTest, SourcesWithoutTimesOrWithUnfitCodecsAreEncoded)
     ASSERT_TRUE(Convert(SoftSettings(folder / "reordered.mkv", folder / "in.avi", "avi", {})).Succeeded());
     Conversion const fromAvi = Convert(SoftSettings(folder / "in.avi", folder / "avi.mkv", "matroska", {}));
     ASSERT_TRUE(fromAvi.Succeeded()) << fromAvi.Words();
+    EXPECT_EQ(fromAvi.report.warnings.size(), 1U) << "that the picture is encoded anew";
     auto const pictures = DecodePictures(folder / "avi.mkv");
     ASSERT_EQ(pictures.size(), 50U);
     for (std::size_t i = 1; i < pictures.size(); ++i)
