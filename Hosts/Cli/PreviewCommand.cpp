@@ -46,7 +46,7 @@ bool IsPngName(ioPath const& path)
 /// Light compression: a preview is looked at once, and waiting for smaller files is felt.
 std::string ToPng(QImage const& image)
 {
-    constexpr int QUALITY_OF_FAST_COMPRESSION = 90;
+    constexpr int QUALITY_OF_FAST_COMPRESSION = 80;
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
