@@ -26,7 +26,8 @@ void CatchInterrupts()
     sigemptyset(&action.sa_mask);
     // After the first signal the default action is back, so that a second one ends a process that does not react.
     action.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);
-    for (int const signal : {SIGINT, SIGTERM, SIGHUP})
+    // A reader that went away (SIGPIPE) wants no more either, and must not leave half a file behind.
+    for (int const signal : {SIGINT, SIGTERM, SIGHUP, SIGPIPE})
         sigaction(signal, &action, nullptr);
 }
 

@@ -82,11 +82,14 @@ void SoftPreparation::Prepare(SubtitleCollection& collection)
             continue;
         if (m_choice.preparation == Preparation::Refuse || IsBitmap(track))
             Refuse(track, need);
-        SubtitleTrack const rewritten = Rewrite(track, need);
+        std::optional<SubtitleTrack> const rewritten = Rewrite(track, need);
+        bool const wasDefault = collection.defaultTracks && collection.defaultTracks->erase(track.id) > 0;
         collection.tracks.erase(track.id);
-        collection.tracks.emplace(rewritten.id, rewritten);
-        if (collection.defaultTracks && collection.defaultTracks->erase(track.id) > 0)
-            collection.defaultTracks->insert(rewritten.id);
+        if (!rewritten)
+            continue;
+        collection.tracks.emplace(rewritten->id, *rewritten);
+        if (wasDefault)
+            collection.defaultTracks->insert(rewritten->id);
     }
 }
 
@@ -157,11 +160,16 @@ std::string SoftPreparation::SuggestInstead(SubtitleTrack const& track) const
     if (canBeWrittenAnew && m_choice.preparation == Preparation::Refuse)
         ways.emplace_back("leave out --no-prepare to have the text written anew");
     ways.push_back("draw it in with --burn=" + track.id.ToString());
-    ways.emplace_back(track.isExternal ? "leave the file out" : "leave it out with --tracks");
+    bool const isAdded = std::any_of(m_choice.added.begin(), m_choice.added.end(),
+                                     [&track](AddedFile const& file)
+                                     { return file.path == track.path || Core::IsSameFile(file.path, track.path); });
+    ways.emplace_back(!track.isExternal ? "leave it out with --tracks"
+                      : isAdded         ? "leave out its --add"
+                                        : "keep to the film's own tracks with --no-lookup");
     return JoinWithOr(ways);
 }
 
-SubtitleTrack SoftPreparation::Rewrite(SubtitleTrack const& track, Need const& need)
+std::optional<SubtitleTrack> SoftPreparation::Rewrite(SubtitleTrack const& track, Need const& need)
 {
     Proc::SubtitleSource source;
     source.path = track.isExternal ? track.path : m_film.path;
@@ -185,6 +193,12 @@ SubtitleTrack SoftPreparation::Rewrite(SubtitleTrack const& track, Need const& n
         throw FileError(written.GetError());
     }
 
+    if (written->cueCount == 0)
+    {
+        m_notes.push_back("Track " + track.id.ToString() + " (" + track.codecName +
+                          ") holds no cues and was left out.");
+        return std::nullopt;
+    }
     AddNote(track, need, written->codecId);
     SubtitleTrack rewritten(written->path);
     // A file's name in place of a title is told by being the path's, and stays so.

@@ -75,7 +75,8 @@ private:
     void CheckChoice(std::vector<Track> const& tracks) const;
     [[noreturn]] void Refuse(Track const& track, Need const& need) const;
     [[nodiscard]] std::string SuggestInstead(Track const& track) const;
-    [[nodiscard]] Track Rewrite(Track const& track, Need const& need);
+    /// Empty when the track holds no cues: there is nothing to write.
+    [[nodiscard]] std::optional<Track> Rewrite(Track const& track, Need const& need);
     void AddNote(Track const& track, Need const& need, std::string const& writtenCodecId);
 
     HostServices const& m_services;

@@ -204,6 +204,12 @@ TEST_F(ConvertTest, EncodingAndOffsetReachSoftTracks)
     EXPECT_EQ(Text("own.mkv", Subtitles("own.mkv")[0].index).cues[0].start,
               MakeTextCues()[0].start + std::chrono::milliseconds(100));
 
+    std::string const empty = WriteText("empty.smi", "<SAMI><BODY><!-- nothing --></BODY></SAMI>");
+    auto const nothing = RunCli({"convert", Path("film.mkv"), "-o", Path("empty.mkv"), "--add", empty});
+    EXPECT_EQ(nothing.exitCode, 0) << nothing.err;
+    EXPECT_THAT(nothing.err, HasSubstr("holds no cues and was left out"));
+    EXPECT_EQ(Subtitles("empty.mkv").size(), 1U);
+
     EXPECT_EQ(RunCli({"convert", Path("film.mkv"), "-o", Path("x.mkv"), "--encoding", "CP1251"}).exitCode, 2);
     EXPECT_EQ(
         RunCli({"convert", Path("film.mkv"), "-o", Path("x.mkv"), "--add", added, "--offset", "1", "--no-prepare"})
