@@ -55,6 +55,7 @@ public:
     }
 
     [[nodiscard]] std::chrono::microseconds Done() const { return m_progress.done; }
+    [[nodiscard]] std::chrono::microseconds Total() const { return m_progress.total; }
 
 private:
     void Report(Clock::time_point now)
@@ -100,10 +101,14 @@ public:
             Conversion conversion(m_settings, *m_input, m_plan, *control);
             report.error = conversion.Run([&](std::chrono::microseconds time) { meter.Advance(time); });
         }
+        bool const isEstimate = // and may be far off
+            m_input->Context().duration_estimation_method == AVFMT_DURATION_FROM_BITRATE;
         m_input.reset();
         report.warnings = m_plan.warnings;
         for (std::string& warning : control->TakeWarnings())
             report.warnings.push_back(std::move(warning));
+        if (!report.error && !isEstimate)
+            WarnOfEarlyEnd(meter, report);
         report.output = m_settings.output;
         report.duration = meter.Done();
         if (!report.error)
@@ -129,6 +134,18 @@ public:
     std::unique_ptr<JobControl> const control;
 
 private:
+    /// A file that breaks off converts as far as it goes; nobody should take the result for the whole film.
+    void WarnOfEarlyEnd(ProgressMeter const& meter, TranscodeReport& report) const
+    {
+        std::chrono::microseconds const missing = meter.Total() - meter.Done();
+        if (missing < std::chrono::seconds(2) || missing < meter.Total() / 10)
+            return;
+        auto seconds = [](std::chrono::microseconds time)
+        { return std::to_string(std::chrono::duration_cast<std::chrono::seconds>(time).count()); };
+        report.warnings.push_back("\"" + m_settings.input.utf8string() + "\" ends after " + seconds(meter.Done()) +
+                                  " of " + seconds(meter.Total()) + " seconds, and so does the output.");
+    }
+
     SettingsTranscode const m_settings;
     std::optional<InputFile> m_input;
     StreamMap m_plan;

@@ -253,6 +253,25 @@ TEST(SoftConversionTest, SourcesWithoutTimesOrWithUnfitCodecsAreEncoded)
     EXPECT_TRUE(Convert(SoftSettings(folder / "sound.mkv", folder / "sound.mp4", "mp4", {})).Succeeded());
 }
 
+TEST(SoftConversionTest, AFilmThatBreaksOffConvertsAsFarAsItGoesAndSaysSo)
+{
+    TemporaryFolder const folder;
+    MadeMedia film = MakeFilm();
+    film.video->frameCount = 250;
+    film.audios[0].duration = std::chrono::seconds(10);
+    MakeMedia(folder / "whole.mkv", film);
+    std::string const bytes = Core::ReadFile(folder / "whole.mkv", 1 << 28).Value();
+    WriteText(folder / "half.mkv", bytes.substr(0, bytes.size() / 2));
+    Conversion const whole = Convert(SoftSettings(folder / "whole.mkv", folder / "a.mp4", "mp4", {}));
+    Conversion const half = Convert(SoftSettings(folder / "half.mkv", folder / "b.mp4", "mp4", {}));
+    ASSERT_TRUE(whole.Succeeded()) << whole.Words();
+    ASSERT_TRUE(half.Succeeded()) << half.Words();
+    EXPECT_TRUE(whole.report.warnings.empty());
+    ASSERT_EQ(half.report.warnings.size(), 1U);
+    EXPECT_NE(half.report.warnings[0].find("of 10 seconds"), std::string::npos) << half.report.warnings[0];
+    EXPECT_GT(ReadFilm(folder / "b.mp4").PacketsOf(0).size(), 60U);
+}
+
 #if !defined(_WIN32)
 TEST(SoftConversionTest, AFullDiskIsSaidAndLeavesNothingBehind)
 {
