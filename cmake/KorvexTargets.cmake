@@ -12,15 +12,19 @@ function(korvex_add_layer target)
     set_property(GLOBAL APPEND PROPERTY ${ARG_LIBRARY}_LAYERS ${target})
 endfunction()
 
-# korvex_add_library(<target> LINKS <library>... PUBLIC_LINKS <library>...)
-#   The shared library made of the layers that named it.
+# korvex_add_library(<target> HEADERS_OF <root folder> FOLDERS <folder>... LINKS <library>... PUBLIC_LINKS <library>...)
+#   The shared library made of the layers that named it. The headers in the folders (not below them) are its interface:
+#   they are installed, and each has to compile alone (target all_verify_interface_header_sets).
 function(korvex_add_library target)
-    cmake_parse_arguments(ARG "" "" "LINKS;PUBLIC_LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "" "HEADERS_OF" "FOLDERS;LINKS;PUBLIC_LINKS" ${ARGN})
+    list(TRANSFORM ARG_FOLDERS REPLACE "(.+)" "${ARG_HEADERS_OF}/\\1/*.h")
+    file(GLOB headers CONFIGURE_DEPENDS ${ARG_FOLDERS})
     get_property(layers GLOBAL PROPERTY ${target}_LAYERS)
     add_library(${target} SHARED)
     foreach(layer IN LISTS layers)
         target_sources(${target} PRIVATE "$<TARGET_OBJECTS:${layer}>")
     endforeach()
+    target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS "${ARG_HEADERS_OF}" FILES ${headers})
     target_include_directories(${target} PUBLIC
         "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Platform>" "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Modules>"
         "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/korvex>")
