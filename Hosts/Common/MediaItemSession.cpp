@@ -282,10 +282,13 @@ private:
 
     void ChooseSoft(SubtitleChoice const& choice, SubtitleCollection& collection)
     {
-        for (auto const& [id, track] : collection.tracks)
-            DescribeExternal(track, choice);
+        auto const listed = collection.tracks;
         SoftPreparation preparation(m_services, m_info, choice, m_preset.formatId, m_folder);
         preparation.Prepare(collection);
+        // What was written anew is clean now, so the conversion has nothing to warn of.
+        for (auto const& [id, track] : listed)
+            DescribeExternal(track, choice,
+                             collection.tracks.count(id) > 0 ? DamageReport::ByConversion : DamageReport::Here);
         m_notes.insert(m_notes.end(), preparation.GetNotes().begin(), preparation.GetNotes().end());
         collection.mode =
             collection.tracks.empty() ? SubtitleCollectionMode::ModeNone : SubtitleCollectionMode::AllSoftSubtitles;
@@ -305,7 +308,7 @@ private:
                               Quoted(m_info.path) + ", which is " + track.codecName + " and has a look of its own.");
         track.encoding = static_cast<SubtitleEncoding>(choice.encoding.value_or(0));
         track.synchronizationOffset = choice.offsetSeconds;
-        DescribeExternal(track, choice);
+        DescribeExternal(track, choice, DamageReport::Here);
         ApplyLook(choice.look, collection.textSettings);
         collection.mode = SubtitleCollectionMode::SelectedTrack;
         collection.withoutSubtitles = 0;
@@ -327,7 +330,7 @@ private:
                                     " could be drawn in: name one with --burn=TRACK; \"korvex tracks\" lists them.");
     }
 
-    void DescribeExternal(SubtitleTrack const& track, SubtitleChoice const& choice)
+    void DescribeExternal(SubtitleTrack const& track, SubtitleChoice const& choice, DamageReport damage)
     {
         if (!track.isExternal)
             return;
@@ -337,7 +340,7 @@ private:
         if (!document)
             throw FileError(document.GetError());
         if (auto const* text = std::get_if<Proc::TextDocument>(&*document))
-            for (std::string& note : DescribeReading(track.path, text->decoding, text->cues.size(), text->skippedCues))
+            for (std::string& note : DescribeReading(track.path, *text, damage))
                 m_notes.push_back(std::move(note));
     }
 

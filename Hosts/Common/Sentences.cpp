@@ -45,26 +45,42 @@ std::string FormatSeconds(double seconds)
     return text;
 }
 
-std::vector<std::string> DescribeReading(ioPath const& file, Proc::TextDecodeReport const& decoding,
-                                         std::size_t cueCount, std::size_t skippedCues)
+namespace
+{
+
+void DescribeEncoding(ioPath const& file, Proc::TextDecodeReport const& decoding, std::vector<std::string>& sentences)
 {
     using Source = Proc::TextDecodeReport::Source;
-    std::vector<std::string> sentences;
     if (decoding.source == Source::Detector)
         sentences.push_back("The text of " + Quoted(file) + " was read as " + decoding.encoding +
                             ", which was detected; --encoding names another encoding.");
     else if (decoding.source == Source::Fallback)
         sentences.push_back("Nothing tells the encoding of " + Quoted(file) + "; it was read as " + decoding.encoding +
                             ", and --encoding names another.");
-    if (decoding.replacedBytes > 0)
-        sentences.push_back(std::to_string(decoding.replacedBytes) +
-                            (decoding.replacedBytes == 1 ? " byte of " : " bytes of ") + Quoted(file) +
-                            " did not decode as " + decoding.encoding +
+}
+
+void DescribeDamage(ioPath const& file, Proc::TextDocument const& document, std::vector<std::string>& sentences)
+{
+    std::size_t const bytes = document.decoding.replacedBytes;
+    std::size_t const cues = document.skippedCues;
+    if (bytes > 0)
+        sentences.push_back(std::to_string(bytes) + (bytes == 1 ? " byte of " : " bytes of ") + Quoted(file) +
+                            " did not decode as " + document.decoding.encoding +
                             " and show as \"\xEF\xBF\xBD\"; check the encoding.");
-    if (skippedCues > 0)
-        sentences.push_back(std::to_string(skippedCues) + (skippedCues == 1 ? " cue of " : " cues of ") + Quoted(file) +
-                            " had no usable times and " + (skippedCues == 1 ? "was" : "were") + " left out.");
-    if (cueCount == 0)
+    if (cues > 0)
+        sentences.push_back(std::to_string(cues) + (cues == 1 ? " cue of " : " cues of ") + Quoted(file) +
+                            " had no usable times and " + (cues == 1 ? "was" : "were") + " left out.");
+}
+
+} // namespace
+
+std::vector<std::string> DescribeReading(ioPath const& file, Proc::TextDocument const& document, DamageReport damage)
+{
+    std::vector<std::string> sentences;
+    DescribeEncoding(file, document.decoding, sentences);
+    if (damage == DamageReport::Here)
+        DescribeDamage(file, document, sentences);
+    if (document.cues.empty())
         sentences.push_back("The subtitle file " + Quoted(file) + " holds no cues.");
     return sentences;
 }

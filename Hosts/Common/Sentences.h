@@ -7,7 +7,7 @@
 
 namespace Korvex::Proc
 {
-struct TextDecodeReport;
+struct TextDocument;
 } // namespace Korvex::Proc
 
 /// What hosts say about files and tracks, put into words in one place.
@@ -25,9 +25,16 @@ namespace Korvex::Hosts
 /// A number of seconds as short as possible: "1.5", "-0.25".
 [[nodiscard]] std::string FormatSeconds(double seconds);
 
-/// What is worth knowing about how a subtitle file was read: an encoding that had to be guessed, bytes that did not
-/// decode, cues without sense, no cues at all. Empty when everything is as expected.
-[[nodiscard]] std::vector<std::string> DescribeReading(ioPath const& file, Proc::TextDecodeReport const& decoding,
-                                                       std::size_t cueCount, std::size_t skippedCues);
+/// Who tells of bytes that did not decode and of cues without sense.
+enum class DamageReport
+{
+    Here,
+    ByConversion, ///< the conversion reads the file itself and warns of them
+};
+
+/// What is worth knowing about how a subtitle file was read: an encoding that had to be guessed, damage, no cues at
+/// all. Empty when everything is as expected.
+[[nodiscard]] std::vector<std::string> DescribeReading(ioPath const& file, Proc::TextDocument const& document,
+                                                       DamageReport damage);
 
 } // namespace Korvex::Hosts

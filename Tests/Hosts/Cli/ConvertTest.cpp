@@ -217,6 +217,25 @@ TEST_F(ConvertTest, EncodingAndOffsetReachSoftTracks)
         2);
 }
 
+TEST_F(ConvertTest, BytesThatDoNotDecodeAreTold)
+{
+    MakeFilm("film.mkv");
+    std::string const added = WriteText("added.srt", "1\n00:00:00,200 --> 00:00:01,000\n" + std::string(HELLO_IN_UTF8) +
+                                                         " \xFF\xFE " + HELLO_IN_UTF8 + "\n");
+    for (std::vector<std::string> const& mode :
+         {std::vector<std::string>{"--soft"}, {"--soft", "--encoding", "UTF-8"}, {"--burn", "--encoding", "UTF-8"}})
+    {
+        std::vector<std::string> words{"convert", Path("film.mkv"), "--add",      added, "--preset", "ultrafast",
+                                       "-o",      Path("out.mkv"),  "--overwrite"};
+        words.insert(words.end(), mode.begin(), mode.end());
+        auto const result = RunCli(words);
+        ASSERT_EQ(result.exitCode, 0) << result.err;
+        std::size_t const told = result.err.find("2 bytes");
+        EXPECT_NE(told, std::string::npos) << mode.back();
+        EXPECT_EQ(result.err.find("2 bytes", told + 1), std::string::npos) << "once is enough: " << result.err;
+    }
+}
+
 TEST_F(ConvertTest, BurningFindsItsTrackOrAsksForIt)
 {
     MakeFilm("film.mkv", {Subtitle("subrip", "ger"), Subtitle("ass", "fre")});
