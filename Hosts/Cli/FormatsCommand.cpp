@@ -63,6 +63,7 @@ ExitCode FormatsCommand::Run(Arguments const& arguments, Console& console)
             continue;
         }
         std::vector<std::string> names;
+        names.reserve(codecs.size());
         for (std::string const& codec : codecs)
             names.push_back(Hosts::DisplayName(codec));
         console.out << Pad(format.id, 10) << Pad(Hosts::DisplayName(format.id), 10)

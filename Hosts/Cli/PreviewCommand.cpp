@@ -46,11 +46,11 @@ bool IsPngName(ioPath const& path)
 /// Light compression: a preview is looked at once, and waiting for smaller files is felt.
 std::string ToPng(QImage const& image)
 {
-    constexpr int QUALITY_OF_FAST_COMPRESSION = 80;
+    constexpr int qualityOfFastCompression = 80;
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    if (!image.save(&buffer, "PNG", QUALITY_OF_FAST_COMPRESSION))
+    if (!image.save(&buffer, "PNG", qualityOfFastCompression))
         return {};
     return bytes.toStdString();
 }

@@ -129,11 +129,11 @@ void PrintTable(Proc::MediaInfo const& info, SubtitleCollection const& collectio
         idWidth = std::max(idWidth, row.id.size());
         codecWidth = std::max(codecWidth, row.codec.size());
     }
-    constexpr std::size_t KIND_WIDTH = 10;
+    constexpr std::size_t kindWidth = 10;
     for (Row const& row : rows)
     {
         std::string line = "  " + row.id + std::string(idWidth - row.id.size() + 2, ' ') + row.kind +
-                           std::string(KIND_WIDTH - row.kind.size() + 2, ' ') + row.codec +
+                           std::string(kindWidth - row.kind.size() + 2, ' ') + row.codec +
                            std::string(codecWidth - row.codec.size() + 2, ' ') + row.details;
         line.erase(line.find_last_not_of(' ') + 1);
         out << line << '\n';
@@ -144,7 +144,7 @@ void PrintTable(Proc::MediaInfo const& info, SubtitleCollection const& collectio
 std::string FormatOfFile(Proc::MediaInfo const& info)
 {
     std::string const names = "," + info.formatId + ",";
-    std::string const extension = info.path.Extension();
+    std::string extension = info.path.Extension();
     if (!extension.empty() && names.find("," + extension + ",") != std::string::npos)
         return extension;
     return info.formatId.substr(0, info.formatId.find(','));

@@ -123,7 +123,7 @@ double ReadSeconds(GivenOption const& option)
 
 std::chrono::microseconds ReadTime(GivenOption const& option)
 {
-    constexpr char const* EXPECTED = "a time such as 12.5, 1:02.5 or 1:02:03.5";
+    constexpr char const* expected = "a time such as 12.5, 1:02.5 or 1:02:03.5";
     std::string_view text = option.Value();
     double seconds = 0.0;
     for (int parts = 1;; ++parts)
@@ -132,14 +132,14 @@ std::chrono::microseconds ReadTime(GivenOption const& option)
         auto const part = ReadPlainNumber(text.substr(0, colon));
         bool const isLast = colon == std::string_view::npos;
         if (!part || parts > 3 || (parts > 1 && *part >= 60.0) || (!isLast && std::floor(*part) != *part))
-            Refuse(option, EXPECTED);
+            Refuse(option, expected);
         seconds = seconds * 60.0 + *part;
         if (isLast)
             break;
         text.remove_prefix(colon + 1);
     }
     if (seconds > 100.0 * SECONDS_A_DAY)
-        Refuse(option, EXPECTED);
+        Refuse(option, expected);
     return std::chrono::microseconds(std::llround(seconds * 1e6));
 }
 

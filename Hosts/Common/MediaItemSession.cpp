@@ -165,7 +165,7 @@ public:
 private:
     std::map<SubtitleTrackID, SubtitleTrack> ListOwnTracks(SubtitleChoice const& choice) const
     {
-        std::map<SubtitleTrackID, SubtitleTrack> const all = Subtitles::ListMediaTracks(m_info);
+        std::map<SubtitleTrackID, SubtitleTrack> all = Subtitles::ListMediaTracks(m_info);
         if (!choice.ownTracks)
             return all;
         std::map<SubtitleTrackID, SubtitleTrack> chosen;

@@ -11,7 +11,7 @@ using Conf::IFormatFile;
 
 std::vector<OutputFormat> const& GetOutputFormats()
 {
-    static std::vector<OutputFormat> const formats{
+    static std::vector<OutputFormat> const FORMATS{
         {IFormatFile::FORMAT_MATROSKA, {"mkv"}},
         {IFormatFile::FORMAT_MP4, {"mp4", "m4v"}},
         {IFormatFile::FORMAT_MOV, {"mov"}},
@@ -20,7 +20,7 @@ std::vector<OutputFormat> const& GetOutputFormats()
         {IFormatFile::FORMAT_AVI, {"avi"}},
         {IFormatFile::FORMAT_FLV, {"flv"}},
     };
-    return formats;
+    return FORMATS;
 }
 
 OutputFormat const* FindOutputFormat(std::string const& id)

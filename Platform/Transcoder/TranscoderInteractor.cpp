@@ -124,8 +124,8 @@ private:
 
     static QEvent::Type WakeType()
     {
-        static auto const type = static_cast<QEvent::Type>(QEvent::registerEventType());
-        return type;
+        static auto const TYPE = static_cast<QEvent::Type>(QEvent::registerEventType());
+        return TYPE;
     }
 
     /// Any thread.
