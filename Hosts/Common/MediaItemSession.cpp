@@ -111,6 +111,8 @@ public:
 
     void Apply(SubtitleChoice const& choice)
     {
+        if (!IsFilm())
+            throw FileError(MakeError(Core::ErrorCode::NothingToConvert, m_info.path));
         SubtitleCollection collection = m_interactor->GetSubtitleCollection();
         switch (choice.output)
         {

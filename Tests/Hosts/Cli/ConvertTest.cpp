@@ -321,6 +321,9 @@ TEST_F(ConvertTest, OutputsThatMustNotBeWrittenAreRefused)
     }
     EXPECT_EQ(*Core::ReadFile(added, 10000), CP1251_SRT);
     EXPECT_EQ(RunCli({"convert", Path("gone.mkv"), "-o", Path("out.mkv")}).exitCode, 1);
+    auto const noFilm = RunCli({"convert", added, "-o", Path("out.mkv")});
+    EXPECT_EQ(noFilm.exitCode, 1);
+    EXPECT_THAT(noFilm.err, HasSubstr("neither picture nor sound"));
     EXPECT_EQ(RunCli({"convert", Path("film.mkv"), "--add", Path("gone.srt"), "-o", Path("out.mkv")}).exitCode, 1);
     EXPECT_THAT(ListNames(m_folder.Path()), ElementsAre("added.srt", "film.mkv"));
 }
