@@ -51,6 +51,14 @@ Error WriteError(ioPath const& file, std::error_code const& reason)
     return MakeError(ErrorCode::OutputNotWritable, file, reason.message());
 }
 
+/// Something that is there and neither a file, a folder nor a link that leads nowhere.
+bool IsDeviceOrPipe(ioPath const& path)
+{
+    boost::system::error_code error;
+    fs::file_type const type = fs::status(Native(path), error).type();
+    return type > fs::file_not_found && type != fs::regular_file && type != fs::directory_file;
+}
+
 std::error_code Convert(boost::system::error_code const& error)
 {
     return {error.value(), std::generic_category()};
@@ -228,6 +236,9 @@ Status CheckOutput(ioPath const& output, std::vector<ioPath> const& inputs, bool
         return MakeError(ErrorCode::OutputNotWritable, output, "it names a folder");
     if (!folder.empty() && !FolderExists(folder))
         return MakeError(ErrorCode::OutputFolderMissing, output);
+    // Outputs take their names by renaming, which would put a plain file in the place of a device or a pipe.
+    if (IsDeviceOrPipe(output))
+        return MakeError(ErrorCode::OutputNotWritable, output, "it is a device or a pipe, not a file");
     if (!overwrite && PathExists(output))
         return MakeError(ErrorCode::OutputExists, output);
     return SUCCESS;

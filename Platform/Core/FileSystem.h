@@ -45,8 +45,8 @@ KORVEX_PLATFORM_API void RemoveFile(ioPath const& path);
 /// Removes a folder and all that is in it; only ever called for folders that `CreateWorkFolder` made.
 KORVEX_PLATFORM_API void RemoveWorkFolder(ioPath const& folder);
 
-/// Refuses an output that must not be written: same file as an input, folder missing, target present without
-/// `overwrite`.
+/// Refuses an output that must not be written: same file as an input, folder missing, a device or pipe, target present
+/// without `overwrite`.
 [[nodiscard]] KORVEX_PLATFORM_API Status CheckOutput(ioPath const& output, std::vector<ioPath> const& inputs,
                                                      bool overwrite);
 

@@ -64,6 +64,11 @@ TEST_F(FileSystemTest, ChecksOutputsBeforeAnythingIsWritten)
     EXPECT_EQ(CheckOutput(input, {}, false)->code, ErrorCode::OutputExists);
     EXPECT_EQ(CheckOutput(Path("absent") / "out.mkv", {input}, false)->code, ErrorCode::OutputFolderMissing);
     EXPECT_EQ(CheckOutput(m_folder, {input}, true)->code, ErrorCode::OutputNotWritable);
+#if !defined(_WIN32)
+    auto const refused = CheckOutput("/dev/null", {input}, true);
+    ASSERT_TRUE(refused) << "renaming would replace the device by a file";
+    EXPECT_EQ(refused->code, ErrorCode::OutputNotWritable);
+#endif
 }
 
 TEST_F(FileSystemTest, TemporaryNamesStayBesideTheTargetAndWithinTheLimit)

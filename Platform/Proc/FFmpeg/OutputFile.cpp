@@ -101,7 +101,8 @@ Core::Result<std::unique_ptr<OutputFile>> OutputFile::Create(ContainerRule const
     if (rule.formatId == Conf::IFormatFile::FORMAT_MATROSKA)
         file->m_context->avoid_negative_ts = AVFMT_AVOID_NEG_TS_DISABLED;
     if (int const result = OpenOutputFile(*file->m_context, file->m_temporary); result < 0)
-        return file->WriteFailed("avio_open2", result);
+        return HasNoSpace(result) ? MakeError(Core::ErrorCode::DiskFull, target)
+                                  : MakeError(Core::ErrorCode::OutputNotWritable, target, ErrorText(result));
     return file;
 }
 
