@@ -42,6 +42,7 @@ std::vector<ContainerRule> MakeRules()
     mov.muxerName = "mov";
     mov.displayName = "MOV";
     mov.carriesCoverPictures = false;
+    mov.languageForm = LanguageForm::QuickTime;
 
     ContainerRule mpegts;
     mpegts.formatId = IFormatFile::FORMAT_MPEGTS;
@@ -60,12 +61,14 @@ std::vector<ContainerRule> MakeRules()
     m2ts.displayName = "M2TS";
     m2ts.mediaCodecs = {AV_CODEC_ID_MPEG2VIDEO, AV_CODEC_ID_H264, AV_CODEC_ID_HEVC, AV_CODEC_ID_AC3,
                         AV_CODEC_ID_EAC3,       AV_CODEC_ID_DTS,  AV_CODEC_ID_AAC,  AV_CODEC_ID_TRUEHD};
+    m2ts.firstSubtitleId = 0x1300; // between the numbers that discs give to their own kinds of streams
 
     ContainerRule avi;
     avi.formatId = IFormatFile::FORMAT_AVI;
     avi.muxerName = "avi";
     avi.displayName = "AVI";
     avi.subtitleCodecs = {AV_CODEC_ID_XSUB};
+    avi.brokenCodecs = {AV_CODEC_ID_FLAC};
     avi.storesPresentationTimes = false;
     avi.subtitleAdvice = "burn it into the picture, or choose Matroska";
 
@@ -89,7 +92,8 @@ bool IsAllowed(ContainerRule const& rule, AVCodecParameters const& parameters)
     if (parameters.codec_type == AVMEDIA_TYPE_SUBTITLE)
         return Contains(rule.subtitleCodecs, parameters.codec_id);
     if (parameters.codec_type == AVMEDIA_TYPE_VIDEO || parameters.codec_type == AVMEDIA_TYPE_AUDIO)
-        return rule.mediaCodecs.empty() || Contains(rule.mediaCodecs, parameters.codec_id);
+        return (rule.mediaCodecs.empty() || Contains(rule.mediaCodecs, parameters.codec_id)) &&
+               !Contains(rule.brokenCodecs, parameters.codec_id);
     return false;
 }
 
@@ -108,6 +112,8 @@ bool TryHeader(ContainerRule const& rule, AVCodecParameters const& parameters)
                                 ? AVRational{1, parameters.sample_rate}
                                 : AVRational{1, 1000};
         stream->avg_frame_rate = {25, 1};
+        if (parameters.codec_type == AVMEDIA_TYPE_SUBTITLE)
+            stream->id = rule.firstSubtitleId;
         output->strict_std_compliance = FF_COMPLIANCE_NORMAL;
         // A refusal is an answer here, not a failure. The level is the whole process's, so one at a time.
         static std::mutex s_logLevel;
@@ -140,9 +146,13 @@ bool CanCarry(ContainerRule const& rule, AVCodecParameters const& parameters)
         return false;
     CodecParameters const adapted = CopyParametersForOutput(parameters, rule);
     AVOutputFormat const* muxer = av_guess_format(rule.muxerName, nullptr, nullptr);
-    // A negative answer means that the muxer does not know; then its header decides.
-    return muxer && avformat_query_codec(muxer, adapted->codec_id, FF_COMPLIANCE_NORMAL) != 0 &&
-           TryHeader(rule, *adapted);
+    if (!muxer)
+        return false;
+    // A negative answer means that the muxer does not know; then its header decides. Of subtitles its lists know less
+    // than it does itself (XSUB in AVI).
+    bool const mayFit = parameters.codec_type == AVMEDIA_TYPE_SUBTITLE ||
+                        avformat_query_codec(muxer, adapted->codec_id, FF_COMPLIANCE_NORMAL) != 0;
+    return mayFit && TryHeader(rule, *adapted);
 }
 
 void SetMuxerOptions(ContainerRule const& rule, Dictionary& options)
@@ -173,6 +183,9 @@ CodecParameters CopyParametersForOutput(AVCodecParameters const& from, Container
     // The old code may stay where the new container uses the same ones (so "hev1" stays "hev1" from MP4 to MP4).
     if (!muxer || !muxer->codec_tag || av_codec_get_id(muxer->codec_tag, copy->codec_tag) != copy->codec_id)
         copy->codec_tag = 0;
+    // AVI's lists of codes leave out the one that its own reader goes by.
+    if (copy->codec_id == AV_CODEC_ID_XSUB)
+        copy->codec_tag = MKTAG('D', 'X', 'S', 'B');
     return copy;
 }
 

@@ -20,6 +20,9 @@ struct ContainerRule
     std::vector<AVCodecID> subtitleCodecs;
     /// Moving pictures and sound that players of this container know. Empty: whatever the muxer takes.
     std::vector<AVCodecID> mediaCodecs;
+    /// What the muxer takes although nothing reads it back.
+    std::vector<AVCodecID> brokenCodecs;
+    int firstSubtitleId = 0; ///< the muxer has no numbers for subtitle streams of its own; 0: it has
     LanguageForm languageForm = LanguageForm::Bibliographic;
     bool carriesAttachments = false;
     bool carriesCoverPictures = false;

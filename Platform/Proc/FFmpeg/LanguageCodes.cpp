@@ -55,8 +55,18 @@ constexpr Language LANGUAGES[] = {
     {"vo", "vol", "vol"},  {"wa", "wln", "wln"},  {"wo", "wol", "wol"},  {"xh", "xho", "xho"},  {"yi", "yid", "yid"},
     {"yo", "yor", "yor"},  {"za", "zha", "zha"},  {"zh", "chi", "zho"},  {"zu", "zul", "zul"},  {"iw", "heb", "heb"},
     {"in", "ind", "ind"},  {"ji", "yid", "yid"},  {"pob", "por", "por"}, {"pb", "por", "por"},  {"zht", "chi", "zho"},
-    {"zhe", "chi", "zho"}, {"zhs", "chi", "zho"}, {"scc", "srp", "srp"}, {"scr", "hrv", "hrv"},
+    {"zhe", "chi", "zho"}, {"zhs", "chi", "zho"}, {"scc", "srp", "srp"}, {"scr", "hrv", "hrv"}, {"sve", "swe", "swe"},
 };
+
+/// MOV's table of languages was filled with names of both kinds.
+std::string_view QuickTimeName(Language const& language)
+{
+    if (language.bibliographic == "swe")
+        return "sve";
+    bool const hasTerminology = language.terminology == "fra" || language.terminology == "ron" ||
+                                language.terminology == "ces" || language.terminology == "slk";
+    return hasTerminology ? language.terminology : language.bibliographic;
+}
 
 bool IsThreeLetters(std::string_view name)
 {
@@ -76,7 +86,9 @@ std::string ToIso6392(std::string_view shortName, LanguageForm form)
                                                       name == language.terminology;
                                            });
     if (found != std::end(LANGUAGES))
-        return std::string(form == LanguageForm::Bibliographic ? found->bibliographic : found->terminology);
+        return std::string(form == LanguageForm::QuickTime       ? QuickTimeName(*found)
+                           : form == LanguageForm::Bibliographic ? found->bibliographic
+                                                                 : found->terminology);
     return IsThreeLetters(name) ? name : std::string();
 }
 

@@ -120,6 +120,8 @@ void OutputFile::AddStream(OutputStream const& stream, AVStream const* input, En
                                               encoded ? encoded->parameters.get() : stream.parameters.get()) >= 0);
     output->time_base = encoded ? encoded->timeBase : stream.timeBase;
     output->disposition = stream.disposition;
+    if (stream.Type() == AVMEDIA_TYPE_SUBTITLE && m_rule.firstSubtitleId > 0)
+        output->id = m_rule.firstSubtitleId + m_subtitleCount++;
     for (auto const& [key, value] : stream.tags)
         av_dict_set(&output->metadata, key.c_str(), value.c_str(), 0);
     if (encoded)

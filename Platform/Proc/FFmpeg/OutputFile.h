@@ -60,6 +60,7 @@ private:
     ioPath const m_target;
     ioPath const m_temporary;
     OutputContext m_context;
+    int m_subtitleCount = 0;
     std::vector<std::optional<std::int64_t>> m_lastDts;
     bool m_isCommitted = false;
 };

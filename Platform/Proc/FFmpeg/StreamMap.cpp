@@ -235,10 +235,22 @@ private:
         while ((tag = av_dict_get(stream.metadata, "", tag, AV_DICT_IGNORE_SUFFIX)))
         {
             if (!DescribesOldCoding(tag->key))
-                output.tags.emplace_back(tag->key, tag->value);
+                output.tags.emplace_back(tag->key, ValueFor(*tag));
         }
+        AVDictionaryEntry const* title = av_dict_get(stream.metadata, "title", nullptr, 0);
+        if (title && m_rule.namesTracksByHandler)
+            output.tags.emplace_back("handler_name", title->value); // the last one counts
         m_map.streams.push_back(std::move(output));
         return m_map.streams.back();
+    }
+
+    /// A language in the form that the container wants.
+    [[nodiscard]] std::string ValueFor(AVDictionaryEntry const& tag) const
+    {
+        if (std::strcmp(tag.key, "language") != 0)
+            return tag.value;
+        std::string const language = ToIso6392(tag.value, m_rule.languageForm);
+        return language.empty() ? tag.value : language;
     }
 
     void LeaveOut(AVStream const& stream, char const* what, std::string reason = {})

@@ -1,5 +1,6 @@
 #include "Proc/FFmpeg/SubtitleStreams.h"
 
+#include "Proc/FFmpeg/StreamFacts.h"
 #include "Proc/FFmpeg/SubtitlePayload.h"
 
 #include "Proc/Settings.h"
@@ -61,7 +62,10 @@ void DescribeTrack(OutputStream& stream, SubtitleTrack const& track, ContainerRu
 
 Core::Error CannotCarry(ioPath const& file, std::string track, AVCodecID codec, ContainerRule const& rule)
 {
-    Core::Error error = MakeError(Core::ErrorCode::ContainerCannotCarry, file, rule.subtitleAdvice);
+    // Pictures cannot become text, whatever the container would take.
+    char const* const advice =
+        IsBitmapSubtitle(codec) ? "burn the track into the picture, or choose Matroska" : rule.subtitleAdvice;
+    Core::Error error = MakeError(Core::ErrorCode::ContainerCannotCarry, file, advice);
     error.track = std::move(track);
     error.codec = CodecDisplayName(codec);
     error.container = rule.displayName;

@@ -196,8 +196,48 @@ TEST(SoftConversionTest, WhatTheContainerCannotCarryIsRefusedBeforeAnythingIsWri
     EXPECT_EQ(Convert(SoftSettings(folder / "in.mkv", folder / "in.mkv", "matroska", {})).Code(),
               ErrorCode::OutputIsInput);
     EXPECT_EQ(Core::ListFolder(folder.Path()), (std::vector<std::string>{"in.mkv"}));
-    // The same DVD track does fit into MP4.
+    // The same DVD track does fit into MP4, and DVB subtitles into M2TS, whose muxer has no numbers for them.
     EXPECT_TRUE(Convert(SoftSettings(folder / "in.mkv", folder / "out.mp4", "mp4", {StreamTrack(3)})).Succeeded());
+    film.formatId = "mpegts";
+    film.subtitles = {MakeSubtitle("dvb_subtitle", "ger"), MakeSubtitle("dvb_subtitle", "fre")};
+    MakeMedia(folder / "in.ts", film);
+    Conversion const toDisc =
+        Convert(SoftSettings(folder / "in.ts", folder / "out.m2ts", "m2ts", {StreamTrack(2), StreamTrack(3)}));
+    ASSERT_TRUE(toDisc.Succeeded()) << toDisc.Words();
+    Film const disc = ReadFilm(folder / "out.m2ts");
+    ASSERT_EQ(disc.StreamsOf(AVMEDIA_TYPE_SUBTITLE).size(), 2U);
+    EXPECT_EQ(disc.CodecOf(3), "dvb_subtitle");
+    EXPECT_EQ(disc.TagOf(3, "language"), "fre");
+    EXPECT_EQ(Joined(disc.PacketsOf(3)), Joined(ReadFilm(folder / "in.ts").PacketsOf(3)));
+}
+
+TEST(SoftConversionTest, DescribesTracksInTheContainersOwnTerms)
+{
+    TemporaryFolder const folder;
+    MadeMedia film = MakeFilm();
+    film.audios[0] = {"flac", milliseconds(2000), 48000, "ger", "Kommentar"};
+    film.audios.push_back({"aac", milliseconds(2000), 48000, "fre", ""});
+    MakeMedia(folder / "in.mkv", film);
+    struct Case
+    {
+        char const* format;
+        char const* german;
+        char const* french;
+    };
+    for (Case const& expected : {Case{"mp4", "deu", "fra"}, Case{"mov", "ger", "fra"}, Case{"matroska", "ger", "fre"}})
+    {
+        SCOPED_TRACE(expected.format);
+        ioPath const path = folder / (std::string("out.") + expected.format);
+        ASSERT_TRUE(Convert(SoftSettings(folder / "in.mkv", path, expected.format, {})).Succeeded());
+        Film const out = ReadFilm(path);
+        EXPECT_EQ(out.TagOf(1, "language"), expected.german);
+        EXPECT_EQ(out.TagOf(2, "language"), expected.french);
+        bool const isMatroska = std::string(expected.format) == "matroska";
+        EXPECT_EQ(out.TagOf(1, isMatroska ? "title" : "handler_name"), "Kommentar");
+    }
+    // FLAC is what AVI takes and nobody reads back.
+    ASSERT_TRUE(Convert(SoftSettings(folder / "in.mkv", folder / "out.avi", "avi", {})).Succeeded());
+    EXPECT_EQ(ReadFilm(folder / "out.avi").CodecOf(1), "aac");
 }
 
 TEST(SoftConversionTest, PreparedFilesAreCopiedByPackets)
