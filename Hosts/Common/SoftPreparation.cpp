@@ -199,7 +199,7 @@ std::optional<SubtitleTrack> SoftPreparation::Rewrite(SubtitleTrack const& track
                           ") holds no cues and was left out.");
         return std::nullopt;
     }
-    AddNote(track, need, written->codecId);
+    AddNote(track, need, *written);
     SubtitleTrack rewritten(written->path);
     // A file's name in place of a title is told by being the path's, and stays so.
     bool const hasTitle = !track.isExternal || track.title != track.path.FileName();
@@ -213,17 +213,20 @@ std::optional<SubtitleTrack> SoftPreparation::Rewrite(SubtitleTrack const& track
     return rewritten;
 }
 
-void SoftPreparation::AddNote(SubtitleTrack const& track, Need const& need, std::string const& writtenCodecId)
+void SoftPreparation::AddNote(SubtitleTrack const& track, Need const& need, Proc::ExportedSubtitle const& written)
 {
     std::string sentence = "Track " + track.id.ToString() + " (" + track.codecName + ") ";
-    if (writtenCodecId != track.codecId)
-        sentence += "goes into " + DisplayName(m_formatId) + " as " + DisplayName(writtenCodecId);
+    if (written.codecId != track.codecId)
+        sentence += "goes into " + DisplayName(m_formatId) + " as " + DisplayName(written.codecId);
     else
         sentence += "was written anew";
     if (need.hasEncoding)
         sentence += ", read as " + GetEncodingName(*m_choice.encoding);
     if (need.hasShift)
         sentence += ", moved by " + FormatSeconds(m_choice.offsetSeconds) + " s";
+    if (written.leftOutCues > 0)
+        sentence += ", without " + std::to_string(written.leftOutCues) +
+                    (written.leftOutCues == 1 ? " cue that has no place there" : " cues that have no place there");
     m_notes.push_back(sentence + ".");
 }
 

@@ -11,6 +11,7 @@
 
 namespace Korvex::Proc
 {
+struct ExportedSubtitle;
 struct MediaInfo;
 } // namespace Korvex::Proc
 
@@ -77,7 +78,7 @@ private:
     [[nodiscard]] std::string SuggestInstead(Track const& track) const;
     /// Empty when the track holds no cues: there is nothing to write.
     [[nodiscard]] std::optional<Track> Rewrite(Track const& track, Need const& need);
-    void AddNote(Track const& track, Need const& need, std::string const& writtenCodecId);
+    void AddNote(Track const& track, Need const& need, Proc::ExportedSubtitle const& written);
 
     HostServices const& m_services;
     Proc::MediaInfo const& m_film;

@@ -25,7 +25,8 @@ struct RgbaImage
 };
 
 /// Shows frames of one file as a conversion would write them: upright, with the chosen track drawn in. Keeps the file
-/// open between calls. One thread at a time.
+/// open between calls. Times are those that the file states: where the clock of a transport stream jumps, a conversion
+/// closes the gap and a preview does not. One thread at a time.
 class KORVEX_PLATFORM_API IPreview : public Core::RefCounted
 {
 public:

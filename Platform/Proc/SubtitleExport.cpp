@@ -46,35 +46,39 @@ Core::Result<SubtitleDocument> Load(SubtitleSource const& source)
     return *text ? SubtitleDocument(std::move((*text)->document)) : LoadSubtitleFile(source.path, source.encoding);
 }
 
-/// Moves all cues; those that would end before the start of the media are left out.
-void ShiftCues(TextDocument& document, microseconds shift)
+template <typename Predicate>
+std::size_t DropCues(TextDocument& document, Predicate const& isDropped)
 {
-    std::vector<TextCue> kept;
-    kept.reserve(document.cues.size());
+    std::size_t const before = document.cues.size();
+    document.cues.erase(std::remove_if(document.cues.begin(), document.cues.end(), isDropped), document.cues.end());
+    return before - document.cues.size();
+}
+
+/// Moves all cues; gives the number of those left out because they would end before the start of the media.
+std::size_t ShiftCues(TextDocument& document, microseconds shift)
+{
     for (TextCue& cue : document.cues)
     {
-        cue.start += shift;
+        cue.start = std::max(cue.start + shift, microseconds::zero());
         cue.end += shift;
-        if (cue.end <= microseconds::zero() && shift < microseconds::zero())
-        {
-            ++document.skippedCues;
-            continue;
-        }
-        cue.start = std::max(cue.start, microseconds::zero());
-        kept.push_back(std::move(cue));
     }
-    document.cues = std::move(kept);
+    if (shift >= microseconds::zero())
+        return 0;
+    return DropCues(document, [](TextCue const& cue) { return cue.end <= microseconds::zero(); });
+}
+
+/// Containers keep durations, and one of nothing means to players that the text stays until the next one.
+std::size_t DropCuesWithoutDuration(TextDocument& document)
+{
+    return DropCues(document, [](TextCue const& cue) { return cue.end <= cue.start; });
 }
 
 /// mov_text counts milliseconds in 31 bits and the bytes of a text in 16.
-void DropWhatMovTextCannotHold(TextDocument& document)
+std::size_t DropWhatMovTextCannotHold(TextDocument& document)
 {
     static constexpr microseconds LATEST = std::chrono::hours(500);
     static constexpr std::size_t LONGEST = 60'000;
-    std::size_t const before = document.cues.size();
-    auto const isTooMuch = [](TextCue const& cue) { return cue.end > LATEST || cue.text.size() > LONGEST; };
-    document.cues.erase(std::remove_if(document.cues.begin(), document.cues.end(), isTooMuch), document.cues.end());
-    document.skippedCues += before - document.cues.size();
+    return DropCues(document, [](TextCue const& cue) { return cue.end > LATEST || cue.text.size() > LONGEST; });
 }
 
 std::string CodecOf(SubtitleDocument const& document)
@@ -210,10 +214,22 @@ bool IsMatroskaExtension(std::string const& extension)
     return extension == "mkv" || extension == "mks";
 }
 
+constexpr char const* DRAW_IT_IN = "draw it into the picture";
+
+/// No text that the container takes can be made of this track.
+Core::Error NothingFits(SubtitleSource const& source, std::string const& codecId)
+{
+    Core::Error error =
+        MakeError(ErrorCode::ContainerCannotCarry, source, codecId, std::string("choose Matroska or ") + DRAW_IT_IN);
+    error.container = "the chosen container";
+    return error;
+}
+
 Core::Error PicturesAreNoText(SubtitleSource const& source, std::string const& codecId, std::string const& extension)
 {
+    std::string const better = SuggestExtractExtension(codecId);
     Core::Error error = MakeError(ErrorCode::ContainerCannotCarry, source, codecId,
-                                  "it consists of pictures, so save it as ." + SuggestExtractExtension(codecId));
+                                  better.empty() ? DRAW_IT_IN : "it consists of pictures, so save it as ." + better);
     error.container = "a ." + extension + " file";
     return error;
 }
@@ -232,11 +248,14 @@ Core::Result<ExportedSubtitle> ExtractCues(SubtitleSource const& source, ioPath 
     if (!text)
         return PicturesAreNoText(source, CodecOf(*document), extension);
 
-    ShiftCues(*text, source.timeShift);
+    std::size_t leftOut = ShiftCues(*text, source.timeShift);
+    if (isMatroska)
+        leftOut += DropCuesWithoutDuration(*text);
     if (Core::Status const failure = WriteText(*text, isMatroska ? "mkv" : extension, target))
         return *failure;
     bool const isScript = extension == "ass" || (isMatroska && text->HasOwnLook());
     ExportedSubtitle exported = Describe(*text, isScript ? Codec::CODEC_ID_ASS : Codec::CODEC_ID_SUBRIP);
+    exported.leftOutCues = leftOut;
     exported.path = target;
     return exported;
 }
@@ -276,8 +295,7 @@ Core::Result<ExportedSubtitle> PrepareSubtitle(SubtitleSource const& source,
         return document.GetError();
     auto* text = std::get_if<TextDocument>(&*document);
     if (!text)
-        return MakeError(ErrorCode::ContainerCannotCarry, source, CodecOf(*document),
-                         "it consists of pictures, which cannot become text");
+        return NothingFits(source, CodecOf(*document));
     std::vector<std::string> const preferred = PreferredCodecs(*text);
     auto const codec =
         std::find_if(preferred.begin(), preferred.end(),
@@ -285,16 +303,16 @@ Core::Result<ExportedSubtitle> PrepareSubtitle(SubtitleSource const& source,
                          return std::find(allowedCodecIds.begin(), allowedCodecIds.end(), id) != allowedCodecIds.end();
                      });
     if (codec == preferred.end())
-        return MakeError(ErrorCode::ContainerCannotCarry, source, text->codecId,
-                         "no working file can be made that would fit");
+        return NothingFits(source, text->codecId);
 
-    ShiftCues(*text, source.timeShift);
+    std::size_t leftOut = ShiftCues(*text, source.timeShift) + DropCuesWithoutDuration(*text);
     if (*codec == Codec::CODEC_ID_MOV_TEXT)
-        DropWhatMovTextCannotHold(*text);
+        leftOut += DropWhatMovTextCannotHold(*text);
     Core::Result<ioPath> const path = WriteUnderFreeName(*text, ExtensionOf(*codec), folder, baseName);
     if (!path)
         return path.GetError();
     ExportedSubtitle exported = Describe(*text, *codec);
+    exported.leftOutCues = leftOut;
     exported.path = *path;
     return exported;
 }
@@ -305,8 +323,9 @@ std::string SuggestExtractExtension(std::string const& codecId)
         return "ass";
     if (codecId == Codec::CODEC_ID_HDMV_PGS_SUBTITLE)
         return "sup";
-    bool const isBitmap = codecId == Codec::CODEC_ID_DVD_SUBTITLE || codecId == Codec::CODEC_ID_DVB_SUBTITLE ||
-                          codecId == Codec::CODEC_ID_XSUB;
+    if (codecId == Codec::CODEC_ID_XSUB)
+        return {};
+    bool const isBitmap = codecId == Codec::CODEC_ID_DVD_SUBTITLE || codecId == Codec::CODEC_ID_DVB_SUBTITLE;
     return isBitmap ? "mkv" : "srt";
 }
 

@@ -31,10 +31,12 @@ struct ExportedSubtitle
     std::string encoding; ///< how text was decoded; empty for bitmaps
     std::size_t cueCount = 0;
     std::size_t replacedBytes = 0; ///< bytes that did not decode
-    std::size_t skippedCues = 0;
+    std::size_t skippedCues = 0;   ///< cues of the source that made no sense
+    std::size_t leftOutCues = 0; ///< cues that the written file has no place for: over before it begins, of no duration
 };
 
-/// Saves a track as a file of its own, as it is: text to SRT or ASS in UTF-8, PGS to ".sup", other bitmaps to Matroska.
+/// Saves a track as a file of its own, as it is: text to SRT or ASS in UTF-8, PGS to ".sup", bitmaps to Matroska where
+/// that can carry them (XSUB fits nowhere).
 /// The target's extension chooses the format. Written aside and renamed; refuses an existing target.
 [[nodiscard]] KORVEX_PLATFORM_API Core::Result<ExportedSubtitle> ExtractSubtitle(SubtitleSource const& source,
                                                                                  ioPath const& target);
@@ -46,7 +48,8 @@ struct ExportedSubtitle
 PrepareSubtitle(SubtitleSource const& source, std::vector<std::string> const& allowedCodecIds, ioPath const& folder,
                 std::string const& baseName);
 
-/// The extension (without dot) that `ExtractSubtitle` suggests for a codec: "srt", "ass", "sup" or "mkv".
+/// The extension (without dot) that `ExtractSubtitle` suggests for a codec: "srt", "ass", "sup" or "mkv"; empty for
+/// XSUB, which none of these can hold.
 [[nodiscard]] KORVEX_PLATFORM_API std::string SuggestExtractExtension(std::string const& codecId);
 
 } // namespace Korvex::Proc

@@ -1,7 +1,6 @@
 #include "Proc/FFmpeg/Demuxing.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
 #include <new>
 
@@ -15,8 +14,6 @@ namespace Korvex::Proc::FFmpeg
 
 namespace
 {
-
-constexpr std::int64_t JUMP_US = 10 * AV_TIME_BASE;
 
 std::int64_t FrameDurationOf(AVStream const& stream)
 {
@@ -71,7 +68,8 @@ void CopyClock::Complete(AVPacket& packet)
 Demuxing::Demuxing(InputFile const& file, std::vector<Route> routes, PacketMerger& merger, JobControl& control)
     : m_file(file),
       m_merger(merger),
-      m_control(control)
+      m_control(control),
+      m_jumps(file.Context())
 {
     m_streams.resize(routes.size());
     for (std::size_t i = 0; i < routes.size(); ++i)
@@ -113,34 +111,14 @@ bool Demuxing::Dispatch(Packet packet)
     return !stream.route.decoder || stream.route.decoder->Push(std::move(packet));
 }
 
-void Demuxing::MoveToZero(Stream& stream, AVPacket& packet)
+void Demuxing::MoveToZero(Stream const& stream, AVPacket& packet)
 {
     packet.time_base = m_file.Context().streams[packet.stream_index]->time_base;
     if (packet.pts != AV_NOPTS_VALUE)
         packet.pts -= stream.start;
     if (packet.dts != AV_NOPTS_VALUE)
         packet.dts -= stream.start;
-    if (m_file.Context().iformat->flags & AVFMT_TS_DISCONT)
-        CloseJump(stream, packet);
-}
-
-void Demuxing::CloseJump(Stream& stream, AVPacket& packet)
-{
-    AVMediaType const type = m_file.Context().streams[packet.stream_index]->codecpar->codec_type;
-    bool const isSteady = type == AVMEDIA_TYPE_VIDEO || type == AVMEDIA_TYPE_AUDIO;
-    if (packet.dts != AV_NOPTS_VALUE && isSteady)
-    {
-        std::int64_t const dtsUs = av_rescale_q(packet.dts, packet.time_base, AV_TIME_BASE_Q);
-        if (stream.expectedUs && std::llabs(dtsUs - m_jumpUs - *stream.expectedUs) > JUMP_US)
-            m_jumpUs = dtsUs - *stream.expectedUs;
-        stream.expectedUs = dtsUs - m_jumpUs +
-                            av_rescale_q(std::max<std::int64_t>(0, packet.duration), packet.time_base, AV_TIME_BASE_Q);
-    }
-    std::int64_t const jump = av_rescale_q(m_jumpUs, AV_TIME_BASE_Q, packet.time_base);
-    if (packet.pts != AV_NOPTS_VALUE)
-        packet.pts -= jump;
-    if (packet.dts != AV_NOPTS_VALUE)
-        packet.dts -= jump;
+    m_jumps.Close(packet);
 }
 
 bool Demuxing::Copy(Stream& stream, AVPacket const& packet)

@@ -4,6 +4,7 @@
 #include "Proc/FFmpeg/InputFile.h"
 #include "Proc/FFmpeg/JobControl.h"
 #include "Proc/FFmpeg/PacketMerger.h"
+#include "Proc/FFmpeg/TimeJumps.h"
 
 #include <cstdint>
 #include <memory>
@@ -58,22 +59,20 @@ private:
         Route route;
         std::int64_t start = 0; ///< the file's start time in the stream's time base
         std::unique_ptr<CopyClock> clock;
-        std::optional<std::int64_t> expectedUs; ///< when the next packet should begin
     };
 
     bool Dispatch(Packet packet);
     bool Copy(Stream& stream, AVPacket const& packet);
     bool PushCopies(Stream& stream, AVPacket const& packet);
     bool FlushFilter(Stream& stream);
-    void MoveToZero(Stream& stream, AVPacket& packet);
-    void CloseJump(Stream& stream, AVPacket& packet);
+    void MoveToZero(Stream const& stream, AVPacket& packet);
     void Finish();
 
     InputFile const& m_file;
     std::vector<Stream> m_streams;
     PacketMerger& m_merger;
     JobControl& m_control;
-    std::int64_t m_jumpUs = 0; ///< taken off all times since the last jump
+    TimeJumps m_jumps;
 };
 
 /// The filter that a stream needs to be copied into this muxer and that the muxer does not insert itself.

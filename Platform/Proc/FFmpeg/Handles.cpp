@@ -1,5 +1,6 @@
 #include "Proc/FFmpeg/Handles.h"
 
+#include <cstring>
 #include <new>
 
 namespace Korvex::Proc::FFmpeg
@@ -44,6 +45,17 @@ CodecParameters MakeCodecParameters(AVCodecParameters const& from)
     if (avcodec_parameters_copy(copy.get(), &from) < 0)
         throw std::bad_alloc();
     return copy;
+}
+
+void SetExtraData(AVCodecParameters& parameters, void const* bytes, std::size_t size)
+{
+    auto* copy = static_cast<std::uint8_t*>(av_mallocz(size + AV_INPUT_BUFFER_PADDING_SIZE));
+    if (!copy)
+        throw std::bad_alloc();
+    std::memcpy(copy, bytes, size);
+    av_freep(&parameters.extradata);
+    parameters.extradata = copy;
+    parameters.extradata_size = static_cast<int>(size);
 }
 
 OutputContext MakeOutputContext(char const* muxerName, ioPath const& path)

@@ -13,6 +13,7 @@ extern "C"
 #include <libswscale/swscale.h>
 }
 
+#include <cstddef>
 #include <memory>
 #include <string>
 
@@ -86,6 +87,8 @@ using Resampler = std::unique_ptr<SwrContext, ResamplerDeleter>;
 [[nodiscard]] CodecParameters MakeCodecParameters();
 /// A copy that outlives the stream it was taken from.
 [[nodiscard]] CodecParameters MakeCodecParameters(AVCodecParameters const& from);
+/// Replaces the codec's own header by a copy of these bytes.
+void SetExtraData(AVCodecParameters& parameters, void const* bytes, std::size_t size);
 /// A muxer by its FFmpeg name, without an open file. Empty when there is no such muxer.
 [[nodiscard]] OutputContext MakeOutputContext(char const* muxerName, ioPath const& path);
 /// Opens the file that the context was made for. A negative result is FFmpeg's error number.

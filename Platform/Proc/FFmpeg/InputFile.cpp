@@ -4,7 +4,12 @@
 
 #include <algorithm>
 #include <cstring>
-#include <limits>
+#include <string_view>
+
+extern "C"
+{
+#include <libavutil/mathematics.h>
+}
 
 namespace Korvex::Proc::FFmpeg
 {
@@ -31,6 +36,31 @@ constexpr char const* TEXT_DEMUXERS =
 
 // Enough for the probe of every demuxer above to answer as it does with the whole file.
 constexpr std::size_t PROBE_BYTES = 64 * 1024;
+
+std::string AllowedDemuxers(std::string_view head)
+{
+    // Subtitles inside an AVI file are whole text files, which its demuxer reads by theirs.
+    bool const isRiff = head.substr(0, 4) == "RIFF";
+    return std::string(MEDIA_DEMUXERS) + (isRiff ? ",srt,ass" : "");
+}
+
+/// "{first frame}{last frame}text". FFmpeg's own probe wants three such lines, though a file may have fewer cues.
+bool IsFrameBased(std::string_view text)
+{
+    auto const take = [&text](char wanted)
+    {
+        bool const isThere = !text.empty() && text.front() == wanted;
+        text.remove_prefix(isThere ? 1 : 0);
+        return isThere;
+    };
+    auto const takeNumber = [&text](bool mayBeEmpty)
+    {
+        std::size_t const count = std::min(text.find_first_not_of("0123456789"), text.size());
+        text.remove_prefix(count);
+        return count > 0 || mayBeEmpty;
+    };
+    return take('{') && takeNumber(false) && take('}') && take('{') && takeNumber(true) && take('}');
+}
 
 int IsCancelled(void* flag)
 {
@@ -90,6 +120,17 @@ bool StatesFrameRates(AVFormatContext const& context)
             return false;
     }
     return context.nb_streams > 0;
+}
+
+void DropUnusableTimes(AVPacket& packet, AVRational timeBase)
+{
+    if (!IsUsableTime(packet.pts, timeBase))
+        packet.pts = AV_NOPTS_VALUE;
+    if (!IsUsableTime(packet.dts, timeBase))
+        packet.dts = AV_NOPTS_VALUE;
+    constexpr std::int64_t LONGEST_SECONDS = 365LL * 24 * 3600;
+    if (av_compare_ts(packet.duration, timeBase, LONGEST_SECONDS, {1, 1}) > 0)
+        packet.duration = 0;
 }
 
 /// Stream parameters, as far as asked. Zero on success.
@@ -165,6 +206,13 @@ struct InputFile::MemoryText
     AVIOContext* io = nullptr;
 };
 
+bool IsUsableTime(std::int64_t timestamp, AVRational timeBase)
+{
+    constexpr std::int64_t LATEST_SECONDS = 100LL * 365 * 24 * 3600;
+    return timestamp != AV_NOPTS_VALUE && av_compare_ts(timestamp, timeBase, LATEST_SECONDS, {1, 1}) <= 0 &&
+           av_compare_ts(timestamp, timeBase, -LATEST_SECONDS, {1, 1}) >= 0;
+}
+
 InputFile::InputFile(ioPath path, std::unique_ptr<MemoryText> text, InputContext context)
     : m_path(std::move(path)),
       m_text(std::move(text)),
@@ -200,7 +248,7 @@ Core::Result<InputFile> InputFile::Open(ioPath const& path, InputOptions const& 
     }
     Dictionary settings;
     settings.Set("protocol_whitelist", "file");
-    settings.Set("format_whitelist", MEDIA_DEMUXERS);
+    settings.Set("format_whitelist", AllowedDemuxers(*head));
     int const opened = avformat_open_input(&raw, ToUrl(path).c_str(), nullptr, settings.Address());
     if (opened < 0) // the context is gone then
         return OpenError(opened, path, *head);
@@ -216,6 +264,7 @@ Core::Result<InputFile> InputFile::Open(ioPath const& path, InputOptions const& 
 
 Core::Result<InputFile> InputFile::OpenText(std::string utf8, ioPath const& path)
 {
+    AVInputFormat const* const known = IsFrameBased(utf8) ? av_find_input_format("microdvd") : nullptr;
     auto text = std::make_unique<MemoryText>(std::move(utf8));
     AVFormatContext* raw = MakeInputContext().release();
     raw->pb = text->io;
@@ -223,7 +272,7 @@ Core::Result<InputFile> InputFile::OpenText(std::string utf8, ioPath const& path
     Dictionary settings;
     settings.Set("protocol_whitelist", "file");
     settings.Set("format_whitelist", TEXT_DEMUXERS);
-    if (avformat_open_input(&raw, ToUrl(path).c_str(), nullptr, settings.Address()) < 0)
+    if (avformat_open_input(&raw, ToUrl(path).c_str(), known, settings.Address()) < 0)
         return MakeError(ErrorCode::FormatUnknown, path);
     InputContext context(raw);
     if (context->nb_streams != 1)
@@ -234,21 +283,38 @@ Core::Result<InputFile> InputFile::OpenText(std::string utf8, ioPath const& path
 std::chrono::microseconds InputFile::StartTime() const
 {
     // A file of subtitles alone counts from zero: its first event begins when it says.
-    bool hasMedia = false;
+    bool hasMedia = FindMainVideo() != nullptr;
     for (unsigned i = 0; i < m_context->nb_streams; ++i)
-    {
-        AVStream const& stream = *m_context->streams[i];
-        AVMediaType const type = stream.codecpar->codec_type;
-        bool const isPicture = type == AVMEDIA_TYPE_VIDEO && !(stream.disposition & AV_DISPOSITION_ATTACHED_PIC);
-        hasMedia = hasMedia || isPicture || type == AVMEDIA_TYPE_AUDIO;
-    }
-    bool const isKnown = m_context->start_time != AV_NOPTS_VALUE;
-    return std::chrono::microseconds(hasMedia && isKnown ? m_context->start_time : 0);
+        hasMedia = hasMedia || m_context->streams[i]->codecpar->codec_type == AVMEDIA_TYPE_AUDIO;
+    bool const isUsable =
+        m_context->start_time != AV_NOPTS_VALUE && IsUsableTime(m_context->start_time, AV_TIME_BASE_Q);
+    return std::chrono::microseconds(hasMedia && isUsable ? m_context->start_time : 0);
 }
 
 AVStream* InputFile::FindStream(std::uint32_t index) const
 {
     return index < m_context->nb_streams ? m_context->streams[index] : nullptr;
+}
+
+AVStream* InputFile::FindMainVideo() const
+{
+    for (unsigned i = 0; i < m_context->nb_streams; ++i)
+    {
+        AVStream* const stream = m_context->streams[i];
+        if (stream->codecpar->codec_type == AVMEDIA_TYPE_VIDEO && !(stream->disposition & AV_DISPOSITION_ATTACHED_PIC))
+            return stream;
+    }
+    return nullptr;
+}
+
+AVStream* InputFile::FindFirstSubtitle() const
+{
+    for (unsigned i = 0; i < m_context->nb_streams; ++i)
+    {
+        if (m_context->streams[i]->codecpar->codec_type == AVMEDIA_TYPE_SUBTITLE)
+            return m_context->streams[i];
+    }
+    return nullptr;
 }
 
 void InputFile::SelectOnly(std::uint32_t index) const
@@ -266,7 +332,10 @@ Core::Result<bool> InputFile::ReadPacket(AVPacket& packet) const
     for (int attempt = 0; result == AVERROR(EAGAIN) && attempt < MOST_ATTEMPTS; ++attempt)
         result = av_read_frame(m_context.get(), &packet);
     if (result >= 0)
+    {
+        DropUnusableTimes(packet, m_context->streams[packet.stream_index]->time_base);
         return true;
+    }
     if (result == AVERROR_EXIT)
         return MakeError(ErrorCode::Cancelled, m_path);
     // Demuxers report a file that breaks off as an input error too; only the reader below them knows.

@@ -28,6 +28,9 @@ struct InputOptions
     std::atomic<bool> const* cancelled = nullptr;
 };
 
+/// False for no timestamp and for one that no clock shows (over a century): sums of such times would overflow.
+[[nodiscard]] bool IsUsableTime(std::int64_t timestamp, AVRational timeBase);
+
 /// A file that is read. It is always opened as a plain local file and only by demuxers of media containers, elementary
 /// streams and subtitle formats: playlists, devices, image sequences and network addresses are refused whatever the
 /// file is called. One thread at a time.
@@ -55,14 +58,20 @@ public:
     /// Null for an index that the file does not have.
     [[nodiscard]] AVStream* FindStream(std::uint32_t index) const;
 
+    /// The first moving picture, which conversions and previews show; null in a file without one.
+    [[nodiscard]] AVStream* FindMainVideo() const;
+
+    /// Null in a file without subtitles.
+    [[nodiscard]] AVStream* FindFirstSubtitle() const;
+
     /// Lets the demuxer skip the packets of every other stream.
     void SelectOnly(std::uint32_t index) const;
 
     /// Replaces what `packet` holds by the next packet of any selected stream. False at the end of the file; the end of
-    /// a truncated file counts as its end.
+    /// a truncated file counts as its end. Times and durations that cannot be true are taken off.
     [[nodiscard]] Core::Result<bool> ReadPacket(AVPacket& packet) const;
 
-    /// A time of a stream, counted from `StartTime`.
+    /// A usable time of a stream, counted from `StartTime`.
     [[nodiscard]] std::chrono::microseconds ToMediaTime(std::int64_t timestamp, AVRational timeBase) const;
 
 private:

@@ -12,16 +12,6 @@ namespace
 
 using Core::ErrorCode;
 
-std::optional<std::uint32_t> FindSubtitles(InputFile const& file)
-{
-    for (std::uint32_t i = 0; file.FindStream(i); ++i)
-    {
-        if (file.FindStream(i)->codecpar->codec_type == AVMEDIA_TYPE_SUBTITLE)
-            return i;
-    }
-    return std::nullopt;
-}
-
 Core::Error NoTrack(ioPath const& path, std::string track)
 {
     Core::Error error = MakeError(ErrorCode::NoSuchTrack, path);
@@ -44,10 +34,12 @@ Core::Result<SubtitleDocument> LoadMediaSubtitles(ioPath const& path, std::optio
     Core::Result<InputFile> const file = InputFile::Open(path, {StreamAnalysis::Quick});
     if (!file)
         return file.GetError();
-    std::optional<std::uint32_t> const index = streamIndex ? streamIndex : FindSubtitles(*file);
-    if (!index)
+    if (streamIndex)
+        return LoadStream(*file, *streamIndex);
+    AVStream const* first = file->FindFirstSubtitle();
+    if (!first)
         return NoTrack(path, "of subtitles");
-    return LoadStream(*file, *index);
+    return LoadStream(*file, static_cast<std::uint32_t>(first->index));
 }
 
 Core::Result<boost::intrusive_ptr<IStreamRaw>> OpenRawStream(ioPath const& path, std::uint32_t streamIndex)

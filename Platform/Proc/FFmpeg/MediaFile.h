@@ -15,7 +15,8 @@ namespace Korvex::Proc::FFmpeg
 
 [[nodiscard]] Core::Result<MediaInfo> ProbeMediaFile(ioPath const& path);
 
-/// One subtitle stream, whole; without an index the file's first.
+/// One subtitle stream, whole; without an index the file's first. Jumps in the clock of a transport stream are closed,
+/// as a conversion closes them.
 [[nodiscard]] Core::Result<SubtitleDocument> LoadMediaSubtitles(ioPath const& path,
                                                                 std::optional<std::uint32_t> streamIndex);
 

@@ -2,6 +2,7 @@
 #include "Proc/FFmpeg/InputFile.h"
 #include "Proc/FFmpeg/LibraryVersions.h"
 #include "Proc/FFmpeg/PicturePainter.h"
+#include "Proc/FFmpeg/StreamLoader.h"
 
 #include "Proc/Preview.h"
 #include "Proc/Settings.h"
@@ -218,9 +219,10 @@ private:
 class Preview final : public IPreview
 {
 public:
-    Preview(InputFile file, std::uint32_t videoIndex, PictureShape const& shape)
+    /// `video` is a stream of `file`.
+    Preview(InputFile file, AVStream& video, PictureShape const& shape)
         : m_file(std::move(file)),
-          m_stream(*m_file.FindStream(videoIndex)),
+          m_stream(video),
           m_shape(shape),
           m_toRgba(shape.Width(), shape.Height(), AV_PIX_FMT_RGBA)
     {
@@ -258,7 +260,11 @@ public:
         microseconds const begin = m_finder->TimeOf((*frame)->pts);
         Core::Result<Frame> painted = m_painter->Paint(std::move(*frame), begin);
         if (!painted)
-            return painted.GetError();
+        {
+            Core::Error error = painted.GetError();
+            error.file = m_file.Path();
+            return error;
+        }
         return ToImage(**painted, begin);
     }
 
@@ -273,13 +279,21 @@ private:
             return Core::SUCCESS;
         m_document.reset();
         Core::Result<SubtitleDocument> document =
-            index ? LoadSubtitleStream(m_file.Path(), *index)
-                  : LoadSubtitleFile(settings.GetFilename(), settings.GetEncoding());
+            index ? LoadOwnTrack(*index) : LoadSubtitleFile(settings.GetFilename(), settings.GetEncoding());
         if (!document)
             return document.GetError();
         m_document = std::move(*document);
         m_documentKey = key;
         return Core::SUCCESS;
+    }
+
+    /// By the file's own times, which are those that pictures are looked for by.
+    Core::Result<SubtitleDocument> LoadOwnTrack(std::uint32_t index) const
+    {
+        Core::Result<InputFile> const file = InputFile::Open(m_file.Path(), {StreamAnalysis::Quick});
+        if (!file)
+            return file.GetError();
+        return LoadStream(*file, index, JumpHandling::Keep);
     }
 
     Core::Result<RgbaImage> ToImage(AVFrame const& picture, microseconds time)
@@ -315,17 +329,6 @@ private:
     std::string m_documentKey;
 };
 
-std::optional<std::uint32_t> FindMainVideo(InputFile const& file)
-{
-    for (unsigned i = 0; i < file.Context().nb_streams; ++i)
-    {
-        AVStream const& stream = *file.Context().streams[i];
-        if (stream.codecpar->codec_type == AVMEDIA_TYPE_VIDEO && !(stream.disposition & AV_DISPOSITION_ATTACHED_PIC))
-            return i;
-    }
-    return std::nullopt;
-}
-
 } // namespace
 
 Core::Result<boost::intrusive_ptr<IPreview>> MakePreview(ioPath const& mediaPath)
@@ -335,10 +338,10 @@ Core::Result<boost::intrusive_ptr<IPreview>> MakePreview(ioPath const& mediaPath
     Core::Result<InputFile> file = InputFile::Open(mediaPath, options);
     if (!file)
         return file.GetError();
-    std::optional<std::uint32_t> const video = FindMainVideo(*file);
+    AVStream* const video = file->FindMainVideo();
     if (!video)
         return MakeError(Core::ErrorCode::FormatUnknown, mediaPath, "it has no picture");
-    Core::Result<PictureShape> const shape = ShapeOf(file->Context(), *file->FindStream(*video), mediaPath);
+    Core::Result<PictureShape> const shape = ShapeOf(file->Context(), *video, mediaPath);
     if (!shape)
         return shape.GetError();
     boost::intrusive_ptr<Preview> preview(new Preview(std::move(*file), *video, *shape));

@@ -147,6 +147,30 @@ bool IsBitmapSubtitle(AVCodecID codec)
     return HasProperty(codec, AV_CODEC_PROP_BITMAP_SUB);
 }
 
+bool IsFont(AVStream const& stream)
+{
+    if (stream.codecpar->codec_type != AVMEDIA_TYPE_ATTACHMENT || stream.codecpar->extradata_size <= 0)
+        return false;
+    std::string const name = MetadataText(stream.metadata, "filename");
+    std::string const extension = LowerAscii(ioPath(name).Extension());
+    constexpr std::array<char const*, 4> EXTENSIONS{"ttf", "otf", "ttc", "otc"};
+    if (std::find(EXTENSIONS.begin(), EXTENSIONS.end(), extension) != EXTENSIONS.end())
+        return true;
+    std::string const type = MetadataText(stream.metadata, "mimetype");
+    return type.find("font") != std::string::npos || type.find("truetype") != std::string::npos ||
+           type.find("opentype") != std::string::npos;
+}
+
+bool IsOpenType(std::string const& fontName)
+{
+    return LowerAscii(ioPath(fontName).Extension()) == "otf";
+}
+
+char const* FontMimeType(std::string const& fontName)
+{
+    return IsOpenType(fontName) ? "application/vnd.ms-opentype" : "application/x-truetype-font";
+}
+
 StreamInfo DescribeStream(InputFile const& file, std::uint32_t index)
 {
     AVFormatContext& context = file.Context();

@@ -16,6 +16,13 @@ namespace Korvex::Proc::FFmpeg
 [[nodiscard]] bool IsTextSubtitle(AVCodecID codec);
 [[nodiscard]] bool IsBitmapSubtitle(AVCodecID codec);
 
+/// True for an attachment that is a font, by its name or its type.
+[[nodiscard]] bool IsFont(AVStream const& stream);
+/// By the name of its file; other fonts are TrueType or a collection of them.
+[[nodiscard]] bool IsOpenType(std::string const& fontName);
+/// As Matroska's players expect it.
+[[nodiscard]] char const* FontMimeType(std::string const& fontName);
+
 /// A value of a stream's or file's metadata as valid UTF-8; empty when it is not there.
 [[nodiscard]] std::string MetadataText(AVDictionary const* metadata, char const* key);
 

@@ -2,13 +2,12 @@
 
 #include "Proc/FFmpeg/StreamFacts.h"
 #include "Proc/FFmpeg/TextPackets.h"
+#include "Proc/FFmpeg/TimeJumps.h"
 
 #include "Proc/Text/TextDecoder.h"
 #include "Proc/Text/TextSubtitles.h"
 
 #include <algorithm>
-#include <array>
-#include <cctype>
 #include <numeric>
 
 namespace Korvex::Proc::FFmpeg
@@ -25,22 +24,6 @@ constexpr microseconds OPEN_CUE_DURATION = std::chrono::seconds(5);
 std::string_view ViewOf(RawPacket const& packet)
 {
     return {reinterpret_cast<char const*>(packet.data.data()), packet.data.size()};
-}
-
-bool IsFont(AVStream const& stream)
-{
-    if (stream.codecpar->codec_type != AVMEDIA_TYPE_ATTACHMENT || stream.codecpar->extradata_size <= 0)
-        return false;
-    std::string const name = MetadataText(stream.metadata, "filename");
-    std::string extension = ioPath(name).Extension();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    constexpr std::array<char const*, 4> EXTENSIONS{"ttf", "otf", "ttc", "otc"};
-    if (std::find(EXTENSIONS.begin(), EXTENSIONS.end(), extension) != EXTENSIONS.end())
-        return true;
-    std::string const type = MetadataText(stream.metadata, "mimetype");
-    return type.find("font") != std::string::npos || type.find("truetype") != std::string::npos ||
-           type.find("opentype") != std::string::npos;
 }
 
 /// How the text of a whole track becomes UTF-8. Containers promise UTF-8, but not every program keeps the promise.
@@ -187,6 +170,16 @@ Core::Result<SubtitleDocument> ReadByDecoder(InputFile const& file, std::uint32_
     return SubtitleDocument(std::move(document));
 }
 
+/// Has the stream read that tells where the clock jumps: sound, which is small, or the picture where there is none.
+void SelectClock(InputFile const& file)
+{
+    AVFormatContext const& context = file.Context();
+    int const sound = av_find_best_stream(&file.Context(), AVMEDIA_TYPE_AUDIO, -1, -1, nullptr, 0);
+    AVStream* const clock = sound >= 0 ? context.streams[sound] : file.FindMainVideo();
+    if (clock)
+        clock->discard = AVDISCARD_DEFAULT;
+}
+
 } // namespace
 
 void CollectFonts(InputFile const& file, std::vector<FontAttachment>& fonts)
@@ -208,16 +201,10 @@ SubtitleStreamTraits TraitsOf(InputFile const& file, std::uint32_t index)
     SubtitleStreamTraits traits;
     traits.parameters = file.FindStream(index)->codecpar;
     traits.path = file.Path();
-    AVFormatContext const& context = file.Context();
-    for (unsigned i = 0; i < context.nb_streams; ++i)
+    if (AVStream const* video = file.FindMainVideo())
     {
-        AVStream const& stream = *context.streams[i];
-        if (stream.codecpar->codec_type == AVMEDIA_TYPE_VIDEO && !(stream.disposition & AV_DISPOSITION_ATTACHED_PIC))
-        {
-            traits.fallbackCanvasWidth = stream.codecpar->width;
-            traits.fallbackCanvasHeight = stream.codecpar->height;
-            break;
-        }
+        traits.fallbackCanvasWidth = video->codecpar->width;
+        traits.fallbackCanvasHeight = video->codecpar->height;
     }
     return traits;
 }
@@ -236,9 +223,13 @@ std::optional<RawPacket> ToRawPacket(InputFile const& file, AVPacket const& pack
     return raw;
 }
 
-Core::Result<std::vector<RawPacket>> ReadAllPackets(InputFile const& file, std::uint32_t index)
+Core::Result<std::vector<RawPacket>> ReadAllPackets(InputFile const& file, std::uint32_t index, JumpHandling jumps)
 {
+    bool const closesJumps = jumps == JumpHandling::Close && TimeJumps::MayHappen(file.Context());
+    TimeJumps clock(file.Context());
     file.SelectOnly(index);
+    if (closesJumps)
+        SelectClock(file);
     std::vector<RawPacket> packets;
     Packet const packet = MakePacket();
     for (;;)
@@ -248,6 +239,8 @@ Core::Result<std::vector<RawPacket>> ReadAllPackets(InputFile const& file, std::
             return more.GetError();
         if (!*more)
             return packets;
+        if (closesJumps)
+            clock.Close(*packet);
         if (packet->stream_index != static_cast<int>(index))
             continue;
         if (std::optional<RawPacket> raw = ToRawPacket(file, *packet))
@@ -255,7 +248,7 @@ Core::Result<std::vector<RawPacket>> ReadAllPackets(InputFile const& file, std::
     }
 }
 
-Core::Result<SubtitleDocument> LoadStream(InputFile const& file, std::uint32_t index)
+Core::Result<SubtitleDocument> LoadStream(InputFile const& file, std::uint32_t index, JumpHandling jumps)
 {
     AVStream const* stream = file.FindStream(index);
     if (!stream || stream->codecpar->codec_type != AVMEDIA_TYPE_SUBTITLE)
@@ -264,7 +257,7 @@ Core::Result<SubtitleDocument> LoadStream(InputFile const& file, std::uint32_t i
         error.track = std::to_string(index);
         return error;
     }
-    Core::Result<std::vector<RawPacket>> const packets = ReadAllPackets(file, index);
+    Core::Result<std::vector<RawPacket>> const packets = ReadAllPackets(file, index, jumps);
     if (!packets)
         return packets.GetError();
 

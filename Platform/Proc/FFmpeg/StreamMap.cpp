@@ -2,6 +2,7 @@
 
 #include "Proc/FFmpeg/Decoding.h"
 #include "Proc/FFmpeg/FrameRotation.h"
+#include "Proc/FFmpeg/StreamFacts.h"
 #include "Proc/FFmpeg/SubtitleStreams.h"
 
 #include "Proc/Settings.h"
@@ -46,7 +47,8 @@ public:
 
     Core::Result<StreamMap> Plan()
     {
-        FindMainVideo();
+        if (AVStream const* video = m_input.FindMainVideo())
+            m_map.mainVideo = static_cast<std::uint32_t>(video->index);
         for (unsigned i = 0; i < m_input.Context().nb_streams; ++i)
         {
             if (Core::Status const failed = PlanMedia(*m_input.Context().streams[i]))
@@ -67,17 +69,6 @@ public:
     }
 
 private:
-    void FindMainVideo()
-    {
-        for (unsigned i = 0; i < m_input.Context().nb_streams && !m_map.mainVideo; ++i)
-        {
-            AVStream const& stream = *m_input.Context().streams[i];
-            if (stream.codecpar->codec_type == AVMEDIA_TYPE_VIDEO &&
-                !(stream.disposition & AV_DISPOSITION_ATTACHED_PIC))
-                m_map.mainVideo = i;
-        }
-    }
-
     Core::Status PlanMedia(AVStream const& stream)
     {
         if (stream.codecpar->codec_type == AVMEDIA_TYPE_AUDIO)
@@ -142,13 +133,7 @@ private:
         output.parameters = MakeCodecParameters();
         output.parameters->codec_type = AVMEDIA_TYPE_ATTACHMENT;
         output.parameters->codec_id = stream.codecpar->codec_id;
-        output.parameters->extradata = static_cast<std::uint8_t*>(
-            av_mallocz(static_cast<std::size_t>(stream.attached_pic.size) + AV_INPUT_BUFFER_PADDING_SIZE));
-        if (!output.parameters->extradata)
-            throw std::bad_alloc();
-        std::memcpy(output.parameters->extradata, stream.attached_pic.data,
-                    static_cast<std::size_t>(stream.attached_pic.size));
-        output.parameters->extradata_size = stream.attached_pic.size;
+        SetExtraData(*output.parameters, stream.attached_pic.data, static_cast<std::size_t>(stream.attached_pic.size));
         output.disposition = 0;
         output.tags = {{"filename", isPng ? "cover.png" : "cover.jpg"},
                        {"mimetype", isPng ? "image/png" : "image/jpeg"}};
@@ -191,7 +176,8 @@ private:
 
     void PlanAttachments()
     {
-        bool isLeftOut = false;
+        bool const hasTracks = m_settings.soft && !m_settings.soft->GetTracksInfo().empty();
+        bool isMissed = false;
         for (unsigned i = 0; i < m_input.Context().nb_streams; ++i)
         {
             AVStream const& stream = *m_input.Context().streams[i];
@@ -199,10 +185,10 @@ private:
                 continue;
             if (m_rule.carriesAttachments)
                 Add(stream, Source::HeaderOnly);
-            else
-                isLeftOut = true;
+            else // fonts are of use to subtitle tracks alone
+                isMissed = isMissed || hasTracks || !IsFont(stream);
         }
-        if (isLeftOut && m_settings.soft && !m_settings.soft->GetTracksInfo().empty())
+        if (isMissed)
             m_map.warnings.push_back(std::string("Files attached to ") + Quoted(m_settings.input) +
                                      " (fonts, for example) are not in the output, because " + m_rule.displayName +
                                      " cannot carry them.");

@@ -5,6 +5,7 @@
 #include "Proc/FFmpeg/TextPackets.h"
 #include "Proc/FFmpeg/TextTimeline.h"
 
+#include "Proc/SubtitleExport.h"
 #include "Proc/Text/TextSubtitles.h"
 
 #include <algorithm>
@@ -30,15 +31,6 @@ constexpr char const* MOV_TEXT_HEADER =
     "MarginV, Encoding\n"
     "Style: Default,Arial,16,&Hffffff,&Hffffff,&H0,&H0,0,0,0,0,100,100,0,0,1,1,0,2,10,10,10,0\n"
     "\n[Events]\nFormat: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\n";
-
-void SetHeader(AVCodecParameters& parameters, std::string const& header)
-{
-    parameters.extradata = static_cast<std::uint8_t*>(av_mallocz(header.size() + AV_INPUT_BUFFER_PADDING_SIZE));
-    if (!parameters.extradata)
-        throw std::bad_alloc();
-    std::memcpy(parameters.extradata, header.data(), header.size());
-    parameters.extradata_size = static_cast<int>(header.size());
-}
 
 /// One file with one subtitle stream while it is being written.
 class Writer
@@ -121,10 +113,9 @@ void AddFonts(std::vector<FontAttachment> const& fonts, AVFormatContext& context
         if (!stream)
             throw std::bad_alloc();
         stream->codecpar->codec_type = AVMEDIA_TYPE_ATTACHMENT;
-        SetHeader(*stream->codecpar, {font.data->begin(), font.data->end()});
+        SetExtraData(*stream->codecpar, font.data->data(), font.data->size());
         av_dict_set(&stream->metadata, "filename", font.name.c_str(), 0);
-        bool const isOpenType = ioPath(font.name).Extension() == "otf";
-        av_dict_set(&stream->metadata, "mimetype", isOpenType ? "font/otf" : "font/ttf", 0);
+        av_dict_set(&stream->metadata, "mimetype", FontMimeType(font.name), 0);
     }
 }
 
@@ -150,7 +141,8 @@ Core::Error CannotCarry(InputFile const& file, std::uint32_t index, SubtitleCont
     error.track = std::to_string(index);
     error.codec = CodecName(file.FindStream(index)->codecpar->codec_id);
     error.container = container == SubtitleContainer::BluRay ? "a .sup file" : "Matroska";
-    error.detail = container == SubtitleContainer::BluRay ? "save it as .mkv instead" : "";
+    std::string const better = SuggestExtractExtension(error.codec);
+    error.detail = better.empty() ? "draw it into the picture" : "save it as ." + better + " instead";
     return error;
 }
 
@@ -179,13 +171,9 @@ std::size_t CountEvents(InputFile const& file, std::uint32_t index, std::vector<
 
 std::optional<std::uint32_t> ChooseStream(InputFile const& file, std::optional<std::uint32_t> wanted)
 {
-    for (std::uint32_t i = 0; file.FindStream(i); ++i)
-    {
-        bool const isSubtitle = file.FindStream(i)->codecpar->codec_type == AVMEDIA_TYPE_SUBTITLE;
-        if (isSubtitle && (!wanted || *wanted == i))
-            return i;
-    }
-    return std::nullopt;
+    AVStream const* stream = wanted ? file.FindStream(*wanted) : file.FindFirstSubtitle();
+    bool const isSubtitle = stream && stream->codecpar->codec_type == AVMEDIA_TYPE_SUBTITLE;
+    return isSubtitle ? std::optional(static_cast<std::uint32_t>(stream->index)) : std::nullopt;
 }
 
 Core::Error NoTrack(ioPath const& path, std::optional<std::uint32_t> wanted)
@@ -273,7 +261,10 @@ Core::Result<std::size_t> WriteMatroskaText(TextDocument const& document, ioPath
     parameters.codec_type = AVMEDIA_TYPE_SUBTITLE;
     parameters.codec_id = isScript ? AV_CODEC_ID_ASS : AV_CODEC_ID_SUBRIP;
     if (isScript)
-        SetHeader(parameters, document.scriptHeader + EVENTS_SECTION);
+    {
+        std::string const header = document.scriptHeader + EVENTS_SECTION;
+        SetExtraData(parameters, header.data(), header.size());
+    }
     AddFonts(document.fonts, writer.Context());
     if (Core::Status failure = writer.Begin())
         return *failure;

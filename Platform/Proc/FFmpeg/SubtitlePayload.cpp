@@ -1,6 +1,7 @@
 #include "Proc/FFmpeg/SubtitlePayload.h"
 
 #include "Proc/FFmpeg/InputFile.h"
+#include "Proc/FFmpeg/StreamFacts.h"
 #include "Proc/FFmpeg/TextPackets.h"
 
 #include "Conf/IFormatCodecSubtitle.h"
@@ -22,16 +23,6 @@ using Conf::IFormatCodecSubtitle;
 
 constexpr char const* EVENTS_HEADER =
     "[Events]\nFormat: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\n";
-
-void SetExtraData(AVCodecParameters& parameters, std::string const& bytes)
-{
-    auto* data = static_cast<std::uint8_t*>(av_mallocz(bytes.size() + AV_INPUT_BUFFER_PADDING_SIZE));
-    if (!data)
-        throw std::bad_alloc();
-    std::memcpy(data, bytes.data(), bytes.size());
-    parameters.extradata = data;
-    parameters.extradata_size = static_cast<int>(bytes.size());
-}
 
 Packet MakeTextPacket(std::string const& text, TextCue const& cue)
 {
@@ -72,7 +63,12 @@ std::string ScriptHeader(TextDocument const& document)
     return header + "\n" + EVENTS_HEADER;
 }
 
-void AddDecodingWarnings(TextDocument const& document, ioPath const& path, std::vector<std::string>& warnings)
+bool HasNoDuration(TextCue const& cue)
+{
+    return cue.end <= cue.start;
+}
+
+void AddReadingWarnings(TextDocument const& document, ioPath const& path, std::vector<std::string>& warnings)
 {
     std::string const file = "\"" + path.utf8string() + "\"";
     if (document.decoding.replacedBytes > 0)
@@ -81,22 +77,9 @@ void AddDecodingWarnings(TextDocument const& document, ioPath const& path, std::
     if (document.skippedCues > 0)
         warnings.push_back(std::to_string(document.skippedCues) + " cues of " + file +
                            " have no usable times and were left out.");
-}
-
-std::string Tag(AVDictionary const* tags, char const* key)
-{
-    AVDictionaryEntry const* entry = av_dict_get(tags, key, nullptr, 0);
-    return entry ? entry->value : std::string();
-}
-
-AVStream const* FindFirstSubtitle(InputFile const& file)
-{
-    for (unsigned i = 0; i < file.Context().nb_streams; ++i)
-    {
-        if (file.Context().streams[i]->codecpar->codec_type == AVMEDIA_TYPE_SUBTITLE)
-            return file.Context().streams[i];
-    }
-    return nullptr;
+    if (auto const count = std::count_if(document.cues.begin(), document.cues.end(), HasNoDuration); count > 0)
+        warnings.push_back(std::to_string(count) + " cues of " + file +
+                           " are shown for no time at all and were left out.");
 }
 
 /// Fills in what a demuxer of subtitles may leave open and counts from the file's beginning. False for a packet
@@ -118,7 +101,7 @@ Core::Result<SubtitlePayload> CopyFirstSubtitleStream(ioPath const& path)
     Core::Result<InputFile> file = InputFile::Open(path);
     if (!file)
         return file.GetError();
-    AVStream const* stream = FindFirstSubtitle(*file);
+    AVStream const* stream = file->FindFirstSubtitle();
     if (!stream)
         return MakeError(Core::ErrorCode::FormatUnknown, path, "it holds no subtitles");
     file->SelectOnly(static_cast<std::uint32_t>(stream->index));
@@ -126,13 +109,10 @@ Core::Result<SubtitlePayload> CopyFirstSubtitleStream(ioPath const& path)
     SubtitlePayload payload;
     payload.parameters = MakeCodecParameters(*stream->codecpar);
     payload.timeBase = stream->time_base;
-    payload.language = Tag(stream->metadata, "language");
-    payload.title = Tag(stream->metadata, "title");
+    payload.language = MetadataText(stream->metadata, "language");
+    payload.title = MetadataText(stream->metadata, "title");
     payload.disposition = stream->disposition;
-    // Subtitles count from the beginning of the film that they belong to, so only a clip with a picture has an offset
-    // of its own.
-    bool const isFilm = av_find_best_stream(&file->Context(), AVMEDIA_TYPE_VIDEO, -1, -1, nullptr, 0) >= 0;
-    std::int64_t const start = isFilm ? av_rescale_q(file->StartTime().count(), AV_TIME_BASE_Q, stream->time_base) : 0;
+    std::int64_t const start = av_rescale_q(file->StartTime().count(), AV_TIME_BASE_Q, stream->time_base);
     for (;;)
     {
         Packet packet = MakePacket();
@@ -158,7 +138,7 @@ SubtitlePayload MakeTextPayload(TextDocument const& document, ioPath const& path
     payload.parameters = MakeCodecParameters();
     payload.parameters->codec_type = AVMEDIA_TYPE_SUBTITLE;
     payload.fonts = document.fonts;
-    AddDecodingWarnings(document, path, payload.warnings);
+    AddReadingWarnings(document, path, payload.warnings);
     if (!isSubRip && !isAss)
     {
         // No container carries it; its name is wanted all the same, to say so.
@@ -168,12 +148,18 @@ SubtitlePayload MakeTextPayload(TextDocument const& document, ioPath const& path
     }
     payload.parameters->codec_id = isSubRip ? AV_CODEC_ID_SUBRIP : AV_CODEC_ID_ASS;
     if (isAss)
-        SetExtraData(*payload.parameters, ScriptHeader(document));
+    {
+        std::string const header = ScriptHeader(document);
+        SetExtraData(*payload.parameters, header.data(), header.size());
+    }
     for (std::size_t const index : OrderByStart(document.cues))
     {
         TextCue const& cue = document.cues[index];
         if (cue.end <= std::chrono::microseconds(0))
             continue; // over before the film begins
+        // A player would show it until the next cue.
+        if (HasNoDuration(cue))
+            continue;
         payload.packets.push_back(MakeTextPacket(PacketText(cue, document.markup, index, isAss), cue));
     }
     return payload;

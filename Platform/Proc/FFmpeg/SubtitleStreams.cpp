@@ -1,6 +1,7 @@
 #include "Proc/FFmpeg/SubtitleStreams.h"
 
 #include "Proc/FFmpeg/StreamFacts.h"
+#include "Proc/FFmpeg/StreamLoader.h"
 #include "Proc/FFmpeg/SubtitlePayload.h"
 
 #include "Proc/Settings.h"
@@ -72,6 +73,30 @@ Core::Error CannotCarry(ioPath const& file, std::string track, AVCodecID codec, 
     return error;
 }
 
+/// The texts that an AVI file holds are in whatever encoding their files had; other containers promise UTF-8.
+bool NeedsDecoding(InputFile const& input, AVStream const& stream)
+{
+    return std::strcmp(input.Context().iformat->name, "avi") == 0 && IsTextSubtitle(stream.codecpar->codec_id);
+}
+
+/// Reads the stream as one would a file of its own.
+Core::Status PreloadInputStream(InputFile const& input, std::uint32_t index, OutputStream& output)
+{
+    Core::Result<InputFile> const file = InputFile::Open(input.Path(), {StreamAnalysis::Quick});
+    if (!file)
+        return file.GetError();
+    Core::Result<SubtitleDocument> const document = LoadStream(*file, index);
+    if (!document)
+        return document.GetError();
+    SubtitlePayload payload = MakeTextPayload(std::get<TextDocument>(*document), input.Path());
+    output.source = Source::Preloaded;
+    output.inputIndex.reset();
+    output.parameters = std::move(payload.parameters);
+    output.timeBase = payload.timeBase;
+    output.packets = std::move(payload.packets);
+    return Core::SUCCESS;
+}
+
 Core::Status AddInputStream(SubtitleTrack const& track, InputFile const& input, StreamMap& map)
 {
     std::string const number = std::to_string(track.streamIndex);
@@ -95,14 +120,13 @@ Core::Status AddInputStream(SubtitleTrack const& track, InputFile const& input, 
     while ((tag = av_dict_get(stream->metadata, "", tag, AV_DICT_IGNORE_SUFFIX)))
         output.tags.emplace_back(tag->key, tag->value);
     DescribeTrack(output, track, *map.rule);
+    if (NeedsDecoding(input, *stream))
+    {
+        if (Core::Status const failed = PreloadInputStream(input, track.streamIndex, output))
+            return failed;
+    }
     map.streams.push_back(std::move(output));
     return Core::SUCCESS;
-}
-
-char const* FontMimeType(std::string const& name)
-{
-    std::string const extension = ioPath(name).Extension();
-    return extension == "otf" || extension == "OTF" ? "application/vnd.ms-opentype" : "application/x-truetype-font";
 }
 
 void AddFonts(std::vector<FontAttachment> const& fonts, StreamMap& map)
@@ -117,14 +141,8 @@ void AddFonts(std::vector<FontAttachment> const& fonts, StreamMap& map)
         output.source = Source::HeaderOnly;
         output.parameters = MakeCodecParameters();
         output.parameters->codec_type = AVMEDIA_TYPE_ATTACHMENT;
-        bool const isOpenType = std::strcmp(FontMimeType(font.name), "application/vnd.ms-opentype") == 0;
-        output.parameters->codec_id = isOpenType ? AV_CODEC_ID_OTF : AV_CODEC_ID_TTF;
-        output.parameters->extradata =
-            static_cast<std::uint8_t*>(av_mallocz(font.data->size() + AV_INPUT_BUFFER_PADDING_SIZE));
-        if (!output.parameters->extradata)
-            throw std::bad_alloc();
-        std::memcpy(output.parameters->extradata, font.data->data(), font.data->size());
-        output.parameters->extradata_size = static_cast<int>(font.data->size());
+        output.parameters->codec_id = IsOpenType(font.name) ? AV_CODEC_ID_OTF : AV_CODEC_ID_TTF;
+        SetExtraData(*output.parameters, font.data->data(), font.data->size());
         output.tags = {{"filename", font.name}, {"mimetype", FontMimeType(font.name)}};
         map.streams.push_back(std::move(output));
     }

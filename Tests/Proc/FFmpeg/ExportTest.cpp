@@ -191,7 +191,7 @@ TEST_F(ExportTest, WhatMovTextCannotHoldIsCounted)
     Core::Result<ExportedSubtitle> const prepared = PrepareSubtitle(FileOf(srt), {"mov_text"}, m_folder.Path(), "w");
     ASSERT_TRUE(prepared) << Core::ToSentence(prepared.GetError());
     EXPECT_EQ(prepared->cueCount, 1U);
-    EXPECT_EQ(prepared->skippedCues, 2U);
+    EXPECT_EQ(prepared->leftOutCues, 2U);
     EXPECT_EQ(Load<TextDocument>(prepared->path).cues.at(0).text, "Hello");
 }
 
@@ -226,7 +226,7 @@ TEST_F(ExportTest, AClassOfSamiAndAShiftBeforeZero)
     Core::Result<ExportedSubtitle> const prepared = PrepareSubtitle(source, {"subrip"}, m_folder.Path(), "w");
     ASSERT_TRUE(prepared) << Core::ToSentence(prepared.GetError());
     EXPECT_EQ(BytesOf(prepared->path), "1\n00:00:00,000 --> 00:00:03,000\nSegye\n\n");
-    EXPECT_EQ(prepared->skippedCues, 1U) << "the cue that would end before the film begins";
+    EXPECT_EQ(prepared->leftOutCues, 1U) << "the cue that would end before the film begins";
     EXPECT_EQ(prepared->sourceCodecId, "sami");
 }
 
