@@ -112,6 +112,8 @@ bool PacketMerger::IsPatienceOver() const
 {
     if (m_bytes < m_limits.bytes)
         return false;
+    if (m_bytes >= m_limits.mostBytes)
+        return true;
     return std::any_of(m_streams.begin(), m_streams.end(),
                        [this](Stream const& stream)
                        {

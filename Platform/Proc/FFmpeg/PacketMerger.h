@@ -34,6 +34,8 @@ public:
         /// Over budget, how much time may be queued before packets go out although a gating stream has none. The
         /// output is then as badly interleaved as the input, in place of a queue as long as the film.
         std::chrono::microseconds patience = std::chrono::seconds(10);
+        /// Ends the patience early: of huge pictures, or where decoding times do not move on.
+        std::size_t mostBytes = 256u << 20;
     };
 
     struct Item

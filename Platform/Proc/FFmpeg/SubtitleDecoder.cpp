@@ -225,12 +225,13 @@ BitmapCue SubtitleDecoder::MakeBitmap(AVSubtitle const& subtitle) const
 std::vector<TextCue> CloseTextEvents(std::vector<DecodedEvent> events)
 {
     std::vector<TextCue> cues;
-    for (std::size_t i = 0; i < events.size(); ++i)
+    auto next = events.begin(); // the first that begins later than the event at hand
+    for (auto current = events.begin(); current != events.end(); ++current)
     {
-        DecodedEvent& event = events[i];
+        DecodedEvent& event = *current;
+        next = std::find_if(std::max(next, current), events.end(),
+                            [&](DecodedEvent const& later) { return later.start > event.start; });
         microseconds end = event.end.value_or(event.start + OPEN_TEXT_DURATION);
-        auto const next = std::find_if(events.begin() + static_cast<std::ptrdiff_t>(i), events.end(),
-                                       [&](DecodedEvent const& later) { return later.start > event.start; });
         if (!event.end && next != events.end())
             end = std::min(end, next->start);
         for (TextCue& cue : event.texts)

@@ -3,12 +3,17 @@
 #include "Proc/Text/TextSubtitles.h"
 
 #include <algorithm>
+#include <string_view>
+#include <unordered_set>
 
 namespace Korvex::Proc::FFmpeg
 {
 
 namespace
 {
+
+/// What one sample holds at most, markup and all; nobody reads as much at once.
+constexpr std::size_t LONGEST_TEXT = 60'000;
 
 /// Only simple markup, so that what the format cannot say does not show as text.
 std::string Simplified(TextCue const& cue, TextMarkup markup)
@@ -20,17 +25,14 @@ std::string Simplified(TextCue const& cue, TextMarkup markup)
 
 std::string JoinTexts(std::vector<TextCue const*> const& shown)
 {
-    std::vector<std::string const*> texts;
+    std::unordered_set<std::string_view> texts;
+    std::string joined;
     for (TextCue const* cue : shown)
     {
-        bool const isNew =
-            std::none_of(texts.begin(), texts.end(), [&](std::string const* text) { return *text == cue->text; });
-        if (isNew)
-            texts.push_back(&cue->text);
+        if (joined.size() + cue->text.size() > LONGEST_TEXT || !texts.insert(cue->text).second)
+            continue;
+        joined += (joined.empty() ? "" : "{\\r}\\N") + cue->text;
     }
-    std::string joined;
-    for (std::string const* text : texts)
-        joined += (joined.empty() ? "" : "{\\r}\\N") + *text;
     return joined;
 }
 

@@ -26,7 +26,7 @@ std::vector<std::uint8_t> HdrDescription(AVFrame const& frame, AVStream const& s
 
 std::string Scaled(AVRational value, int unit)
 {
-    return std::to_string(av_rescale(value.num, unit, value.den));
+    return std::to_string(value.den > 0 ? av_rescale(value.num, unit, value.den) : 0);
 }
 
 /// The HDR description as libx264 wants it for its own message in the stream, beside the container's.

@@ -101,7 +101,9 @@ void VideoStages::RunPainter()
         Core::Result<Frame> painted = m_painter.Paint(std::move(*frame), time);
         if (!painted)
         {
-            m_control.Fail(painted.GetError());
+            Core::Error error = painted.GetError();
+            error.file = m_input;
+            m_control.Fail(std::move(error));
             break;
         }
         if (!m_painted.Push(std::move(*painted)))
