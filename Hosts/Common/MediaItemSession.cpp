@@ -289,8 +289,11 @@ private:
         preparation.Prepare(collection);
         // What was written anew is clean now, so the conversion has nothing to warn of.
         for (auto const& [id, track] : listed)
-            DescribeExternal(track, choice,
-                             collection.tracks.count(id) > 0 ? DamageReport::ByConversion : DamageReport::Here);
+        {
+            auto const kept = collection.tracks.find(id);
+            bool const isUntouched = kept != collection.tracks.end() && kept->second.path == track.path;
+            DescribeExternal(track, choice, isUntouched ? DamageReport::ByConversion : DamageReport::Here);
+        }
         m_notes.insert(m_notes.end(), preparation.GetNotes().begin(), preparation.GetNotes().end());
         collection.mode =
             collection.tracks.empty() ? SubtitleCollectionMode::ModeNone : SubtitleCollectionMode::AllSoftSubtitles;

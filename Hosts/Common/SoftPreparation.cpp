@@ -82,14 +82,14 @@ void SoftPreparation::Prepare(SubtitleCollection& collection)
             continue;
         if (m_choice.preparation == Preparation::Refuse || IsBitmap(track))
             Refuse(track, need);
-        std::optional<SubtitleTrack> const rewritten = Rewrite(track, need);
-        bool const wasDefault = collection.defaultTracks && collection.defaultTracks->erase(track.id) > 0;
-        collection.tracks.erase(track.id);
-        if (!rewritten)
+        if (std::optional<SubtitleTrack> const rewritten = Rewrite(track, need))
+        {
+            collection.tracks[track.id] = *rewritten;
             continue;
-        collection.tracks.emplace(rewritten->id, *rewritten);
-        if (wasDefault)
-            collection.defaultTracks->insert(rewritten->id);
+        }
+        collection.tracks.erase(track.id);
+        if (collection.defaultTracks)
+            collection.defaultTracks->erase(track.id);
     }
 }
 
@@ -180,11 +180,8 @@ std::optional<SubtitleTrack> SoftPreparation::Rewrite(SubtitleTrack const& track
     if (need.hasShift)
         source.timeShift = std::chrono::microseconds(std::llround(m_choice.offsetSeconds * 1e6));
 
-    // Files sort by their names, so the names keep the tracks' order.
-    std::string number = std::to_string(m_notes.size() + 1);
-    number.insert(0, 4 - std::min<std::size_t>(4, number.size()), '0');
     auto const written = Proc::PrepareSubtitle(source, {m_allowedCodecIds.begin(), m_allowedCodecIds.end()},
-                                               m_folder.Get(), "track-" + number);
+                                               m_folder.Get(), "track-" + std::to_string(m_notes.size() + 1));
     if (!written)
     {
         // A container without any text codec: refused by the track's own name and with what would work.
@@ -200,14 +197,13 @@ std::optional<SubtitleTrack> SoftPreparation::Rewrite(SubtitleTrack const& track
         return std::nullopt;
     }
     AddNote(track, need, *written);
-    SubtitleTrack rewritten(written->path);
-    // A file's name in place of a title is told by being the path's, and stays so.
-    bool const hasTitle = !track.isExternal || track.title != track.path.FileName();
-    rewritten.title = hasTitle ? track.title : rewritten.path.FileName();
-    rewritten.language = track.language;
-    rewritten.detail = track.detail;
-    rewritten.isForced = track.isForced;
+    // With the track's identifier and number it keeps the track's place among the others.
+    SubtitleTrack rewritten = track;
+    rewritten.path = written->path;
     rewritten.isExternal = true;
+    // A file's name in place of a title is told by being the path's, and stays so.
+    if (track.isExternal && track.title == track.path.FileName())
+        rewritten.title = rewritten.path.FileName();
     rewritten.codecId = written->codecId;
     rewritten.codecName = DisplayName(written->codecId);
     return rewritten;

@@ -164,6 +164,10 @@ struct SubtitleTrack
     std::string title;             ///< empty: none
     std::optional<bool> isDefault; ///< not set: as in the source; a file of its own is then not default
     std::optional<bool> isForced;  ///< likewise
+    /// Of a file: it tells sounds in words too; not set: as the file says itself.
+    std::optional<bool> isHearingImpaired;
+    /// Of a file: the stream of the converted file in whose place it goes out.
+    std::optional<std::uint32_t> standsForStream;
 };
 
 /// The tracks that go out as switchable streams, in the order in which they were listed.

@@ -3,6 +3,7 @@
 #include "Subtitles/Adapters/SubtitleEncodingNames.h"
 
 #include "Subtitles/Entities/SubtitleCollection.h"
+#include "Subtitles/Entities/TrackMarks.h"
 
 #include "Proc/Settings.h"
 
@@ -113,6 +114,11 @@ Proc::SubtitleTrack BuildSoftTrack(SubtitleCollection const& collection, Subtitl
     {
         result.kind = Proc::SubtitleTrack::Kind::File;
         result.path = track.path;
+        if (Entities::ReadMarks(track.detail).isHearingImpaired)
+            result.isHearingImpaired = true;
+        // A working file that was written in place of a stream keeps the stream's place.
+        if (track.streamIndex != SubtitleTrack::NO_STREAM)
+            result.standsForStream = track.streamIndex;
     }
     result.language = track.language;
     // A file name serves the lists here; viewers of the film want none.

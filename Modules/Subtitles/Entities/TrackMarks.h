@@ -18,4 +18,7 @@ struct TrackMarks
 /// The marks as a track's `detail`: "Forced SDH"; empty without any.
 [[nodiscard]] KVSUBTITLES_API std::string DescribeMarks(TrackMarks const& marks);
 
+/// The marks that such a text names. Other words in it mean nothing here.
+[[nodiscard]] KVSUBTITLES_API TrackMarks ReadMarks(std::string const& detail);
+
 } // namespace Korvex::Converter::Subtitles::Entities

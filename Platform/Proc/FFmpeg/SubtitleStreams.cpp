@@ -7,7 +7,9 @@
 #include "Proc/Settings.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
+#include <limits>
 
 namespace Korvex::Proc::FFmpeg
 {
@@ -18,16 +20,19 @@ namespace
 using Source = OutputStream::Source;
 using Kind = SubtitleTrack::Kind;
 
+/// Streams and what stands in for them by number, then files.
+std::uint64_t PlaceOf(SubtitleTrack const& track)
+{
+    if (track.kind == Kind::Stream)
+        return track.streamIndex;
+    return track.standsForStream ? *track.standsForStream : std::numeric_limits<std::uint64_t>::max();
+}
+
 /// The module lists tracks by their text keys, which puts "10" before "2".
 std::vector<SubtitleTrack> InOrder(std::vector<SubtitleTrack> tracks)
 {
     std::stable_sort(tracks.begin(), tracks.end(),
-                     [](SubtitleTrack const& a, SubtitleTrack const& b)
-                     {
-                         if (a.kind != b.kind)
-                             return a.kind == Kind::Stream;
-                         return a.kind == Kind::Stream && a.streamIndex < b.streamIndex;
-                     });
+                     [](SubtitleTrack const& a, SubtitleTrack const& b) { return PlaceOf(a) < PlaceOf(b); });
     return tracks;
 }
 
@@ -59,6 +64,7 @@ void DescribeTrack(OutputStream& stream, SubtitleTrack const& track, ContainerRu
     }
     SetFlag(stream.disposition, AV_DISPOSITION_DEFAULT, track.isDefault);
     SetFlag(stream.disposition, AV_DISPOSITION_FORCED, track.isForced);
+    SetFlag(stream.disposition, AV_DISPOSITION_HEARING_IMPAIRED, track.isHearingImpaired);
 }
 
 Core::Error CannotCarry(ioPath const& file, std::string track, AVCodecID codec, ContainerRule const& rule)

@@ -132,6 +132,31 @@ TEST_F(ConvertTest, OnlyTheListedTracksGoOut)
     EXPECT_THAT(missing.err, HasSubstr("no track 9"));
 }
 
+TEST_F(ConvertTest, TracksWrittenAnewKeepTheirPlacesAndMarks)
+{
+    MadeSubtitle sounds = Subtitle("webvtt", "eng");
+    sounds.isHearingImpaired = true;
+    sounds.isDefault = true;
+    MakeFilm("film.mkv", {Subtitle("subrip", "ger"), sounds, Subtitle("subrip", "fre")});
+    std::string const sami = "<SAMI><BODY><SYNC Start=500><P>One<SYNC Start=900><P>&nbsp;</BODY></SAMI>";
+    std::string const subRip = "1\n00:00:00,500 --> 00:00:01,000\nOne\n";
+    ASSERT_FALSE(Core::WriteFile(Path("film.en.srt"), subRip, false));
+    ASSERT_FALSE(Core::WriteFile(Path("film.fr.sdh.smi"), sami, false));
+    ASSERT_FALSE(Core::WriteFile(Path("film.it.srt"), subRip, false));
+    ASSERT_EQ(RunCli({"convert", Path("film.mkv"), "-o", Path("out.mkv")}).exitCode, 0);
+    std::vector<std::string> languages;
+    std::vector<bool> marks;
+    for (auto const& stream : Subtitles("out.mkv"))
+    {
+        languages.push_back(stream.language);
+        marks.push_back(stream.isHearingImpaired);
+        EXPECT_EQ(stream.isDefault, languages.size() == 2);
+        EXPECT_EQ(stream.title, "");
+    }
+    EXPECT_EQ(languages, (std::vector<std::string>{"ger", "eng", "fre", "eng", "fre", "ita"}));
+    EXPECT_EQ(marks, (std::vector<bool>{false, true, false, false, true, false}));
+}
+
 TEST_F(ConvertTest, TextIsWrittenAnewWhereTheContainerNeedsItAndTheUserIsTold)
 {
     // Working files go where the system has its temporary files: here they can be counted.
