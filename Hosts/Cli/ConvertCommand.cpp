@@ -111,9 +111,9 @@ Preset ReadPreset(Arguments const& arguments, Hosts::OutputFormat const& format)
     Preset preset;
     preset.formatId = format.id;
     if (GivenOption const* option = arguments.Find("--video-codec"))
-        preset.videoCodecId = option->Value();
+        preset.videoCodecId = ReadWord(*option, {"h264"});
     if (GivenOption const* option = arguments.Find("--audio-codec"))
-        preset.audioCodecId = option->Value();
+        preset.audioCodecId = ReadWord(*option, {"aac"});
     GivenOption const* crf = arguments.Find("--crf");
     GivenOption const* speed = arguments.Find("--preset");
     if (crf != nullptr)

@@ -38,6 +38,19 @@ Proc::SubtitleSource FindSource(Services& services, ioPath const& input, std::st
     return source;
 }
 
+/// The core's answers in the words of this command, which writes no films and never replaces a file.
+[[noreturn]] void Refuse(Core::Error const& error)
+{
+    std::string const file = Hosts::Quoted(error.file);
+    if (error.code == Core::ErrorCode::ContainerUnknown)
+        throw UsageError("The name " + file +
+                         " does not tell how to save the track: let it end in .srt, .ass, .sup or "
+                         ".mkv.");
+    if (error.code == Core::ErrorCode::OutputExists)
+        throw std::runtime_error("The output " + file + " exists already; choose another name.");
+    throw Hosts::FileError(error);
+}
+
 } // namespace
 
 std::vector<OptionGroup> ExtractCommand::Options() const
@@ -62,10 +75,10 @@ ExitCode ExtractCommand::Run(Arguments const& arguments, Console& console)
     Services services;
     Proc::SubtitleSource const source = FindSource(services, arguments.inputs.front(), track->Value());
     if (auto const refused = Core::CheckOutput(target->Value(), {arguments.inputs.front(), source.path}, false))
-        throw Hosts::FileError(*refused);
+        Refuse(*refused);
     auto const written = Proc::ExtractSubtitle(source, target->Value());
     if (!written)
-        throw Hosts::FileError(written.GetError());
+        Refuse(written.GetError());
     if (written->replacedBytes > 0)
         console.err << "korvex: " << Count(written->replacedBytes, "byte") << " of track " << track->Value()
                     << " did not decode as " << written->encoding << " and show as \"\xEF\xBF\xBD\".\n";

@@ -4,6 +4,7 @@
 #include "Cli/Values.h"
 
 #include <initializer_list>
+#include <utility>
 
 namespace Korvex::Cli
 {
@@ -117,9 +118,9 @@ private:
         else if (option.name == "--add")
             m_choice.added.push_back({option.Value(), {}, {}, false, false});
         else if (option.name == "--language")
-            LastAdded(option).language = option.Value();
+            SetOnce(option, LastAdded(option).language, ReadLanguage(option));
         else if (option.name == "--title")
-            LastAdded(option).title = option.Value();
+            SetOnce(option, LastAdded(option).title, option.Value());
         else if (option.name == "--default")
             LastAdded(option).isDefault = true;
         else if (option.name == "--forced")
@@ -190,6 +191,13 @@ private:
             throw UsageError("The option " + std::string(option.name) +
                              " describes a file that was added: put it after its --add.");
         return m_choice.added.back();
+    }
+
+    static void SetOnce(GivenOption const& option, std::string& field, std::string value)
+    {
+        if (!field.empty())
+            throw UsageError("The option " + std::string(option.name) + " was given more than once for one file.");
+        field = std::move(value);
     }
 
     SubtitleChoice m_choice;

@@ -4,6 +4,7 @@
 #include "Common/EncodingNames.h"
 #include "Common/Sentences.h"
 
+#include "Subtitles/Entities/Language.h"
 #include "Subtitles/Entities/SubtitleAlign.h"
 #include "Subtitles/Entities/SubtitleEncoding.h"
 
@@ -179,6 +180,21 @@ std::int32_t ReadEncoding(GivenOption const& option)
         if (alias.name == wanted)
             return static_cast<std::int32_t>(alias.value);
     Refuse(option, Hosts::JoinWithOr(names));
+}
+
+std::string ReadLanguage(GivenOption const& option)
+{
+    using namespace Converter::Subtitles::Entities;
+    std::string const& name = option.Value();
+    bool const hasThreeLetters = name.size() == 3 && std::all_of(name.begin(), name.end(),
+                                                                 [](char c)
+                                                                 {
+                                                                     char const lower = static_cast<char>(c | 0x20);
+                                                                     return lower >= 'a' && lower <= 'z';
+                                                                 });
+    if (!hasThreeLetters && GetLanguageFromShortName(name) == LanguageID::None)
+        Refuse(option, "a language such as en, rus or pt-BR");
+    return name;
 }
 
 std::vector<std::string> ReadList(GivenOption const& option)

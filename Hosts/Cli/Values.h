@@ -22,6 +22,8 @@ namespace Korvex::Cli
 [[nodiscard]] std::int32_t ReadAlign(GivenOption const& option);
 /// A value of the module's SubtitleEncoding; letter case and usual other spellings do not matter.
 [[nodiscard]] std::int32_t ReadEncoding(GivenOption const& option);
+/// A short name of a language: any that the language table knows, or another of three letters.
+[[nodiscard]] std::string ReadLanguage(GivenOption const& option);
 /// The pieces between commas, none of them empty.
 [[nodiscard]] std::vector<std::string> ReadList(GivenOption const& option);
 /// One of the words given.

@@ -135,6 +135,10 @@ TEST_F(InspectTest, ExtractSavesTracksOfTheFilmAndBesideIt)
 
     auto const again = RunCli({"extract", Path("film.mkv"), "--track", "2", "-o", Path("own.srt")});
     EXPECT_EQ(again.exitCode, 1);
+    EXPECT_EQ(again.err.find("--overwrite"), std::string::npos) << "which this command does not have";
+    auto const named = RunCli({"extract", Path("film.mkv"), "--track", "2", "-o", Path("own.txt")});
+    EXPECT_EQ(named.exitCode, 2);
+    EXPECT_THAT(named.err, HasSubstr(".srt, .ass, .sup or .mkv"));
     auto const video = RunCli({"extract", Path("film.mkv"), "--track", "0", "-o", Path("x.srt")});
     EXPECT_EQ(video.exitCode, 1);
     EXPECT_THAT(video.err, HasSubstr("is not a subtitle track"));
