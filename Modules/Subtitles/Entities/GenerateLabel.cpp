@@ -55,8 +55,9 @@ std::string GenerateLabel(SubtitleTrack const& track)
     std::string title = track.title;
     std::string const codec =
         track.codecName.empty() ? std::string() : boost::str(boost::format("(%1%)") % track.codecName);
+    std::string const number = std::to_string(track.streamIndex); // the formatter would group it as the locale says
     if (title.empty() && language.empty() && track.detail.empty())
-        title = boost::str(boost::format("Subtitles #%1%") % track.streamIndex);
+        title = boost::str(boost::format("Subtitles #%1%") % number);
     return CollapseWhiteSpace(boost::str(boost::format("%1% %2% %3% %4%") % title % language % track.detail % codec));
 }
 

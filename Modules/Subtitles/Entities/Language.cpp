@@ -37,7 +37,7 @@ std::vector<LanguageData> const& Table()
         {LanguageID::ChineseTraditional,
          "Chinese (Traditional)",
          "zh_TW",
-         {"zh-tw", "zh-hant", "zh-hk", "zh-mo", "zht", "cht"}},
+         {"zh-tw", "zh-hant", "zh-hk", "zh-mo", "zht", "zt", "cht"}},
         {LanguageID::ChineseBilingual, "Chinese (Bilingual)", "zh_CN", {"ze", "zhe"}},
         {LanguageID::Croatian, "Croatian", "hr_HR", {"hr", "hrv", "scr"}},
         {LanguageID::Czech, "Czech", "cs_CZ", {"cs", "ces", "cze"}},
