@@ -30,10 +30,9 @@ bool BeginsWith(std::string const& text, std::string const& beginning)
     return text.compare(0, beginning.size(), beginning) == 0;
 }
 
-bool IsCodeShaped(std::string const& word)
+bool IsLetters(std::string const& word)
 {
-    return (word.size() == 2 || word.size() == 3) &&
-           std::all_of(word.begin(), word.end(), [](char c) { return c >= 'a' && c <= 'z'; });
+    return std::all_of(word.begin(), word.end(), [](char c) { return c >= 'a' && c <= 'z'; });
 }
 
 bool IsNumber(std::string const& word)
@@ -75,9 +74,6 @@ std::vector<std::string> Split(std::string const& text)
 class MarkReader
 {
 public:
-    /// @param acceptsUnknownCodes whether a word of two or three letters counts as a language that the table lacks
-    explicit MarkReader(bool acceptsUnknownCodes) : m_acceptsUnknownCodes(acceptsUnknownCodes) {}
-
     bool Read(std::vector<std::string> const& words)
     {
         for (std::size_t i = 0; i < words.size(); ++i)
@@ -98,6 +94,7 @@ private:
     bool ReadMark(std::string const& word)
     {
         static std::set<std::string> const HEARING_IMPAIRED = {"sdh", "cc"};
+        static std::set<std::string> const NEUTRAL = {"default", "full", "sub", "subs", "subtitle", "subtitles"};
         if (word == "forced")
             m_labels.marks.isForced = true;
         else if (word == "commentary")
@@ -105,7 +102,7 @@ private:
         else if (HEARING_IMPAIRED.count(word) != 0 || (word == "hi" && HasLanguage()))
             m_labels.marks.isHearingImpaired = true;
         else
-            return word == "default" || word == "full" || (HasLanguage() && IsNumber(word));
+            return NEUTRAL.count(word) != 0 || (HasLanguage() && IsNumber(word));
         return true;
     }
 
@@ -128,19 +125,15 @@ private:
     /// Two letters behind a language are its region unless they are a mark or a second language.
     static bool IsPlainRegion(std::string const& language, std::string const& region)
     {
-        return region.size() == 2 && IsCodeShaped(region) && region != "hi" && region != "cc" &&
+        return region.size() == 2 && IsLetters(region) && region != "hi" && region != "cc" &&
                (region == language || Language::GetLanguageFromShortName(region) == Language::LanguageID::None);
     }
 
     bool ReadLanguage(std::string const& word)
     {
         std::string shortName = ShortNameOf(word);
-        if (shortName.empty() && IsCodeShaped(word))
-        {
-            bool const isKnown = Language::GetLanguageFromShortName(word) != Language::LanguageID::None;
-            if (isKnown || (m_acceptsUnknownCodes && !HasLanguage()))
-                shortName = word;
-        }
+        if (shortName.empty() && Language::GetLanguageFromShortName(word) != Language::LanguageID::None)
+            shortName = word;
         if (shortName.empty())
             return false;
         if (!HasLanguage())
@@ -148,7 +141,6 @@ private:
         return true;
     }
 
-    bool m_acceptsUnknownCodes;
     SidecarLabels m_labels;
 };
 
@@ -167,7 +159,7 @@ std::optional<SidecarLabels> SidecarName::Parse(std::string const& stem) const
     if (std::string(SEPARATORS).find(rest.front()) == std::string::npos)
         return std::nullopt;
 
-    MarkReader reader(rest.front() == '.');
+    MarkReader reader;
     if (!reader.Read(Split(rest)))
         return std::nullopt;
     return reader.GetLabels();

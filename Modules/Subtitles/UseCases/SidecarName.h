@@ -19,8 +19,9 @@ struct SidecarLabels
 /// Reads the name of a subtitle file that lies beside a film.
 ///
 /// A name belongs to the film when it is the film's base name, or that name followed by marks that are all understood:
-/// a language (code or English name), "forced", "sdh", "cc", "hi" after a language, "commentary", a number after a
-/// language. Letter case and the way accents are composed do not count. "Movie 2.srt" thus never belongs to "Movie".
+/// a language (a code of the language table, or its English name), "forced", "sdh", "cc", "hi" after a language,
+/// "commentary", "sub" and the like, a number after a language. Letter case and the way accents are composed do not
+/// count. "Movie 2.srt" thus never belongs to "Movie".
 class KVSUBTITLES_API SidecarName
 {
 public:
