@@ -50,7 +50,8 @@ public:
     [[nodiscard]] virtual bool IsValid(SubtitleCollection const& collection) const = 0;
     /// Empties the edited collection and its core settings, and lets go of the widgets.
     virtual void ClearSubtitleCollection() = 0;
-    /// Takes effect with the next `SetSubtitleCollection`; kind `None` lets go of the widgets at once.
+    /// Takes effect with the next `SetSubtitleCollection`. Kind `None` connects nothing and lets go of nothing:
+    /// `ClearSubtitleCollection` lets go of the widgets, and so does whoever shows another film in them.
     virtual void SetPresenterSettings(SubtitlePresenterSettings const& settings) = 0;
     /// The output; takes effect with the next change of the collection.
     virtual void SetPreset(Transcoder::Entities::Preset const& preset) = 0;

@@ -130,17 +130,11 @@ public:
         m_collection->mode = SubtitleCollectionMode::ModeNone;
         m_collection->currentIndex = SubtitleCollection::NO_INDEX;
         m_collection->tracks.clear();
-        LetGoOfWidgets();
+        m_presenter->ClearConnectToWidgets();
+        m_subtitles->ClearConnectToWidgets();
     }
 
-    void SetPresenterSettings(Entities::SubtitlePresenterSettings const& settings)
-    {
-        bool const isDetached = m_presenterSettings.kind != Entities::SubtitlePresenterKind::None &&
-                                settings.kind == Entities::SubtitlePresenterKind::None;
-        m_presenterSettings = settings;
-        if (isDetached)
-            LetGoOfWidgets();
-    }
+    void SetPresenterSettings(Entities::SubtitlePresenterSettings const& settings) { m_presenterSettings = settings; }
 
     void SetPreset(Transcoder::Entities::Preset const& preset) { m_preset = preset; }
 
@@ -332,7 +326,8 @@ private:
 
     [[nodiscard]] bool ComputeSoftPossible(SubtitleCollection const& collection) const
     {
-        return IsSoftPossible(collection, m_controller->GetAllowedSoftCodecIds(m_preset.formatId));
+        return !collection.tracks.empty() &&
+               IsSoftPossible(collection, m_controller->GetAllowedSoftCodecIds(m_preset.formatId));
     }
 
     void DecideSoftSubtitles()
@@ -380,12 +375,6 @@ private:
         m_controller->SetSubtitleCollection(m_collection);
         m_controller->ApplySettings();
         m_controller->RefreshSettings();
-    }
-
-    void LetGoOfWidgets()
-    {
-        m_presenter->ClearConnectToWidgets();
-        m_subtitles->ClearConnectToWidgets();
     }
 
     void NotifyChanged()
