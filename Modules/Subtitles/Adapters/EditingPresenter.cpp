@@ -7,6 +7,9 @@
 
 #include "App/GUIContainer.h"
 
+#include <QColor>
+#include <QFont>
+
 #include <cstdint>
 #include <utility>
 #include <vector>
@@ -68,32 +71,32 @@ public:
 
     void OnFontChanged(QFont const& font) override
     {
-        Forward([&](auto* observer) { observer->OnFontChanged(font); });
+        Forward([font](auto* observer) { observer->OnFontChanged(font); });
     }
     void OnTextColorChanged(QColor const& color) override
     {
-        Forward([&](auto* observer) { observer->OnTextColorChanged(color); });
+        Forward([color](auto* observer) { observer->OnTextColorChanged(color); });
     }
     void OnOutlineColorChanged(QColor const& color) override
     {
-        Forward([&](auto* observer) { observer->OnOutlineColorChanged(color); });
+        Forward([color](auto* observer) { observer->OnOutlineColorChanged(color); });
     }
     void OnEncodingChanged(SubtitleEncoding encoding) override
     {
-        Forward([&](auto* observer) { observer->OnEncodingChanged(encoding); });
+        Forward([encoding](auto* observer) { observer->OnEncodingChanged(encoding); });
     }
     void OnAlignChanged(SubtitleAlign align, ChangeType type) override
     {
         if (type == ByUser)
-            Forward([&](auto* observer) { observer->OnAlignChanged(align); });
+            Forward([align](auto* observer) { observer->OnAlignChanged(align); });
     }
     void OnSynchronizationOffsetChanged(double offsetSeconds) override
     {
-        Forward([&](auto* observer) { observer->OnSynchronizationOffsetChanged(offsetSeconds); });
+        Forward([offsetSeconds](auto* observer) { observer->OnSynchronizationOffsetChanged(offsetSeconds); });
     }
     void OnPositionShiftChanged(int shiftLines) override
     {
-        Forward([&](auto* observer) { observer->OnPositionShiftChanged(shiftLines); });
+        Forward([shiftLines](auto* observer) { observer->OnPositionShiftChanged(shiftLines); });
     }
 
 private:

@@ -34,15 +34,15 @@ public:
     }
     void OnFindFileRequested(std::string const& source) override
     {
-        m_observers.Notify([&](auto* observer) { observer->OnFindFileRequested(source); });
+        m_observers.Notify([source](auto* observer) { observer->OnFindFileRequested(source); });
     }
     void OnSubtitleTrackSelected(SubtitleTrackID const& id) override
     {
-        m_observers.Notify([&](auto* observer) { observer->OnSubtitleTrackSelected(id); });
+        m_observers.Notify([id](auto* observer) { observer->OnSubtitleTrackSelected(id); });
     }
     void OnExtractSubtitleRequested(SubtitleTrackID const& id) override
     {
-        m_observers.Notify([&](auto* observer) { observer->OnExtractSubtitleRequested(id); });
+        m_observers.Notify([id](auto* observer) { observer->OnExtractSubtitleRequested(id); });
     }
     /// The check box is read when the choice ends.
     void OnApplyToAllFilesChanged(bool /*apply*/) override {}

@@ -126,19 +126,19 @@ private:
         void OnChooseFileRequested() override { m_owner.ChooseFiles(); }
         void OnFindFileRequested(std::string const& source) override
         {
-            m_owner.m_observers.Notify([&](auto* observer) { observer->OnFindFileRequested(source); });
+            m_owner.m_observers.Notify([source](auto* observer) { observer->OnFindFileRequested(source); });
         }
         void OnSubtitleTrackSelected(SubtitleTrackID const& id) override
         {
             // The list may free the identifier while it is refilled.
             SubtitleTrackID const selected = id;
             ShowInOtherList(Choice::Track, selected);
-            m_owner.m_observers.Notify([&](auto* observer) { observer->OnSubtitleTrackSelected(selected); });
+            m_owner.m_observers.Notify([selected](auto* observer) { observer->OnSubtitleTrackSelected(selected); });
         }
         void OnExtractSubtitleRequested(SubtitleTrackID const& id) override
         {
             SubtitleTrackID const track = id;
-            m_owner.m_observers.Notify([&](auto* observer) { observer->OnExtractSubtitleRequested(track); });
+            m_owner.m_observers.Notify([track](auto* observer) { observer->OnExtractSubtitleRequested(track); });
         }
         void OnChoiceFinished() override
         {
@@ -241,7 +241,7 @@ private:
         std::vector<ioPath> const paths = dialog->ChooseFiles(ExternalFormats());
         if (!alive || paths.empty())
             return;
-        m_observers.Notify([&](auto* observer) { observer->OnFilesChosen(paths); });
+        m_observers.Notify([paths](auto* observer) { observer->OnFilesChosen(paths); });
     }
 
     std::shared_ptr<Gui::GUIContainer> m_container;

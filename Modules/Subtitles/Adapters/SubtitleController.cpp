@@ -15,7 +15,6 @@
 #include "Proc/Settings.h"
 
 #include <algorithm>
-#include <exception>
 #include <locale>
 
 namespace Korvex::Converter::Subtitles::Adapters
@@ -92,7 +91,7 @@ std::string SubtitleController::DetermineSubtitleCodec(ioPath const& path) const
     {
         return ReadCodec(path);
     }
-    catch (std::exception const&)
+    catch (...)
     {
         // A file that cannot be read has no codec; that is the whole answer.
         return Conf::IFormatCodec::CODEC_ID_NONE;

@@ -47,7 +47,15 @@ SubtitleStreamAdapter::GetSubtitleStreamFromTrack(Entities::SubtitleTrack const&
         LOG(ERROR) << "Failed to create codec factory";
         return nullptr;
     }
-    return factory->CreateSubtitleStream(raw, std::string());
+    try
+    {
+        return factory->CreateSubtitleStream(raw, std::string());
+    }
+    catch (...)
+    {
+        LOG(ERROR) << "Failed to open subtitle from file";
+        return nullptr;
+    }
 }
 
 boost::intrusive_ptr<Proc::IStreamRaw>
