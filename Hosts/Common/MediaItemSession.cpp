@@ -106,7 +106,7 @@ public:
             LookUpSidecars();
         for (AddedFile const& file : choice.added)
             Add(file);
-        MarkDefaults();
+        CompleteTracks();
     }
 
     void Apply(SubtitleChoice const& choice)
@@ -267,10 +267,18 @@ private:
         return error;
     }
 
-    /// Where the user marked files, they alone are on by default; else the film's own marks stay.
-    void MarkDefaults()
+    /// What the listed tracks still lack: the encodings of files and who is on by default.
+    void CompleteTracks()
     {
         SubtitleCollection collection = m_interactor->GetSubtitleCollection();
+        Subtitles::NoteDetectedEncodings(collection);
+        MarkDefaults(collection);
+        m_interactor->SetSubtitleCollection(collection, true);
+    }
+
+    /// Where the user marked files, they alone are on by default; else the film's own marks stay.
+    void MarkDefaults(SubtitleCollection& collection) const
+    {
         collection.defaultTracks = m_markedDefault;
         if (m_markedDefault.empty())
             for (auto const& [id, track] : collection.tracks)
@@ -279,7 +287,6 @@ private:
                 if (stream != nullptr && stream->isDefault)
                     collection.defaultTracks->insert(id);
             }
-        m_interactor->SetSubtitleCollection(collection, true);
     }
 
     void ChooseSoft(SubtitleChoice const& choice, SubtitleCollection& collection)

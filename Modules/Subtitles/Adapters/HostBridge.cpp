@@ -9,6 +9,9 @@
 #include "Core/CoreManager.h"
 #include "Core/Localization.h"
 #include "Proc/MediaInfo.h"
+#include "Proc/SubtitleLoader.h"
+
+#include <variant>
 
 namespace Korvex::Converter::Subtitles
 {
@@ -49,6 +52,20 @@ std::map<Entities::SubtitleTrackID, Entities::SubtitleTrack> ListMediaTracks(Pro
             tracks.emplace(Entities::SubtitleTrackID(stream.index), MakeTrack(stream));
     }
     return tracks;
+}
+
+void NoteDetectedEncodings(Entities::SubtitleCollection& collection)
+{
+    for (auto& [id, track] : collection.tracks)
+    {
+        if (!track.isExternal || !track.encodingEditable || !track.extra.empty())
+            continue;
+        auto const document = Proc::LoadSubtitleFile(track.path, {});
+        if (!document)
+            continue;
+        if (auto const* text = std::get_if<Proc::TextDocument>(&*document))
+            track.extra = text->decoding.encoding;
+    }
 }
 
 } // namespace Korvex::Converter::Subtitles

@@ -33,4 +33,8 @@ struct CoreSettings
 [[nodiscard]] KVSUBTITLES_API std::map<Entities::SubtitleTrackID, Entities::SubtitleTrack>
 ListMediaTracks(Proc::MediaInfo const& media);
 
+/// Fills in `extra` where it is empty: the character encoding that the core detects in a text file of its own. Reads
+/// those files; one that cannot be read is left as it is.
+KVSUBTITLES_API void NoteDetectedEncodings(Entities::SubtitleCollection& collection);
+
 } // namespace Korvex::Converter::Subtitles

@@ -2,6 +2,7 @@
 
 #include "Subtitles/Entities/ISubtitleImpl.h"
 
+#include "Core/FileSystem.h"
 #include "Proc/MediaInfo.h"
 
 namespace Korvex::Converter::Subtitles
@@ -39,6 +40,26 @@ TEST(HostBridgeTest, ListsTheSubtitleStreamsOfAFilm)
     EXPECT_FALSE(track.isExternal || track.encodingEditable);
     EXPECT_FALSE(tracks.at(Entities::SubtitleTrackID(10u)).styleEditable);
     EXPECT_FALSE(tracks.at(Entities::SubtitleTrackID(10u)).isForced);
+}
+
+TEST(HostBridgeTest, NotesTheEncodingsOfReadableTextFiles)
+{
+    ioPath const folder = std::move(Core::CreateWorkFolder()).Value();
+    std::string const cue = "1\n00:00:01,000 --> 00:00:02,000\n";
+    ASSERT_FALSE(Core::WriteFile(folder / "a.srt", cue + "Привет\n", false));
+    Entities::SubtitleCollection collection;
+    for (char const* name : {"a.srt", "missing.srt"})
+    {
+        Entities::SubtitleTrack track(folder / name);
+        track.isExternal = track.encodingEditable = true;
+        collection.tracks.emplace(track.id, track);
+    }
+    collection.tracks.emplace(Entities::SubtitleTrackID(2u), Entities::SubtitleTrack(2u));
+    NoteDetectedEncodings(collection);
+    EXPECT_EQ(collection.tracks.at(Entities::SubtitleTrackID(folder / "a.srt")).extra, "UTF-8");
+    EXPECT_EQ(collection.tracks.at(Entities::SubtitleTrackID(folder / "missing.srt")).extra, "");
+    EXPECT_EQ(collection.tracks.at(Entities::SubtitleTrackID(2u)).extra, "");
+    Core::RemoveWorkFolder(folder);
 }
 
 TEST(HostBridgeTest, ReadsNothingFromAnEmptySlot)
