@@ -14,25 +14,26 @@ find_package(Iconv REQUIRED)
 
 # The dependency-injection container: the installed library when there is one, else the project's own header with the
 # same public builder interface.
-set(KORVEX_CONTAINER_IS_OWN OFF)
 find_package(Hypodermic CONFIG QUIET)
 add_library(korvex_container INTERFACE)
 if(TARGET Hypodermic::Hypodermic)
     target_link_libraries(korvex_container INTERFACE Hypodermic::Hypodermic)
     set(KORVEX_CONTAINER "installed Hypodermic")
+    set(KORVEX_CONTAINER_KIND "package")
 elseif(Hypodermic_ROOT)
     find_path(HYPODERMIC_INCLUDE_DIR Hypodermic/ContainerBuilder.h REQUIRED
         PATHS "${Hypodermic_ROOT}" PATH_SUFFIXES include "" NO_DEFAULT_PATH)
-    target_include_directories(korvex_container SYSTEM INTERFACE "${HYPODERMIC_INCLUDE_DIR}")
+    target_include_directories(korvex_container SYSTEM INTERFACE "$<BUILD_INTERFACE:${HYPODERMIC_INCLUDE_DIR}>")
     target_link_libraries(korvex_container INTERFACE Boost::headers)
     set(KORVEX_CONTAINER "Hypodermic in ${HYPODERMIC_INCLUDE_DIR}")
+    set(KORVEX_CONTAINER_KIND "headers")
 else()
     target_include_directories(korvex_container INTERFACE
         "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Platform/Hypodermic>"
         "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/korvex/Hypodermic>")
     target_link_libraries(korvex_container INTERFACE Boost::headers)
-    set(KORVEX_CONTAINER_IS_OWN ON)
     set(KORVEX_CONTAINER "the project's own header")
+    set(KORVEX_CONTAINER_KIND "own")
 endif()
 add_library(Korvex::Container ALIAS korvex_container)
 message(STATUS "Container: ${KORVEX_CONTAINER}")
