@@ -107,16 +107,21 @@ TEST_F(CollectionPresenterTest, ShowsAChoiceInTheOtherListAndReportsItOnce)
     EXPECT_EQ(m_events, (Rows{"track 3", "none", "all soft", "extract 4", "find editingPanel"}));
 }
 
-TEST_F(CollectionPresenterTest, ServesTheItemPanelsCheckBox)
+TEST_F(CollectionPresenterTest, ServesTheFilmsItemPanelOrTheCommonOne)
 {
     m_item->applyToAllFiles = true;
     EXPECT_TRUE(m_presenter.GetApplyToAllFiles());
     m_item->Raise([](auto* observer) { observer->OnChoiceFinished(); });
     EXPECT_EQ(m_events, Rows{"finished"});
+
+    auto const common = std::make_shared<FakeItemPanel>();
+    m_widgets->Register<IItemPanel>(common);
+    m_presenter.ReconnectToWidgets({SubtitlePresenterKind::ItemPanel}, Entities::SubtitleCollectionID());
+    m_presenter.SetWithoutSubtitles();
     m_presenter.Hide();
-    m_presenter.SetApplyToAllFiles(false);
-    EXPECT_TRUE(m_item->isHidden);
-    EXPECT_FALSE(m_item->applyToAllFiles);
+    EXPECT_EQ(common->shown, "without");
+    EXPECT_EQ(m_item->shown, "nothing");
+    EXPECT_TRUE(common->isHidden && !m_item->isHidden);
 }
 
 TEST_F(CollectionPresenterTest, OpensTheDialogAfterTheNotification)
@@ -128,19 +133,6 @@ TEST_F(CollectionPresenterTest, OpensTheDialogAfterTheNotification)
     QCoreApplication::processEvents();
     EXPECT_EQ(m_dialog->offered, (Rows{"srt", "ass", "ssa"}));
     EXPECT_EQ(m_events, Rows{"files 2"});
-}
-
-TEST_F(CollectionPresenterTest, FindsTheItemPanelByFilmOrTheCommonOne)
-{
-    auto const common = std::make_shared<FakeItemPanel>();
-    m_widgets->Register<IItemPanel>(common);
-    m_presenter.ReconnectToWidgets({SubtitlePresenterKind::ItemPanel}, Entities::SubtitleCollectionID());
-    m_presenter.SetWithoutSubtitles();
-    EXPECT_EQ(common->shown, "without");
-    EXPECT_EQ(m_item->shown, "nothing");
-    m_presenter.ClearConnectToWidgets();
-    m_presenter.SetAllSoftSubtitles();
-    EXPECT_EQ(common->shown, "without");
 }
 
 } // namespace

@@ -1,7 +1,5 @@
 #include "Subtitles/Adapters/HostBridge.h"
 
-#include "Subtitles/Entities/ISubtitleImpl.h"
-
 #include "Core/FileSystem.h"
 #include "Proc/MediaInfo.h"
 
@@ -60,13 +58,6 @@ TEST(HostBridgeTest, NotesTheEncodingsOfReadableTextFiles)
     EXPECT_EQ(collection.tracks.at(Entities::SubtitleTrackID(folder / "missing.srt")).extra, "");
     EXPECT_EQ(collection.tracks.at(Entities::SubtitleTrackID(2u)).extra, "");
     Core::RemoveWorkFolder(folder);
-}
-
-TEST(HostBridgeTest, ReadsNothingFromAnEmptySlot)
-{
-    CoreSettings const settings = ReadCoreSettings({});
-    EXPECT_EQ(settings.soft, nullptr);
-    EXPECT_EQ(settings.mixer, nullptr);
 }
 
 } // namespace

@@ -33,82 +33,52 @@ std::shared_ptr<Hypodermic::Container> BuildModule()
     return container;
 }
 
+enum class Lifetime
+{
+    Shared,
+    EachAnew,
+};
+
 template <typename I>
-void ExpectRegisteredOnce(Hypodermic::Container& container)
+void ExpectOne(Hypodermic::Container& container, Lifetime lifetime)
 {
     EXPECT_EQ(container.resolveAll<I>().size(), 1u) << typeid(I).name();
+    EXPECT_EQ(container.resolve<I>() == container.resolve<I>(), lifetime == Lifetime::Shared) << typeid(I).name();
+}
+
+template <typename... I>
+void ExpectOneOfEach(Hypodermic::Container& container, Lifetime lifetime)
+{
+    (ExpectOne<I>(container, lifetime), ...);
 }
 
 TEST(CompositionTest, RegistersEveryInterfaceOnce)
 {
     auto const container = BuildModule();
-    ExpectRegisteredOnce<Entities::ISubtitleCollectionInteractorPool>(*container);
-    ExpectRegisteredOnce<Entities::ISubtitleCollectionInteractor>(*container);
-    ExpectRegisteredOnce<Entities::ISubtitlesInteractor>(*container);
-    ExpectRegisteredOnce<UseCases::ISubtitleCollectionPresenter>(*container);
-    ExpectRegisteredOnce<UseCases::IEditingPresenter>(*container);
-    ExpectRegisteredOnce<UseCases::ISubtitleController>(*container);
-    ExpectRegisteredOnce<UseCases::IOnlineDownloaderController>(*container);
-    ExpectRegisteredOnce<UseCases::ISubtitleStreamAdapter>(*container);
-    ExpectRegisteredOnce<UseCases::IOnlineDownloaderInteractor>(*container);
-    ExpectRegisteredOnce<UseCases::IItemPresenter>(*container);
-    ExpectRegisteredOnce<UseCases::IUseCasesFactory>(*container);
-    ExpectRegisteredOnce<UseCases::IAdaptersFactory>(*container);
-}
-
-TEST(CompositionTest, SharesSingleInstancesAndMakesTheRestAnew)
-{
-    auto const container = BuildModule();
-    EXPECT_EQ(container->resolve<Entities::ISubtitleCollectionInteractorPool>(),
-              container->resolve<Entities::ISubtitleCollectionInteractorPool>());
-    EXPECT_EQ(container->resolve<UseCases::IOnlineDownloaderInteractor>(),
-              container->resolve<UseCases::IOnlineDownloaderInteractor>());
-    EXPECT_NE(container->resolve<Entities::ISubtitleCollectionInteractor>(),
-              container->resolve<Entities::ISubtitleCollectionInteractor>());
+    ExpectOneOfEach<Entities::ISubtitleCollectionInteractorPool, UseCases::IOnlineDownloaderInteractor,
+                    UseCases::IUseCasesFactory, UseCases::IAdaptersFactory>(*container, Lifetime::Shared);
+    ExpectOneOfEach<Entities::ISubtitleCollectionInteractor, Entities::ISubtitlesInteractor,
+                    UseCases::ISubtitleCollectionPresenter, UseCases::IEditingPresenter, UseCases::ISubtitleController,
+                    UseCases::IOnlineDownloaderController, UseCases::ISubtitleStreamAdapter, UseCases::IItemPresenter>(
+        *container, Lifetime::EachAnew);
     auto const factory = container->resolve<UseCases::IAdaptersFactory>();
     EXPECT_NE(factory->CreateEditingPresenter(), factory->CreateEditingPresenter());
     EXPECT_NE(factory->CreateItemPresenter(), factory->CreateItemPresenter());
-    EXPECT_NE(container->resolve<UseCases::IUseCasesFactory>()->CreateSubtitlesInteractor(), nullptr);
 }
 
 TEST(CompositionTest, PoolUsesAnInteractorAgainOnceItIsFree)
 {
+    auto const pool = BuildModule()->resolve<Entities::ISubtitleCollectionInteractorPool>();
+    EXPECT_THROW(static_cast<void>(pool->GetInteractor()), std::logic_error) << "the container is gone";
+
     auto const container = BuildModule();
-    auto const pool = container->resolve<Entities::ISubtitleCollectionInteractorPool>();
-    auto first = pool->GetInteractor();
+    auto const living = container->resolve<Entities::ISubtitleCollectionInteractorPool>();
+    auto first = living->GetInteractor();
     auto const* const address = first.get();
-    auto const second = pool->GetInteractor();
+    auto const second = living->GetInteractor();
     EXPECT_NE(first, second);
     first.reset();
-    EXPECT_EQ(pool->GetInteractor().get(), address);
-}
-
-TEST(CompositionTest, FactoriesDoNotKeepTheContainerAlive)
-{
-    auto container = BuildModule();
-    auto const factory = container->resolve<UseCases::IUseCasesFactory>();
-    std::weak_ptr<Hypodermic::Container> const watched = container;
-    container.reset();
-    EXPECT_TRUE(watched.expired());
-    EXPECT_THROW(static_cast<void>(factory->CreateSubtitlesInteractor()), std::logic_error);
-}
-
-TEST(CompositionTest, AHostWithoutAQueueIsToldWhatIsMissing)
-{
-    Hypodermic::ContainerBuilder builder;
-    builder.registerInstance(std::make_shared<Gui::GUIContainer>());
-    FillBuilder(builder, nullptr);
-    auto const container = builder.build();
-    try
-    {
-        container->resolve<Entities::ISubtitleCollectionInteractor>();
-        FAIL() << "resolved without a transcoder interactor";
-    }
-    catch (std::exception const& error)
-    {
-        EXPECT_THAT(error.what(), testing::HasSubstr("Unable to resolve"));
-        EXPECT_THAT(error.what(), testing::HasSubstr("ITranscoderInteractor"));
-    }
+    EXPECT_EQ(living->GetInteractor().get(), address);
 }
 
 TEST(CompositionTest, AnItemsCopyOfACollectionGetsSettingsOfItsOwn)

@@ -32,32 +32,19 @@ TEST(LanguageTest, IdentifiersNumberTheTable)
 
 TEST(LanguageTest, UnderstandsTheNamesThatContainersFilesAndServicesUse)
 {
-    std::map<std::string, LanguageID> const names = {
-        {"en", LanguageID::English},
-        {"ENG", LanguageID::English},
-        {"en-AU", LanguageID::English},
-        {"ger", LanguageID::German},
-        {"deu", LanguageID::German},
-        {"fre", LanguageID::French},
-        {"fra", LanguageID::French},
-        {"pt-BR", LanguageID::PortugueseBR},
-        {"pt_br", LanguageID::PortugueseBR},
-        {"pob", LanguageID::PortugueseBR},
-        {"pt-PT", LanguageID::Portuguese},
-        {"pt-AO", LanguageID::Portuguese},
-        {"chi", LanguageID::ChineseSimplified},
-        {"zh-Hant-TW", LanguageID::ChineseTraditional},
-        {"zht", LanguageID::ChineseTraditional},
-        {"zhe", LanguageID::ChineseBilingual},
-        {"nb", LanguageID::Norwegian},
-        {"sr-Latn", LanguageID::Serbian},
-        {"", LanguageID::None},
-        {"und", LanguageID::None},
-        {"-", LanguageID::None},
-        {"english", LanguageID::None},
+    std::map<LanguageID, std::vector<std::string>> const names = {
+        {LanguageID::English, {"en", "ENG", "en-AU"}},
+        {LanguageID::German, {"ger", "deu"}},
+        {LanguageID::PortugueseBR, {"pt-BR", "pt_br", "pob"}},
+        {LanguageID::Portuguese, {"pt-PT", "pt-AO"}},
+        {LanguageID::ChineseTraditional, {"zh-Hant-TW", "zht", "zt"}},
+        {LanguageID::ChineseBilingual, {"zhe"}},
+        {LanguageID::Serbian, {"sr-Latn"}},
+        {LanguageID::None, {"", "und", "-", "english"}},
     };
-    for (auto const& [name, id] : names)
-        EXPECT_EQ(GetLanguageFromShortName(name), id) << name;
+    for (auto const& [id, shortNames] : names)
+        for (std::string const& name : shortNames)
+            EXPECT_EQ(GetLanguageFromShortName(name), id) << name;
 }
 
 } // namespace

@@ -23,7 +23,10 @@ public:
         isConnected = true;
     }
     void ClearConnectToWidgets() override { isConnected = false; }
-    void AddSubtitleTrack(Entities::SubtitleTrack const& track) override { calls.push_back("add " + IdOf(track)); }
+    void AddSubtitleTrack(Entities::SubtitleTrack const& track) override
+    {
+        calls.push_back("add " + track.id.ToString());
+    }
     void ClearTracks() override { calls.push_back("clear"); }
     void SortTracks() override { calls.push_back("sort"); }
     void FillWidgetsTracks() override { calls.push_back("fill"); }
@@ -46,8 +49,6 @@ public:
     bool applyToAllFiles = false;
 
 private:
-    static std::string IdOf(Entities::SubtitleTrack const& track) { return track.id.ToString(); }
-
     Core::EventHandlerList<Observer> m_observers;
 };
 

@@ -2,7 +2,6 @@
 #include "Subtitles/Entities/SearchTags.h"
 #include "Subtitles/Entities/SubtitleSearchMediaInfoSettings.h"
 #include "Subtitles/UseCases/IOnlineDownloaderController.h"
-#include "Subtitles/UseCases/IOnlineSearchMetadataFiller.h"
 
 namespace Korvex::Converter::Subtitles::UseCases
 {
@@ -64,16 +63,6 @@ protected:
     std::shared_ptr<FakeService> m_service = std::make_shared<FakeService>();
 };
 
-TEST_F(OnlineDownloaderInteractorTest, SaysThatNoServiceIsSetUp)
-{
-    OnlineDownloaderInteractor interactor(std::make_shared<FakeFiles>(), {}, {});
-    interactor.RegisterEventHandler(this);
-    EXPECT_FALSE(interactor.IsAvailable());
-    EXPECT_EQ(interactor.StartSearch(m_film, {}), IOnlineSearchController::UnsupportedSearch);
-    EXPECT_EQ(m_events, std::vector<std::string>{"failed 6 with a sentence"});
-    EXPECT_FALSE(interactor.Cancel());
-}
-
 TEST_F(OnlineDownloaderInteractorTest, ReportsToTheFilmThatAsked)
 {
     OnlineDownloaderInteractor interactor(std::make_shared<FakeFiles>(), {m_service}, {});
@@ -95,19 +84,17 @@ TEST_F(OnlineDownloaderInteractorTest, ReportsToTheFilmThatAsked)
     EXPECT_EQ(m_events, std::vector<std::string>{"failed 3"});
 }
 
+TEST_F(OnlineDownloaderInteractorTest, SaysThatNoServiceIsSetUp)
+{
+    OnlineDownloaderInteractor interactor(std::make_shared<FakeFiles>(), {}, {});
+    interactor.RegisterEventHandler(this);
+    EXPECT_EQ(interactor.StartSearch(m_film, {}), IOnlineSearchController::UnsupportedSearch);
+    EXPECT_EQ(m_events, std::vector<std::string>{"failed 6 with a sentence"});
+}
+
 TEST_F(OnlineDownloaderInteractorTest, AsksByTheBestThatIsKnown)
 {
-    class Filler final : public IOnlineSearchMetadataFiller
-    {
-    public:
-        void FillMetadata(Entities::SubtitleSearchMediaInfoSettings const&, SearchRequest& request) override
-        {
-            request.tags["FILLED"] = "yes";
-        }
-    };
     OnlineDownloaderInteractor const plain(std::make_shared<FakeFiles>(), {}, {});
-    OnlineDownloaderInteractor const filled(std::make_shared<FakeFiles>(), {}, {std::make_shared<Filler>()});
-
     Entities::SubtitleSearchMediaInfoSettings media;
     EXPECT_EQ(plain.MakeQuery(media).tags, Tags{});
     media.path = "film.mkv";
@@ -121,7 +108,7 @@ TEST_F(OnlineDownloaderInteractorTest, AsksByTheBestThatIsKnown)
               (Tags{{SearchTags::TITLE, "Film"}, {SearchTags::SEASON_NUMBER, "2"}, {SearchTags::EPISODE_NUMBER, "5"}}));
     media.imdbId = "tt0133093";
     media.episode.reset();
-    EXPECT_EQ(filled.MakeQuery(media).tags, (Tags{{SearchTags::IMDB_ID, "tt0133093"}, {"FILLED", "yes"}}));
+    EXPECT_EQ(plain.MakeQuery(media).tags, (Tags{{SearchTags::IMDB_ID, "tt0133093"}}));
 }
 
 } // namespace

@@ -43,6 +43,7 @@ TEST_F(SidecarLookupTest, FindsFilesBesideTheFilmAndInItsFolders)
 
     EXPECT_EQ(Find("Movie.mkv"), (std::vector<std::string>{"Movie.en.ass", "Movie.srt", "movie.DE.SRT",
                                                            "Subs/Movie.fr.srt", "subtitles/Movie.srt"}));
+    EXPECT_TRUE(Find("gone/Movie.mkv").empty());
 }
 
 TEST_F(SidecarLookupTest, LeavesFilesToTheFilmWithTheLongerName)
@@ -51,19 +52,6 @@ TEST_F(SidecarLookupTest, LeavesFilesToTheFilmWithTheLongerName)
         Write(name);
     EXPECT_EQ(Find("Movie.mkv"), (std::vector<std::string>{"Movie.srt"}));
     EXPECT_EQ(Find("Movie.Two.mp4"), (std::vector<std::string>{"Movie.Two.srt", "Movie.two.en.srt"}));
-}
-
-TEST_F(SidecarLookupTest, DescribesTheTrack)
-{
-    Write("Movie.eng.forced.ass");
-    auto const tracks = FindSidecars(m_folder / "Movie.mkv", m_controller);
-    ASSERT_EQ(tracks.size(), 1u);
-    EXPECT_EQ(tracks[0].id, Entities::SubtitleTrackID(m_folder / "Movie.eng.forced.ass"));
-    EXPECT_EQ(tracks[0].title, "Movie.eng.forced.ass");
-    EXPECT_EQ(tracks[0].language, "eng");
-    EXPECT_EQ(tracks[0].detail, "Forced");
-    EXPECT_TRUE(tracks[0].isForced);
-    EXPECT_TRUE(FindSidecars(m_folder / "gone" / "Movie.mkv", m_controller).empty());
 }
 
 } // namespace

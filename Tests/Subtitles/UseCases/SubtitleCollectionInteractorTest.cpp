@@ -84,19 +84,11 @@ TEST_F(SubtitleCollectionInteractorTest, AddsAFileOnceAndSelectsIt)
     m_interactor.AddSubtitles("/films/Movie.srt");
     EXPECT_EQ(m_presenter->calls, Calls{});
     EXPECT_EQ(m_controller->calls, Calls{});
-}
 
-TEST_F(SubtitleCollectionInteractorTest, JudgesFilesByTheirCodec)
-{
     m_interactor.AddSubtitles("Movie.ass");
-    m_interactor.AddSubtitles("Movie.sup");
+    EXPECT_FALSE(m_interactor.GetSubtitleCollection().tracks.at(SubtitleTrackID(ioPath("Movie.ass"))).styleEditable);
     m_interactor.AddSubtitles("notes.txt");
-    auto const tracks = m_interactor.GetSubtitleCollection().tracks;
-    EXPECT_TRUE(tracks.at(SubtitleTrackID(ioPath("Movie.ass"))).encodingEditable);
-    EXPECT_FALSE(tracks.at(SubtitleTrackID(ioPath("Movie.ass"))).styleEditable);
-    EXPECT_FALSE(tracks.at(SubtitleTrackID(ioPath("Movie.sup"))).encodingEditable);
-    EXPECT_EQ(tracks.at(SubtitleTrackID(ioPath("notes.txt"))).codecId, "");
-    EXPECT_EQ(m_presenter->calls.back(), "no soft");
+    EXPECT_EQ(m_presenter->calls.back(), "no soft") << "a file of no codec";
 }
 
 TEST_F(SubtitleCollectionInteractorTest, AddingTracksOfTheFilmKeepsTheChoice)
@@ -248,7 +240,7 @@ protected:
 
 TEST_F(SidecarTest, AreAddedOnceToTheirFilm)
 {
-    Write("Movie.en.srt");
+    Write("Movie.eng.forced.srt");
     Write("Movie.ssa"); // of no codec here
     m_interactor.SetSubtitleCollection(SubtitleCollection(), true);
     m_transcoder->AddMediaItem({m_folder / "Movie.mkv", 0});
@@ -259,8 +251,9 @@ TEST_F(SidecarTest, AreAddedOnceToTheirFilm)
     SubtitleCollection const collection = m_interactor.GetSubtitleCollection();
     ASSERT_EQ(collection.tracks.size(), 1u) << "an unreadable file is left out";
     SubtitleTrack const& track = collection.tracks.begin()->second;
-    EXPECT_EQ(track.language, "en");
-    EXPECT_TRUE(track.isExternal && track.styleEditable);
+    EXPECT_EQ(track.language, "eng");
+    EXPECT_EQ(track.detail, "Forced");
+    EXPECT_TRUE(track.isExternal && track.isForced && track.styleEditable);
     EXPECT_EQ(collection.mode, SubtitleCollectionMode::AllSoftSubtitles) << "burning is never chosen";
     EXPECT_EQ(m_presenter->calls.back(), "all soft");
 }
@@ -276,19 +269,12 @@ TEST_F(SidecarTest, LeaveTheUsersChoiceAlone)
     EXPECT_EQ(m_presenter->calls.back(), "current 2");
 
     Write("Movie.de.srt");
+    Write("Movie.srt");
+    m_interactor.AddSubtitles(m_folder / "." / "Movie.srt"); // known by another spelling then
     m_presenter->Raise([](auto* observer) { observer->OnNoSubtitlesSelected(); });
     Announce();
-    EXPECT_EQ(m_interactor.GetSubtitleCollection().tracks.size(), 3u);
+    EXPECT_EQ(m_interactor.GetSubtitleCollection().tracks.size(), 4u);
     EXPECT_EQ(m_interactor.GetSubtitleCollection().withoutSubtitles, 1);
-    EXPECT_TRUE(m_interactor.GetSubtitleCollection().currentTrack.IsEmpty());
-}
-
-TEST_F(SidecarTest, KnowAFileThatTheUserAddedByAnotherSpelling)
-{
-    Write("Movie.srt");
-    m_interactor.AddSubtitles(m_folder / "." / "Movie.srt");
-    Announce();
-    EXPECT_EQ(m_interactor.GetSubtitleCollection().tracks.size(), 1u);
 }
 
 TEST_F(SidecarTest, AFailingLookupLeavesTheFilmAsItIs)

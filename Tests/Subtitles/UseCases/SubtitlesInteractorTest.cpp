@@ -4,6 +4,8 @@
 #include "Subtitles/UseCases/IEditingPresenter.h"
 #include "Subtitles/UseCases/SubtitlesInteractor.h"
 
+#include <utility>
+
 namespace Korvex::Converter::Subtitles::UseCases
 {
 namespace
@@ -16,7 +18,7 @@ using Entities::SubtitleTextSettings;
 using Entities::SubtitleTrack;
 using Entities::SubtitleTrackID;
 
-/// Keeps what it was told to show.
+/// Writes down in `calls` what it was told to show.
 class FakeEditingPresenter final : public IEditingPresenter
 {
 public:
@@ -24,42 +26,33 @@ public:
 
     void RegisterEventHandler(Observer* observer) override { observers.RegisterEventHandler(observer); }
     void UnregisterEventHandler(Observer* observer) override { observers.UnregisterEventHandler(observer); }
-    void FillEncodingComboBox() override { connecting += "encodings "; }
-    void FillAligmentComboBox() override { connecting += "aligns "; }
-    void ReconnectToWidgets(Entities::SubtitlePresenterSettings const&) override { connecting += "connect "; }
-    void ClearConnectToWidgets() override { connecting += "disconnect "; }
-    void SetFont(QFont const& value) override { look.font = value; }
-    void SetTextColor(QColor const& value) override { look.textColor = value; }
-    void SetOutlineColor(QColor const& value) override { look.outlineColor = value; }
-    void SetEncoding(SubtitleEncoding value) override { encoding = value; }
-    void SetAlign(Entities::SubtitleAlign value) override { look.align = value; }
-    void SetSynchronizationOffset(double value) override { offset = value; }
-    void SetPositionShift(int value) override { look.positionShift = value; }
-    void FontEnabled(bool value) override { Enable("font", value); }
-    void TextColorEnabled(bool value) override { Enable("text", value); }
-    void OutlineColorEnabled(bool value) override { Enable("outline", value); }
-    void EncodingEnabled(bool value) override { Enable("encoding", value); }
-    void AlignEnabled(bool value) override { Enable("align", value); }
-    void SynchronizationOffsetEnabled(bool value) override { Enable("offset", value); }
-    void PositionShiftEnabled(bool value) override { Enable("shift", value); }
-    void HideSubtitleCollectiondWidget(bool value) override { isListHidden = value; }
+    void FillEncodingComboBox() override { calls += "encodings "; }
+    void FillAligmentComboBox() override { calls += "aligns "; }
+    void ReconnectToWidgets(Entities::SubtitlePresenterSettings const&) override { calls += "connect "; }
+    void ClearConnectToWidgets() override { calls += "disconnect "; }
+    void SetFont(QFont const& font) override { calls += "font=" + std::to_string(font.pointSize()) + ' '; }
+    void SetTextColor(QColor const& color) override { calls += "text=" + color.name().toStdString() + ' '; }
+    void SetOutlineColor(QColor const& color) override { calls += "outline=" + color.name().toStdString() + ' '; }
+    void SetEncoding(SubtitleEncoding value) override { Note("encoding=", static_cast<int>(value)); }
+    void SetAlign(Entities::SubtitleAlign value) override { Note("align=", static_cast<int>(value)); }
+    void SetSynchronizationOffset(double seconds) override { Note("offset=", static_cast<int>(seconds * 10)); }
+    void SetPositionShift(int lines) override { Note("shift=", lines); }
+    void FontEnabled(bool value) override { Note("font", value); }
+    void TextColorEnabled(bool value) override { Note("text", value); }
+    void OutlineColorEnabled(bool value) override { Note("outline", value); }
+    void EncodingEnabled(bool value) override { Note("encoding", value); }
+    void AlignEnabled(bool value) override { Note("align", value); }
+    void SynchronizationOffsetEnabled(bool value) override { Note("offset", value); }
+    void PositionShiftEnabled(bool value) override { Note("shift", value); }
+    void HideSubtitleCollectiondWidget(bool value) override { Note("hide", value); }
+
+    std::string TakeCalls() { return std::exchange(calls, {}); }
 
     Core::EventHandlerList<Observer> observers;
-    SubtitleTextSettings look{99, QFont("Arial", 9), Qt::green, Qt::green, Entities::SubtitleAlign::Left};
-    SubtitleEncoding encoding = SubtitleEncoding::CP932;
-    double offset = 9.0;
-    std::set<std::string> enabled;
-    std::string connecting;
-    bool isListHidden = false;
+    std::string calls;
 
 private:
-    void Enable(std::string const& control, bool isEnabled)
-    {
-        if (isEnabled)
-            enabled.insert(control);
-        else
-            enabled.erase(control);
-    }
+    void Note(char const* what, int value) { calls += what + std::to_string(value) + ' '; }
 };
 
 class SubtitlesInteractorTest : public testing::Test, public Entities::ISubtitlesInteractorEventObserver
@@ -88,39 +81,50 @@ protected:
     std::vector<Entities::SubtitleCollectionID> m_changed;
 };
 
-TEST_F(SubtitlesInteractorTest, ShowsTheCurrentTrack)
+TEST_F(SubtitlesInteractorTest, ShowsTheCurrentTrackThenItsLook)
 {
     m_interactor.SetSubtitleCollection(m_collection);
-    EXPECT_EQ(m_presenter->enabled, (std::set<std::string>{"align", "offset", "shift"}));
-    EXPECT_EQ(m_presenter->encoding, SubtitleEncoding::KOI8R);
-    EXPECT_EQ(m_presenter->offset, 1.5);
-    EXPECT_EQ(m_presenter->look, m_collection->textSettings);
-
+    EXPECT_EQ(m_presenter->TakeCalls(), "align1 encoding0 font0 outline0 text0 shift1 offset1 encoding=4 offset=15 "
+                                        "font=20 align=0 outline=#000000 shift=4 text=#ffffff ");
     Track().styleEditable = true;
     Track().encodingEditable = true;
     m_interactor.SubtitleTrackSelected();
-    EXPECT_EQ(m_presenter->enabled.size(), 7u);
+    EXPECT_EQ(m_presenter->TakeCalls().substr(0, 45), "align1 encoding1 font1 outline1 text1 shift1 ");
+    m_collection->currentTrack = SubtitleTrackID(9u);
+    m_interactor.SubtitleTrackSelected();
+    EXPECT_EQ(m_presenter->TakeCalls(), "") << "no such track";
 }
 
 TEST_F(SubtitlesInteractorTest, ShowsDefaultsWhereThereIsNothingToEdit)
 {
-    auto const expectDefaults = [this]
-    {
-        EXPECT_TRUE(m_presenter->enabled.empty());
-        EXPECT_EQ(m_presenter->encoding, SubtitleEncoding::Auto);
-        EXPECT_EQ(m_presenter->offset, 0.0);
-        EXPECT_EQ(m_presenter->look, SubtitleTextSettings());
-    };
-    m_interactor.SetSubtitleCollection(m_collection);
+    std::string const defaults = "align0 encoding0 font0 outline0 shift0 offset0 text0 encoding=0 offset=0 "
+                                 "font=20 align=0 outline=#000000 shift=0 text=#ffffff ";
     m_collection->withoutSubtitles = 1;
-    m_interactor.SetWithoutSubtitles();
-    expectDefaults();
+    m_interactor.SetSubtitleCollection(m_collection);
+    EXPECT_EQ(m_presenter->TakeCalls(), defaults);
     m_collection->withoutSubtitles = 0;
-    m_interactor.SubtitleTrackSelected();
     m_collection->mode = SubtitleCollectionMode::AllSoftSubtitles;
     m_interactor.SetAllSoftSubtitles();
-    expectDefaults();
+    EXPECT_EQ(m_presenter->TakeCalls(), defaults);
     EXPECT_EQ(m_collection->textSettings.positionShift, 4) << "only shown";
+}
+
+TEST_F(SubtitlesInteractorTest, TakesOverMediaInfoAndWidgets)
+{
+    m_interactor.SetSubtitleCollection(m_collection);
+    auto const other = std::make_shared<SubtitleCollection>();
+    other->tracks.emplace(SubtitleTrackID(5u), SubtitleTrack(5u));
+    other->currentTrack = SubtitleTrackID(5u);
+    m_presenter->calls.clear();
+    m_interactor.UpdateMediaInfo(other);
+    EXPECT_EQ(m_collection->currentTrack, SubtitleTrackID(5u));
+    EXPECT_EQ(m_collection->tracks.size(), 1u);
+    EXPECT_NE(m_presenter->TakeCalls().find("encoding=0"), std::string::npos);
+
+    m_interactor.ReconnectToWidgets({});
+    m_interactor.ExtractSubtitle();
+    m_interactor.ClearConnectToWidgets();
+    EXPECT_EQ(m_presenter->TakeCalls(), "connect aligns encodings hide1 disconnect ");
 }
 
 TEST_F(SubtitlesInteractorTest, WritesEditsToTheTrackOrTheCollection)
@@ -152,25 +156,6 @@ TEST_F(SubtitlesInteractorTest, AlwaysHasATrackToWriteInto)
     m_presenter->observers.Notify([](auto* observer) { observer->OnEncodingChanged(SubtitleEncoding::UTF8); });
     EXPECT_EQ(m_collection->tracks.at(SubtitleTrackID(9u)).encoding, SubtitleEncoding::UTF8);
     EXPECT_TRUE(m_collection->tracks.at(SubtitleTrackID(9u)).IsEmpty());
-}
-
-TEST_F(SubtitlesInteractorTest, TakesOverMediaInfoAndWidgets)
-{
-    m_interactor.SetSubtitleCollection(m_collection);
-    auto const other = std::make_shared<SubtitleCollection>();
-    other->tracks.emplace(SubtitleTrackID(5u), SubtitleTrack(5u));
-    other->currentTrack = SubtitleTrackID(5u);
-    auto const id = m_collection->collectionId;
-    m_interactor.UpdateMediaInfo(other);
-    EXPECT_EQ(m_collection->currentTrack, SubtitleTrackID(5u));
-    EXPECT_EQ(m_collection->tracks.size(), 1u);
-    EXPECT_EQ(m_collection->collectionId, id);
-    EXPECT_EQ(m_presenter->encoding, SubtitleEncoding::Auto);
-
-    m_interactor.ReconnectToWidgets({});
-    EXPECT_EQ(m_presenter->connecting, "connect aligns encodings ");
-    m_interactor.ExtractSubtitle();
-    EXPECT_TRUE(m_presenter->isListHidden);
 }
 
 } // namespace
