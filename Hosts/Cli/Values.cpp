@@ -184,7 +184,7 @@ std::int32_t ReadEncoding(GivenOption const& option)
 
 std::string ReadLanguage(GivenOption const& option)
 {
-    using namespace Converter::Subtitles::Entities;
+    namespace Language = Converter::Subtitles::Entities::Language;
     std::string const& name = option.Value();
     bool const hasThreeLetters = name.size() == 3 && std::all_of(name.begin(), name.end(),
                                                                  [](char c)
@@ -192,7 +192,7 @@ std::string ReadLanguage(GivenOption const& option)
                                                                      char const lower = static_cast<char>(c | 0x20);
                                                                      return lower >= 'a' && lower <= 'z';
                                                                  });
-    if (!hasThreeLetters && GetLanguageFromShortName(name) == LanguageID::None)
+    if (!hasThreeLetters && Language::GetLanguageFromShortName(name) == Language::LanguageID::None)
         Refuse(option, "a language such as en, rus or pt-BR");
     return name;
 }
