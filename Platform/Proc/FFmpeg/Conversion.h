@@ -28,6 +28,9 @@ public:
     /// Until the output stands under its final name or has failed to; a cancel comes back as an error too.
     [[nodiscard]] Core::Status Run(WrittenSink const& onWritten);
 
+    /// True when jumps in the input's clock were closed, so that its stated duration says little. After `Run`.
+    [[nodiscard]] bool HasClosedJumps() const { return m_demuxing && m_demuxing->HasClosedJumps(); }
+
 private:
     [[nodiscard]] Core::Status Execute(WrittenSink const& onWritten);
     [[nodiscard]] Core::Status Prepare();

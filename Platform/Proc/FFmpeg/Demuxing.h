@@ -53,6 +53,9 @@ public:
     /// Until the end of the file or of the job. On a thread of its own.
     void Run();
 
+    /// True when the input's own clock does not tell how long the output is. After `Run`.
+    [[nodiscard]] bool HasClosedJumps() const { return m_jumps.HasClosedAny(); }
+
 private:
     struct Stream
     {

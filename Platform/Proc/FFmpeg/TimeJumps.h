@@ -23,10 +23,19 @@ public:
     /// Moves a packet of the file, its times in its stream's time base.
     void Close(AVPacket& packet);
 
+    [[nodiscard]] bool HasClosedAny() const { return m_jumpUs != 0 || m_previousJumpUs != 0; }
+
 private:
+    /// What to take off a packet of sound or picture, which may be the first behind a jump.
+    std::int64_t Follow(AVPacket const& packet, AVRational timeBase, std::optional<std::int64_t>& expectedUs);
+    /// The same for any other packet: it may lie before the last jump, or be behind one that is still to be seen.
+    [[nodiscard]] std::int64_t FindJump(std::int64_t timeUs) const;
+
     AVFormatContext const& m_file;
     std::vector<std::optional<std::int64_t>> m_expectedUs; ///< by stream: when the next packet should begin
+    std::optional<std::int64_t> m_nowUs;                   ///< where sound or picture has come to, jumps closed
     std::int64_t m_jumpUs = 0;                             ///< taken off all times since the last jump
+    std::int64_t m_previousJumpUs = 0;                     ///< before it
 };
 
 } // namespace Korvex::Proc::FFmpeg

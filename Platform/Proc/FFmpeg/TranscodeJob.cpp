@@ -97,12 +97,13 @@ public:
         std::int64_t const total = m_input->Context().duration;
         ProgressMeter meter(std::chrono::microseconds(total == AV_NOPTS_VALUE ? 0 : total), observer);
         TranscodeReport report;
+        // The stated duration may be far off.
+        bool isEstimate = m_input->Context().duration_estimation_method == AVFMT_DURATION_FROM_BITRATE;
         {
             Conversion conversion(m_settings, *m_input, m_plan, *control);
             report.error = conversion.Run([&](std::chrono::microseconds time) { meter.Advance(time); });
+            isEstimate = isEstimate || conversion.HasClosedJumps();
         }
-        bool const isEstimate = // and may be far off
-            m_input->Context().duration_estimation_method == AVFMT_DURATION_FROM_BITRATE;
         m_input.reset();
         report.warnings = m_plan.warnings;
         for (std::string& warning : control->TakeWarnings())

@@ -1,6 +1,7 @@
 #include "Proc/Drawer/DrawerFixture.h"
 
 #include "Core/FileSystem.h"
+#include "Support/Environment.h"
 
 #include <fontconfig/fontconfig.h>
 
@@ -291,27 +292,19 @@ TEST(SubtitleDrawer, ReadsTheTrackThatTheSettingsName)
 class NoInstalledFonts
 {
 public:
-    NoInstalledFonts() : m_config(testing::TempDir() + "no-fonts.conf")
+    NoInstalledFonts()
+        : m_config(testing::TempDir() + "no-fonts.conf"),
+          m_variable("FONTCONFIG_FILE", m_config.utf8string())
     {
-        if (char const* const usual = std::getenv("FONTCONFIG_FILE"))
-            m_before = usual;
         EXPECT_FALSE(Core::WriteFile(m_config, "<?xml version=\"1.0\"?><fontconfig></fontconfig>", true));
-        setenv("FONTCONFIG_FILE", m_config.utf8string().c_str(), 1);
     }
-    ~NoInstalledFonts()
-    {
-        if (m_before)
-            setenv("FONTCONFIG_FILE", m_before->c_str(), 1);
-        else
-            unsetenv("FONTCONFIG_FILE");
-        Core::RemoveFile(m_config);
-    }
+    ~NoInstalledFonts() { Core::RemoveFile(m_config); }
     NoInstalledFonts(NoInstalledFonts const&) = delete;
     NoInstalledFonts& operator=(NoInstalledFonts const&) = delete;
 
 private:
-    ioPath m_config;
-    std::optional<std::string> m_before;
+    ioPath const m_config;
+    Testing::ScopedVariable const m_variable;
 };
 
 /// The bytes of an installed font.

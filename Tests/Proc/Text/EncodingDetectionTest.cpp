@@ -1,10 +1,10 @@
 #include "Proc/Text/TextDecoder.h"
 
+#include "Support/Environment.h"
 #include "SystemEncoder.h"
 
 #include <gmock/gmock.h>
 
-#include <cstdlib>
 
 namespace Korvex::Proc::Text
 {
@@ -87,8 +87,7 @@ class EncodingDetectionTest : public testing::Test
 {
 protected:
     // The language of the machine must not decide what a test finds.
-    void SetUp() override { setenv("LC_ALL", "C", 1); }
-    void TearDown() override { setenv("LC_ALL", "C.UTF-8", 1); }
+    Testing::ScopedVariable const m_locale{"LC_ALL", "C"};
 };
 
 TEST_F(EncodingDetectionTest, ReadsLongAndShortTextsInEveryEncoding)
@@ -170,7 +169,7 @@ TEST_F(EncodingDetectionTest, HintsAndTheLocaleTipTheScale)
         noise += static_cast<char>(0x80 + (value >> 25));
         noise += i % 5 == 0 ? "\x01 " : "";
     }
-    setenv("LC_ALL", "ru_RU.UTF-8", 1);
+    Testing::ScopedVariable const russian("LC_ALL", "ru_RU.UTF-8");
     auto const fallback = DecodeText(noise, "");
     EXPECT_EQ(fallback->report.source, Source::Fallback);
     EXPECT_EQ(fallback->report.encoding, "CP1251");

@@ -1,6 +1,7 @@
 #include "Cues.h"
 
 #include "Core/FileSystem.h"
+#include "Support/Environment.h"
 
 #include <gmock/gmock.h>
 
@@ -61,7 +62,6 @@ protected:
             }
         }
         ASSERT_GT(m_rows.size(), 50u);
-        setenv("LC_ALL", "C", 1);
     }
 
     [[nodiscard]] Core::Result<std::optional<TextDocument>> Load(Row const& row, std::string const& encoding = {}) const
@@ -78,6 +78,7 @@ protected:
         return row["encoding"].find('(') != std::string::npos || row["path"].find("malformed/") == 0;
     }
 
+    Testing::ScopedVariable const m_locale{"LC_ALL", "C"};
     ioPath m_folder;
     std::vector<Row> m_rows;
 };
