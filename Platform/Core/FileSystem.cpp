@@ -18,21 +18,12 @@ namespace
 
 fs::path Native(ioPath const& path)
 {
-#if defined(_WIN32)
-    static std::locale const UTF8_LOCALE(std::locale(), new boost::filesystem::detail::utf8_codecvt_facet);
-    return fs::path(path.utf8string(), UTF8_LOCALE.template use_facet<fs::path::codecvt_type>());
-#else
-    return fs::path(path.utf8string());
-#endif
+    return {PlatformFile::ToNative(path)};
 }
 
 std::string ToUtf8(fs::path const& path)
 {
-#if defined(_WIN32)
-    return path.string(boost::filesystem::detail::utf8_codecvt_facet());
-#else
-    return path.string();
-#endif
+    return PlatformFile::ToUtf8(path.native());
 }
 
 Error MakeError(ErrorCode code, ioPath const& file, std::string detail = {})
@@ -61,7 +52,18 @@ bool IsDeviceOrPipe(ioPath const& path)
 
 std::error_code Convert(boost::system::error_code const& error)
 {
-    return {error.value(), std::generic_category()};
+    return {error.default_error_condition().value(), std::generic_category()};
+}
+
+/// The beginning of a name, cut between characters.
+std::string Shortened(std::string name, std::size_t mostBytes)
+{
+    if (name.size() <= mostBytes)
+        return name;
+    while (mostBytes > 0 && (static_cast<unsigned char>(name[mostBytes]) & 0xC0U) == 0x80U)
+        --mostBytes;
+    name.resize(mostBytes);
+    return name;
 }
 
 } // namespace
@@ -150,7 +152,7 @@ ioPath MakeTemporaryPath(ioPath const& target)
     static std::atomic<unsigned> counter{0};
     std::string const extension = target.Extension();
     // A long name with our additions could pass the file system's limit of 255 bytes.
-    std::string const stem = target.Stem().substr(0, 180);
+    std::string const stem = Shortened(target.Stem(), 180);
     for (;;)
     {
         std::string const number = std::to_string(PlatformFile::ProcessId()) + "-" + std::to_string(++counter);

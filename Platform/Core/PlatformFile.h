@@ -9,6 +9,15 @@
 namespace Korvex::Core::PlatformFile
 {
 
+#if defined(_WIN32)
+using NativeText = std::wstring;
+#else
+using NativeText = std::string;
+#endif
+
+/// A path as the system's own calls take it.
+NativeText ToNative(ioPath const& path);
+std::string ToUtf8(NativeText const& text);
 /// Writes what the system has buffered of a closed file to the disk.
 std::error_code Synchronize(ioPath const& file);
 /// Gives `from` the name `to` in one step, replacing what is there.

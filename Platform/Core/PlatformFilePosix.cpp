@@ -36,6 +36,16 @@ void SynchronizeFolderOf(ioPath const& file)
 
 } // namespace
 
+NativeText ToNative(ioPath const& path)
+{
+    return path.utf8string();
+}
+
+std::string ToUtf8(NativeText const& text)
+{
+    return text;
+}
+
 std::error_code Synchronize(ioPath const& file)
 {
     return SynchronizeDescriptor(file.utf8string().c_str(), O_RDONLY);
