@@ -202,6 +202,16 @@ ExitCode ConvertReported(Plan const& plan, Plan::Job const& job, Services& servi
         code = ExitCode::Failed;
         sentence = Cli::ToSentence(error.GetError());
     }
+    catch (UsageError const&)
+    {
+        throw;
+    }
+    catch (std::exception const& error)
+    {
+        code = ExitCode::Failed;
+        sentence = "Converting " + Hosts::Quoted(job.input) + " failed (" + error.what() +
+                   "); please report this with the file's kind.";
+    }
     reporter.Failed(sentence, static_cast<int>(code));
     return code;
 }

@@ -31,7 +31,9 @@ QImage ToImage(Proc::RgbaImage const& picture)
     QImage const image(picture.rgba.data(), picture.width, picture.height, picture.width * 4, QImage::Format_RGBA8888);
     double const aspect =
         static_cast<double>(picture.sampleAspectNumerator) / std::max(1, picture.sampleAspectDenominator);
-    if (aspect <= 0.0 || aspect == 1.0)
+    // A shape that no screen has is damage, and would need a picture of any size.
+    constexpr double mostStretch = 16.0;
+    if (aspect == 1.0 || aspect > mostStretch || aspect < 1.0 / mostStretch)
         return image.convertToFormat(QImage::Format_RGB888);
     QSize const size = aspect > 1.0 ? QSize(static_cast<int>(std::lround(picture.width * aspect)), picture.height)
                                     : QSize(picture.width, static_cast<int>(std::lround(picture.height / aspect)));
