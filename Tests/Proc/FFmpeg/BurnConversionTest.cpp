@@ -283,6 +283,45 @@ TEST(BurnConversionTest, TextCountsFromTheFilmsOwnStart)
     EXPECT_EQ(CountInk(LumaOf(Render(folder / "in.ts", text, milliseconds(1700)))), 0);
 }
 
+TEST(BurnConversionTest, SubtitlesStayWithThePictureWhereTheClockJumps)
+{
+    TemporaryFolder const folder;
+    MadeMedia film;
+    film.formatId = "mpegts";
+    film.video = MakeDarkVideo("yuv420p");
+    film.audios.resize(1);
+    film.subtitles.resize(1);
+    film.subtitles[0].codecId = "dvb_subtitle";
+    film.subtitles[0].cues = {{milliseconds(500), milliseconds(1500), {}, 60, 120, 200, 40, 0xFFFFFFFFU}};
+    std::string recording;
+    for (std::chrono::hours const start : {std::chrono::hours(1), std::chrono::hours(3)})
+    {
+        film.startTime = start;
+        MakeMedia(folder / "part.ts", film);
+        recording += Core::ReadFile(folder / "part.ts", 1 << 28).Value();
+    }
+    ASSERT_FALSE(Core::WriteFile(folder / "in.ts", recording, false));
+    Proc::SettingsTranscode settings = BurnSettings(folder / "in.ts", folder / "out.mp4", "mp4", {});
+    Proc::SettingsSubtitleMixer mixer;
+    mixer.SetSubtitleStreamIndex(2);
+    settings.mixer = std::make_shared<Proc::SettingsSubtitleMixer>(mixer);
+    Conversion const done = Convert(settings);
+    ASSERT_TRUE(done.Succeeded()) << done.Words();
+    EXPECT_TRUE(done.report.warnings.empty()) << done.report.warnings.front();
+    for (auto const& picture : DecodePictures(folder / "out.mp4"))
+    {
+        auto const time = milliseconds(picture->pts / 1000) % milliseconds(2000);
+        if (time < milliseconds(400) || time > milliseconds(1600))
+        {
+            EXPECT_EQ(CountInk(Testing::LumaOf(*picture)), 0) << picture->pts;
+        }
+        if (time > milliseconds(600) && time < milliseconds(1400))
+        {
+            EXPECT_GT(CountInk(Testing::LumaOf(*picture)), 1000) << picture->pts;
+        }
+    }
+}
+
 TEST(BurnConversionTest, CancellingEndsSoonOnceAndLeavesNothing)
 {
     TemporaryFolder const folder;

@@ -187,11 +187,12 @@ TEST_F(ExportTest, WhatMovTextCannotHoldIsCounted)
 {
     ioPath const srt = Write("long.srt", "1\n00:00:01,000 --> 00:00:02,000\n" + std::string(70000, 'x') +
                                              "\n\n2\n00:00:03,000 --> 00:00:04,000\nHello\n\n"
-                                             "3\n999:00:00,000 --> 999:00:01,000\nLate\n");
+                                             "3\n999:00:00,000 --> 999:00:01,000\nLate\n\n"
+                                             "4\n00:00:05,000 --> 00:00:05,000\nNever\n");
     Core::Result<ExportedSubtitle> const prepared = PrepareSubtitle(FileOf(srt), {"mov_text"}, m_folder.Path(), "w");
     ASSERT_TRUE(prepared) << Core::ToSentence(prepared.GetError());
     EXPECT_EQ(prepared->cueCount, 1U);
-    EXPECT_EQ(prepared->leftOutCues, 2U);
+    EXPECT_EQ(prepared->leftOutCues, 3U);
     EXPECT_EQ(Load<TextDocument>(prepared->path).cues.at(0).text, "Hello");
 }
 

@@ -172,6 +172,7 @@ TEST_F(ParserTest, ASubtitleFileIsOneStreamOfTheRightCodecWhateverItsName)
     EXPECT_EQ(CodecByParser(Write("a.ssa", SCRIPT_V4)), "ssa");
     EXPECT_EQ(CodecByParser(Write("a.smi", SAMI)), "sami");
     EXPECT_EQ(CodecByParser(Write("a.vtt", VTT)), "webvtt");
+    EXPECT_EQ(CodecByParser(Write("a.sub", "{25}{50}One\n{75}{100}Two\n")), "microdvd") << "two cues are enough";
     EXPECT_EQ(CodecByParser(Write("script named.srt", SCRIPT)), "ass");
     EXPECT_EQ(CodecByParser(Write("a:b%d #1.srt", SRT)), "subrip") << "a name that looks like a protocol or a pattern";
     EXPECT_EQ(CodecByParser(m_folder / "missing.srt"), "no parser");
