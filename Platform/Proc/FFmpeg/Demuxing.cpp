@@ -125,7 +125,8 @@ bool Demuxing::Copy(Stream& stream, AVPacket const& packet)
 {
     Packet copy = Reference(packet);
     stream.clock->Complete(*copy);
-    if (stream.route.dropsLeadIn && copy->pts + copy->duration <= 0)
+    // Where durations are not stated (TrueHD in Matroska), the packet at zero has none but belongs to the film.
+    if (stream.route.dropsLeadIn && copy->pts < 0 && copy->pts + copy->duration <= 0)
         return true;
     if (!stream.route.filter)
         return PushCopies(stream, *copy);
