@@ -7,7 +7,10 @@ namespace Korvex::Converter::Subtitles::Entities
 
 bool IsRestylableSubtitleCodec(std::string const& codecId)
 {
-    static std::set<std::string> const CODECS = {"subrip", "sami", "text", "mov_text", "webvtt"};
+    static std::set<std::string> const CODECS = {"subrip", "sami", "text", "mov_text", "webvtt",
+                                                 // Formats of files only, which the core draws alike.
+                                                 "jacosub", "microdvd", "mpl2", "pjs", "realtext", "stl", "subviewer",
+                                                 "subviewer1", "vplayer"};
     return CODECS.count(codecId) != 0;
 }
 

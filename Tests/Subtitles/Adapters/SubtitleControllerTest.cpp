@@ -71,6 +71,7 @@ TEST_F(SubtitleControllerTest, EntitiesKnowTheCoresCodecNames)
         EXPECT_TRUE(Entities::IsRestylableSubtitleCodec(codec) && Entities::IsTextSubtitleCodec(codec)) << codec;
     for (std::string const& codec : {Id::CODEC_ID_ASS, Id::CODEC_ID_SSA})
         EXPECT_TRUE(!Entities::IsRestylableSubtitleCodec(codec) && Entities::IsTextSubtitleCodec(codec)) << codec;
+    EXPECT_TRUE(Entities::IsRestylableSubtitleCodec("microdvd"));
     EXPECT_FALSE(Entities::IsTextSubtitleCodec(Id::CODEC_ID_HDMV_PGS_SUBTITLE));
 }
 
