@@ -66,26 +66,7 @@ protected:
     std::shared_ptr<Entities::ISubtitleCollectionInteractor> m_first;
 };
 
-TEST_F(EditingRoundTripTest, EditsReachTheBurnInSettings)
-{
-    m_panel->UserSelects(SubtitleTrackID(10u));
-    m_panel->UserSetsShift(12);
-    m_panel->UserSetsOffset(-1.5);
-    m_panel->UserSetsTextColor(Qt::red);
-    m_panel->UserSetsAlign(SubtitleAlign::Top);
-
-    auto const settings = ReadCoreSettings(m_first->GetSubtitleCollection());
-    EXPECT_EQ(settings.soft, nullptr);
-    ASSERT_NE(settings.mixer, nullptr);
-    EXPECT_EQ(settings.mixer->GetSubtitleStreamIndex(), 10u);
-    auto const& drawer = settings.mixer->GetDrawerSettings();
-    EXPECT_EQ(drawer.GetMoveUp(), 12);
-    EXPECT_EQ(drawer.GetTimeShift(), -1500000);
-    EXPECT_EQ(drawer.GetVerticalAligment(), Proc::AlignmentVertical::Top);
-    EXPECT_EQ(drawer.GetAssRendererSettings().GetPrimaryColour().green, 0);
-}
-
-TEST_F(EditingRoundTripTest, TogglingTheChoiceChangesNothingElse)
+TEST_F(EditingRoundTripTest, EditsReachTheSettingsAndTogglingKeepsThem)
 {
     m_panel->UserSelects(SubtitleTrackID(2u));
     m_panel->UserSetsShift(12);
@@ -93,6 +74,13 @@ TEST_F(EditingRoundTripTest, TogglingTheChoiceChangesNothingElse)
     m_panel->UserSetsTextColor(Qt::red);
     m_panel->UserSetsAlign(SubtitleAlign::Bottom);
     SubtitleCollection const before = m_first->GetSubtitleCollection();
+    auto const burned = ReadCoreSettings(before).mixer;
+    ASSERT_NE(burned, nullptr);
+    EXPECT_EQ(burned->GetSubtitleStreamIndex(), 2u);
+    EXPECT_EQ(burned->GetDrawerSettings().GetMoveUp(), 12);
+    EXPECT_EQ(burned->GetDrawerSettings().GetTimeShift(), -1500000);
+    EXPECT_EQ(burned->GetDrawerSettings().GetVerticalAligment(), Proc::AlignmentVertical::Bottom);
+    EXPECT_EQ(burned->GetDrawerSettings().GetAssRendererSettings().GetPrimaryColour().green, 0);
 
     m_panel->UserSelectsNone();
     EXPECT_EQ(m_panel->shift, 0) << "defaults are shown";

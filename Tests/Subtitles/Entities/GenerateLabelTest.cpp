@@ -17,12 +17,7 @@ SubtitleTrack MakeTrack(std::string title, std::string language, std::string det
 
 TEST(GenerateLabelTest, JoinsWhatIsKnown)
 {
-    struct Case
-    {
-        SubtitleTrack track;
-        std::string label;
-    };
-    Case const cases[] = {
+    std::pair<SubtitleTrack, std::string> const cases[] = {
         {MakeTrack("Movie.srt", "en", "", "SubRip"), "Movie.srt [English] (SubRip)"},
         {MakeTrack("", "", "", ""), "Subtitles #3"},
         {MakeTrack("", "", "", "SubRip"), "Subtitles #3 (SubRip)"},
@@ -33,8 +28,8 @@ TEST(GenerateLabelTest, JoinsWhatIsKnown)
         {MakeTrack("100% %1%", "", "", ""), "100% %1%"},
         {MakeTrack("Фильм\xC2\xA0II", "ru", "", ""), "Фильм\xC2\xA0II [Russian]"},
     };
-    for (Case const& c : cases)
-        EXPECT_EQ(GenerateLabel(c.track), c.label);
+    for (auto const& [track, label] : cases)
+        EXPECT_EQ(GenerateLabel(track), label);
     EXPECT_EQ(GenerateLabel(SubtitleTrack()), "Subtitles #4294967295");
 }
 

@@ -89,14 +89,11 @@ public:
     void UnregisterEventHandler(Observer* observer) override { m_observers.UnregisterEventHandler(observer); }
     bool IsAvailable() const override { return true; }
     UseCases::SearchRequest MakeQuery(Entities::SubtitleSearchMediaInfoSettings const&) const override { return {}; }
-    Status StartSearch(Entities::SubtitleCollectionID, UseCases::SearchRequest const&) override
-    {
-        return UseCases::IOnlineSearchController::Success;
-    }
+    Status StartSearch(Entities::SubtitleCollectionID, UseCases::SearchRequest const&) override { return {}; }
     Status Download(Entities::SubtitleCollectionID, std::vector<std::shared_ptr<UseCases::SearchResult>> const&,
                     ioPath const&) override
     {
-        return UseCases::IOnlineSearchController::Success;
+        return {};
     }
     bool Cancel() override { return false; }
 

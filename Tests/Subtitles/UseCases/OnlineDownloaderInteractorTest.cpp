@@ -1,24 +1,9 @@
 #include "Subtitles/UseCases/OnlineDownloaderInteractor.h"
-#include "Subtitles/Entities/SearchTags.h"
-#include "Subtitles/Entities/SubtitleSearchMediaInfoSettings.h"
-#include "Subtitles/UseCases/IOnlineDownloaderController.h"
 
 namespace Korvex::Converter::Subtitles::UseCases
 {
 namespace
 {
-
-using Entities::SearchTags;
-using Tags = std::map<std::string, std::string>;
-
-class FakeFiles final : public IOnlineDownloaderController
-{
-public:
-    std::optional<MediaFingerprint> DetermineFingerprint(ioPath const& path) const override
-    {
-        return path.empty() ? std::nullopt : std::make_optional(MediaFingerprint{"00000000000000ff", 200000});
-    }
-};
 
 class FakeService final : public IOnlineSearchController
 {
@@ -65,7 +50,7 @@ protected:
 
 TEST_F(OnlineDownloaderInteractorTest, ReportsToTheFilmThatAsked)
 {
-    OnlineDownloaderInteractor interactor(std::make_shared<FakeFiles>(), {m_service}, {});
+    OnlineDownloaderInteractor interactor(nullptr, {m_service}, {});
     interactor.RegisterEventHandler(this);
     m_service->observers.Notify([](auto* observer) { observer->OnOperationFinished(); });
     EXPECT_TRUE(m_events.empty()) << "nobody asked here";
@@ -86,29 +71,10 @@ TEST_F(OnlineDownloaderInteractorTest, ReportsToTheFilmThatAsked)
 
 TEST_F(OnlineDownloaderInteractorTest, SaysThatNoServiceIsSetUp)
 {
-    OnlineDownloaderInteractor interactor(std::make_shared<FakeFiles>(), {}, {});
+    OnlineDownloaderInteractor interactor(nullptr, {}, {});
     interactor.RegisterEventHandler(this);
     EXPECT_EQ(interactor.StartSearch(m_film, {}), IOnlineSearchController::UnsupportedSearch);
     EXPECT_EQ(m_events, std::vector<std::string>{"failed 6 with a sentence"});
-}
-
-TEST_F(OnlineDownloaderInteractorTest, AsksByTheBestThatIsKnown)
-{
-    OnlineDownloaderInteractor const plain(std::make_shared<FakeFiles>(), {}, {});
-    Entities::SubtitleSearchMediaInfoSettings media;
-    EXPECT_EQ(plain.MakeQuery(media).tags, Tags{});
-    media.path = "film.mkv";
-    EXPECT_EQ(plain.MakeQuery(media).tags,
-              (Tags{{SearchTags::MOVIE_HASH_OS, "00000000000000ff"}, {SearchTags::MOVIE_BYTE_SIZE, "200000"}}));
-    media.title = "Film";
-    media.season = 2;
-    media.episode = 5;
-    media.year = 1999;
-    EXPECT_EQ(plain.MakeQuery(media).tags,
-              (Tags{{SearchTags::TITLE, "Film"}, {SearchTags::SEASON_NUMBER, "2"}, {SearchTags::EPISODE_NUMBER, "5"}}));
-    media.imdbId = "tt0133093";
-    media.episode.reset();
-    EXPECT_EQ(plain.MakeQuery(media).tags, (Tags{{SearchTags::IMDB_ID, "tt0133093"}}));
 }
 
 } // namespace

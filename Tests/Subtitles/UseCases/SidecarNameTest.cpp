@@ -17,12 +17,7 @@ std::string Read(SidecarName const& film, std::string const& stem)
 
 TEST(SidecarNameTest, ReadsLanguageAndMarks)
 {
-    struct Case
-    {
-        char const* stem;
-        char const* expected;
-    };
-    Case const cases[] = {
+    std::pair<char const*, char const*> const cases[] = {
         {"Movie", ""},
         {"movie", ""},
         {"Movie.en", "en"},
@@ -52,8 +47,8 @@ TEST(SidecarNameTest, ReadsLanguageAndMarks)
         {"Other.en", "-"},
     };
     SidecarName const film("Movie");
-    for (Case const& c : cases)
-        EXPECT_EQ(Read(film, c.stem), c.expected) << c.stem;
+    for (auto const& [stem, expected] : cases)
+        EXPECT_EQ(Read(film, stem), expected) << stem;
 }
 
 TEST(SidecarNameTest, SeesThroughLetterCaseAndComposedAccents)
