@@ -8,6 +8,7 @@
 #include "Common/SessionError.h"
 
 #include "Core/FileSystem.h"
+#include "Proc/MediaInfo.h"
 #include "Proc/Preview.h"
 #include "Proc/Settings.h"
 #include "Transcoder/Preset.h"
@@ -16,8 +17,10 @@
 #include <QByteArray>
 #include <QImage>
 
+#include <algorithm>
 #include <cmath>
 #include <ostream>
+#include <stdexcept>
 
 namespace Korvex::Cli
 {
@@ -92,6 +95,10 @@ ExitCode PreviewCommand::Run(Arguments const& arguments, Console& console)
     Services services;
     Hosts::MediaItemSession session(services);
     session.Open(input, {}, choice);
+    auto const& streams = session.GetMediaInfo().streams;
+    if (std::none_of(streams.begin(), streams.end(),
+                     [](Proc::StreamInfo const& stream) { return stream.kind == Proc::StreamKind::Video; }))
+        throw std::runtime_error("The file \"" + input.utf8string() + "\" has no picture to show; choose a video.");
     if (auto const refused = Core::CheckOutput(output, {input}, overwrite))
         throw Hosts::FileError(*refused);
     // Streams that can be switched are not in the picture, so nothing has to be made ready for them.

@@ -224,7 +224,7 @@ void CheckModes(Arguments const& arguments)
     }
 }
 
-void CheckEffects(Arguments const& arguments, SubtitleOutput output)
+void CheckEffects(Arguments const& arguments, SubtitleOutput output, SubtitlePurpose purpose)
 {
     if (output == SubtitleOutput::Burn)
     {
@@ -237,6 +237,8 @@ void CheckEffects(Arguments const& arguments, SubtitleOutput output)
               {"--font", "--font-size", "--bold", "--italic", "--underline", "--strike-out", "--text-color",
                "--outline-color", "--align", "--shift"},
               reason);
+    if (purpose == SubtitlePurpose::Preview)
+        RefuseAny(arguments, {"--encoding", "--offset", "--no-prepare"}, "on a picture " + reason);
     if (output == SubtitleOutput::None)
         RefuseAny(arguments, {"--tracks", "--add", "--encoding", "--offset", "--no-prepare"}, reason);
 }
@@ -255,7 +257,7 @@ SubtitleChoice ReadSubtitleOptions(Arguments const& arguments, SubtitlePurpose p
     bool const isModeNamed = arguments.Find("--soft") || arguments.Find("--burn") || arguments.Find("--no-subtitles");
     if (!isModeNamed && purpose == SubtitlePurpose::Preview)
         choice.output = choice.added.empty() ? SubtitleOutput::Soft : SubtitleOutput::Burn;
-    CheckEffects(arguments, choice.output);
+    CheckEffects(arguments, choice.output, purpose);
     return choice;
 }
 

@@ -122,6 +122,9 @@ TEST_F(InspectTest, PreviewDrawsTheChosenTrackWhereItIsTold)
     auto const exists = RunCli({"preview", Path("film.mkv"), "--at", "0", "-o", Path("plain.png")});
     EXPECT_EQ(exists.exitCode, 1);
     EXPECT_THAT(exists.err, HasSubstr("--overwrite"));
+    auto const text = RunCli({"preview", Path("film.uk.srt"), "--at", "0", "-o", Path("text.png")});
+    EXPECT_EQ(text.exitCode, 1);
+    EXPECT_THAT(text.err, HasSubstr("has no picture to show"));
 }
 
 TEST_F(InspectTest, ExtractSavesTracksOfTheFilmAndBesideIt)

@@ -67,6 +67,7 @@ TEST(UsageTest, WrongCommandLinesEndWithCode2AndASentenceThatSaysWhatIsWrong)
         {{"preview", "a.mkv", "--at", "1:75", "-o", "b.png"}, "1:02:03.5"},
         {{"preview", "a.mkv", "--at", "1", "-o", "b.jpg"}, "end in .png"},
         {{"preview", "a.mkv", "--at", "1", "-o", "b.png", "--font", "Serif"}, "--font has no effect without --burn"},
+        {{"preview", "a.mkv", "--at", "1", "-o", "b.png", "--offset", "2"}, "no effect on a picture without --burn"},
         {{"extract", "a.mkv", "-o", "b.srt"}, "--track ID"},
         {{"extract", "a.mkv", "b.mkv", "--track", "2", "-o", "b.srt"}, "exactly one input"},
     };
