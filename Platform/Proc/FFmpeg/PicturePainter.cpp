@@ -41,6 +41,15 @@ void Normalise(AVFrame& frame, PictureShape const& shape)
     }
 }
 
+/// Where nothing states the matrix the size tells it, which turning changes: what it was is stated then, so that the
+/// drawer, the preview and players keep the colours of the stored picture.
+void KeepMatrix(AVFrame const& source, AVFrame& turned)
+{
+    YuvMatrix const matrix = DescribeColor(source).matrix;
+    if (DescribeColor(turned).matrix != matrix)
+        turned.colorspace = matrix == YuvMatrix::Bt709 ? AVCOL_SPC_BT709 : AVCOL_SPC_SMPTE170M;
+}
+
 } // namespace
 
 PictureGeometry PictureShape::Geometry() const
@@ -108,6 +117,7 @@ Frame PicturePainter::ToUpright(Frame source)
     CopyProperties(*source, *upright);
     RotatePlanes(*source, m_shape.orientation, *upright);
     RotateProperties(*upright, m_shape.orientation);
+    KeepMatrix(*source, *upright);
     return upright;
 }
 

@@ -194,6 +194,25 @@ TEST(BurnConversionTest, TurnedPicturesStandUprightWithTheTextAtTheirFoot)
     }
 }
 
+TEST(BurnConversionTest, TurningKeepsTheColoursThatTheStoredSizeImplies)
+{
+    TemporaryFolder const folder;
+    ioPath const text = WriteSubtitles(folder);
+    MadeMedia film;
+    film.formatId = "mp4";
+    film.video.emplace();
+    film.video->width = 640; // upright it is higher than what is taken for standard definition
+    film.video->height = 96;
+    film.video->frameCount = 5;
+    film.video->rotationDegrees = 90;
+    MakeMedia(folder / "in.mp4", film);
+    Proc::SettingsTranscode const settings = BurnSettings(folder / "in.mp4", folder / "out.mp4", "mp4", text);
+    Conversion const done = Convert(settings);
+    ASSERT_TRUE(done.Succeeded()) << done.Words();
+
+    EXPECT_EQ(ReadFilm(folder / "out.mp4").Stream(0).codecpar->color_space, AVCOL_SPC_SMPTE170M);
+}
+
 TEST(BurnConversionTest, FieldsAndHdrDescriptionSurvive)
 {
     TemporaryFolder const folder;
