@@ -247,7 +247,12 @@ public:
             return failed;
         auto drawer = MakeSubtitleDrawer(settings->GetDrawerSettings(), *m_document, m_shape.Geometry());
         if (!drawer)
-            return drawer.GetError();
+        {
+            Core::Error error = drawer.GetError();
+            if (error.file.empty())
+                error.file = settings->GetSubtitleStreamIndex() ? m_file.Path() : settings->GetFilename();
+            return error;
+        }
         m_painter.emplace(m_shape, *drawer);
         return Core::SUCCESS;
     }
