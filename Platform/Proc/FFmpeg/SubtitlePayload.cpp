@@ -71,15 +71,17 @@ bool HasNoDuration(TextCue const& cue)
 void AddReadingWarnings(TextDocument const& document, ioPath const& path, std::vector<std::string>& warnings)
 {
     std::string const file = "\"" + path.utf8string() + "\"";
-    if (document.decoding.replacedBytes > 0)
-        warnings.push_back(std::to_string(document.decoding.replacedBytes) + " bytes of " + file + " are not valid " +
-                           document.decoding.encoding + " and show as a replacement character.");
-    if (document.skippedCues > 0)
-        warnings.push_back(std::to_string(document.skippedCues) + " cues of " + file +
-                           " have no usable times and were left out.");
-    if (auto const count = std::count_if(document.cues.begin(), document.cues.end(), HasNoDuration); count > 0)
-        warnings.push_back(std::to_string(count) + " cues of " + file +
-                           " are shown for no time at all and were left out.");
+    auto counted = [&](std::size_t count, char const* noun)
+    { return std::to_string(count) + " " + noun + (count == 1 ? " of " : "s of ") + file; };
+    auto leftOut = [](std::size_t count) { return count == 1 ? " and was left out." : " and were left out."; };
+    if (std::size_t const bytes = document.decoding.replacedBytes; bytes > 0)
+        warnings.push_back(counted(bytes, "byte") + " did not decode as " + document.decoding.encoding +
+                           " and show as \"\xEF\xBF\xBD\"; check the encoding.");
+    if (std::size_t const cues = document.skippedCues; cues > 0)
+        warnings.push_back(counted(cues, "cue") + " had no usable times" + leftOut(cues));
+    auto const moments = std::count_if(document.cues.begin(), document.cues.end(), HasNoDuration);
+    if (auto const cues = static_cast<std::size_t>(moments); cues > 0)
+        warnings.push_back(counted(cues, "cue") + " had no duration" + leftOut(cues));
 }
 
 /// Fills in what a demuxer of subtitles may leave open and counts from the file's beginning. False for a packet
