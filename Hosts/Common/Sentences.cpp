@@ -72,6 +72,17 @@ void DescribeDamage(ioPath const& file, Proc::TextDocument const& document, std:
                             " had no usable times and " + (cues == 1 ? "was" : "were") + " left out.");
 }
 
+void DescribeClasses(ioPath const& file, Proc::TextDocument const& document, std::vector<std::string>& sentences)
+{
+    if (document.omittedSamiClasses.empty())
+        return;
+    std::string others;
+    for (std::string const& name : document.omittedSamiClasses)
+        others += (others.empty() ? "" : ", ") + name;
+    sentences.push_back("The file " + Quoted(file) + " holds several texts, one for each language: " +
+                        document.samiClass + " was taken, " + others + " left out.");
+}
+
 } // namespace
 
 std::vector<std::string> DescribeReading(ioPath const& file, Proc::TextDocument const& document, DamageReport damage)
@@ -80,6 +91,7 @@ std::vector<std::string> DescribeReading(ioPath const& file, Proc::TextDocument 
     DescribeEncoding(file, document.decoding, sentences);
     if (damage == DamageReport::Here)
         DescribeDamage(file, document, sentences);
+    DescribeClasses(file, document, sentences);
     if (document.cues.empty())
         sentences.push_back("The subtitle file " + Quoted(file) + " holds no cues.");
     return sentences;

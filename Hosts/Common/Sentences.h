@@ -32,8 +32,8 @@ enum class DamageReport
     ByConversion, ///< the conversion reads the file itself and warns of them
 };
 
-/// What is worth knowing about how a subtitle file was read: an encoding that had to be guessed, damage, no cues at
-/// all. Empty when everything is as expected.
+/// What is worth knowing about how a subtitle file was read: an encoding that had to be guessed, damage, texts
+/// that were left out, no cues at all. Empty when everything is as expected.
 [[nodiscard]] std::vector<std::string> DescribeReading(ioPath const& file, Proc::TextDocument const& document,
                                                        DamageReport damage);
 

@@ -77,7 +77,9 @@ struct TextDocument
     std::vector<TextCue> cues; ///< in the order of the source, which decides who lies on top
     std::vector<FontAttachment> fonts;
     TextDecodeReport decoding;
-    std::size_t skippedCues = 0; ///< cues of the source that made no sense (no usable times)
+    std::size_t skippedCues = 0;                 ///< cues of the source that made no sense (no usable times)
+    std::string samiClass;                       ///< SAMI only: the class that was read, as the file writes it
+    std::vector<std::string> omittedSamiClasses; ///< classes with text that was left out because another one was read
 
     [[nodiscard]] bool HasOwnLook() const { return !scriptHeader.empty(); }
 };

@@ -268,6 +268,21 @@ std::string ChooseClass(std::vector<Paragraph> const& paragraphs, std::string co
     return first == paragraphs.end() ? std::string() : first->samiClass;
 }
 
+/// The other classes in which somebody would miss text.
+std::vector<std::string> FindOmittedClasses(std::vector<Paragraph> const& paragraphs, std::string const& chosen)
+{
+    std::vector<std::string> omitted = CollectClasses(paragraphs);
+    auto isNotMissed = [&](std::string const& name)
+    {
+        return EqualsIgnoreCase(name, chosen) ||
+               std::none_of(paragraphs.begin(), paragraphs.end(),
+                            [&](Paragraph const& paragraph)
+                            { return EqualsIgnoreCase(paragraph.samiClass, name) && HasVisibleText(paragraph.text); });
+    };
+    omitted.erase(std::remove_if(omitted.begin(), omitted.end(), isNotMissed), omitted.end());
+    return omitted;
+}
+
 /// Joins paragraphs of one time, so that what stays is one entry a point of time, in the order of the file.
 std::vector<Paragraph> SelectClass(std::vector<Paragraph>& paragraphs, std::string const& samiClass)
 {
@@ -321,7 +336,9 @@ TextDocument ReadSami(std::string_view utf8, std::string const& samiClass)
     document.codecId = Conf::IFormatCodecSubtitle::CODEC_ID_SAMI;
     document.markup = TextMarkup::Sami;
     auto paragraphs = Scanner(utf8).Scan();
-    auto const selected = SelectClass(paragraphs, ChooseClass(paragraphs, samiClass));
+    document.samiClass = ChooseClass(paragraphs, samiClass);
+    document.omittedSamiClasses = FindOmittedClasses(paragraphs, document.samiClass);
+    auto const selected = SelectClass(paragraphs, document.samiClass);
     auto const ends = FindEnds(selected);
     for (std::size_t i = 0; i < selected.size(); ++i)
     {

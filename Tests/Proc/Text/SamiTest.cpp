@@ -23,6 +23,9 @@ TEST(SamiTest, ReadsTheClassAskedFor)
     EXPECT_EQ(CuesOf(ReadSami(TWO_CLASSES)), (Cues{{1000, 2000, "Hello"}, {4000, 9000, "Bye"}}));
     EXPECT_EQ(CuesOf(ReadSami(TWO_CLASSES, "decc")), (Cues{{1000, 2500, "Hallo"}}));
     EXPECT_TRUE(ReadSami(TWO_CLASSES, "FRCC").cues.empty());
+    EXPECT_EQ(ReadSami(TWO_CLASSES).samiClass, "ENCC");
+    EXPECT_THAT(ReadSami(TWO_CLASSES).omittedSamiClasses, ElementsAre("DECC"));
+    EXPECT_THAT(ReadSami(TWO_CLASSES, "decc").omittedSamiClasses, ElementsAre("ENCC"));
     EXPECT_EQ(ReadSami(TWO_CLASSES).codecId, "sami");
 }
 
@@ -30,6 +33,7 @@ TEST(SamiTest, ReadsTheFirstClassThatHasText)
 {
     EXPECT_EQ(CuesOf(ReadSami("<SYNC Start=1><P Class=A>&nbsp;<P Class=B>b<SYNC Start=5><P Class=B>&nbsp;")),
               (Cues{{1, 5, "b"}}));
+    EXPECT_TRUE(ReadSami("<SYNC Start=1><P Class=A>&nbsp;<P Class=B>b").omittedSamiClasses.empty());
 }
 
 TEST(SamiTest, RepairsWhatEditorsLeaveBehind)
