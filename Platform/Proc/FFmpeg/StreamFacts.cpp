@@ -7,6 +7,7 @@
 extern "C"
 {
 #include <libavutil/display.h>
+#include <libavutil/parseutils.h>
 }
 
 #include <algorithm>
@@ -107,6 +108,16 @@ void DescribePicture(AVFormatContext& context, AVStream& stream, StreamInfo& inf
         info.framesPerSecond = av_q2d(rate);
 }
 
+/// What a stream states of its own duration; Matroska does it in a tag. Zero when it does not.
+microseconds StatedDuration(AVStream const& stream)
+{
+    if (stream.duration != AV_NOPTS_VALUE && stream.duration > 0)
+        return microseconds(av_rescale_q(stream.duration, stream.time_base, AV_TIME_BASE_Q));
+    AVDictionaryEntry const* tag = av_dict_get(stream.metadata, "DURATION", nullptr, AV_DICT_IGNORE_SUFFIX);
+    std::int64_t duration = 0;
+    return microseconds(tag && av_parse_time(&duration, tag->value, 1) >= 0 ? duration : 0);
+}
+
 microseconds DurationOf(AVFormatContext const& context, AVStream const& stream)
 {
     AVMediaType const type = stream.codecpar->codec_type;
@@ -196,6 +207,22 @@ StreamInfo DescribeStream(InputFile const& file, std::uint32_t index)
     if (info.kind == StreamKind::Video)
         DescribePicture(context, stream, info);
     return info;
+}
+
+microseconds PlayingTime(AVFormatContext const& file)
+{
+    microseconds const whole(std::max<std::int64_t>(file.duration, 0));
+    microseconds longest{0};
+    for (unsigned i = 0; i < file.nb_streams; ++i)
+    {
+        AVStream const& stream = *file.streams[i];
+        AVMediaType const type = stream.codecpar->codec_type;
+        bool const isPlayed = (type == AVMEDIA_TYPE_VIDEO && !(stream.disposition & AV_DISPOSITION_ATTACHED_PIC)) ||
+                              type == AVMEDIA_TYPE_AUDIO;
+        if (isPlayed)
+            longest = std::max(longest, StatedDuration(stream));
+    }
+    return longest.count() > 0 ? std::min(longest, whole) : whole;
 }
 
 MediaInfo DescribeFile(InputFile const& file)

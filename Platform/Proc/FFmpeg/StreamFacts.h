@@ -11,6 +11,10 @@ namespace Korvex::Proc::FFmpeg
 [[nodiscard]] MediaInfo DescribeFile(InputFile const& file);
 [[nodiscard]] StreamInfo DescribeStream(InputFile const& file, std::uint32_t index);
 
+/// How long picture and sound last: subtitles that go on after them count only where nothing is known of those. Zero
+/// when the file says nothing.
+[[nodiscard]] std::chrono::microseconds PlayingTime(AVFormatContext const& file);
+
 /// FFmpeg's name of a codec; empty for none.
 [[nodiscard]] std::string CodecName(AVCodecID codec);
 [[nodiscard]] bool IsTextSubtitle(AVCodecID codec);

@@ -1,4 +1,5 @@
 #include "Proc/FFmpeg/Conversion.h"
+#include "Proc/FFmpeg/StreamFacts.h"
 
 #include "Core/FileSystem.h"
 #include "Proc/Settings.h"
@@ -94,8 +95,7 @@ public:
 
     void Run(ITranscodeObserver& observer)
     {
-        std::int64_t const total = m_input->Context().duration;
-        ProgressMeter meter(std::chrono::microseconds(total == AV_NOPTS_VALUE ? 0 : total), observer);
+        ProgressMeter meter(PlayingTime(m_input->Context()), observer);
         TranscodeReport report;
         // The stated duration may be far off.
         bool isEstimate = m_input->Context().duration_estimation_method == AVFMT_DURATION_FROM_BITRATE;

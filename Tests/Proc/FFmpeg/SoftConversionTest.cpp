@@ -312,6 +312,18 @@ TEST(SoftConversionTest, AFilmThatBreaksOffConvertsAsFarAsItGoesAndSaysSo)
     EXPECT_GT(ReadFilm(folder / "b.mp4").PacketsOf(0).size(), 60U);
 }
 
+TEST(SoftConversionTest, SubtitlesThatGoOnAfterThePictureAreNoEarlyEnd)
+{
+    TemporaryFolder const folder;
+    MadeMedia film = MakeFilm();
+    film.subtitles.push_back(MakeSubtitle("subrip", "eng"));
+    film.subtitles[0].cues.back().end = std::chrono::seconds(30);
+    MakeMedia(folder / "in.mkv", film);
+    Conversion const done = Convert(SoftSettings(folder / "in.mkv", folder / "out.mkv", "matroska", {}));
+    ASSERT_TRUE(done.Succeeded()) << done.Words();
+    EXPECT_TRUE(done.report.warnings.empty()) << done.report.warnings[0];
+}
+
 #if !defined(_WIN32)
 TEST(SoftConversionTest, AFullDiskIsSaidAndLeavesNothingBehind)
 {
