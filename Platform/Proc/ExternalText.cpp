@@ -95,7 +95,11 @@ Core::Result<std::optional<ExternalText>> LoadByDemuxer(ioPath const& path, std:
         return bytes.GetError();
     Core::Result<Text::DecodedText> decoded = Text::DecodeText(*bytes, encoding);
     if (!decoded)
-        return decoded.GetError();
+    {
+        Core::Error error = decoded.GetError();
+        error.file = path;
+        return error;
+    }
     ExternalText text;
     Core::Result<TextDocument> document = FFmpeg::ReadForeignText(decoded->utf8, path, text.formatId);
     if (!document)

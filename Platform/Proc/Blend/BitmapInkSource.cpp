@@ -19,6 +19,11 @@ constexpr std::array<char const*, 3> CODED_PICTURE_CODECS{"dvd_subtitle", "dvb_s
 /// Shapes that differ by less than this are one shape, cut by a few lines for the coder's sake.
 constexpr double SHAPE_TOLERANCE = 0.02;
 
+/// What is larger than so many pictures lies on a canvas of a wrong size, and would need any amount of memory.
+constexpr int MOST_PICTURES = 4;
+/// Far outside of every picture.
+constexpr double FARTHEST = 1'000'000;
+
 /// From canvas to picture.
 struct Mapping
 {
@@ -110,18 +115,22 @@ Mapping BitmapInkSource::MapCanvas(BitmapCue const& cue) const
 std::vector<BitmapInkSource::Placed> BitmapInkSource::Place(BitmapCue const& cue) const
 {
     Mapping const mapping = MapCanvas(cue);
-    auto const column = [&](int x) { return static_cast<int>(std::lround(x * mapping.scaleX + mapping.offsetX)); };
-    auto const row = [&](int y) { return static_cast<int>(std::lround(y * mapping.scaleY + mapping.offsetY)); };
+    auto const toPicture = [](double place)
+    { return static_cast<int>(std::lround(std::clamp(place, -FARTHEST, FARTHEST))); };
+    auto const column = [&](int x) { return toPicture(x * mapping.scaleX + mapping.offsetX); };
+    auto const row = [&](int y) { return toPicture(y * mapping.scaleY + mapping.offsetY); };
     std::vector<Placed> placed;
     for (BitmapRect const& rect : cue.rects)
     {
         if (rect.width <= 0 || rect.height <= 0 || (!rect.rgba && !rect.packed))
             continue;
-        int const left = column(rect.x);
-        int const top = row(rect.y);
-        placed.push_back({&rect,
-                          {left, top, std::max(column(rect.x + rect.width), left + 1),
-                           std::max(row(rect.y + rect.height), top + 1)}});
+        PixelBox box{column(rect.x), row(rect.y), column(rect.x + rect.width), row(rect.y + rect.height)};
+        box.right = std::max(box.right, box.left + 1);
+        box.bottom = std::max(box.bottom, box.top + 1);
+        bool const isDamage = box.right - box.left > MOST_PICTURES * m_geometry.width ||
+                              box.bottom - box.top > MOST_PICTURES * m_geometry.height;
+        if (!isDamage)
+            placed.push_back({&rect, box});
     }
     return placed;
 }

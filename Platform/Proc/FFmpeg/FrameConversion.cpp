@@ -36,26 +36,6 @@ int const* Coefficients(AVFrame const& frame)
     return sws_getCoefficients(SWS_CS_ITU601);
 }
 
-/// The older formats whose name says "full range" become the same format with the range stated beside it.
-AVPixelFormat WithoutRange(int format)
-{
-    switch (format)
-    {
-    case AV_PIX_FMT_YUVJ420P:
-        return AV_PIX_FMT_YUV420P;
-    case AV_PIX_FMT_YUVJ422P:
-        return AV_PIX_FMT_YUV422P;
-    case AV_PIX_FMT_YUVJ444P:
-        return AV_PIX_FMT_YUV444P;
-    case AV_PIX_FMT_YUVJ440P:
-        return AV_PIX_FMT_YUV440P;
-    case AV_PIX_FMT_YUVJ411P:
-        return AV_PIX_FMT_YUV411P;
-    default:
-        return static_cast<AVPixelFormat>(format);
-    }
-}
-
 /// What the converted frame says of its colours. RGB becomes BT.709 at limited range, everything else keeps its own.
 void SetTargetColor(AVFrame const& source, AVFrame& target)
 {
@@ -78,6 +58,25 @@ void SetTargetColor(AVFrame const& source, AVFrame& target)
 }
 
 } // namespace
+
+AVPixelFormat WithoutRange(int format)
+{
+    switch (format)
+    {
+    case AV_PIX_FMT_YUVJ420P:
+        return AV_PIX_FMT_YUV420P;
+    case AV_PIX_FMT_YUVJ422P:
+        return AV_PIX_FMT_YUV422P;
+    case AV_PIX_FMT_YUVJ444P:
+        return AV_PIX_FMT_YUV444P;
+    case AV_PIX_FMT_YUVJ440P:
+        return AV_PIX_FMT_YUV440P;
+    case AV_PIX_FMT_YUVJ411P:
+        return AV_PIX_FMT_YUV411P;
+    default:
+        return static_cast<AVPixelFormat>(format);
+    }
+}
 
 AVPixelFormat ChooseWorkingFormat(AVPixelFormat source, bool isTransposed)
 {

@@ -5,6 +5,9 @@
 namespace Korvex::Proc::FFmpeg
 {
 
+/// The older formats whose name says "full range" become the same format, whose range is stated beside it.
+[[nodiscard]] AVPixelFormat WithoutRange(int format);
+
 /// The format in which pictures are turned, drawn on and encoded: the frame's own where the encoder takes it, else the
 /// nearest planar YUV that loses nothing that matters. A transposed 4:2:2 becomes 4:4:4, because its subsampling would
 /// lie in the other direction.

@@ -26,18 +26,11 @@ void Normalise(AVFrame& frame, PictureShape const& shape)
         frame.width &= ~1;
         frame.height &= ~1;
     }
-    static constexpr std::pair<AVPixelFormat, AVPixelFormat> FULL_RANGE[] = {{AV_PIX_FMT_YUVJ420P, AV_PIX_FMT_YUV420P},
-                                                                             {AV_PIX_FMT_YUVJ422P, AV_PIX_FMT_YUV422P},
-                                                                             {AV_PIX_FMT_YUVJ444P, AV_PIX_FMT_YUV444P},
-                                                                             {AV_PIX_FMT_YUVJ440P, AV_PIX_FMT_YUV440P},
-                                                                             {AV_PIX_FMT_YUVJ411P, AV_PIX_FMT_YUV411P}};
-    for (auto const& [full, plain] : FULL_RANGE)
+    AVPixelFormat const plain = WithoutRange(frame.format);
+    if (plain != frame.format)
     {
-        if (frame.format == full)
-        {
-            frame.format = plain;
-            frame.color_range = AVCOL_RANGE_JPEG;
-        }
+        frame.format = plain;
+        frame.color_range = AVCOL_RANGE_JPEG;
     }
 }
 

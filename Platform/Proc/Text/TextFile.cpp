@@ -70,7 +70,9 @@ Core::Result<std::optional<TextDocument>> LoadTextFile(ioPath const& path, std::
     auto decoded = DecodeText(isBinary ? std::string_view() : std::string_view(*bytes), encoding, HintsFromName(path));
     if (!decoded)
     {
-        return decoded.GetError();
+        Core::Error error = decoded.GetError();
+        error.file = path;
+        return error;
     }
     if (isBinary)
     {
