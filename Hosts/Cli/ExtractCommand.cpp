@@ -85,7 +85,7 @@ ExitCode ExtractCommand::Run(Arguments const& arguments, Console& console)
     if (written->skippedCues > 0)
         console.err << "korvex: " << Count(written->skippedCues, "cue") << " without usable times left out.\n";
     if (written->leftOutCues > 0)
-        console.err << "korvex: " << Count(written->leftOutCues, "cue") << " shown for no time at all left out.\n";
+        console.err << "korvex: " << Count(written->leftOutCues, "cue") << " of no duration left out.\n";
     console.out << "Wrote " << written->path.utf8string() << " (" << Hosts::DisplayName(written->codecId) << ", "
                 << Count(written->cueCount, "cue") << ").\n";
     return ExitCode::Done;

@@ -221,8 +221,8 @@ void SoftPreparation::AddNote(SubtitleTrack const& track, Need const& need, Proc
     if (need.hasShift)
         sentence += ", moved by " + FormatSeconds(m_choice.offsetSeconds) + " s";
     if (written.leftOutCues > 0)
-        sentence += ", without " + std::to_string(written.leftOutCues) +
-                    (written.leftOutCues == 1 ? " cue that has no place there" : " cues that have no place there");
+        sentence += ", leaving out " + std::to_string(written.leftOutCues) +
+                    (written.leftOutCues == 1 ? " cue" : " cues") + " that would never be shown";
     m_notes.push_back(sentence + ".");
 }
 

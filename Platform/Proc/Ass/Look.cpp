@@ -111,9 +111,4 @@ std::string MakeLookScript(SettingsSubtitleDrawer const& settings, PictureGeomet
     return script.str();
 }
 
-std::string EventSection()
-{
-    return "\n[Events]\nFormat: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\n";
-}
-
 } // namespace Korvex::Proc::Ass

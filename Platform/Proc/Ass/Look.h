@@ -14,7 +14,5 @@ namespace Korvex::Proc::Ass
 /// The script without events that text without a look of its own is drawn with: one style, named "Default".
 [[nodiscard]] std::string MakeLookScript(SettingsSubtitleDrawer const& settings, PictureGeometry const& geometry);
 
-/// The [Events] section that every script is given: the order of fields in which events are added.
-[[nodiscard]] std::string EventSection();
 
 } // namespace Korvex::Proc::Ass

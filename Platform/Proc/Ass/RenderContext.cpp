@@ -1,6 +1,6 @@
 #include "Proc/Ass/RenderContext.h"
 
-#include "Proc/Ass/Look.h"
+#include "Proc/Text/AssText.h"
 
 #include <limits>
 
@@ -64,7 +64,7 @@ TrackPtr RenderContext::MakeScriptTrack(std::string const& script, LayoutRules r
     if (!track)
         return nullptr;
     // The parser writes into the text while it reads.
-    std::string text = script + EventSection();
+    std::string text = script + Text::EventSection();
     ass_process_codec_private(track.get(), text.data(), static_cast<int>(text.size()));
     ass_set_check_readorder(track.get(), 0);
     if (rules == LayoutRules::Modern)

@@ -2,11 +2,12 @@
 
 #include "Proc/FFmpeg/StreamFacts.h"
 #include "Proc/FFmpeg/StreamLoader.h"
+#include "Proc/FFmpeg/SubtitlePayload.h"
 #include "Proc/FFmpeg/TextPackets.h"
 #include "Proc/FFmpeg/TextTimeline.h"
 
 #include "Proc/SubtitleExport.h"
-#include "Proc/Text/TextSubtitles.h"
+#include "Proc/Text/AssText.h"
 
 #include <algorithm>
 #include <cstring>
@@ -20,17 +21,13 @@ namespace
 using Core::ErrorCode;
 using std::chrono::microseconds;
 
-constexpr char const* EVENTS_SECTION =
-    "\n[Events]\nFormat: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\n";
-
 // The frame and the type size that mov_text readers take for granted.
 constexpr char const* MOV_TEXT_HEADER =
     "[Script Info]\nScriptType: v4.00+\nPlayResX: 384\nPlayResY: 288\n\n[V4+ Styles]\n"
     "Format: Name, Fontname, Fontsize, PrimaryColour, SecondaryColour, OutlineColour, BackColour, Bold, Italic, "
     "Underline, StrikeOut, ScaleX, ScaleY, Spacing, Angle, BorderStyle, Outline, Shadow, Alignment, MarginL, MarginR, "
     "MarginV, Encoding\n"
-    "Style: Default,Arial,16,&Hffffff,&Hffffff,&H0,&H0,0,0,0,0,100,100,0,0,1,1,0,2,10,10,10,0\n"
-    "\n[Events]\nFormat: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\n";
+    "Style: Default,Arial,16,&Hffffff,&Hffffff,&H0,&H0,0,0,0,0,100,100,0,0,1,1,0,2,10,10,10,0\n";
 
 /// One file with one subtitle stream while it is being written.
 class Writer
@@ -190,8 +187,9 @@ CodecContext OpenMovTextEncoder()
         return {};
     CodecContext encoder = MakeCodecContext(codec);
     encoder->time_base = {1, 1000};
-    encoder->subtitle_header = reinterpret_cast<std::uint8_t*>(av_strdup(MOV_TEXT_HEADER));
-    encoder->subtitle_header_size = static_cast<int>(std::strlen(MOV_TEXT_HEADER));
+    std::string const header = MOV_TEXT_HEADER + Text::EventSection();
+    encoder->subtitle_header = reinterpret_cast<std::uint8_t*>(av_strdup(header.c_str()));
+    encoder->subtitle_header_size = static_cast<int>(header.size());
     return avcodec_open2(encoder.get(), codec, nullptr) < 0 ? CodecContext() : std::move(encoder);
 }
 
@@ -255,36 +253,23 @@ Core::Result<std::size_t> CopySubtitleStream(ioPath const& source, std::optional
 
 Core::Result<std::size_t> WriteMatroskaText(TextDocument const& document, ioPath const& file)
 {
-    bool const isScript = document.HasOwnLook();
+    SubtitlePayload const text = MakeMatroskaText(document);
     Writer writer("matroska", file);
-    AVCodecParameters& parameters = *writer.Stream().codecpar;
-    parameters.codec_type = AVMEDIA_TYPE_SUBTITLE;
-    parameters.codec_id = isScript ? AV_CODEC_ID_ASS : AV_CODEC_ID_SUBRIP;
-    if (isScript)
-    {
-        std::string const header = document.scriptHeader + EVENTS_SECTION;
-        SetExtraData(parameters, header.data(), header.size());
-    }
+    if (avcodec_parameters_copy(writer.Stream().codecpar, text.parameters.get()) < 0)
+        throw std::bad_alloc();
     AddFonts(document.fonts, writer.Context());
     if (Core::Status failure = writer.Begin())
         return *failure;
-
-    std::vector<std::size_t> order(document.cues.size());
-    for (std::size_t i = 0; i < order.size(); ++i)
-        order[i] = i;
-    std::stable_sort(order.begin(), order.end(),
-                     [&](std::size_t a, std::size_t b) { return document.cues[a].start < document.cues[b].start; });
-    for (std::size_t const i : order)
+    for (Packet const& packet : text.packets)
     {
-        TextCue const& cue = document.cues[i];
-        std::string const bytes =
-            isScript ? WriteAssPacket(cue, static_cast<int>(i)) : Text::ToSubRipText(cue.text, document.markup);
-        if (Core::Status failure = writer.Write(bytes, cue.start, cue.end - cue.start))
+        std::string_view const bytes(reinterpret_cast<char const*>(packet->data),
+                                     static_cast<std::size_t>(packet->size));
+        if (Core::Status failure = writer.Write(bytes, microseconds(packet->pts), microseconds(packet->duration)))
             return *failure;
     }
     if (Core::Status failure = writer.Finish())
         return *failure;
-    return document.cues.size();
+    return text.packets.size();
 }
 
 Core::Result<std::size_t> WriteMovText(TextDocument const& document, ioPath const& file)

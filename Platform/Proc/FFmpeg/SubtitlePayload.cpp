@@ -6,6 +6,7 @@
 
 #include "Conf/IFormatCodecSubtitle.h"
 #include "Proc/ExternalText.h"
+#include "Proc/Text/AssText.h"
 #include "Proc/Text/TextSubtitles.h"
 
 #include <algorithm>
@@ -20,9 +21,6 @@ namespace
 {
 
 using Conf::IFormatCodecSubtitle;
-
-constexpr char const* EVENTS_HEADER =
-    "[Events]\nFormat: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\n";
 
 Packet MakeTextPacket(std::string const& text, TextCue const& cue)
 {
@@ -60,7 +58,7 @@ std::string ScriptHeader(TextDocument const& document)
     std::string header = document.scriptHeader;
     if (!header.empty() && header.back() != '\n')
         header += '\n';
-    return header + "\n" + EVENTS_HEADER;
+    return header + Text::EventSection();
 }
 
 bool HasNoDuration(TextCue const& cue)
@@ -82,6 +80,26 @@ void AddReadingWarnings(TextDocument const& document, ioPath const& path, std::v
     auto const moments = std::count_if(document.cues.begin(), document.cues.end(), HasNoDuration);
     if (auto const cues = static_cast<std::size_t>(moments); cues > 0)
         warnings.push_back(counted(cues, "cue") + " had no duration" + leftOut(cues));
+}
+
+/// The document's cues as packets of one of the two codecs that Matroska has for text.
+void FillText(TextDocument const& document, AVCodecID codec, SubtitlePayload& payload)
+{
+    bool const isAss = codec == AV_CODEC_ID_ASS;
+    payload.parameters->codec_id = codec;
+    if (isAss)
+    {
+        std::string const header = ScriptHeader(document);
+        SetExtraData(*payload.parameters, header.data(), header.size());
+    }
+    for (std::size_t const index : OrderByStart(document.cues))
+    {
+        TextCue const& cue = document.cues[index];
+        // Over before the film begins; or of no duration, which a player would show until the next cue.
+        if (cue.end <= std::chrono::microseconds(0) || HasNoDuration(cue))
+            continue;
+        payload.packets.push_back(MakeTextPacket(PacketText(cue, document.markup, index, isAss), cue));
+    }
 }
 
 /// Fills in what a demuxer of subtitles may leave open and counts from the file's beginning. False for a packet
@@ -148,22 +166,16 @@ SubtitlePayload MakeTextPayload(TextDocument const& document, ioPath const& path
         payload.parameters->codec_id = descriptor ? descriptor->id : AV_CODEC_ID_NONE;
         return payload;
     }
-    payload.parameters->codec_id = isSubRip ? AV_CODEC_ID_SUBRIP : AV_CODEC_ID_ASS;
-    if (isAss)
-    {
-        std::string const header = ScriptHeader(document);
-        SetExtraData(*payload.parameters, header.data(), header.size());
-    }
-    for (std::size_t const index : OrderByStart(document.cues))
-    {
-        TextCue const& cue = document.cues[index];
-        if (cue.end <= std::chrono::microseconds(0))
-            continue; // over before the film begins
-        // A player would show it until the next cue.
-        if (HasNoDuration(cue))
-            continue;
-        payload.packets.push_back(MakeTextPacket(PacketText(cue, document.markup, index, isAss), cue));
-    }
+    FillText(document, isAss ? AV_CODEC_ID_ASS : AV_CODEC_ID_SUBRIP, payload);
+    return payload;
+}
+
+SubtitlePayload MakeMatroskaText(TextDocument const& document)
+{
+    SubtitlePayload payload;
+    payload.parameters = MakeCodecParameters();
+    payload.parameters->codec_type = AVMEDIA_TYPE_SUBTITLE;
+    FillText(document, document.HasOwnLook() ? AV_CODEC_ID_ASS : AV_CODEC_ID_SUBRIP, payload);
     return payload;
 }
 

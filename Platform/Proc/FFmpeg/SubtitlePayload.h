@@ -28,7 +28,11 @@ struct SubtitlePayload
 /// with one text track, a bitmap file) stay as they are.
 [[nodiscard]] Core::Result<SubtitlePayload> LoadSubtitlePayload(ioPath const& path);
 
-/// Packets of a document as Matroska keeps them. A document that is neither SubRip nor ASS has none, only its codec.
+/// Packets of any document as Matroska keeps them: ASS for one with a look of its own, else SubRip. No fonts, no
+/// warnings.
+[[nodiscard]] SubtitlePayload MakeMatroskaText(TextDocument const& document);
+
+/// The same for a document that stays what it is. One that is neither SubRip nor ASS has no packets, only its codec.
 [[nodiscard]] SubtitlePayload MakeTextPayload(TextDocument const& document, ioPath const& path);
 
 } // namespace Korvex::Proc::FFmpeg

@@ -86,7 +86,8 @@ bool NeedsDecoding(InputFile const& input, AVStream const& stream)
 }
 
 /// Reads the stream as one would a file of its own.
-Core::Status PreloadInputStream(InputFile const& input, std::uint32_t index, OutputStream& output)
+Core::Status PreloadInputStream(InputFile const& input, std::uint32_t index, OutputStream& output,
+                                std::vector<std::string>& warnings)
 {
     Core::Result<InputFile> const file = InputFile::Open(input.Path(), {StreamAnalysis::Quick});
     if (!file)
@@ -100,6 +101,7 @@ Core::Status PreloadInputStream(InputFile const& input, std::uint32_t index, Out
     output.parameters = std::move(payload.parameters);
     output.timeBase = payload.timeBase;
     output.packets = std::move(payload.packets);
+    warnings.insert(warnings.end(), payload.warnings.begin(), payload.warnings.end());
     return Core::SUCCESS;
 }
 
@@ -128,7 +130,7 @@ Core::Status AddInputStream(SubtitleTrack const& track, InputFile const& input, 
     DescribeTrack(output, track, *map.rule);
     if (NeedsDecoding(input, *stream))
     {
-        if (Core::Status const failed = PreloadInputStream(input, track.streamIndex, output))
+        if (Core::Status const failed = PreloadInputStream(input, track.streamIndex, output, map.warnings))
             return failed;
     }
     map.streams.push_back(std::move(output));

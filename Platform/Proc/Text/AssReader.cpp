@@ -2,6 +2,7 @@
 
 #include "Proc/Text/AssFonts.h"
 #include "Proc/Text/AssStyles.h"
+#include "Proc/Text/AssText.h"
 #include "Proc/Text/Lines.h"
 #include "Proc/Text/TimeStamp.h"
 
@@ -192,8 +193,7 @@ private:
     /// right.
     void ReadEvent(std::string_view event)
     {
-        static std::vector<std::string> const USUAL =
-            ParseFormat("Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text");
+        static std::vector<std::string> const USUAL = ParseFormat(EVENT_FORMAT);
         auto const& format = m_eventFormat.empty() ? USUAL : m_eventFormat;
         auto const text = std::find(format.begin(), format.end(), "text");
         TextCue cue;

@@ -2,6 +2,7 @@
 
 #include "Proc/Text/AssFonts.h"
 #include "Proc/Text/AssStyles.h"
+#include "Proc/Text/AssText.h"
 #include "Proc/Text/Lines.h"
 #include "Proc/Text/TimeStamp.h"
 
@@ -79,7 +80,7 @@ std::string WriteAss(TextDocument const& document)
             file += "fontname: " + MakeField(font.name) + '\n' + EncodeAttachment(*font.data) + '\n';
         }
     }
-    file += "\n[Events]\nFormat: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\n";
+    file += EventSection();
     for (TextCue const& cue : document.cues)
     {
         file += "Dialogue: " + std::to_string(cue.layer) + ',' + FormatAssTime(cue.start) + ',' +
