@@ -111,14 +111,19 @@ Core::Error OpenError(int averror, ioPath const& path, std::string head)
 bool StatesFrameRates(AVFormatContext const& context)
 {
     std::string const name = context.iformat->name;
-    if (name == "mpegts" || name == "mpeg")
-        return true;
+    bool const isTransport = name == "mpegts" || name == "mpeg";
     for (unsigned i = 0; i < context.nb_streams; ++i)
     {
         AVStream const& stream = *context.streams[i];
-        if (stream.codecpar->codec_type == AVMEDIA_TYPE_VIDEO && stream.avg_frame_rate.num == 0)
+        AVMediaType const type = stream.codecpar->codec_type;
+        // Private data may turn out to be sound (AAC in M2TS), which takes more packets than this leaves.
+        if (isTransport && type != AVMEDIA_TYPE_VIDEO && type != AVMEDIA_TYPE_AUDIO && type != AVMEDIA_TYPE_SUBTITLE)
+            return false;
+        if (!isTransport && type == AVMEDIA_TYPE_VIDEO && stream.avg_frame_rate.num == 0)
             return false;
     }
+    if (isTransport)
+        return true;
     return context.nb_streams > 0;
 }
 
