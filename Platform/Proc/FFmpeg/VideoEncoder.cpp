@@ -114,8 +114,12 @@ Core::Result<VideoEncoder> VideoEncoder::Open(AVFrame const& first, AVStream con
     auto mastering =
         HdrDescription(first, source, AV_FRAME_DATA_MASTERING_DISPLAY_METADATA, AV_PKT_DATA_MASTERING_DISPLAY_METADATA);
     auto light = HdrDescription(first, source, AV_FRAME_DATA_CONTENT_LIGHT_LEVEL, AV_PKT_DATA_CONTENT_LIGHT_LEVEL);
-    if (std::string const hdr = HdrOptions(mastering, light); !hdr.empty())
-        av_opt_set(context.priv_data, "x264-params", hdr.c_str(), 0);
+    std::string options = HdrOptions(mastering, light);
+    // Without it every frame says that its bottom field comes first while the picture order says the contrary.
+    if (context.field_order == AV_FIELD_BB)
+        options += options.empty() ? "bff=1" : ":bff=1";
+    if (!options.empty())
+        av_opt_set(context.priv_data, "x264-params", options.c_str(), 0);
     if (!mastering.empty())
         encoder.m_sideData.emplace_back(AV_PKT_DATA_MASTERING_DISPLAY_METADATA, std::move(mastering));
     if (!light.empty())

@@ -253,6 +253,14 @@ TEST(BurnConversionTest, FieldsAndHdrDescriptionSurvive)
     ASSERT_TRUE(Proc::FFmpeg::IsInterlaced(*before[10]));
     EXPECT_TRUE(Proc::FFmpeg::IsInterlaced(*after[10]));
     EXPECT_EQ(Proc::FFmpeg::IsTopFieldFirst(*after[10]), Proc::FFmpeg::IsTopFieldFirst(*before[10]));
+
+    film.formatId = "mp4";
+    film.video->rotationDegrees = 180; // the top field becomes the bottom one
+    MakeMedia(folder / "turned.mp4", film);
+    Conversion const turned = Convert(BurnSettings(folder / "turned.mp4", folder / "upright.mp4", "mp4", text));
+    ASSERT_TRUE(turned.Succeeded()) << turned.Words();
+    EXPECT_FALSE(Proc::FFmpeg::IsTopFieldFirst(*DecodePictures(folder / "upright.mp4")[10]));
+    EXPECT_EQ(ReadFilm(folder / "upright.mp4").Stream(0).codecpar->field_order, AV_FIELD_BB);
 }
 
 TEST(BurnConversionTest, RgbSourcesAndOddSizesBecomePlayable)
