@@ -34,6 +34,20 @@ function(korvex_add_library target)
         LINKER_LANGUAGE CXX VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
 endfunction()
 
+# What every test runs in. The sanitizers' suppressions name libraries of the system; a blanket option
+# (ignore_noninstrumented_modules) would also hide what the project's own code does through memcpy or std::string.
+set(KORVEX_TEST_ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+if(KORVEX_SANITIZE MATCHES "thread")
+    list(APPEND KORVEX_TEST_ENVIRONMENT "TSAN_OPTIONS=suppressions=${CMAKE_CURRENT_LIST_DIR}/tsan-suppressions.txt")
+endif()
+if(KORVEX_SANITIZE MATCHES "address")
+    list(APPEND KORVEX_TEST_ENVIRONMENT
+        "LSAN_OPTIONS=suppressions=${CMAKE_CURRENT_LIST_DIR}/lsan-suppressions.txt:print_suppressions=0")
+endif()
+if(KORVEX_SANITIZE MATCHES "undefined")
+    list(APPEND KORVEX_TEST_ENVIRONMENT "UBSAN_OPTIONS=print_stacktrace=1")
+endif()
+
 # korvex_add_test(<name> SOURCES <file>... [LINKS <library>...])
 #   One test program, one ctest entry, headless.
 function(korvex_add_test name)
@@ -43,10 +57,5 @@ function(korvex_add_test name)
     target_link_libraries(${name} PRIVATE korvex_compiler ${ARG_LINKS} GTest::gmock GTest::gtest_main)
     target_precompile_headers(${name} PRIVATE <gmock/gmock.h> <gtest/gtest.h> <string> <vector>)
     add_test(NAME ${name} COMMAND ${name})
-    set(environment "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
-    if(KORVEX_SANITIZE MATCHES "thread")
-        # The system's libraries are not instrumented: their own locks and counters cannot be seen, only their calls.
-        list(APPEND environment "TSAN_OPTIONS=ignore_noninstrumented_modules=1")
-    endif()
-    set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "${environment}")
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "${KORVEX_TEST_ENVIRONMENT}")
 endfunction()
