@@ -20,6 +20,7 @@ namespace
 
 constexpr int USUAL_RATE = 48000;
 constexpr int BITS_PER_CHANNEL = 96000;
+constexpr std::int64_t LONGEST_SILENCE_S = 24 * 3600;
 
 int ChooseRate(AVCodec const& encoder, int source)
 {
@@ -183,6 +184,8 @@ bool AudioStage::FollowClock(AVFrame const& frame)
     std::int64_t const tolerance = m_encoder->sample_rate / 10;
     std::int64_t const inside = swr_get_delay(m_resampler.get(), m_encoder->sample_rate);
     std::int64_t const gap = time - (*m_position - m_surplus + inside);
+    if (std::abs(gap) > LONGEST_SILENCE_S * m_encoder->sample_rate)
+        return true; // a damaged time; days of silence would fill the disk
     if (gap > tolerance)
         return AppendSilence(gap);
     if (gap < -tolerance)

@@ -82,8 +82,9 @@ Core::Status Conversion::Execute(WrittenSink const& onWritten)
 {
     if (Core::Status failed = Prepare())
         return failed;
+    AddStreams();
     StartThreads();
-    if (Core::Status failed = AddStreams())
+    if (Core::Status failed = WriteHeader())
         return failed;
     if (Core::Status failed = WriteAll(onWritten))
         return failed;
@@ -242,28 +243,33 @@ void Conversion::Start(std::string what, std::function<void()> body)
         });
 }
 
-Core::Status Conversion::AddStreams()
+/// Before the reading begins: the demuxer may change its streams and tags at any packet.
+void Conversion::AddStreams()
+{
+    for (OutputStream const& stream : m_plan.streams)
+    {
+        bool const isCopied = stream.source == Source::Copied;
+        m_output->AddStream(stream, isCopied ? m_input.FindStream(*stream.inputIndex) : nullptr);
+    }
+    m_output->CopyDescription(m_input);
+}
+
+Core::Status Conversion::WriteHeader()
 {
     for (std::size_t i = 0; i < m_plan.streams.size(); ++i)
     {
         OutputStream const& stream = m_plan.streams[i];
-        AVStream const* input = stream.inputIndex ? m_input.FindStream(*stream.inputIndex) : nullptr;
-        std::optional<EncodedParameters> encoded;
-        if (stream.source == Source::Encoded && stream.Type() == AVMEDIA_TYPE_AUDIO)
-            encoded = m_audio[i]->Parameters();
-        else if (stream.source == Source::Encoded)
-        {
-            encoded = m_video->Encoded().get();
-            if (!encoded && !m_control.IsStopped())
-                return MakeError(Core::ErrorCode::FileDamaged, m_settings.input, "none of its pictures can be decoded");
-        }
+        if (stream.source != Source::Encoded)
+            continue;
+        std::optional<EncodedParameters> const encoded =
+            stream.Type() == AVMEDIA_TYPE_AUDIO ? m_audio[i]->Parameters() : m_video->Encoded().get();
         if (m_control.IsStopped())
             return Core::SUCCESS;
-        m_output->AddStream(stream, stream.source == Source::HeaderOnly ? nullptr : input,
-                            encoded ? &*encoded : nullptr);
+        if (!encoded)
+            return MakeError(Core::ErrorCode::FileDamaged, m_settings.input, "none of its pictures can be decoded");
+        m_output->SetEncoded(i, *encoded);
     }
-    m_output->CopyDescription(m_input.Context());
-    return m_output->WriteHeader();
+    return m_control.IsStopped() ? Core::SUCCESS : m_output->WriteHeader();
 }
 
 Core::Status Conversion::WriteAll(WrittenSink const& onWritten)

@@ -40,7 +40,8 @@ private:
     [[nodiscard]] Core::Status PrepareAudio(std::size_t index, AVStream const& stream);
     void StartThreads();
     void Start(std::string what, std::function<void()> body);
-    [[nodiscard]] Core::Status AddStreams();
+    void AddStreams();
+    [[nodiscard]] Core::Status WriteHeader();
     [[nodiscard]] Core::Status WriteAll(WrittenSink const& onWritten);
     void JoinThreads();
 

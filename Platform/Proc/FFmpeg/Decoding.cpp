@@ -1,5 +1,7 @@
 #include "Proc/FFmpeg/Decoding.h"
 
+#include "Proc/FFmpeg/MediaTimes.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -49,9 +51,7 @@ std::int64_t DecodingLead(AVFormatContext const& file, AVStream const& stream)
         return 0;
     if (std::strcmp(file.iformat->name, "avi") == 0)
         return stream.codecpar->video_delay; // one tick of its clock is one picture
-    if (stream.avg_frame_rate.num <= 0)
-        return 0;
-    return av_rescale_q(stream.codecpar->video_delay, av_inv_q(stream.avg_frame_rate), stream.time_base);
+    return stream.codecpar->video_delay * FrameDurationAt(stream.avg_frame_rate, stream.time_base);
 }
 
 } // namespace Korvex::Proc::FFmpeg

@@ -1,5 +1,7 @@
 #include "Proc/FFmpeg/Demuxing.h"
 
+#include "Proc/FFmpeg/MediaTimes.h"
+
 #include <algorithm>
 #include <cstring>
 #include <new>
@@ -17,9 +19,8 @@ namespace
 
 std::int64_t FrameDurationOf(AVStream const& stream)
 {
-    if (stream.codecpar->codec_type != AVMEDIA_TYPE_VIDEO || stream.avg_frame_rate.num <= 0)
-        return 0;
-    return av_rescale_q(1, av_inv_q(stream.avg_frame_rate), stream.time_base);
+    bool const isVideo = stream.codecpar->codec_type == AVMEDIA_TYPE_VIDEO;
+    return isVideo ? FrameDurationAt(stream.avg_frame_rate, stream.time_base) : 0;
 }
 
 Packet Reference(AVPacket const& packet)
@@ -62,7 +63,7 @@ void CopyClock::Complete(AVPacket& packet)
     if (packet.duration <= 0)
         packet.duration = m_frameDuration;
     packet.dts = std::min(packet.dts, packet.pts);
-    m_nextDts = packet.dts + packet.duration;
+    m_nextDts = Later(packet.dts, packet.duration);
 }
 
 Demuxing::Demuxing(InputFile const& file, std::vector<Route> routes, PacketMerger& merger, JobControl& control)
@@ -77,7 +78,7 @@ Demuxing::Demuxing(InputFile const& file, std::vector<Route> routes, PacketMerge
         AVStream& input = *file.Context().streams[i];
         Stream& stream = m_streams[i];
         stream.route = std::move(routes[i]);
-        stream.start = av_rescale_q(file.StartTime().count(), AV_TIME_BASE_Q, input.time_base);
+        stream.start = ClampTime(av_rescale_q(file.StartTime().count(), AV_TIME_BASE_Q, input.time_base));
         stream.clock = std::make_unique<CopyClock>(input);
         bool const isWanted = stream.route.decoder || !stream.route.copies.empty();
         input.discard = isWanted ? AVDISCARD_DEFAULT : AVDISCARD_ALL;

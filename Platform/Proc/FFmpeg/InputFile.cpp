@@ -1,5 +1,7 @@
 #include "Proc/FFmpeg/InputFile.h"
 
+#include "Proc/FFmpeg/MediaTimes.h"
+
 #include "Core/FileSystem.h"
 
 #include <algorithm>
@@ -133,8 +135,7 @@ void DropUnusableTimes(AVPacket& packet, AVRational timeBase)
         packet.pts = AV_NOPTS_VALUE;
     if (!IsUsableTime(packet.dts, timeBase))
         packet.dts = AV_NOPTS_VALUE;
-    constexpr std::int64_t LONGEST_SECONDS = 365LL * 24 * 3600;
-    if (av_compare_ts(packet.duration, timeBase, LONGEST_SECONDS, {1, 1}) > 0)
+    if (packet.duration < 0 || !IsUsableTime(packet.duration, timeBase, LONGEST_PACKET_US))
         packet.duration = 0;
 }
 
@@ -211,13 +212,6 @@ struct InputFile::MemoryText
     AVIOContext* io = nullptr;
 };
 
-bool IsUsableTime(std::int64_t timestamp, AVRational timeBase)
-{
-    constexpr std::int64_t LATEST_SECONDS = 100LL * 365 * 24 * 3600;
-    return timestamp != AV_NOPTS_VALUE && av_compare_ts(timestamp, timeBase, LATEST_SECONDS, {1, 1}) <= 0 &&
-           av_compare_ts(timestamp, timeBase, -LATEST_SECONDS, {1, 1}) >= 0;
-}
-
 InputFile::InputFile(ioPath path, std::unique_ptr<MemoryText> text, InputContext context)
     : m_path(std::move(path)),
       m_text(std::move(text)),
@@ -291,8 +285,7 @@ std::chrono::microseconds InputFile::StartTime() const
     bool hasMedia = FindMainVideo() != nullptr;
     for (unsigned i = 0; i < m_context->nb_streams; ++i)
         hasMedia = hasMedia || m_context->streams[i]->codecpar->codec_type == AVMEDIA_TYPE_AUDIO;
-    bool const isUsable =
-        m_context->start_time != AV_NOPTS_VALUE && IsUsableTime(m_context->start_time, AV_TIME_BASE_Q);
+    bool const isUsable = IsUsableTime(m_context->start_time, AV_TIME_BASE_Q);
     return std::chrono::microseconds(hasMedia && isUsable ? m_context->start_time : 0);
 }
 

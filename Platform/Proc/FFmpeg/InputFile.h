@@ -28,9 +28,6 @@ struct InputOptions
     std::atomic<bool> const* cancelled = nullptr;
 };
 
-/// False for no timestamp and for one that no clock shows (over a century): sums of such times would overflow.
-[[nodiscard]] bool IsUsableTime(std::int64_t timestamp, AVRational timeBase);
-
 /// A file that is read. It is always opened as a plain local file and only by demuxers of media containers, elementary
 /// streams and subtitle formats: playlists, devices, image sequences and network addresses are refused whatever the
 /// file is called. One thread at a time.

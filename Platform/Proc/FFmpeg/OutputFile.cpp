@@ -1,6 +1,7 @@
 #include "Proc/FFmpeg/OutputFile.h"
 
 #include "Proc/FFmpeg/LibraryVersions.h"
+#include "Proc/FFmpeg/MediaTimes.h"
 
 #include "Conf/IFormatFile.h"
 #include "Core/FileSystem.h"
@@ -113,29 +114,17 @@ OutputFile::~OutputFile()
         Core::RemoveFile(m_temporary);
 }
 
-void OutputFile::AddStream(OutputStream const& stream, AVStream const* input, EncodedParameters const* encoded)
+void OutputFile::AddStream(OutputStream const& stream, AVStream const* input)
 {
     AVStream* output = avformat_new_stream(m_context.get(), nullptr);
-    Require(output && avcodec_parameters_copy(output->codecpar,
-                                              encoded ? encoded->parameters.get() : stream.parameters.get()) >= 0);
-    output->time_base = encoded ? encoded->timeBase : stream.timeBase;
+    Require(output && avcodec_parameters_copy(output->codecpar, stream.parameters.get()) >= 0);
+    output->time_base = stream.timeBase;
     output->disposition = stream.disposition;
     if (stream.Type() == AVMEDIA_TYPE_SUBTITLE && m_rule.firstSubtitleId > 0)
         output->id = m_rule.firstSubtitleId + m_subtitleCount++;
     for (auto const& [key, value] : stream.tags)
         av_dict_set(&output->metadata, key.c_str(), value.c_str(), 0);
-    if (encoded)
-    {
-        output->avg_frame_rate = encoded->frameRate;
-        output->sample_aspect_ratio = output->codecpar->sample_aspect_ratio;
-        for (auto const& [type, bytes] : encoded->sideData)
-        {
-            std::uint8_t* copy = AddSideData(*output, type, bytes.size());
-            Require(copy != nullptr);
-            std::memcpy(copy, bytes.data(), bytes.size());
-        }
-    }
-    else if (input)
+    if (input)
     {
         output->avg_frame_rate = input->avg_frame_rate;
         output->r_frame_rate = input->r_frame_rate;
@@ -147,8 +136,24 @@ void OutputFile::AddStream(OutputStream const& stream, AVStream const* input, En
     m_lastDts.emplace_back();
 }
 
-void OutputFile::CopyDescription(AVFormatContext const& input)
+void OutputFile::SetEncoded(std::size_t index, EncodedParameters const& encoded)
 {
+    AVStream& output = *m_context->streams[index];
+    Require(avcodec_parameters_copy(output.codecpar, encoded.parameters.get()) >= 0);
+    output.time_base = encoded.timeBase;
+    output.avg_frame_rate = encoded.frameRate;
+    output.sample_aspect_ratio = output.codecpar->sample_aspect_ratio;
+    for (auto const& [type, bytes] : encoded.sideData)
+    {
+        std::uint8_t* copy = AddSideData(output, type, bytes.size());
+        Require(copy != nullptr);
+        std::memcpy(copy, bytes.data(), bytes.size());
+    }
+}
+
+void OutputFile::CopyDescription(InputFile const& file)
+{
+    AVFormatContext const& input = file.Context();
     AVDictionaryEntry const* tag = nullptr;
     while ((tag = av_dict_get(input.metadata, "", tag, AV_DICT_IGNORE_SUFFIX)))
     {
@@ -157,19 +162,21 @@ void OutputFile::CopyDescription(AVFormatContext const& input)
     }
     if (input.nb_chapters == 0)
         return;
-    std::int64_t const start = input.start_time == AV_NOPTS_VALUE ? 0 : input.start_time;
     m_context->chapters = static_cast<AVChapter**>(av_calloc(input.nb_chapters, sizeof(*m_context->chapters)));
     Require(m_context->chapters != nullptr);
     for (unsigned i = 0; i < input.nb_chapters; ++i)
     {
         AVChapter const& from = *input.chapters[i];
+        if (!IsUsableTime(from.start, from.time_base))
+            continue;
         auto* chapter = static_cast<AVChapter*>(av_mallocz(sizeof(AVChapter)));
         Require(chapter != nullptr);
-        std::int64_t const offset = av_rescale_q(start, AV_TIME_BASE_Q, from.time_base);
+        std::int64_t const offset = ClampTime(av_rescale_q(file.StartTime().count(), AV_TIME_BASE_Q, from.time_base));
         chapter->id = from.id;
         chapter->time_base = from.time_base;
         chapter->start = std::max<std::int64_t>(0, from.start - offset);
-        chapter->end = std::max(chapter->start, from.end - offset);
+        chapter->end =
+            IsUsableTime(from.end, from.time_base) ? std::max(chapter->start, from.end - offset) : chapter->start;
         av_dict_copy(&chapter->metadata, from.metadata, 0);
         m_context->chapters[m_context->nb_chapters++] = chapter;
     }

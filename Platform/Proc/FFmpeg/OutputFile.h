@@ -37,11 +37,14 @@ public:
     OutputFile& operator=(OutputFile const&) = delete;
 
     /// Streams are numbered in the order in which they are added. `input` lends a copied stream its rates and side data
-    /// and is null for others; `encoded` stands for a stream that is encoded.
-    void AddStream(OutputStream const& stream, AVStream const* input, EncodedParameters const* encoded);
+    /// and is null for others.
+    void AddStream(OutputStream const& stream, AVStream const* input);
 
     /// Container tags and chapters of the input.
-    void CopyDescription(AVFormatContext const& input);
+    void CopyDescription(InputFile const& input);
+
+    /// Once for each stream that is encoded, after `AddStream` and before the header.
+    void SetEncoded(std::size_t index, EncodedParameters const& encoded);
 
     [[nodiscard]] Core::Status WriteHeader();
     /// A packet of stream `index`, in its own `time_base`. Those of one stream come in rising order of decoding.

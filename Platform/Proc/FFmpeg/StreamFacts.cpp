@@ -1,6 +1,7 @@
 #include "Proc/FFmpeg/StreamFacts.h"
 
 #include "Proc/FFmpeg/LibraryVersions.h"
+#include "Proc/FFmpeg/MediaTimes.h"
 
 #include "Proc/Text/TextDecoder.h"
 
@@ -111,11 +112,12 @@ void DescribePicture(AVFormatContext& context, AVStream& stream, StreamInfo& inf
 /// What a stream states of its own duration; Matroska does it in a tag. Zero when it does not.
 microseconds StatedDuration(AVStream const& stream)
 {
-    if (stream.duration != AV_NOPTS_VALUE && stream.duration > 0)
-        return microseconds(av_rescale_q(stream.duration, stream.time_base, AV_TIME_BASE_Q));
+    if (std::int64_t const stated = DurationInUs(stream.duration, stream.time_base); stated > 0)
+        return microseconds(stated);
     AVDictionaryEntry const* tag = av_dict_get(stream.metadata, "DURATION", nullptr, AV_DICT_IGNORE_SUFFIX);
     std::int64_t duration = 0;
-    return microseconds(tag && av_parse_time(&duration, tag->value, 1) >= 0 ? duration : 0);
+    bool const isStated = tag && av_parse_time(&duration, tag->value, 1) >= 0;
+    return microseconds(isStated ? DurationInUs(duration, AV_TIME_BASE_Q) : 0);
 }
 
 microseconds DurationOf(AVFormatContext const& context, AVStream const& stream)
@@ -211,7 +213,7 @@ StreamInfo DescribeStream(InputFile const& file, std::uint32_t index)
 
 microseconds PlayingTime(AVFormatContext const& file)
 {
-    microseconds const whole(std::max<std::int64_t>(file.duration, 0));
+    microseconds const whole(DurationInUs(file.duration, AV_TIME_BASE_Q));
     microseconds longest{0};
     for (unsigned i = 0; i < file.nb_streams; ++i)
     {
@@ -232,7 +234,7 @@ MediaInfo DescribeFile(InputFile const& file)
     info.path = file.Path();
     info.formatId = context.iformat->name;
     info.title = MetadataText(context.metadata, "title");
-    info.duration = microseconds(std::max<std::int64_t>(context.duration, 0));
+    info.duration = microseconds(DurationInUs(context.duration, AV_TIME_BASE_Q));
     info.startTime = file.StartTime();
     for (std::uint32_t i = 0; i < context.nb_streams; ++i)
         info.streams.push_back(DescribeStream(file, i));

@@ -6,6 +6,7 @@
 #include "Proc/Transcode.h"
 
 #include <algorithm>
+#include <atomic>
 #include <condition_variable>
 #include <mutex>
 #include <optional>
@@ -93,8 +94,13 @@ public:
 
     void Cancel() { control->Fail(MakeError(Core::ErrorCode::Cancelled, m_settings.input)); }
 
+    /// True inside the calls of the observer. The thread says so itself: at its first call whoever started it may not
+    /// know its id yet.
+    [[nodiscard]] bool IsOwnThread() const { return m_runner == std::this_thread::get_id(); }
+
     void Run(ITranscodeObserver& observer)
     {
+        m_runner = std::this_thread::get_id();
         ProgressMeter meter(PlayingTime(m_input->Context()), observer);
         TranscodeReport report;
         // The stated duration may be far off.
@@ -150,6 +156,7 @@ private:
     SettingsTranscode const m_settings;
     std::optional<InputFile> m_input;
     StreamMap m_plan;
+    std::atomic<std::thread::id> m_runner{};
     std::mutex m_mutex;
     std::condition_variable m_finished;
     bool m_isFinished = false;
@@ -174,7 +181,7 @@ public:
 
     void Wait() override
     {
-        if (m_thread.joinable() && m_thread.get_id() != std::this_thread::get_id())
+        if (!m_state->IsOwnThread() && m_thread.joinable())
             m_state->WaitFinished();
     }
 
@@ -183,7 +190,7 @@ private:
     {
         if (!m_thread.joinable())
             return;
-        if (m_thread.get_id() == std::this_thread::get_id())
+        if (m_state->IsOwnThread())
         {
             m_thread.detach(); // the last reference went inside OnFinished; the thread keeps what it needs
             return;

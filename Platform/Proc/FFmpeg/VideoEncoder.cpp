@@ -126,7 +126,13 @@ Core::Result<VideoEncoder> VideoEncoder::Open(AVFrame const& first, AVStream con
         encoder.m_sideData.emplace_back(AV_PKT_DATA_CONTENT_LIGHT_LEVEL, std::move(light));
 
     if (int const result = avcodec_open2(&context, codec, nullptr); result < 0)
-        return CallFailed("avcodec_open2(libx264)", result, path);
+    {
+        Core::Error error = MakeError(Core::ErrorCode::CodecNotSupported, path,
+                                      "its encoder refuses the picture (" + std::to_string(context.width) + "x" +
+                                          std::to_string(context.height) + "): " + ErrorText(result));
+        error.codec = "H.264";
+        return error;
+    }
     return encoder;
 }
 

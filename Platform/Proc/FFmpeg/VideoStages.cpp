@@ -1,6 +1,7 @@
 #include "Proc/FFmpeg/VideoStages.h"
 
 #include "Proc/FFmpeg/Decoding.h"
+#include "Proc/FFmpeg/MediaTimes.h"
 
 #include <algorithm>
 
@@ -65,7 +66,7 @@ bool VideoStages::PassOn(Frame frame)
     if (m_last)
     {
         if (pts == AV_NOPTS_VALUE)
-            pts = m_last->pts + std::max<std::int64_t>(1, DurationOf(*m_last));
+            pts = Later(m_last->pts, std::max<std::int64_t>(1, DurationOf(*m_last)));
         if (pts <= m_last->pts)
             return true; // a second picture for one instant
         SetFrameDuration(*m_last, pts - m_last->pts);
@@ -80,9 +81,7 @@ bool VideoStages::PassOn(Frame frame)
 std::int64_t VideoStages::DurationOf(AVFrame const& frame) const
 {
     std::int64_t const stated = FrameDuration(frame);
-    if (stated > 0 || m_frameRate.num <= 0)
-        return stated;
-    return av_rescale_q(1, av_inv_q(m_frameRate), m_stream.time_base);
+    return stated > 0 ? stated : FrameDurationAt(m_frameRate, m_stream.time_base);
 }
 
 bool VideoStages::PassOnLast()

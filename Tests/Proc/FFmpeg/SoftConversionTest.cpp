@@ -325,6 +325,34 @@ TEST(SoftConversionTest, SubtitlesThatGoOnAfterThePictureAreNoEarlyEnd)
 }
 
 #if !defined(_WIN32)
+TEST(SoftConversionTest, ADamagedTimeIsNoGapToFillWithSilence)
+{
+    TemporaryFolder const folder;
+    MadeMedia film;
+    film.formatId = "flv";
+    film.video.emplace();
+    film.audios.resize(1);
+    MakeMedia(folder / "in.flv", film);
+    std::string bytes = *Core::ReadFile(folder / "in.flv", 1 << 20);
+    auto byteAt = [&](std::size_t at) { return static_cast<std::size_t>(static_cast<unsigned char>(bytes[at])); };
+    std::size_t lastSound = 0;
+    constexpr std::size_t TAG = 11; // bytes before the payload: kind, size (3), time (4), stream (3)
+    for (std::size_t at = 13; at + TAG < bytes.size();
+         at += TAG + 4 + (byteAt(at + 1) << 16) + (byteAt(at + 2) << 8) + byteAt(at + 3))
+    {
+        if (byteAt(at) == 8)
+            lastSound = at;
+    }
+    bytes.replace(lastSound + 4, 4, "\xFF\xFF\xFF\x7F"); // 24 days
+    ASSERT_FALSE(Core::WriteFile(folder / "damaged.flv", bytes, false));
+
+    Proc::SettingsTranscode settings = SoftSettings(folder / "damaged.flv", folder / "out.mkv", "matroska", {});
+    settings.audioCodecId = "aac";
+    Conversion const done = Convert(settings);
+    ASSERT_TRUE(done.Succeeded()) << done.Words();
+    EXPECT_LT(Core::ReadFile(folder / "out.mkv", 1 << 24)->size(), 2 * bytes.size());
+}
+
 TEST(SoftConversionTest, AFullDiskIsSaidAndLeavesNothingBehind)
 {
     TemporaryFolder const folder;
