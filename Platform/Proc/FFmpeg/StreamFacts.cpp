@@ -126,7 +126,7 @@ microseconds DurationOf(AVFormatContext const& context, AVStream const& stream)
     if (type != AVMEDIA_TYPE_ATTACHMENT && stream.duration != AV_NOPTS_VALUE && stream.duration > 0)
         return microseconds(av_rescale_q(stream.duration, stream.time_base, AV_TIME_BASE_Q));
     bool const lastsAsLongAsTheFile = type == AVMEDIA_TYPE_VIDEO || type == AVMEDIA_TYPE_AUDIO;
-    return microseconds(lastsAsLongAsTheFile ? std::max<std::int64_t>(context.duration, 0) : 0);
+    return microseconds(lastsAsLongAsTheFile ? DurationInUs(context.duration, AV_TIME_BASE_Q) : 0);
 }
 
 bool HasProperty(AVCodecID codec, int property)
