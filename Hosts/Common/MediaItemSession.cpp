@@ -10,6 +10,7 @@
 
 #include "Conf/IFormatCodec.h"
 #include "Core/FileSystem.h"
+#include "Proc/Fonts.h"
 #include "Proc/MediaInfo.h"
 #include "Proc/SubtitleLoader.h"
 #include "Transcoder/ITranscoderInteractor.h"
@@ -322,9 +323,19 @@ private:
         track.synchronizationOffset = choice.offsetSeconds;
         DescribeExternal(track, choice, DamageReport::Here);
         ApplyLook(choice.look, collection.textSettings);
+        DescribeFont(choice.look);
         collection.mode = SubtitleCollectionMode::SelectedTrack;
         collection.withoutSubtitles = 0;
         collection.currentTrack = id;
+    }
+
+    /// A font that somebody chose is not replaced in silence; the default one is just a wish.
+    void DescribeFont(LookChoice const& look)
+    {
+        std::string const standIn = look.fontFamily ? Proc::FindStandInFont(*look.fontFamily) : std::string();
+        if (!standIn.empty())
+            m_notes.push_back("The font \"" + *look.fontFamily + "\" is not installed; \"" + standIn +
+                              "\" stands in for it in " + Quoted(m_info.path) + ".");
     }
 
     SubtitleTrackID FindBurnTrack(SubtitleChoice const& choice, SubtitleCollection const& collection) const

@@ -276,6 +276,8 @@ TEST_F(ConvertTest, BurningFindsItsTrackOrAsksForIt)
     auto const named = with({"--burn=2", "--bold", "--text-color", "yellow"});
     ASSERT_EQ(named.exitCode, 0) << named.err;
     EXPECT_TRUE(Subtitles("out.mp4").empty());
+    EXPECT_THAT(with({"--burn=2", "--font", "No Such Font"}).err, HasSubstr("\"No Such Font\" is not installed"));
+    EXPECT_THAT(with({"--burn=2", "--font", "dejavu sans bold"}).err, Not(HasSubstr("installed")));
     EXPECT_EQ(with({"--burn", "--add", added}).exitCode, 0);
     EXPECT_EQ(with({"--burn=" + m_folder.Path().utf8string() + "/./added.srt", "--add", added}).exitCode, 0);
 
