@@ -21,8 +21,9 @@ cat <<TEXT
 Written in $PWD/output:
     clip-soft.mkv      two switchable subtitle tracks, Russian (SubRip, was CP1251) and English (ASS)
     clip-burned.mp4    the English track drawn into the picture
-    clip-preview.png   the picture at 1.5 s with the Russian track
+    clip-preview.png   a picture of the clip with the Russian track drawn in
 
-Play them with any player: 'mpv output/clip-soft.mkv', 'vlc ...' or 'ffplay ...'; in the first one choose the subtitle
-track in the player's menu.
+Play them with any player, for example
+    mpv "$PWD/output/clip-soft.mkv"
+and choose the subtitle track in its menu.
 TEXT

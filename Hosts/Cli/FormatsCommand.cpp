@@ -69,6 +69,10 @@ ExitCode FormatsCommand::Run(Arguments const& arguments, Console& console)
         console.out << Pad(format.id, 10) << Pad(Hosts::DisplayName(format.id), 10)
                     << Pad(JoinWithComma(format.extensions), 12) << JoinWithComma(names) << '\n';
     }
+    if (!isJson)
+        console.out
+            << "\nOther text goes into Matroska, MP4 and MOV written anew as a kind that they carry; any track can be\n"
+               "drawn into the picture.\n";
     return ExitCode::Done;
 }
 

@@ -27,7 +27,8 @@ OptionGroup TrackGroup()
              "Only these of the film's own subtitle tracks, or none; all of them without this option. \"korvex "
              "tracks\" prints the IDs."},
             {"--add", OptionValue::Required, "FILE",
-             "Add a subtitle file (srt, ass, ssa, smi). The next four options describe the file added last.",
+             "Add a subtitle file (srt, ass, ssa, smi, vtt and others). The next four options describe the file added "
+             "last.",
              Repetition::Any},
             {"--language", OptionValue::Required, "L", "Its language, for example en, rus or pt-BR.", Repetition::Any},
             {"--title", OptionValue::Required, "T", "Its title.", Repetition::Any},

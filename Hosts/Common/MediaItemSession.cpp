@@ -104,7 +104,7 @@ public:
 
         m_interactor->AddTrackList(ListOwnTracks(choice));
         if (choice.lookUp == SidecarLookUp::BesideFilm && IsFilm())
-            LookUpSidecars();
+            m_services.GetTranscoder().AddMediaItem(m_item);
         for (AddedFile const& file : choice.added)
             Add(file);
         CompleteTracks();
@@ -199,29 +199,6 @@ private:
                            [](Proc::StreamInfo const& stream) {
                                return stream.kind == Proc::StreamKind::Video || stream.kind == Proc::StreamKind::Audio;
                            });
-    }
-
-    /// Files that somebody left beside the film and that hold nothing readable are no reason to fail.
-    void LookUpSidecars()
-    {
-        m_services.GetTranscoder().AddMediaItem(m_item);
-        SubtitleCollection collection = m_interactor->GetSubtitleCollection();
-        bool isChanged = false;
-        for (auto track = collection.tracks.begin(); track != collection.tracks.end();)
-        {
-            bool const isReadable = track->second.codecId != Conf::IFormatCodec::CODEC_ID_NONE;
-            if (isReadable || !track->second.isExternal)
-            {
-                ++track;
-                continue;
-            }
-            m_notes.push_back("The file " + Quoted(track->second.path) +
-                              " beside the film holds no readable subtitles and was left out.");
-            track = collection.tracks.erase(track);
-            isChanged = true;
-        }
-        if (isChanged)
-            m_interactor->SetSubtitleCollection(collection, true);
     }
 
     void Add(AddedFile const& file)
