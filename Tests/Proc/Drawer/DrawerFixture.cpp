@@ -2,12 +2,6 @@
 
 #include <stdexcept>
 
-/// Where no font is installed libass leaks fontconfig's empty answers, a few bytes each. Read by the leak checker.
-extern "C" __attribute__((visibility("default"))) char const* __lsan_default_suppressions()
-{
-    return "leak:libfontconfig\n";
-}
-
 namespace Korvex::Proc::Tests
 {
 
