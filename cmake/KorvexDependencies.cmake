@@ -1,7 +1,7 @@
 # Everything that is not the project's own, found here and nowhere else.
 
 find_package(Threads REQUIRED)
-find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui)
+find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets LinguistTools)
 find_package(Boost 1.74 REQUIRED COMPONENTS filesystem)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(FFMPEG REQUIRED IMPORTED_TARGET

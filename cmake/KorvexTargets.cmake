@@ -1,9 +1,10 @@
-# korvex_add_layer(<target> LIBRARY <shared library> SOURCES <file>... [LINKS <library>...])
+# korvex_add_layer(<target> LIBRARY <shared library> SOURCES <file>... [LINKS <library>...] [WIDGETS])
 #   One folder's objects; they become part of the shared library named. A layer sees the include roots of the project and
-#   what it links, nothing else.
+#   what it links, nothing else. WIDGETS: it has Qt objects of its own and resources.
 function(korvex_add_layer target)
-    cmake_parse_arguments(ARG "" "LIBRARY" "SOURCES;LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "WIDGETS" "LIBRARY" "SOURCES;LINKS" ${ARGN})
     add_library(${target} OBJECT ${ARG_SOURCES})
+    set_target_properties(${target} PROPERTIES AUTOMOC ${ARG_WIDGETS} AUTORCC ${ARG_WIDGETS})
     target_include_directories(${target} PUBLIC
         "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Platform>" "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Modules>")
     target_link_libraries(${target} PRIVATE korvex_compiler ${ARG_LINKS})

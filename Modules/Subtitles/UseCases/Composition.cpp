@@ -11,6 +11,7 @@ void FillBuilder(Hypodermic::ContainerBuilder& builder,
 {
     UseCases::RegisterGroupOne(builder);
     Adapters::RegisterGroupOne(builder);
+    Details::RegisterGroupOne(builder);
 
     // The customization manager chooses among the clients of online services; the layer that has them registers the
     // chosen one here, as the end of group two.
@@ -18,6 +19,7 @@ void FillBuilder(Hypodermic::ContainerBuilder& builder,
 
     UseCases::RegisterGroupThree(builder);
     Adapters::RegisterGroupThree(builder);
+    Details::RegisterGroupThree(builder);
 }
 
 void InitFactories(std::shared_ptr<Hypodermic::Container> const& container)

@@ -24,4 +24,10 @@ void RegisterGroupOne(Hypodermic::ContainerBuilder& builder);
 void RegisterGroupThree(Hypodermic::ContainerBuilder& builder);
 } // namespace Adapters
 
+namespace Details
+{
+void RegisterGroupOne(Hypodermic::ContainerBuilder& builder);
+void RegisterGroupThree(Hypodermic::ContainerBuilder& builder);
+} // namespace Details
+
 } // namespace Korvex::Converter::Subtitles

@@ -1,0 +1,123 @@
+#pragma once
+
+#include "Desktop/FilmProblem.h"
+
+#include "Core/ioPath.h"
+
+#include <QImage>
+#include <QObject>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Korvex::Hosts
+{
+class HostServices;
+} // namespace Korvex::Hosts
+
+namespace Korvex::Proc
+{
+struct MediaInfo;
+class SettingsSubtitleMixer;
+} // namespace Korvex::Proc
+
+namespace Korvex::Converter::Subtitles::Entities
+{
+enum class SubtitleEncoding : std::int32_t;
+struct SubtitleCollection;
+struct SubtitleTrack;
+} // namespace Korvex::Converter::Subtitles::Entities
+
+namespace Korvex::Desktop
+{
+
+struct ConversionJob;
+struct OutputSettings;
+
+/// Numbers films of one run of the program, from 1.
+using FilmId = std::uint32_t;
+
+enum class FilmState
+{
+    Reading, ///< its headers are being read
+    Ready,
+    Missing,    ///< the file has gone; choices are kept
+    Unreadable, ///< it is no film; GetStateSentence says why
+};
+
+/// What the user may say of an added subtitle file.
+struct TrackProperties
+{
+    std::string language; ///< short name; empty: not stated
+    std::string title;
+    bool isDefault = false;
+    bool isForced = false;
+};
+
+/// One film in the list: what it holds, the subtitles chosen for it, what stands in the way of converting it. Every
+/// choice goes through the module's interactor, of which each film holds one. GUI thread.
+class Film final : public QObject
+{
+    Q_OBJECT
+public:
+    /// `services` has to outlive the film. Nothing is read here: whoever read the file calls `SetMedia`.
+    Film(Hosts::HostServices& services, FilmId id, ioPath path);
+    ~Film() override;
+
+    [[nodiscard]] FilmId GetId() const;
+    [[nodiscard]] ioPath const& GetPath() const;
+    [[nodiscard]] FilmState GetState() const;
+    /// Why it is missing or unreadable; empty otherwise.
+    [[nodiscard]] QString GetStateSentence() const;
+    [[nodiscard]] Proc::MediaInfo const& GetMedia() const;
+    [[nodiscard]] QImage const& GetThumbnail() const;
+
+    /// A copy of what the interactor edits.
+    [[nodiscard]] Converter::Subtitles::Entities::SubtitleCollection GetCollection() const;
+    /// The track that is drawn in; empty when none is.
+    [[nodiscard]] std::optional<Converter::Subtitles::Entities::SubtitleTrack> GetDrawnTrack() const;
+    /// What is drawn into its picture; null: nothing. The object stays as it is; edits make a new one.
+    [[nodiscard]] std::shared_ptr<Proc::SettingsSubtitleMixer const> GetMixerSettings() const;
+    /// The choice in words: "No subtitles", "All 3 tracks", "Drawn in: film.ru.srt [Russian]".
+    [[nodiscard]] QString DescribeChoice() const;
+    [[nodiscard]] std::vector<FilmProblem> ListProblems() const;
+    [[nodiscard]] std::vector<Converter::Subtitles::Entities::SubtitleTrack> ListLeftOut() const;
+
+    void AddSubtitleFiles(std::vector<ioPath> const& paths);
+    void ChooseNone();
+    void ChooseAllSoft();
+    void ChooseTrack(Converter::Subtitles::Entities::SubtitleTrackID const& id);
+    /// A track of the film stays out of the output until it is put back; an added file leaves the list for good.
+    void LeaveOut(Converter::Subtitles::Entities::SubtitleTrackID const& id);
+    void PutBack(Converter::Subtitles::Entities::SubtitleTrackID const& id);
+    void SetTrackProperties(Converter::Subtitles::Entities::SubtitleTrackID const& id,
+                            TrackProperties const& properties);
+    [[nodiscard]] TrackProperties GetTrackProperties(Converter::Subtitles::Entities::SubtitleTrackID const& id) const;
+    void SetEncoding(Converter::Subtitles::Entities::SubtitleTrackID const& id,
+                     Converter::Subtitles::Entities::SubtitleEncoding encoding);
+    /// Everything but `Kind::ChooseFormat` and `Kind::Locate`, which are the list's and the window's.
+    void Apply(Remedy const& remedy);
+
+    void SetOutput(OutputSettings const& settings);
+    /// Takes the editing panel and the item panel of the host's GUI container, from whichever film had them.
+    void ShowInPanels();
+
+    /// Everything that a conversion needs, as it stands now. Only without problems.
+    [[nodiscard]] ConversionJob MakeJob(OutputSettings const& settings) const;
+
+Q_SIGNALS:
+    /// Anything that is shown of it changed: state, thumbnail, tracks, choice, look, problems.
+    void Changed();
+    void ExtractRequested(Converter::Subtitles::Entities::SubtitleTrackID const& id);
+    /// The user ticked "Apply to all files" and is done choosing.
+    void ApplyToAllRequested();
+
+private:
+    class Impl;
+    std::unique_ptr<Impl> m_impl;
+};
+
+} // namespace Korvex::Desktop

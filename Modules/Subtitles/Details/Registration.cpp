@@ -1,0 +1,14 @@
+// The only file of this layer that includes the container, which takes seconds to compile.
+
+#include "Subtitles/UseCases/RegistrationGroups.h"
+
+#include "Hypodermic/ContainerBuilder.h"
+
+namespace Korvex::Converter::Subtitles::Details
+{
+
+void RegisterGroupOne(Hypodermic::ContainerBuilder& /*builder*/) {}
+
+void RegisterGroupThree(Hypodermic::ContainerBuilder& /*builder*/) {}
+
+} // namespace Korvex::Converter::Subtitles::Details

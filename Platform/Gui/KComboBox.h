@@ -1,0 +1,18 @@
+#pragma once
+
+#include "Gui/Export.h"
+
+#include <QComboBox>
+
+/// A combo box in the host's look. A wheel turned over it scrolls the page it stands on unless the box has the focus.
+/// Otherwise a QComboBox.
+class KORVEX_GUI_API KComboBox : public QComboBox
+{
+    Q_OBJECT
+public:
+    explicit KComboBox(QWidget* parent = nullptr);
+    ~KComboBox() override;
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+};

@@ -1,0 +1,5 @@
+#include "Gui/KFrame.h"
+
+KFrame::KFrame(QWidget* parent) : QFrame(parent) {}
+
+KFrame::~KFrame() = default;
