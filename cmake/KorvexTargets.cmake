@@ -49,14 +49,24 @@ if(KORVEX_SANITIZE MATCHES "undefined")
     list(APPEND KORVEX_TEST_ENVIRONMENT "UBSAN_OPTIONS=print_stacktrace=1")
 endif()
 
-# korvex_add_test(<name> SOURCES <file>... [LINKS <library>...])
-#   One test program, one ctest entry, headless.
-function(korvex_add_test name)
+function(korvex_add_test_program name main_library)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/Tests")
-    target_link_libraries(${name} PRIVATE korvex_compiler ${ARG_LINKS} GTest::gmock GTest::gtest_main)
+    target_link_libraries(${name} PRIVATE korvex_compiler ${ARG_LINKS} ${main_library} GTest::gmock)
     target_precompile_headers(${name} PRIVATE <gmock/gmock.h> <gtest/gtest.h> <string> <vector>)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "${KORVEX_TEST_ENVIRONMENT}")
+endfunction()
+
+# korvex_add_test(<name> SOURCES <file>... [LINKS <library>...])
+#   One test program, one ctest entry, headless.
+function(korvex_add_test name)
+    korvex_add_test_program(${name} GTest::gtest_main ${ARGN})
+endfunction()
+
+# korvex_add_widget_test(<name> SOURCES <file>... [LINKS <library>...])
+#   The same for widgets: with a QApplication, the host's look, QTest and Tests/Support/WidgetSupport.h.
+function(korvex_add_widget_test name)
+    korvex_add_test_program(${name} korvex_widget_test_main ${ARGN})
 endfunction()

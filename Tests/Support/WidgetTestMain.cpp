@@ -1,0 +1,74 @@
+#include "Support/WidgetSupport.h"
+
+#include "Gui/LookAndFeelManager.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTest>
+#include <QWidget>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace
+{
+
+std::unique_ptr<Korvex::GUI::LookAndFeelManager> lookAndFeel;
+
+} // namespace
+
+namespace Korvex::Testing
+{
+
+App::ILookAndFeelManager& GetLookAndFeel()
+{
+    return *lookAndFeel;
+}
+
+void ForEachTheme(std::function<void(QString const& themeName)> const& body)
+{
+    App::Theme const before = lookAndFeel->GetTheme();
+    for (App::Theme const theme : {App::Theme::Light, App::Theme::Dark})
+    {
+        QString const name = theme == App::Theme::Light ? QStringLiteral("light") : QStringLiteral("dark");
+        SCOPED_TRACE(qPrintable(name));
+        lookAndFeel->SetTheme(theme);
+        body(name);
+    }
+    lookAndFeel->SetTheme(before);
+}
+
+void ShowAndWait(QWidget& widget)
+{
+    widget.show();
+    widget.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&widget));
+    QCoreApplication::processEvents();
+}
+
+void SaveScreenshot(QWidget& widget, QString const& name)
+{
+    QString const folder = qEnvironmentVariable("KORVEX_SCREENSHOTS");
+    if (folder.isEmpty())
+        return;
+    QString const path = QDir(folder).filePath(name + QStringLiteral(".png"));
+    EXPECT_TRUE(QDir().mkpath(folder) && widget.grab().save(path)) << "Cannot write " << qPrintable(path);
+}
+
+} // namespace Korvex::Testing
+
+int main(int argumentCount, char** arguments)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    testing::InitGoogleMock(&argumentCount, arguments);
+    QApplication const application(argumentCount, arguments);
+    lookAndFeel = std::make_unique<Korvex::GUI::LookAndFeelManager>(Korvex::App::Theme::Light);
+    int const result = RUN_ALL_TESTS();
+    lookAndFeel.reset();
+    return result;
+}
