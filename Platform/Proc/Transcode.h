@@ -35,7 +35,7 @@ struct TranscodeProgress
 {
     std::chrono::microseconds done{0};
     std::chrono::microseconds total{0}; ///< 0 when the input does not say how long it is
-    double speed = 0.0;                 ///< media seconds a second
+    double speed = 0.0;                 ///< media seconds a second, not counting the time spent paused
     std::optional<std::chrono::seconds> remaining;
 };
 
@@ -69,6 +69,10 @@ public:
     virtual void Start(ITranscodeObserver& observer) = 0;
     /// Asks the job to stop; returns at once. Any thread; more than once is harmless.
     virtual void Cancel() = 0;
+    /// Makes the job stand still or go on; returns at once. Any thread, before the start too. What was read already is
+    /// still written, so the last progress may come a moment later, and a job that has read everything ends all the
+    /// same. A paused job keeps its file and its memory; it can be cancelled.
+    virtual void SetPaused(bool isPaused) = 0;
     /// Blocks until `OnFinished` has returned.
     virtual void Wait() = 0;
 };

@@ -76,6 +76,10 @@ public:
 
     /// Asks a conversion to stop; it then finishes as cancelled. An unknown or finished id does nothing.
     virtual void CancelConversion(ConversionId id) = 0;
+
+    /// Makes a conversion stand still or go on. The time spent paused counts neither for its speed nor for the time
+    /// left. An unknown or finished id does nothing.
+    virtual void SetConversionPaused(ConversionId id, bool isPaused) = 0;
 };
 
 } // namespace Korvex::Converter::Transcoder::Entities

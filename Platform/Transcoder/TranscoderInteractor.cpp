@@ -78,6 +78,13 @@ public:
             found->second->job->Cancel();
     }
 
+    void SetPaused(ConversionId id, bool isPaused)
+    {
+        auto const found = m_running.find(id);
+        if (found != m_running.end())
+            found->second->job->SetPaused(isPaused);
+    }
+
     Core::EventHandlerList<ITranscoderInteractorEventObserver> observers;
 
     bool event(QEvent* event) override
@@ -232,6 +239,11 @@ Core::Result<ConversionId> TranscoderInteractor::StartConversion(ConversionReque
 void TranscoderInteractor::CancelConversion(ConversionId id)
 {
     m_impl->Cancel(id);
+}
+
+void TranscoderInteractor::SetConversionPaused(ConversionId id, bool isPaused)
+{
+    m_impl->SetPaused(id, isPaused);
 }
 
 } // namespace Korvex::Converter::Transcoder

@@ -55,6 +55,7 @@ public:
         m_cancelled = true;
         m_condition.notify_all();
     }
+    void SetPaused(bool isPaused) override { paused = isPaused; }
     void Wait() override
     {
         if (m_thread.joinable())
@@ -65,6 +66,8 @@ public:
         std::unique_lock lock(m_mutex);
         m_condition.wait(lock, [this] { return m_cancelled.load(); });
     }
+
+    std::atomic<bool> paused{false};
 
 private:
     ~ScriptedJob() override
@@ -211,6 +214,26 @@ TEST_F(TranscoderInteractorTest, ALoopThatDoesNotRunIsNotFloodedWithProgress)
     ASSERT_TRUE(m_listener.reports.front().error);
     EXPECT_EQ(m_listener.reports.front().error->code, Core::ErrorCode::Cancelled);
     interactor->CancelConversion(*id);
+}
+
+TEST_F(TranscoderInteractorTest, AConversionIsPausedByItsId)
+{
+    std::vector<ScriptedJob*> jobs;
+    TranscoderInteractor interactor(
+        [&](Proc::SettingsTranscode const&) -> Core::Result<boost::intrusive_ptr<Proc::ITranscodeJob>>
+        {
+            jobs.push_back(new ScriptedJob([](ScriptedJob& job, auto&) { job.WaitForCancel(); }));
+            return boost::intrusive_ptr<Proc::ITranscodeJob>(jobs.back());
+        });
+    ASSERT_TRUE(interactor.StartConversion(m_request, m_listener));
+    auto const second = interactor.StartConversion(m_request, m_listener);
+    ASSERT_TRUE(second);
+    interactor.SetConversionPaused(*second, true);
+    EXPECT_FALSE(jobs[0]->paused);
+    EXPECT_TRUE(jobs[1]->paused);
+    interactor.SetConversionPaused(*second, false);
+    EXPECT_FALSE(jobs[1]->paused);
+    interactor.SetConversionPaused(*second + 1, true);
 }
 
 TEST_F(TranscoderInteractorTest, DestroyingItCancelsWaitsAndSilencesEverything)

@@ -87,7 +87,7 @@ Demuxing::Demuxing(InputFile const& file, std::vector<Route> routes, PacketMerge
 
 void Demuxing::Run()
 {
-    while (!m_control.IsStopped())
+    for (m_control.Gate().Pass(); !m_control.IsStopped(); m_control.Gate().Pass())
     {
         Packet packet = MakePacket();
         Core::Result<bool> const more = m_file.ReadPacket(*packet);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Proc/FFmpeg/PauseGate.h"
+
 #include "Core/Error.h"
 
 #include <atomic>
@@ -13,7 +15,8 @@
 namespace Korvex::Proc::FFmpeg
 {
 
-/// What the threads of one job share: the order to stop and why. The first reason counts. Any thread.
+/// What the threads of one job share: the order to stop and why, of which the first reason counts, and the gate at
+/// which a paused job's reading stands. Any thread.
 class JobControl
 {
 public:
@@ -37,6 +40,7 @@ public:
             return;
         m_error = std::move(error);
         m_isStopped = true;
+        m_gate.Release();
         for (auto const& wake : m_wakes)
             wake();
     }
@@ -55,6 +59,8 @@ public:
         std::lock_guard const lock(m_mutex);
         m_warnings.push_back(std::move(sentence));
     }
+
+    [[nodiscard]] PauseGate& Gate() { return m_gate; }
 
     [[nodiscard]] bool IsStopped() const { return m_isStopped; }
     /// For the library's own interrupt callbacks.
@@ -78,6 +84,7 @@ private:
     std::optional<Core::Error> m_error;
     std::vector<std::string> m_warnings;
     std::vector<std::function<void()>> m_wakes;
+    PauseGate m_gate;
 };
 
 } // namespace Korvex::Proc::FFmpeg

@@ -28,8 +28,10 @@ constexpr auto PROGRESS_INTERVAL = std::chrono::milliseconds(200);
 class ProgressMeter
 {
 public:
-    ProgressMeter(std::chrono::microseconds total, ITranscodeObserver& observer)
+    ProgressMeter(std::chrono::microseconds total, ITranscodeObserver& observer, PauseGate const& gate)
         : m_observer(observer),
+          m_gate(gate),
+          m_pausedBefore(gate.GetPausedTime()),
           m_begin(Clock::now()),
           m_lastReport(m_begin)
     {
@@ -62,7 +64,8 @@ public:
 private:
     void Report(Clock::time_point now)
     {
-        double const elapsed = std::chrono::duration<double>(now - m_begin).count();
+        Clock::duration const paused = m_gate.GetPausedTime() - m_pausedBefore;
+        double const elapsed = std::chrono::duration<double>(now - m_begin - paused).count();
         double const done = std::chrono::duration<double>(m_progress.done).count();
         m_progress.speed = elapsed > 0 ? done / elapsed : 0.0;
         m_progress.remaining.reset();
@@ -75,6 +78,8 @@ private:
     }
 
     ITranscodeObserver& m_observer;
+    PauseGate const& m_gate;
+    Clock::duration const m_pausedBefore;
     Clock::time_point const m_begin;
     Clock::time_point m_lastReport;
     TranscodeProgress m_progress;
@@ -101,7 +106,7 @@ public:
     void Run(ITranscodeObserver& observer)
     {
         m_runner = std::this_thread::get_id();
-        ProgressMeter meter(PlayingTime(m_input->Context()), observer);
+        ProgressMeter meter(PlayingTime(m_input->Context()), observer, control->Gate());
         TranscodeReport report;
         // The stated duration may be far off.
         bool isEstimate = m_input->Context().duration_estimation_method == AVFMT_DURATION_FROM_BITRATE;
@@ -178,6 +183,7 @@ public:
     }
 
     void Cancel() override { m_state->Cancel(); }
+    void SetPaused(bool isPaused) override { m_state->control->Gate().SetPaused(isPaused); }
 
     void Wait() override
     {

@@ -1,0 +1,158 @@
+#include "Proc/FFmpeg/ConversionRunner.h"
+#include "Proc/FFmpeg/FilmReader.h"
+#include "Support/MediaMaker.h"
+
+#include "Core/FileSystem.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <future>
+#include <thread>
+
+namespace Korvex::Proc
+{
+namespace
+{
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+/// Long enough for everything that waits in the queues to run out.
+constexpr auto RUN_OUT = 600ms;
+
+/// Pauses the job at its first progress.
+struct Listener final : ITranscodeObserver
+{
+    void OnProgress(TranscodeProgress const& progress) override
+    {
+        last = progress;
+        if (reportCount++ > 0)
+            return;
+        job->SetPaused(true);
+        pausedAt = Clock::now();
+        paused.set_value();
+    }
+    void OnFinished(TranscodeReport const& finished) override
+    {
+        report = finished;
+        finishedAt = Clock::now();
+        hasFinished = true;
+    }
+
+    ITranscodeJob* job = nullptr;
+    std::atomic<int> reportCount{0};
+    std::atomic<bool> hasFinished{false};
+    std::promise<void> paused;
+    Clock::time_point pausedAt;
+    Clock::time_point finishedAt;
+    TranscodeProgress last;
+    TranscodeReport report;
+};
+
+class JobPauseTest : public testing::Test
+{
+protected:
+    JobPauseTest()
+    {
+        Testing::MadeMedia film;
+        film.video.emplace();
+        film.video->encoder = "mpeg4";
+        film.video->frameCount = 1000;
+        film.audios.resize(1);
+        film.audios[0].duration = 40s;
+        MakeMedia(m_folder / "in.mkv", film);
+    }
+
+    SettingsTranscode Settings(std::string const& output) const
+    {
+        SettingsTranscode settings;
+        settings.input = m_folder / "in.mkv";
+        settings.output = m_folder / output;
+        settings.formatId = "matroska";
+        settings.videoCodecId = "h264";
+        settings.audioCodecId = "aac";
+        return settings;
+    }
+
+    /// Starts it and gives it back standing still in the middle.
+    boost::intrusive_ptr<ITranscodeJob> StartAndPause(Listener& listener, std::string const& output)
+    {
+        auto job = MakeTranscodeJob(Settings(output));
+        EXPECT_TRUE(job);
+        listener.job = job->get();
+        (*job)->Start(listener);
+        listener.paused.get_future().wait();
+        std::this_thread::sleep_for(RUN_OUT);
+        int const reports = listener.reportCount;
+        std::this_thread::sleep_for(RUN_OUT);
+        EXPECT_EQ(listener.reportCount, reports) << "something goes on while paused";
+        EXPECT_FALSE(listener.hasFinished);
+        return std::move(job).Value();
+    }
+
+    Testing::TemporaryFolder m_folder;
+};
+
+TEST_F(JobPauseTest, APausedJobStandsStillAndGoesOnToTheSameOutput)
+{
+    ASSERT_TRUE(Testing::Convert(Settings("straight.mkv")).Succeeded());
+
+    Listener listener;
+    auto const job = StartAndPause(listener, "paused.mkv");
+    Clock::duration const pause = Clock::now() - listener.pausedAt;
+    auto const begin = listener.pausedAt;
+    job->SetPaused(false);
+    job->Wait();
+    ASSERT_FALSE(listener.report.error) << Core::ToSentence(*listener.report.error);
+
+    double const workedSeconds = std::chrono::duration<double>(listener.last.done).count() / listener.last.speed;
+    auto const before = std::chrono::duration<double>(200ms).count();
+    double const sincePause = std::chrono::duration<double>(listener.finishedAt - begin - pause).count();
+    EXPECT_GT(workedSeconds, before * 0.9);
+    EXPECT_LT(workedSeconds, sincePause + before + 0.5) << "the pause of 1.2 s counts as work";
+
+    auto const straight = Testing::ReadFilm(m_folder / "straight.mkv");
+    auto const paused = Testing::ReadFilm(m_folder / "paused.mkv");
+    ASSERT_EQ(paused.packets.size(), straight.packets.size());
+    for (int stream = 0; stream < 2; ++stream)
+    {
+        auto const expected = straight.PacketsOf(stream);
+        auto const actual = paused.PacketsOf(stream);
+        ASSERT_EQ(actual.size(), expected.size());
+        for (std::size_t i = 0; i < expected.size(); ++i)
+        {
+            EXPECT_EQ(actual[i].time, expected[i].time) << i;
+            EXPECT_EQ(actual[i].bytes, expected[i].bytes) << i;
+        }
+    }
+}
+
+TEST_F(JobPauseTest, APausedJobCanBeCancelledAndDropped)
+{
+    Listener cancelled;
+    auto job = StartAndPause(cancelled, "out.mkv");
+    job->Cancel();
+    job->Wait();
+    ASSERT_TRUE(cancelled.report.error);
+    EXPECT_EQ(cancelled.report.error->code, Core::ErrorCode::Cancelled);
+    EXPECT_EQ(Core::ListFolder(m_folder.Path()), std::vector<std::string>{"in.mkv"});
+
+    Listener dropped;
+    job = StartAndPause(dropped, "out.mkv");
+    job.reset();
+    EXPECT_TRUE(dropped.hasFinished);
+    EXPECT_EQ(Core::ListFolder(m_folder.Path()), std::vector<std::string>{"in.mkv"});
+
+    Listener unstarted;
+    auto made = MakeTranscodeJob(Settings("out.mkv"));
+    ASSERT_TRUE(made);
+    (*made)->SetPaused(true);
+    (*made)->Start(unstarted);
+    std::this_thread::sleep_for(RUN_OUT);
+    EXPECT_EQ(unstarted.reportCount, 0);
+    EXPECT_FALSE(unstarted.hasFinished);
+}
+
+} // namespace
+} // namespace Korvex::Proc
