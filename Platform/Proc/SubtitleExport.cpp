@@ -34,16 +34,26 @@ Core::Error MakeError(ErrorCode code, SubtitleSource const& source, std::string 
     return error;
 }
 
-Core::Result<SubtitleDocument> Load(SubtitleSource const& source)
+Core::Result<SubtitleDocument> LoadWhole(SubtitleSource const& source)
 {
     if (source.streamIndex)
-        return LoadSubtitleStream(source.path, *source.streamIndex);
+        return LoadSubtitleStream(source.path, *source.streamIndex, source.cancelled.get());
     if (source.samiClass.empty())
-        return LoadSubtitleFile(source.path, source.encoding);
+        return LoadSubtitleFile(source.path, source.encoding, source.cancelled.get());
     Core::Result<std::optional<ExternalText>> text = LoadExternalText(source.path, source.encoding, source.samiClass);
     if (!text)
         return text.GetError();
-    return *text ? SubtitleDocument(std::move((*text)->document)) : LoadSubtitleFile(source.path, source.encoding);
+    return *text ? SubtitleDocument(std::move((*text)->document))
+                 : LoadSubtitleFile(source.path, source.encoding, source.cancelled.get());
+}
+
+/// The last look at the flag: from here on nothing takes long.
+Core::Result<SubtitleDocument> Load(SubtitleSource const& source)
+{
+    Core::Result<SubtitleDocument> document = LoadWhole(source);
+    if (document && source.cancelled && *source.cancelled)
+        return MakeError(ErrorCode::Cancelled, source, {}, {});
+    return document;
 }
 
 template <typename Predicate>
@@ -142,22 +152,21 @@ Core::Result<ExportedSubtitle> ExtractPackets(SubtitleSource const& source, ioPa
 {
     ExportedSubtitle exported;
     std::optional<Core::Error> readError;
-    Core::Status const failure =
-        WriteAside(target,
-                   [&](ioPath const& file) -> Core::Status
-                   {
-                       Core::Result<std::size_t> const count = FFmpeg::CopySubtitleStream(
-                           source.path, source.streamIndex, container, source.timeShift, file, exported.sourceCodecId);
-                       if (count)
-                       {
-                           exported.cueCount = *count;
-                           return Core::SUCCESS;
-                       }
-                       // What is wrong with the source is not to be told of the target.
-                       if (count.GetError().file == source.path)
-                           readError = count.GetError();
-                       return count.GetError();
-                   });
+    Core::Status const failure = WriteAside(target,
+                                            [&](ioPath const& file) -> Core::Status
+                                            {
+                                                Core::Result<std::size_t> const count = FFmpeg::CopySubtitleStream(
+                                                    source, container, file, exported.sourceCodecId);
+                                                if (count)
+                                                {
+                                                    exported.cueCount = *count;
+                                                    return Core::SUCCESS;
+                                                }
+                                                // What is wrong with the source is not to be told of the target.
+                                                if (count.GetError().file == source.path)
+                                                    readError = count.GetError();
+                                                return count.GetError();
+                                            });
     if (readError)
     {
         if (readError->code == ErrorCode::ContainerCannotCarry)

@@ -3,8 +3,10 @@
 #include "Core/Export.h"
 #include "Core/Result.h"
 
+#include <atomic>
 #include <chrono>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,6 +22,8 @@ struct SubtitleSource
     std::string encoding;                     ///< the core's name; empty: detect. External text only
     std::chrono::microseconds timeShift{0};   ///< added to every time
     std::string samiClass;                    ///< which class of a SAMI file; empty: the first
+    /// Set by another thread to give up: the call ends with ErrorCode::Cancelled and leaves no file. Null: never.
+    std::shared_ptr<std::atomic<bool> const> cancelled;
 };
 
 /// What `PrepareSubtitle` or `ExtractSubtitle` wrote.

@@ -64,7 +64,7 @@ bool IsFrameBased(std::string_view text)
     return take('{') && takeNumber(false) && take('}') && take('{') && takeNumber(true) && take('}');
 }
 
-int IsCancelled(void* flag)
+int ReadFlag(void* flag)
 {
     return static_cast<std::atomic<bool> const*>(flag)->load(std::memory_order_relaxed) ? 1 : 0;
 }
@@ -242,7 +242,7 @@ Core::Result<InputFile> InputFile::Open(ioPath const& path, InputOptions const& 
     AVFormatContext* raw = MakeInputContext().release();
     if (options.cancelled)
     {
-        raw->interrupt_callback.callback = &IsCancelled;
+        raw->interrupt_callback.callback = &ReadFlag;
         raw->interrupt_callback.opaque = const_cast<std::atomic<bool>*>(options.cancelled);
     }
     Dictionary settings;
@@ -326,6 +326,8 @@ Core::Result<bool> InputFile::ReadPacket(AVPacket& packet) const
     // A demuxer may ask to be called again, but a broken file must not keep it asking.
     constexpr int MOST_ATTEMPTS = 1000;
     av_packet_unref(&packet);
+    if (IsCancelled())
+        return MakeError(ErrorCode::Cancelled, m_path);
     int result = AVERROR(EAGAIN);
     for (int attempt = 0; result == AVERROR(EAGAIN) && attempt < MOST_ATTEMPTS; ++attempt)
         result = av_read_frame(m_context.get(), &packet);
@@ -334,13 +336,20 @@ Core::Result<bool> InputFile::ReadPacket(AVPacket& packet) const
         DropUnusableTimes(packet, m_context->streams[packet.stream_index]->time_base);
         return true;
     }
-    if (result == AVERROR_EXIT)
+    // A demuxer may take an interrupted read for the end of the file.
+    if (result == AVERROR_EXIT || IsCancelled())
         return MakeError(ErrorCode::Cancelled, m_path);
     // Demuxers report a file that breaks off as an input error too; only the reader below them knows.
     int const readError = m_context->pb ? m_context->pb->error : 0;
     if (readError < 0 && readError != AVERROR_EOF)
         return MakeError(ErrorCode::FileUnreadable, m_path, ErrorText(readError));
     return false;
+}
+
+bool InputFile::IsCancelled() const
+{
+    AVIOInterruptCB const& interrupt = m_context->interrupt_callback;
+    return interrupt.callback && interrupt.callback(interrupt.opaque) != 0;
 }
 
 std::chrono::microseconds InputFile::ToMediaTime(std::int64_t timestamp, AVRational timeBase) const

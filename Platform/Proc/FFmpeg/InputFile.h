@@ -65,8 +65,12 @@ public:
     void SelectOnly(std::uint32_t index) const;
 
     /// Replaces what `packet` holds by the next packet of any selected stream. False at the end of the file; the end of
-    /// a truncated file counts as its end. Times and durations that cannot be true are taken off.
+    /// a truncated file counts as its end. Times and durations that cannot be true are taken off. Fails with
+    /// FileUnreadable or Cancelled.
     [[nodiscard]] Core::Result<bool> ReadPacket(AVPacket& packet) const;
+
+    /// True once the flag that it was opened with is set.
+    [[nodiscard]] bool IsCancelled() const;
 
     /// A usable time of a stream, counted from `StartTime`.
     [[nodiscard]] std::chrono::microseconds ToMediaTime(std::int64_t timestamp, AVRational timeBase) const;

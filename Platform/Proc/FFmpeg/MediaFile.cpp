@@ -29,9 +29,10 @@ Core::Result<MediaInfo> ProbeMediaFile(ioPath const& path)
     return DescribeFile(*file);
 }
 
-Core::Result<SubtitleDocument> LoadMediaSubtitles(ioPath const& path, std::optional<std::uint32_t> streamIndex)
+Core::Result<SubtitleDocument> LoadMediaSubtitles(ioPath const& path, std::optional<std::uint32_t> streamIndex,
+                                                  std::atomic<bool> const* cancelled)
 {
-    Core::Result<InputFile> const file = InputFile::Open(path, {StreamAnalysis::Quick});
+    Core::Result<InputFile> const file = InputFile::Open(path, {StreamAnalysis::Quick, cancelled});
     if (!file)
         return file.GetError();
     if (streamIndex)

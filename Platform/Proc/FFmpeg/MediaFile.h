@@ -5,6 +5,7 @@
 #include "Proc/Streams.h"
 #include "Proc/SubtitleContent.h"
 
+#include <atomic>
 #include <optional>
 #include <string>
 
@@ -16,9 +17,10 @@ namespace Korvex::Proc::FFmpeg
 [[nodiscard]] Core::Result<MediaInfo> ProbeMediaFile(ioPath const& path);
 
 /// One subtitle stream, whole; without an index the file's first. Jumps in the clock of a transport stream are closed,
-/// as a conversion closes them.
+/// as a conversion closes them. `cancelled`, where given, makes it end with Cancelled once it is set.
 [[nodiscard]] Core::Result<SubtitleDocument> LoadMediaSubtitles(ioPath const& path,
-                                                                std::optional<std::uint32_t> streamIndex);
+                                                                std::optional<std::uint32_t> streamIndex,
+                                                                std::atomic<bool> const* cancelled = nullptr);
 
 [[nodiscard]] Core::Result<boost::intrusive_ptr<IStreamRaw>> OpenRawStream(ioPath const& path,
                                                                            std::uint32_t streamIndex);

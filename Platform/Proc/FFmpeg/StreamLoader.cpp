@@ -128,6 +128,8 @@ TextDocument ReadNativeText(InputFile const& file, std::uint32_t index, std::vec
     std::vector<int> readOrders;
     for (RawPacket const& packet : packets)
     {
+        if (file.IsCancelled())
+            break;
         int readOrder = static_cast<int>(readOrders.size());
         TextCue cue = ReadTextPacket(text.Decode(packet), markup, readOrder);
         if (cue.text.empty())
@@ -156,6 +158,8 @@ Core::Result<SubtitleDocument> ReadByDecoder(InputFile const& file, std::uint32_
     std::vector<DecodedEvent> events;
     for (RawPacket const& packet : packets)
     {
+        if (file.IsCancelled())
+            break;
         if (std::optional<DecodedEvent> event = decoder->Decode(packet))
             events.push_back(std::move(*event));
     }
@@ -264,6 +268,8 @@ Core::Result<SubtitleDocument> LoadStream(InputFile const& file, std::uint32_t i
     std::optional<TextMarkup> const markup = PacketMarkup(CodecName(stream->codecpar->codec_id));
     Core::Result<SubtitleDocument> document = markup ? SubtitleDocument(ReadNativeText(file, index, *packets, *markup))
                                                      : ReadByDecoder(file, index, *packets);
+    if (file.IsCancelled())
+        return MakeError(ErrorCode::Cancelled, file.Path());
     if (document)
     {
         if (auto* text = std::get_if<TextDocument>(&*document))

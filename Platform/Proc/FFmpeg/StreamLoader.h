@@ -31,7 +31,7 @@ enum class JumpHandling
 void CollectFonts(InputFile const& file, std::vector<FontAttachment>& fonts);
 
 /// One subtitle stream, whole, from a file that was just opened, with the fonts that are attached to the file. Fails
-/// with NoSuchTrack, TrackNotSubtitle, CodecNotSupported or what reading fails with.
+/// with NoSuchTrack, TrackNotSubtitle, CodecNotSupported or what reading fails with, Cancelled included.
 [[nodiscard]] Core::Result<SubtitleDocument> LoadStream(InputFile const& file, std::uint32_t index,
                                                         JumpHandling jumps = JumpHandling::Close);
 

@@ -216,16 +216,15 @@ std::string EncodeMovText(AVCodecContext& encoder, std::string const& text)
 
 } // namespace
 
-Core::Result<std::size_t> CopySubtitleStream(ioPath const& source, std::optional<std::uint32_t> streamIndex,
-                                             SubtitleContainer container, microseconds timeShift, ioPath const& file,
-                                             std::string& codecId)
+Core::Result<std::size_t> CopySubtitleStream(SubtitleSource const& source, SubtitleContainer container,
+                                             ioPath const& file, std::string& codecId)
 {
-    Core::Result<InputFile> const input = InputFile::Open(source, {StreamAnalysis::Quick});
+    Core::Result<InputFile> const input = InputFile::Open(source.path, {StreamAnalysis::Quick, source.cancelled.get()});
     if (!input)
         return input.GetError();
-    std::optional<std::uint32_t> const index = ChooseStream(*input, streamIndex);
+    std::optional<std::uint32_t> const index = ChooseStream(*input, source.streamIndex);
     if (!index)
-        return NoTrack(source, streamIndex);
+        return NoTrack(source.path, source.streamIndex);
     AVCodecParameters const& parameters = *input->FindStream(*index)->codecpar;
     codecId = CodecName(parameters.codec_id);
     if (!CanCarry(container, parameters))
@@ -234,7 +233,8 @@ Core::Result<std::size_t> CopySubtitleStream(ioPath const& source, std::optional
     if (!packets)
         return packets.GetError();
 
-    auto const isTooEarly = [&](RawPacket& packet) { return (packet.start += timeShift) < microseconds::zero(); };
+    auto const isTooEarly = [&](RawPacket& packet)
+    { return (packet.start += source.timeShift) < microseconds::zero(); };
     packets->erase(std::remove_if(packets->begin(), packets->end(), isTooEarly), packets->end());
     Writer writer(container == SubtitleContainer::Matroska ? "matroska" : "sup", file);
     DescribeCopy(*input, *index, container, writer);
@@ -242,6 +242,8 @@ Core::Result<std::size_t> CopySubtitleStream(ioPath const& source, std::optional
         return *failure;
     for (RawPacket const& packet : *packets)
     {
+        if (input->IsCancelled())
+            return MakeError(ErrorCode::Cancelled, source.path);
         std::string_view const bytes(reinterpret_cast<char const*>(packet.data.data()), packet.data.size());
         if (Core::Status failure = writer.Write(bytes, packet.start, packet.duration))
             return *failure;

@@ -7,6 +7,10 @@
 #include "Proc/Register.h"
 #include "Proc/SubtitleLoader.h"
 
+#include <atomic>
+#include <future>
+#include <thread>
+
 namespace Korvex::Proc
 {
 
@@ -229,6 +233,56 @@ TEST_F(ExportTest, AClassOfSamiAndAShiftBeforeZero)
     EXPECT_EQ(BytesOf(prepared->path), "1\n00:00:00,000 --> 00:00:03,000\nSegye\n\n");
     EXPECT_EQ(prepared->leftOutCues, 1U) << "the cue that would end before the film begins";
     EXPECT_EQ(prepared->sourceCodecId, "sami");
+}
+
+TEST_F(ExportTest, ACancelEndsTheReadingAtAnyMomentAndLeavesNoFile)
+{
+    MadeMedia media;
+    media.audios.resize(1);
+    media.audios[0].duration = std::chrono::minutes(10);
+    media.subtitles.resize(2);
+    media.subtitles[1].codecId = "hdmv_pgs_subtitle";
+    for (int second = 0; second < 599; ++second)
+    {
+        MadeCue cue = Testing::MakeBoxCues().front();
+        cue.text = "Cue";
+        cue.start = std::chrono::seconds(second);
+        cue.end = cue.start + milliseconds(700);
+        media.subtitles[0].cues.push_back(cue);
+        media.subtitles[1].cues.push_back(cue);
+    }
+    ioPath const film = m_folder / "film.mkv";
+    Testing::MakeMedia(film, media);
+
+    auto const run = [&](int kind, std::shared_ptr<std::atomic<bool> const> cancelled)
+    {
+        SubtitleSource source = StreamOf(film, kind == 2 ? 2 : 1);
+        source.cancelled = std::move(cancelled);
+        if (kind == 0)
+            return PrepareSubtitle(source, {"mov_text"}, m_folder.Path(), "out");
+        return ExtractSubtitle(source, m_folder / (kind == 1 ? "out.srt" : "out.sup"));
+    };
+    for (int kind = 0; kind < 3; ++kind)
+    {
+        SCOPED_TRACE(kind);
+        auto const begin = std::chrono::steady_clock::now();
+        Core::Result<ExportedSubtitle> const whole = run(kind, nullptr);
+        auto const time = std::chrono::steady_clock::now() - begin;
+        ASSERT_TRUE(whole) << Core::ToSentence(whole.GetError());
+        Core::RemoveFile(whole->path);
+        for (int eighths = 0; eighths < 8; ++eighths)
+        {
+            auto const cancelled = std::make_shared<std::atomic<bool>>(eighths == 0);
+            auto pending = std::async(std::launch::async, run, kind, cancelled);
+            std::this_thread::sleep_for(time * eighths / 8);
+            *cancelled = true;
+            Core::Result<ExportedSubtitle> const exported = pending.get();
+            EXPECT_TRUE(exported ? eighths > 0 : exported.GetError().code == ErrorCode::Cancelled);
+            EXPECT_EQ(Core::ListFolder(m_folder.Path()).size(), exported ? 2U : 1U);
+            if (exported)
+                Core::RemoveFile(exported->path);
+        }
+    }
 }
 
 } // namespace Korvex::Proc
