@@ -5,6 +5,7 @@
 #include "Common/Sentences.h"
 #include "Common/SessionError.h"
 #include "Common/SoftPreparation.h"
+#include "Common/WorkFolder.h"
 
 #include "Subtitles/Subtitles.h"
 

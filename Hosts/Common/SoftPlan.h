@@ -38,14 +38,24 @@ struct SoftRewrite
     bool hasShift = false;
 };
 
+/// Why a track cannot go out as a switchable stream.
+enum class CarryObstacle
+{
+    Codec,    ///< the container takes neither it nor what could be made of it
+    Encoding, ///< its encoding was chosen, and it cannot be written anew
+    Offset,   ///< it is to be moved, and cannot be written anew
+};
+
 /// A track that the container cannot carry, whatever is written anew.
 struct CarryProblem
 {
     Converter::Subtitles::Entities::SubtitleTrack track;
+    CarryObstacle obstacle = CarryObstacle::Codec;
     std::vector<std::string> formatIds; ///< the containers that could carry it as it is
 };
 
-/// What has to happen to a collection's tracks before all of them go out as switchable streams.
+/// What has to happen to a collection's tracks before all of them go out as switchable streams. In the order of the
+/// lists.
 struct SoftPlan
 {
     std::string formatId;
@@ -54,10 +64,20 @@ struct SoftPlan
     std::vector<CarryProblem> problems; ///< with any of these the conversion has to be refused
 };
 
-/// Looks at codecs, encodings and offsets alone; reads nothing. GUI thread.
+/// Looks at codecs, encodings and offsets alone; reads nothing. The tracks have to bear the codecs of their sources.
+/// GUI thread.
 [[nodiscard]] SoftPlan MakeSoftPlan(HostServices const& services, Proc::MediaInfo const& film,
                                     Converter::Subtitles::Entities::SubtitleCollection const& collection,
                                     std::string const& formatId);
+
+/// Why a track that is to be written anew may have to be refused: the strongest of its reasons.
+[[nodiscard]] CarryObstacle FindObstacle(SoftRewrite const& rewrite);
+
+/// The containers that carry this codec as it is, in the order in which they are offered.
+[[nodiscard]] std::vector<std::string> ListFormatsThatCarry(HostServices const& services, std::string const& codecId);
+
+/// Text of any kind, as opposed to bitmaps: only text can be written anew.
+[[nodiscard]] bool IsTextTrack(Proc::MediaInfo const& film, Converter::Subtitles::Entities::SubtitleTrack const& track);
 
 /// The codec that a track of this codec goes out as: itself where the container takes it, else what its text is written
 /// anew as; empty when the container takes neither. `isText`: it is text of any kind.
