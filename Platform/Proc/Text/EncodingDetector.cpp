@@ -24,6 +24,8 @@ namespace
 constexpr double HINT_BONUS = 6.0;     ///< the language that the file's name gives
 constexpr double LOCALE_BONUS = 1.5;   ///< the language of the user's machine
 constexpr double UCHARDET_BONUS = 3.0; ///< the other detector says so
+/// How far a score has to be ahead for some certainty.
+constexpr double SURE = 5.0;
 
 struct UchardetDeleter
 {
@@ -168,21 +170,35 @@ private:
             static constexpr double CONFIDENCE = 0.1;
             LanguageModel const* const language = !m_hinted.empty() ? m_hinted.front() : m_locale;
             return {language != nullptr ? std::string(language->codePage) : "CP1252",
-                    TextDecodeReport::Source::Fallback, CONFIDENCE};
+                    TextDecodeReport::Source::Fallback, CONFIDENCE, Rank(rivalScore, CONFIDENCE)};
         }
-        static constexpr double SURE = 5.0;
-        double const confidence = 1 - std::exp(-(best.score - rivalScore) / SURE);
-        return {PreferOffered(best.encoding), TextDecodeReport::Source::Detector, std::clamp(confidence, 0.05, 0.99)};
+        double const confidence = std::clamp(1 - std::exp(-(best.score - rivalScore) / SURE), 0.05, 0.99);
+        return {PreferOffered(best.encoding), TextDecodeReport::Source::Detector, confidence,
+                Rank(rivalScore, confidence)};
+    }
+
+    /// What each candidate gets of the confidence that the best one leaves; none gets more than that one has.
+    std::vector<RankedEncoding> Rank(double rivalScore, double bestConfidence) const
+    {
+        double total = 0;
+        for (Candidate const& candidate : m_candidates)
+        {
+            total += std::exp(std::min(candidate.score - rivalScore, 0.0) / SURE);
+        }
+        std::vector<RankedEncoding> ranking;
+        for (Candidate const& candidate : m_candidates)
+        {
+            double const share = std::exp(std::min(candidate.score - rivalScore, 0.0) / SURE) / total;
+            ranking.push_back({candidate.encoding, std::min(bestConfidence, (1 - bestConfidence) * share)});
+        }
+        return ranking;
     }
 
     /// Of pages that give the same text the one that the core's users can choose. Bytes at 80 to 9F speak against the
     /// ISO pages, which have no characters there.
     std::string PreferOffered(std::string const& encoding) const
     {
-        static constexpr std::string_view OFFERED =
-            "ISO-8859-15 CP1251 CP1250 KOI8-R KOI8-U ISO-8859-9 ISO-8859-7 ISO-8859-8 "
-            "ISO-8859-13 ISO-8859-3 CP932 CP936 BIG-5";
-        if (HasWord(OFFERED, encoding))
+        if (IsOfferedEncoding(encoding))
         {
             return encoding;
         }
@@ -192,7 +208,7 @@ private:
         for (Candidate const& candidate : m_candidates)
         {
             bool const isIso = candidate.encoding.compare(0, 3, "ISO") == 0;
-            if (HasWord(OFFERED, candidate.encoding) && !(isIso && hasWindowsBytes) &&
+            if (IsOfferedEncoding(candidate.encoding) && !(isIso && hasWindowsBytes) &&
                 Decode(candidate.encoding) == text)
             {
                 return candidate.encoding;
@@ -232,6 +248,13 @@ private:
 };
 
 } // namespace
+
+bool IsOfferedEncoding(std::string_view name)
+{
+    return HasWord("UTF-8 ISO-8859-15 CP1251 CP1250 KOI8-R KOI8-U ISO-8859-9 ISO-8859-7 ISO-8859-8 "
+                   "ISO-8859-13 ISO-8859-3 CP932 CP936 BIG-5",
+                   name);
+}
 
 DetectedEncoding DetectEncoding(std::string_view bytes, DetectionHints const& hints)
 {

@@ -117,6 +117,7 @@ struct Choice
 {
     TextDecodeReport report;
     bool isMixed = false; ///< with lines in UTF-8
+    std::vector<RankedEncoding> ranking;
 };
 
 /// Which encoding bytes without a mark are in.
@@ -152,6 +153,7 @@ Choice DetectReport(std::string_view bytes, DetectionHints const& hints)
     auto const detected = DetectEncoding(legacy.empty() ? bytes : std::string_view(legacy), hints);
     Choice choice = make(detected.encoding, detected.source, detected.confidence);
     choice.isMixed = !legacy.empty();
+    choice.ranking = detected.ranking;
     return choice;
 }
 
@@ -194,6 +196,21 @@ Core::Result<DecodedText> DecodeText(std::string_view bytes, std::string const& 
     std::size_t& replaced = result.report.replacedBytes;
     std::string text = choice.isMixed ? ConvertMixed(bytes, *converter, replaced) : converter->Convert(bytes, replaced);
     result.utf8 = ReplaceControls(std::move(text), replaced);
+    return result;
+}
+
+EncodingRanking RankEncodings(std::string_view bytes, DetectionHints const& hints)
+{
+    Choice choice = ChooseEncoding(bytes, {}, hints);
+    EncodingRanking result;
+    result.detected = std::move(choice.report);
+    for (RankedEncoding& ranked : choice.ranking)
+    {
+        if (ranked.encoding != result.detected.encoding && IsOfferedEncoding(ranked.encoding))
+        {
+            result.others.push_back(std::move(ranked));
+        }
+    }
     return result;
 }
 

@@ -2,6 +2,7 @@
 
 #include "Core/Export.h"
 #include "Core/Result.h"
+#include "Core/ioPath.h"
 #include "Proc/SubtitleContent.h"
 
 #include <string>
@@ -16,6 +17,9 @@ struct DetectionHints
 {
     std::vector<std::string> languages; ///< short names of languages that the text may be in ("uk", "ukr")
 };
+
+/// Languages that the last parts of a file's name may mean ("Movie.uk.forced.srt").
+[[nodiscard]] KORVEX_PLATFORM_API DetectionHints HintsFromName(ioPath const& path);
 
 struct DecodedText
 {
@@ -41,6 +45,28 @@ struct DecodedText
 /// Fails with InvalidSetting for an encoding that does not exist; bytes never make it fail. Any thread.
 [[nodiscard]] KORVEX_PLATFORM_API Core::Result<DecodedText>
 DecodeText(std::string_view bytes, std::string const& encoding, DetectionHints const& hints = {});
+
+/// Whether users find this encoding in lists.
+[[nodiscard]] KORVEX_PLATFORM_API bool IsOfferedEncoding(std::string_view name);
+
+/// One encoding that bytes may be in.
+struct RankedEncoding
+{
+    std::string encoding;  ///< the core's name
+    double confidence = 0; ///< 0..1
+};
+
+struct EncodingRanking
+{
+    TextDecodeReport detected; ///< what DecodeText finds without a stated encoding; nothing is counted
+    /// Those of the others that users can choose, the best first; some may give the same text.
+    std::vector<RankedEncoding> others;
+};
+
+/// What detection thinks of the encodings. None is named besides the detected one where a mark or the form of the bytes
+/// settles it. Looks at a sample of long texts. Any thread.
+[[nodiscard]] KORVEX_PLATFORM_API EncodingRanking RankEncodings(std::string_view bytes,
+                                                                DetectionHints const& hints = {});
 
 /// `text` with every byte that is not valid UTF-8 replaced by U+FFFD; `replacedBytes` counts them.
 [[nodiscard]] KORVEX_PLATFORM_API std::string RepairUtf8(std::string_view text, std::size_t& replacedBytes);

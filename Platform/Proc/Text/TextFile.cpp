@@ -11,10 +11,6 @@
 namespace Korvex::Proc::Text
 {
 
-namespace
-{
-
-/// The last parts of "Movie.uk.forced.srt" between the dots; one may be the name of a language.
 DetectionHints HintsFromName(ioPath const& path)
 {
     static constexpr std::size_t SHORTEST = 2;
@@ -39,7 +35,7 @@ DetectionHints HintsFromName(ioPath const& path)
     return hints;
 }
 
-TextDocument Read(std::string_view utf8, TextFormat format, std::string const& samiClass)
+TextDocument ReadText(std::string_view utf8, TextFormat format, std::string const& samiClass)
 {
     switch (format)
     {
@@ -53,8 +49,6 @@ TextDocument Read(std::string_view utf8, TextFormat format, std::string const& s
     }
     return ReadAss(utf8);
 }
-
-} // namespace
 
 Core::Result<std::optional<TextDocument>> LoadTextFile(ioPath const& path, std::string const& encoding,
                                                        std::string const& samiClass)
@@ -83,7 +77,7 @@ Core::Result<std::optional<TextDocument>> LoadTextFile(ioPath const& path, std::
     {
         return std::optional<TextDocument>();
     }
-    TextDocument document = Read(decoded->utf8, *format, samiClass);
+    TextDocument document = ReadText(decoded->utf8, *format, samiClass);
     document.decoding = std::move(decoded->report);
     return std::optional<TextDocument>(std::move(document));
 }

@@ -39,6 +39,10 @@ enum class TextFormat
 /// next later paragraph of its class, the last one for 5 s.
 [[nodiscard]] KORVEX_PLATFORM_API TextDocument ReadSami(std::string_view utf8, std::string const& samiClass = {});
 
+/// The reader of that format; the class is for SAMI alone.
+[[nodiscard]] KORVEX_PLATFORM_API TextDocument ReadText(std::string_view utf8, TextFormat format,
+                                                        std::string const& samiClass = {});
+
 /// The names of the classes that a SAMI text uses, in order.
 [[nodiscard]] KORVEX_PLATFORM_API std::vector<std::string> ListSamiClasses(std::string_view utf8);
 

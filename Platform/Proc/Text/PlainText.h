@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Core/Export.h"
+#include "Proc/SubtitleContent.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Korvex::Proc::Text
+{
+
+/// The lines that a cue shows, without markup, drawings and blank lines. For reading, not for writing files: joiners
+/// that only keep text from being markup are left out.
+[[nodiscard]] KORVEX_PLATFORM_API std::vector<std::string> ListPlainLines(std::string_view text, TextMarkup markup);
+
+} // namespace Korvex::Proc::Text

@@ -1,0 +1,149 @@
+#include "Proc/TextSample.h"
+
+#include "Core/FileSystem.h"
+#include "Support/Environment.h"
+#include "SystemEncoder.h"
+
+#include <gmock/gmock.h>
+
+#include <chrono>
+
+namespace Korvex::Proc
+{
+namespace
+{
+
+using Source = TextDecodeReport::Source;
+using testing::Each;
+using testing::ElementsAre;
+using testing::Field;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::SizeIs;
+
+class TextSampleTest : public testing::Test
+{
+protected:
+    TextSampleTest() : m_folder(*Core::CreateWorkFolder()) {}
+    ~TextSampleTest() override { Core::RemoveWorkFolder(m_folder); }
+
+    ioPath Write(std::string const& name, std::string const& bytes) const
+    {
+        ioPath const path = m_folder / name;
+        EXPECT_FALSE(Core::WriteFile(path, bytes, true));
+        return path;
+    }
+
+    // The language of the machine must not decide what a test finds.
+    Testing::ScopedVariable const m_locale{"LC_ALL", "C"};
+    ioPath const m_folder;
+};
+
+std::string MakeCue(std::size_t number, std::string const& text)
+{
+    char times[80];
+    std::snprintf(times, sizeof times, "%zu\n%02zu:%02zu:%02zu,000 --> %02zu:%02zu:%02zu,900\n", number, number / 3600,
+                  number / 60 % 60, number % 60, number / 3600, number / 60 % 60, number % 60);
+    return times + text + "\n\n";
+}
+
+std::string const RUSSIAN = MakeCue(1, "<i>Ты опять опоздал на поезд?</i>") + MakeCue(2, "Я ждал тебя\nцелый час.") +
+                            MakeCue(3, "{\\an8}Ничего, завтра поедем вместе.");
+
+TEST_F(TextSampleTest, ShowsWhatAWrongEncodingReadsLikeAndOffersTheRightOneFirst)
+{
+    ioPath const path = Write("film.srt", Testing::EncodeText(RUSSIAN, "CP1251"));
+    auto const detected = ReadTextSample(path, "");
+    ASSERT_TRUE(detected);
+    EXPECT_THAT(detected->lines, ElementsAre("Ты опять опоздал на поезд?", "Я ждал тебя", "целый час.",
+                                             "Ничего, завтра поедем вместе."));
+    EXPECT_EQ(detected->decoding.encoding, "CP1251");
+    EXPECT_EQ(detected->decoding.source, Source::Detector);
+    EXPECT_GT(detected->decoding.confidence, 0.9);
+    EXPECT_THAT(detected->alternatives, Each(Field(&TextAlternative::encoding, Not("CP1251"))));
+    for (TextAlternative const& alternative : detected->alternatives)
+    {
+        EXPECT_LT(alternative.confidence, 0.1);
+        auto const other = ReadTextSample(path, alternative.encoding);
+        EXPECT_EQ(other->lines.front(), alternative.line) << alternative.encoding;
+    }
+
+    auto const wrong = ReadTextSample(path, "KOI8-R");
+    ASSERT_TRUE(wrong);
+    EXPECT_EQ(wrong->decoding.source, Source::Stated);
+    EXPECT_EQ(wrong->detected.encoding, "CP1251");
+    ASSERT_THAT(wrong->alternatives, Not(IsEmpty()));
+    EXPECT_EQ(wrong->alternatives.front().encoding, "CP1251");
+    EXPECT_EQ(wrong->alternatives.front().line, "Ты опять опоздал на поезд?");
+    // Page KOI8-U gives the very same text for Russian.
+    EXPECT_THAT(wrong->alternatives, Each(Field(&TextAlternative::encoding, Not("KOI8-U"))));
+}
+
+TEST_F(TextSampleTest, CountsWhatDoesNotDecodeInTheWholeFile)
+{
+    std::string russian;
+    for (std::size_t cue = 0; cue < 5000; ++cue)
+        russian += MakeCue(cue, "Подожди, я слышу шаги.");
+    std::string const bytes = Testing::EncodeText(russian, "CP1251");
+    auto const sample = ReadTextSample(Write("film.srt", bytes), "UTF-8");
+    ASSERT_TRUE(sample);
+    EXPECT_EQ(sample->decoding.replacedBytes, 17U * 5000);
+    EXPECT_THAT(sample->lines, SizeIs(5));
+    EXPECT_THAT(sample->lines, Each(HasSubstr("\xEF\xBF\xBD")));
+    ASSERT_THAT(sample->alternatives, Not(IsEmpty()));
+    EXPECT_EQ(sample->alternatives.front().line, "Подожди, я слышу шаги.");
+}
+
+TEST_F(TextSampleTest, OffersNothingWhereNothingReadsOtherwise)
+{
+    EXPECT_THAT(ReadTextSample(Write("a.srt", MakeCue(1, "Nothing but ASCII.")), "CP1251")->alternatives, IsEmpty());
+    EXPECT_THAT(ReadTextSample(Write("b.srt", RUSSIAN), "")->alternatives, IsEmpty());
+    EXPECT_THAT(ReadTextSample(Write("c.srt", "\xEF\xBB\xBF" + RUSSIAN), "KOI8-R")->alternatives, IsEmpty());
+    // What is UTF-8 without doubt is all that there is to offer to somebody who chose otherwise.
+    auto const wrong = ReadTextSample(Write("d.srt", RUSSIAN), "CP1251");
+    EXPECT_THAT(wrong->alternatives, ElementsAre(Field(&TextAlternative::encoding, "UTF-8")));
+}
+
+TEST_F(TextSampleTest, ShowsALineThatTells)
+{
+    std::string credits;
+    for (std::size_t cue = 0; cue < 9000; ++cue)
+        credits += MakeCue(cue, "Credits " + std::to_string(cue));
+    auto const path = Write("film.srt", credits + Testing::EncodeText(MakeCue(9000, "Gdzie byłeś wczoraj?"), "CP1250"));
+    auto const sample = ReadTextSample(path, "CP1250");
+    EXPECT_THAT(sample->lines, ElementsAre("Credits 0", "Credits 1", "Credits 2", "Credits 3", "Gdzie byłeś wczoraj?"));
+    ASSERT_THAT(sample->alternatives, Not(IsEmpty()));
+    EXPECT_THAT(sample->alternatives.front().line, HasSubstr("Gdzie by"));
+}
+
+TEST_F(TextSampleTest, ReadsEveryFormatAndRefusesWhatIsNoText)
+{
+    std::string const script = "[Script Info]\nScriptType: v4.00+\n[V4+ Styles]\n[Events]\nDialogue: 0,0:00:01.00,"
+                               "0:00:02.00,D,,0,0,0,,{\\p1}m 0 0 l 1 1{\\p0}\\{жил\\} был\\Nкот{\\i1}ик\n";
+    EXPECT_THAT(ReadTextSample(Write("a.ass", Testing::EncodeText(script, "CP1251")), "CP1251")->lines,
+                ElementsAre("{жил} был", "котик"));
+    std::string const foreign = "WEBVTT\n\n00:01.000 --> 00:02.000\n<v Ann>Grüße &amp; Küsse</v>\n";
+    EXPECT_THAT(ReadTextSample(Write("a.vtt", foreign), "")->lines, ElementsAre("Grüße & Küsse"));
+    auto const film = ReadTextSample(Write("a.mkv", std::string("\x1A\x45\xDF\xA3", 4) + std::string(99, '\0')), "");
+    EXPECT_EQ(film.GetError().code, Core::ErrorCode::FormatUnknown);
+    auto const unknown = ReadTextSample(Write("b.srt", RUSSIAN), "CP9999");
+    EXPECT_THAT(Core::ToSentence(unknown.GetError()), HasSubstr("b.srt"));
+}
+
+// The pane that shows this follows every choice of an encoding.
+TEST_F(TextSampleTest, IsQuickWithALongFile)
+{
+    std::string russian;
+    for (std::size_t cue = 0; cue < 20'000; ++cue)
+        russian += MakeCue(cue, "Ничего, завтра поедем вместе " + std::to_string(cue) + "\nХорошо, только не забудь.");
+    ioPath const path = Write("film.srt", Testing::EncodeText(russian, "CP1251"));
+    auto const begin = std::chrono::steady_clock::now();
+    ASSERT_TRUE(ReadTextSample(path, "CP1250"));
+    auto const spent = std::chrono::steady_clock::now() - begin;
+    RecordProperty("milliseconds", static_cast<int>(std::chrono::duration<double, std::milli>(spent).count()));
+    EXPECT_LT(spent, std::chrono::seconds(2));
+}
+
+} // namespace
+} // namespace Korvex::Proc
