@@ -3,6 +3,7 @@
 #include "Subtitles/Adapters/EditingPresenter.h"
 #include "Subtitles/Adapters/IExternalSubtitlesDialog.h"
 #include "Subtitles/Adapters/ItemPresenter.h"
+#include "Subtitles/Adapters/MessagesController.h"
 #include "Subtitles/Adapters/OnlineDownloaderController.h"
 #include "Subtitles/Adapters/SubtitleCollectionPresenter.h"
 #include "Subtitles/Adapters/SubtitleController.h"
@@ -57,6 +58,7 @@ void RegisterGroupOne(Hypodermic::ContainerBuilder& builder)
     builder.registerType<SubtitleCollectionPresenter>().as<UseCases::ISubtitleCollectionPresenter>();
     builder.registerType<EditingPresenter>().as<UseCases::IEditingPresenter>();
     builder.registerType<SubtitleController>().as<UseCases::ISubtitleController>();
+    builder.registerType<MessagesController>().as<UseCases::IMessagesController>();
     builder.registerType<OnlineDownloaderController>().as<UseCases::IOnlineDownloaderController>();
     builder.registerType<SubtitleStreamAdapter>().as<UseCases::ISubtitleStreamAdapter>();
 }

@@ -1,5 +1,7 @@
 // The only file of this layer that includes the container, which takes seconds to compile.
 
+#include "Subtitles/Details/ExternalSubtitlesDialog.h"
+
 #include "Subtitles/UseCases/RegistrationGroups.h"
 
 #include "Hypodermic/ContainerBuilder.h"
@@ -7,7 +9,10 @@
 namespace Korvex::Converter::Subtitles::Details
 {
 
-void RegisterGroupOne(Hypodermic::ContainerBuilder& /*builder*/) {}
+void RegisterGroupOne(Hypodermic::ContainerBuilder& builder)
+{
+    builder.registerType<ExternalSubtitlesDialog>().as<Adapters::IExternalSubtitlesDialog>();
+}
 
 void RegisterGroupThree(Hypodermic::ContainerBuilder& /*builder*/) {}
 

@@ -3,6 +3,7 @@
 #include "Subtitles/UseCases/FactoryAccess.h"
 #include "Subtitles/UseCases/IAdaptersFactory.h"
 #include "Subtitles/UseCases/IEditingPresenter.h"
+#include "Subtitles/UseCases/IMessagesController.h"
 #include "Subtitles/UseCases/IOnlineDownloaderController.h"
 #include "Subtitles/UseCases/IOnlineSearchMetadataFiller.h"
 #include "Subtitles/UseCases/ISubtitleCollectionPresenter.h"

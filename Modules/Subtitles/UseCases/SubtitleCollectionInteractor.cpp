@@ -1,6 +1,7 @@
 #include "Subtitles/UseCases/SubtitleCollectionInteractor.h"
 
 #include "Subtitles/UseCases/CollectionRules.h"
+#include "Subtitles/UseCases/IMessagesController.h"
 #include "Subtitles/UseCases/IOnlineDownloaderInteractor.h"
 #include "Subtitles/UseCases/ISubtitleCollectionPresenter.h"
 #include "Subtitles/UseCases/ISubtitleController.h"
@@ -17,8 +18,12 @@
 
 #include <glog/logging.h>
 
+#include <QCoreApplication>
+#include <QString>
+
 #include <algorithm>
 #include <exception>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -45,12 +50,14 @@ public:
          std::shared_ptr<ISubtitleController> const& controller,
          std::shared_ptr<Entities::ISubtitlesInteractor> const& subtitles,
          std::shared_ptr<IOnlineDownloaderInteractor> const& downloader,
-         std::shared_ptr<ITranscoderInteractor> const& transcoder)
+         std::shared_ptr<ITranscoderInteractor> const& transcoder,
+         std::shared_ptr<IMessagesController> const& messages)
         : m_presenter(presenter),
           m_controller(controller),
           m_subtitles(subtitles),
           m_downloader(downloader),
           m_transcoder(transcoder),
+          m_messages(messages),
           m_collection(std::make_shared<SubtitleCollection>()),
           m_transcoderObservation(*transcoder, *this),
           m_subtitlesObservation(*subtitles, *this),
@@ -140,7 +147,15 @@ public:
 
     // The track lists
 
-    void OnFilesChosen(std::vector<ioPath> const& paths) override { AddFiles(paths); }
+    void OnFilesChosen(std::vector<ioPath> const& paths) override
+    {
+        std::vector<ioPath> added;
+        std::copy_if(paths.begin(), paths.end(), std::back_inserter(added),
+                     [&](ioPath const& path) { return m_collection->tracks.count(SubtitleTrackID(path)) == 0; });
+        AddFiles(paths);
+        for (ioPath const& path : added)
+            WarnIfForeign(path);
+    }
 
     void OnFindFileRequested(std::string const& /*source*/) override
     {
@@ -291,6 +306,18 @@ private:
         MakeSettings();
     }
 
+    /// A file that holds no subtitles stays in the list, where it keeps the others from going out as soft subtitles.
+    void WarnIfForeign(ioPath const& file) const
+    {
+        auto const track = m_collection->tracks.find(SubtitleTrackID(file));
+        if (track == m_collection->tracks.end() || !track->second.codecId.empty())
+            return;
+        QString const sentence = QCoreApplication::translate(
+            "SubtitleCollectionInteractor",
+            "No subtitles were found in \"%1\": take it out of the list and choose an SRT, ASS or SSA file.");
+        m_messages->ShowWarning(sentence.arg(QString::fromStdString(file.utf8string())).toStdString());
+    }
+
     /// Files that lie beside the film are offered; they never change what the user chose.
     void AddSidecars(ioPath const& media)
     {
@@ -388,6 +415,7 @@ private:
     std::shared_ptr<Entities::ISubtitlesInteractor> m_subtitles;
     std::shared_ptr<IOnlineDownloaderInteractor> m_downloader;
     std::shared_ptr<ITranscoderInteractor> m_transcoder;
+    std::shared_ptr<IMessagesController> m_messages;
     Entities::SubtitlePresenterSettings m_presenterSettings;
     Transcoder::Entities::Preset m_preset;
     Entities::SubtitleSearchMediaInfoSettings m_media;
@@ -407,8 +435,8 @@ SubtitleCollectionInteractor::SubtitleCollectionInteractor(
     std::shared_ptr<ISubtitleController> const& controller,
     std::shared_ptr<Entities::ISubtitlesInteractor> const& subtitles,
     std::shared_ptr<IOnlineDownloaderInteractor> const& downloader,
-    std::shared_ptr<ITranscoderInteractor> const& transcoder)
-    : m_impl(std::make_unique<Impl>(presenter, controller, subtitles, downloader, transcoder))
+    std::shared_ptr<ITranscoderInteractor> const& transcoder, std::shared_ptr<IMessagesController> const& messages)
+    : m_impl(std::make_unique<Impl>(presenter, controller, subtitles, downloader, transcoder, messages))
 {
 }
 

@@ -18,6 +18,7 @@ class ISubtitlesInteractor;
 namespace Korvex::Converter::Subtitles::UseCases
 {
 
+class IMessagesController;
 class IOnlineDownloaderInteractor;
 class ISubtitleCollectionPresenter;
 class ISubtitleController;
@@ -29,7 +30,8 @@ public:
                                  std::shared_ptr<ISubtitleController> const& controller,
                                  std::shared_ptr<Entities::ISubtitlesInteractor> const& subtitles,
                                  std::shared_ptr<IOnlineDownloaderInteractor> const& downloader,
-                                 std::shared_ptr<Transcoder::Entities::ITranscoderInteractor> const& transcoder);
+                                 std::shared_ptr<Transcoder::Entities::ITranscoderInteractor> const& transcoder,
+                                 std::shared_ptr<IMessagesController> const& messages);
     ~SubtitleCollectionInteractor() override;
 
     void RegisterEventHandler(Entities::ISubtitleCollectionInteractorEventObserver* observer) override;

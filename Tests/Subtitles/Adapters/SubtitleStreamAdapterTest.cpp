@@ -1,3 +1,5 @@
+#include "Subtitles/Fakes/LogCatcher.h"
+
 #include "Subtitles/Adapters/SubtitleStreamAdapter.h"
 
 #include "Subtitles/Entities/SubtitleTrack.h"
@@ -7,30 +9,12 @@
 #include "Proc/Register.h"
 #include "Proc/Streams.h"
 
-#include <glog/logging.h>
-
 #include <stdexcept>
 
 namespace Korvex::Converter::Subtitles::Adapters
 {
 namespace
 {
-
-/// Collects error lines while it lives.
-class LogCatcher final : public google::LogSink
-{
-public:
-    LogCatcher() { google::AddLogSink(this); }
-    ~LogCatcher() override { google::RemoveLogSink(this); }
-    void send(google::LogSeverity severity, char const* /*path*/, char const* fileName, int /*line*/,
-              struct ::tm const* /*time*/, char const* message, size_t length) override
-    {
-        if (severity == google::GLOG_ERROR)
-            lines.push_back(std::string(fileName) + ": " + std::string(message, length));
-    }
-
-    std::vector<std::string> lines;
-};
 
 class FailingReader final : public Proc::IStreamReader
 {
@@ -40,7 +24,7 @@ public:
 
 TEST(SubtitleStreamAdapterTest, LogsAFailingReaderOnce)
 {
-    LogCatcher const log;
+    Testing::LogCatcher const log;
     SubtitleStreamAdapter adapter;
     EXPECT_EQ(adapter.GetSubtitleStreamFromTrack(Entities::SubtitleTrack(0u)), nullptr) << "no reader, no line";
     adapter.SetStreamReader(new FailingReader());

@@ -1,10 +1,12 @@
 #include "Subtitles/Fakes/FakeTranscoder.h"
 
+#include "Subtitles/Adapters/IExternalSubtitlesDialog.h"
 #include "Subtitles/Entities/ISubtitleImpl.h"
 #include "Subtitles/Subtitles.h"
 #include "Subtitles/UseCases/IAdaptersFactory.h"
 #include "Subtitles/UseCases/IEditingPresenter.h"
 #include "Subtitles/UseCases/IItemPresenter.h"
+#include "Subtitles/UseCases/IMessagesController.h"
 #include "Subtitles/UseCases/IOnlineDownloaderController.h"
 #include "Subtitles/UseCases/IOnlineDownloaderInteractor.h"
 #include "Subtitles/UseCases/ISubtitleCollectionPresenter.h"
@@ -59,8 +61,8 @@ TEST(CompositionTest, RegistersEveryInterfaceOnce)
                     UseCases::IUseCasesFactory, UseCases::IAdaptersFactory>(*container, Lifetime::Shared);
     ExpectOneOfEach<Entities::ISubtitleCollectionInteractor, Entities::ISubtitlesInteractor,
                     UseCases::ISubtitleCollectionPresenter, UseCases::IEditingPresenter, UseCases::ISubtitleController,
-                    UseCases::IOnlineDownloaderController, UseCases::ISubtitleStreamAdapter, UseCases::IItemPresenter>(
-        *container, Lifetime::EachAnew);
+                    UseCases::IOnlineDownloaderController, UseCases::ISubtitleStreamAdapter, UseCases::IItemPresenter,
+                    UseCases::IMessagesController, Adapters::IExternalSubtitlesDialog>(*container, Lifetime::EachAnew);
     auto const factory = container->resolve<UseCases::IAdaptersFactory>();
     EXPECT_NE(factory->CreateEditingPresenter(), factory->CreateEditingPresenter());
     EXPECT_NE(factory->CreateItemPresenter(), factory->CreateItemPresenter());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Subtitles/Entities/ISubtitlesInteractor.h"
+#include "Subtitles/UseCases/IMessagesController.h"
 #include "Subtitles/UseCases/IOnlineDownloaderInteractor.h"
 #include "Subtitles/UseCases/ISubtitleCollectionPresenter.h"
 
@@ -77,6 +78,15 @@ public:
 
 private:
     Core::EventHandlerList<Observer> m_observers;
+};
+
+class FakeMessages final : public UseCases::IMessagesController
+{
+public:
+    void ShowWarning(std::string const& sentence) override { sentences.push_back(sentence); }
+    void ShowError(std::string const& sentence) override { sentences.push_back(sentence); }
+
+    std::vector<std::string> sentences;
 };
 
 class FakeDownloader final : public UseCases::IOnlineDownloaderInteractor

@@ -60,7 +60,9 @@ protected:
         std::make_shared<Testing::FakeSubtitlesInteractor>();
     std::shared_ptr<Testing::FakeDownloader> m_downloader = std::make_shared<Testing::FakeDownloader>();
     std::shared_ptr<Testing::FakeTranscoder> m_transcoder = std::make_shared<Testing::FakeTranscoder>();
-    SubtitleCollectionInteractor m_interactor{m_presenter, m_controller, m_subtitles, m_downloader, m_transcoder};
+    std::shared_ptr<Testing::FakeMessages> m_messages = std::make_shared<Testing::FakeMessages>();
+    SubtitleCollectionInteractor m_interactor{m_presenter,  m_controller, m_subtitles,
+                                              m_downloader, m_transcoder, m_messages};
     std::vector<SubtitleCollection> m_applied;
 };
 
@@ -208,6 +210,20 @@ TEST_F(SubtitleCollectionInteractorTest, AppliesToAllFilesOnceAndWithoutTheSetti
     EXPECT_EQ(m_applied[0].tracks, given.tracks);
     EXPECT_FALSE(m_presenter->applyToAllFiles);
     EXPECT_EQ(m_presenter->calls.back(), "hide");
+}
+
+TEST_F(SubtitleCollectionInteractorTest, SaysOnceWhichOfTheChosenFilesHoldNoSubtitles)
+{
+    auto const choose = [&](std::vector<ioPath> const& paths)
+    { m_presenter->Raise([&](auto* observer) { observer->OnFilesChosen(paths); }); };
+    choose({"/films/a.srt", "/films/holiday.jpg"});
+    EXPECT_EQ(m_interactor.GetSubtitleCollection().tracks.size(), 2u);
+    ASSERT_EQ(m_messages->sentences.size(), 1u);
+    EXPECT_THAT(m_messages->sentences[0], testing::HasSubstr("\"/films/holiday.jpg\""));
+
+    choose({"/films/holiday.jpg"});
+    m_interactor.AddSubtitles("/films/other.jpg");
+    EXPECT_EQ(m_messages->sentences.size(), 1u) << "listed already, or not chosen by hand";
 }
 
 TEST_F(SubtitleCollectionInteractorTest, TakesDownloadsForItsOwnCollection)
