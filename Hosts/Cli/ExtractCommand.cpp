@@ -2,13 +2,13 @@
 
 #include "Cli/Format.h"
 #include "Cli/Services.h"
+#include "Common/Extraction.h"
 #include "Common/MediaItemSession.h"
 #include "Common/Sentences.h"
 #include "Common/SessionError.h"
 
 #include "Subtitles/Subtitles.h"
 
-#include "Core/FileSystem.h"
 #include "Proc/MediaInfo.h"
 #include "Proc/SubtitleExport.h"
 #include "Transcoder/Preset.h"
@@ -18,24 +18,14 @@
 namespace Korvex::Cli
 {
 
-using Converter::Subtitles::Entities::SubtitleTrack;
-
 namespace
 {
 
-/// Where the track's events are: in the input, or in the file beside it that the track is.
 Proc::SubtitleSource FindSource(Services& services, ioPath const& input, std::string const& id)
 {
     Hosts::MediaItemSession session(services);
     session.Open(input, {}, {});
-    SubtitleTrack const track = session.FindTrack(id);
-    Proc::SubtitleSource source;
-    source.path = track.isExternal ? track.path : input;
-    // A file that is nothing but subtitles is read as such, its text decoded before anything else sees it.
-    bool const isSubtitleFile = session.GetMediaInfo().streams.size() == 1;
-    if (!track.isExternal && !isSubtitleFile)
-        source.streamIndex = track.streamIndex;
-    return source;
+    return Hosts::FindTrackSource(session.GetMediaInfo(), session.FindTrack(id));
 }
 
 /// The core's answers in the words of this command, which writes no films and never replaces a file.
@@ -74,9 +64,8 @@ ExitCode ExtractCommand::Run(Arguments const& arguments, Console& console)
 
     Services services;
     Proc::SubtitleSource const source = FindSource(services, arguments.inputs.front(), track->Value());
-    if (auto const refused = Core::CheckOutput(target->Value(), {arguments.inputs.front(), source.path}, false))
-        Refuse(*refused);
-    auto const written = Proc::ExtractSubtitle(source, target->Value());
+    auto const written =
+        Hosts::SaveTrack(arguments.inputs.front(), source, target->Value(), Hosts::ExistingTarget::Refuse);
     if (!written)
         Refuse(written.GetError());
     if (written->replacedBytes > 0)

@@ -50,8 +50,7 @@ public:
          std::shared_ptr<ISubtitleController> const& controller,
          std::shared_ptr<Entities::ISubtitlesInteractor> const& subtitles,
          std::shared_ptr<IOnlineDownloaderInteractor> const& downloader,
-         std::shared_ptr<ITranscoderInteractor> const& transcoder,
-         std::shared_ptr<IMessagesController> const& messages)
+         std::shared_ptr<ITranscoderInteractor> const& transcoder, std::shared_ptr<IMessagesController> const& messages)
         : m_presenter(presenter),
           m_controller(controller),
           m_subtitles(subtitles),
