@@ -1,12 +1,43 @@
 #include "Gui/LookAndFeelManager.h"
 
+#include "Gui/Style/HostStyle.h"
+#include "Gui/Style/StyleSheet.h"
+#include "Gui/Style/ThemeColors.h"
+
 #include "Core/EventHandlerList.h"
 
 #include <QApplication>
 #include <QPalette>
+#include <QSettings>
 
 namespace Korvex::GUI
 {
+
+namespace
+{
+
+App::Theme DetectSystemTheme()
+{
+#if defined(_WIN32)
+    // Qt's palette does not follow the dark mode there.
+    QSettings const settings(
+        QStringLiteral(R"(HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Themes\Personalize)"),
+        QSettings::NativeFormat);
+    bool const isDark = settings.value(QStringLiteral("AppsUseLightTheme"), 1).toInt() == 0;
+#else
+    bool const isDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
+#endif
+    return isDark ? App::Theme::Dark : App::Theme::Light;
+}
+
+void ApplyTheme(App::Theme theme)
+{
+    SetPresentTheme(theme);
+    QApplication::setPalette(MakePalette(theme));
+    qApp->setStyleSheet(MakeStyleSheet(theme));
+}
+
+} // namespace
 
 class LookAndFeelManager::Impl
 {
@@ -17,7 +48,10 @@ public:
 
 LookAndFeelManager::LookAndFeelManager(App::Theme theme) : m_impl(std::make_unique<Impl>())
 {
+    static_cast<void>(FindSystemTheme()); // the palette tells it only as long as it is the desktop's own
     m_impl->theme = theme;
+    QApplication::setStyle(new HostStyle); // the application owns it
+    ApplyTheme(theme);
 }
 
 LookAndFeelManager::~LookAndFeelManager() = default;
@@ -32,6 +66,7 @@ void LookAndFeelManager::SetTheme(App::Theme theme)
     if (theme == m_impl->theme)
         return;
     m_impl->theme = theme;
+    ApplyTheme(theme);
     m_impl->observers.Notify([theme](auto* observer) { observer->OnThemeChanged(theme); });
 }
 
@@ -45,15 +80,10 @@ void LookAndFeelManager::UnregisterEventHandler(App::ILookAndFeelManagerObserver
     m_impl->observers.UnregisterEventHandler(observer);
 }
 
-QColor GetColor(ColorRole role)
-{
-    QPalette const palette = QApplication::palette();
-    return role == ColorRole::Text ? palette.color(QPalette::WindowText) : palette.color(QPalette::Window);
-}
-
 App::Theme FindSystemTheme()
 {
-    return QApplication::palette().color(QPalette::Window).lightness() < 128 ? App::Theme::Dark : App::Theme::Light;
+    static App::Theme const theme = DetectSystemTheme();
+    return theme;
 }
 
 } // namespace Korvex::GUI
