@@ -9,9 +9,6 @@ namespace Korvex::Proc::Ass
 namespace
 {
 
-/// The family to fall back on where the one asked for is not installed and nothing near it either.
-constexpr char const* FALLBACK_FAMILY = "sans-serif";
-
 constexpr int PROBE_SIDE = 288;
 
 void AddFonts(ASS_Library& library, std::vector<FontAttachment> const& fonts)

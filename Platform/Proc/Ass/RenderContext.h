@@ -12,6 +12,9 @@
 namespace Korvex::Proc::Ass
 {
 
+/// The family to fall back on where the one asked for is not installed and nothing near it either.
+inline constexpr char const* FALLBACK_FAMILY = "sans-serif";
+
 /// How wide letters are on pictures whose samples are not square.
 enum class GlyphShape
 {

@@ -4,6 +4,8 @@
 #include "Proc/Text/TextSubtitles.h"
 #include "Proc/Text/Utf8.h"
 
+#include <unordered_set>
+
 namespace Korvex::Proc::Text
 {
 
@@ -108,6 +110,27 @@ std::vector<std::string> ListPlainLines(std::string_view text, TextMarkup markup
         }
     }
     return lines.Take();
+}
+
+std::u32string ListCharacters(TextDocument const& document)
+{
+    std::unordered_set<char32_t> known;
+    std::u32string characters;
+    for (TextCue const& cue : document.cues)
+    {
+        for (std::string const& line : ListPlainLines(cue.text, document.markup))
+        {
+            for (std::size_t position = 0; position < line.size();)
+            {
+                char32_t const character = NextCodePoint(line, position);
+                if (known.insert(character).second)
+                {
+                    characters += character;
+                }
+            }
+        }
+    }
+    return characters;
 }
 
 } // namespace Korvex::Proc::Text
