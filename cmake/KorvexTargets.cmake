@@ -49,13 +49,14 @@ if(KORVEX_SANITIZE MATCHES "undefined")
     list(APPEND KORVEX_TEST_ENVIRONMENT "UBSAN_OPTIONS=print_stacktrace=1")
 endif()
 
+# LAUNCHER: a command in front of the program.
 function(korvex_add_test_program name main_library)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "" "LAUNCHER" "SOURCES;LINKS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/Tests")
     target_link_libraries(${name} PRIVATE korvex_compiler ${ARG_LINKS} ${main_library} GTest::gmock)
     target_precompile_headers(${name} PRIVATE <gmock/gmock.h> <gtest/gtest.h> <string> <vector>)
-    add_test(NAME ${name} COMMAND ${name})
+    add_test(NAME ${name} COMMAND ${ARG_LAUNCHER} $<TARGET_FILE:${name}>)
     set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "${KORVEX_TEST_ENVIRONMENT}")
 endfunction()
 
@@ -69,4 +70,17 @@ endfunction()
 #   The same for widgets: with a QApplication, the host's look, QTest and Tests/Support/WidgetSupport.h.
 function(korvex_add_widget_test name)
     korvex_add_test_program(${name} korvex_widget_test_main ${ARGN})
+endfunction()
+
+# korvex_add_display_test(<name> SOURCES <file>... [LINKS <library>...])
+#   A program with a main() of its own on a real X server in memory, driven by Tests/Support/DisplayPerson.h. What it
+#   shows is kept as pictures in the folder Screenshots beside the test's build files.
+function(korvex_add_display_test name)
+    if(NOT TARGET korvex_display_person)
+        return()
+    endif()
+    korvex_add_test_program(${name} korvex_display_person ${ARGN}
+        LAUNCHER "${PROJECT_SOURCE_DIR}/Tests/Support/UnderXvfb.sh")
+    set_property(TEST ${name} PROPERTY ENVIRONMENT_MODIFICATION
+        "QT_QPA_PLATFORM=set:xcb;KORVEX_SCREENSHOTS=set:${CMAKE_CURRENT_BINARY_DIR}/Screenshots")
 endfunction()
