@@ -8,6 +8,11 @@
 
 #include <functional>
 
+namespace Korvex::GUI
+{
+class DropDownButton;
+}
+
 namespace Korvex::Converter::Subtitles::Details
 {
 
@@ -57,8 +62,9 @@ public:
     [[nodiscard]] bool GetApplyToAllFiles() override;
     [[nodiscard]] std::string GetCurrentTitle() override;
 
-    /// Called by `Enabled` with its flag; replaces the handler that was there. Likewise the next one.
+    /// Called by `Enabled` with its flag; replaces the handler that was there.
     void SetDisableEditorHandler(std::function<void(bool)> const& handler);
+    /// Called by `Enabled` after the other one.
     void SetDisablePlayerControlPanelHandler(std::function<void(bool)> const& handler);
     /// A menu for the tracks in the list; none without a handler.
     void SetTrackMenuHandler(SubtitleCollection::TrackMenuHandler const& handler);
@@ -74,7 +80,26 @@ protected:
 
 private:
     struct Form;
+
+    /// An edit by the user: the observers hear of it first, then everybody else.
+    template <typename Event>
+    void ReportEdit(Event const& event);
+    template <typename Event>
+    void ReportChoice(Event const& event);
+
+    void WireEditor();
+    void WireSpinBoxes();
+    void WireTrackList();
+    void WireSourceSelector();
+    void WirePopups();
+    void SelectFont();
+    void RefreshCaption();
+    void ShowPopup(QWidget& content, QString const& objectName, GUI::DropDownButton& anchor);
+    void PlacePopup(QWidget const& anchor);
+
     Form* m_form; ///< owned
+    Core::EventHandlerList<Adapters::ITrackEditorEventObserver, Core::SyncExecutePolicy> m_editorObservers;
+    Core::EventHandlerList<Adapters::ISubtitleCollectionEventObserver, Core::SyncExecutePolicy> m_collectionObservers;
 };
 
 } // namespace Korvex::Converter::Subtitles::Details

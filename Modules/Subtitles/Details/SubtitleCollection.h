@@ -13,8 +13,9 @@ namespace Korvex::Converter::Subtitles::Details
 {
 
 /// The track list: a row "No subtitles", a row "Leave all tracks (softsub)", then the tracks in the order in which they
-/// were added, each with a button that asks for its extraction. Exactly one row is the current one. Setters emit
-/// nothing; signals come from the user alone. GUI thread.
+/// were added, each with a button that asks for its extraction. Exactly one row is the current one, at first the
+/// second. Setters emit nothing; signals come from the user alone. As the content of a `ModalPopup` it closes that
+/// popup after a choice. GUI thread.
 class KVSUBTITLES_API SubtitleCollection : public QFrame
 {
     Q_OBJECT
@@ -51,7 +52,12 @@ Q_SIGNALS:
     void SubtitleTrackSelected(Entities::SubtitleTrackID const& id);
     void ExtractSubtitleRequested(Entities::SubtitleTrackID const& id);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void Retranslate();
+
     class Impl;
     std::unique_ptr<Impl> m_impl;
 };

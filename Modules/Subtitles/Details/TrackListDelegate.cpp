@@ -1,0 +1,111 @@
+#include "Subtitles/Details/TrackListDelegate.h"
+
+#include "Subtitles/Details/TrackListModel.h"
+
+#include "Gui/LookAndFeelManager.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
+
+namespace Korvex::Converter::Subtitles::Details
+{
+
+namespace
+{
+
+constexpr int TICK_SIZE = 16;
+constexpr int BUTTON_SIZE = 24;
+constexpr int BUTTON_MARGIN = 4;
+constexpr int SMALLEST_HEIGHT = BUTTON_SIZE + 2 * BUTTON_MARGIN;
+
+QStyle const& GetStyle(QStyleOptionViewItem const& option)
+{
+    return option.widget != nullptr ? *option.widget->style() : *QApplication::style();
+}
+
+QRect GetButtonRect(QStyleOptionViewItem const& option)
+{
+    int const left = option.rect.right() + 1 - BUTTON_SIZE - BUTTON_MARGIN;
+    int const top = option.rect.top() + (option.rect.height() - BUTTON_SIZE) / 2;
+    return QStyle::visualRect(option.direction, option.rect, {left, top, BUTTON_SIZE, BUTTON_SIZE});
+}
+
+void PaintTick(QPainter& painter, QRectF const& place, QColor const& color)
+{
+    QRectF const rect = place.adjusted(2, 3, -2, -3);
+    QPointF const corner(rect.left() + rect.width() * 0.35, rect.bottom());
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF({{rect.left(), rect.center().y()}, corner, rect.topRight()}));
+    painter.restore();
+}
+
+} // namespace
+
+TrackListDelegate::TrackListDelegate(TrackListModel const& model, QObject* parent)
+    : QStyledItemDelegate(parent),
+      m_model(model)
+{
+}
+
+/// Every row keeps room for the tick, so that all texts begin at one line.
+void TrackListDelegate::initStyleOption(QStyleOptionViewItem* option, QModelIndex const& index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->features |= QStyleOptionViewItem::HasDecoration;
+    option->decorationSize = {TICK_SIZE, TICK_SIZE};
+}
+
+int TrackListDelegate::GetTextWidth(QStyleOptionViewItem const& row, QModelIndex const& index) const
+{
+    QStyle const& style = GetStyle(row);
+    int const margin = 2 * (style.pixelMetric(QStyle::PM_FocusFrameHMargin, &row, row.widget) + 1);
+    int const width = style.subElementRect(QStyle::SE_ItemViewItemText, &row, row.widget).width() - margin;
+    return m_model.GetTrackAt(index.row()) ? width - BUTTON_SIZE - BUTTON_MARGIN : width;
+}
+
+void TrackListDelegate::paint(QPainter* painter, QStyleOptionViewItem const& option, QModelIndex const& index) const
+{
+    QStyleOptionViewItem row = option;
+    initStyleOption(&row, index);
+    QStyle const& style = GetStyle(row);
+    row.text = row.fontMetrics.elidedText(row.text, Qt::ElideMiddle, GetTextWidth(row, index));
+    style.drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
+    if (index.row() == m_model.GetChosenRow())
+        PaintTick(*painter, style.subElementRect(QStyle::SE_ItemViewItemDecoration, &row, row.widget),
+                  GUI::GetColor(GUI::ColorRole::Accent));
+}
+
+QSize TrackListDelegate::sizeHint(QStyleOptionViewItem const& option, QModelIndex const& index) const
+{
+    QSize const size = QStyledItemDelegate::sizeHint(option, index);
+    return {size.width() + BUTTON_SIZE + BUTTON_MARGIN, qMax(size.height(), SMALLEST_HEIGHT)};
+}
+
+void TrackListDelegate::updateEditorGeometry(QWidget* editor, QStyleOptionViewItem const& option,
+                                             QModelIndex const& /*index*/) const
+{
+    editor->setGeometry(GetButtonRect(option));
+}
+
+/// Also on a disabled row: its tool tip says why it is disabled.
+bool TrackListDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, QStyleOptionViewItem const& option,
+                                  QModelIndex const& index)
+{
+    if (event->type() != QEvent::ToolTip || !index.isValid())
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    QStyleOptionViewItem row = option;
+    initStyleOption(&row, index);
+    bool const isEnabled = index.flags().testFlag(Qt::ItemIsEnabled);
+    bool const isShortened = row.fontMetrics.horizontalAdvance(row.text) > GetTextWidth(row, index);
+    QString const text = !isEnabled || isShortened ? index.data(Qt::ToolTipRole).toString() : QString();
+    QToolTip::showText(event->globalPos(), text, view);
+    return true;
+}
+
+} // namespace Korvex::Converter::Subtitles::Details
