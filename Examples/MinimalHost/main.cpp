@@ -56,6 +56,7 @@ public:
     }
 
     void CancelConversion(Transcoder::ConversionId) override {}
+    void DropConversion(Transcoder::ConversionId) override {}
     void SetConversionPaused(Transcoder::ConversionId, bool) override {}
 
 private:

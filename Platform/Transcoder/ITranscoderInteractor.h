@@ -46,7 +46,7 @@ class IConversionObserver
 {
 public:
     virtual void OnConversionProgress(ConversionId id, Proc::TranscodeProgress const& progress) = 0;
-    /// Exactly once; nothing follows.
+    /// Exactly once, unless the conversion is dropped; nothing follows.
     virtual void OnConversionFinished(ConversionId id, Proc::TranscodeReport const& report) = 0;
 
 protected:
@@ -70,12 +70,17 @@ public:
     /// Announces a film to the observers.
     virtual void AddMediaItem(MediaItem const& item) = 0;
 
-    /// Checks the request and starts it. The observer is not owned; it has to live until `OnConversionFinished`.
+    /// Checks the request and starts it. The observer is not owned; it has to live until `OnConversionFinished` or
+    /// `DropConversion`.
     virtual Core::Result<ConversionId> StartConversion(ConversionRequest const& request,
                                                        IConversionObserver& observer) = 0;
 
     /// Asks a conversion to stop; it then finishes as cancelled. An unknown or finished id does nothing.
     virtual void CancelConversion(ConversionId id) = 0;
+
+    /// Cancels a conversion and waits until it has ended; its observer hears nothing more, so that it may go. An
+    /// unknown or finished id does nothing.
+    virtual void DropConversion(ConversionId id) = 0;
 
     /// Makes a conversion stand still or go on. The time spent paused counts neither for its speed nor for the time
     /// left. An unknown or finished id does nothing.

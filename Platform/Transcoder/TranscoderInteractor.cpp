@@ -78,6 +78,18 @@ public:
             found->second->job->Cancel();
     }
 
+    /// What the mailbox still holds of it finds nobody.
+    void Drop(ConversionId id)
+    {
+        auto const found = m_running.find(id);
+        if (found == m_running.end())
+            return;
+        auto const dropped = std::move(found->second);
+        m_running.erase(found);
+        dropped->job->Cancel();
+        dropped->job->Wait();
+    }
+
     void SetPaused(ConversionId id, bool isPaused)
     {
         auto const found = m_running.find(id);
@@ -239,6 +251,11 @@ Core::Result<ConversionId> TranscoderInteractor::StartConversion(ConversionReque
 void TranscoderInteractor::CancelConversion(ConversionId id)
 {
     m_impl->Cancel(id);
+}
+
+void TranscoderInteractor::DropConversion(ConversionId id)
+{
+    m_impl->Drop(id);
 }
 
 void TranscoderInteractor::SetConversionPaused(ConversionId id, bool isPaused)

@@ -41,6 +41,7 @@ public:
     Core::Result<Entities::ConversionId> StartConversion(Entities::ConversionRequest const& request,
                                                          Entities::IConversionObserver& observer) override;
     void CancelConversion(Entities::ConversionId id) override;
+    void DropConversion(Entities::ConversionId id) override;
     void SetConversionPaused(Entities::ConversionId id, bool isPaused) override;
 
 private:

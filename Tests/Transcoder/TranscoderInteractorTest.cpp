@@ -255,6 +255,29 @@ TEST_F(TranscoderInteractorTest, DestroyingItCancelsWaitsAndSilencesEverything)
     EXPECT_TRUE(m_listener.reports.empty());
 }
 
+TEST_F(TranscoderInteractorTest, ADroppedConversionIsOverAndSilentWhileOthersGoOn)
+{
+    std::atomic<int> leftCount{0};
+    auto const interactor = MakeInteractor(
+        [&](ScriptedJob& job, Proc::ITranscodeObserver& observer)
+        {
+            observer.OnProgress(At(1s));
+            job.WaitForCancel();
+            ++leftCount;
+        });
+    Listener other;
+    auto const kept = interactor->StartConversion(m_request, other);
+    auto const dropped = interactor->StartConversion(m_request, m_listener);
+    ASSERT_TRUE(kept && dropped);
+    interactor->DropConversion(*dropped);
+    EXPECT_EQ(leftCount, 1);
+    interactor->DropConversion(*dropped);
+    interactor->CancelConversion(*kept);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !other.reports.empty(); }));
+    EXPECT_TRUE(m_listener.seconds.empty());
+    EXPECT_TRUE(m_listener.reports.empty());
+}
+
 TEST_F(TranscoderInteractorTest, AnObserverMayDestroyItOrStartTheNextConversion)
 {
     auto interactor =

@@ -25,6 +25,7 @@ public:
         return Core::Error{};
     }
     void CancelConversion(Transcoder::Entities::ConversionId /*id*/) override {}
+    void DropConversion(Transcoder::Entities::ConversionId /*id*/) override {}
     void SetConversionPaused(Transcoder::Entities::ConversionId /*id*/, bool /*isPaused*/) override {}
 
 private:
