@@ -1,6 +1,8 @@
 // The only file of this layer that includes the container, which takes seconds to compile.
 
+#include "Subtitles/Details/EditingPanel.h"
 #include "Subtitles/Details/ExternalSubtitlesDialog.h"
+#include "Subtitles/Details/ItemPanel.h"
 
 #include "Subtitles/UseCases/RegistrationGroups.h"
 
@@ -11,9 +13,13 @@ namespace Korvex::Converter::Subtitles::Details
 
 void RegisterGroupOne(Hypodermic::ContainerBuilder& builder)
 {
+    builder.registerType<EditingPanel>().as<Adapters::IEditingPanel>();
     builder.registerType<ExternalSubtitlesDialog>().as<Adapters::IExternalSubtitlesDialog>();
 }
 
-void RegisterGroupThree(Hypodermic::ContainerBuilder& /*builder*/) {}
+void RegisterGroupThree(Hypodermic::ContainerBuilder& builder)
+{
+    builder.registerType<ItemPanel>().as<Adapters::IItemPanel>();
+}
 
 } // namespace Korvex::Converter::Subtitles::Details

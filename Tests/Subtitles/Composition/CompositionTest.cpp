@@ -1,6 +1,8 @@
 #include "Subtitles/Fakes/FakeTranscoder.h"
 
+#include "Subtitles/Adapters/IEditingPanel.h"
 #include "Subtitles/Adapters/IExternalSubtitlesDialog.h"
+#include "Subtitles/Adapters/IItemPanel.h"
 #include "Subtitles/Entities/ISubtitleImpl.h"
 #include "Subtitles/Subtitles.h"
 #include "Subtitles/UseCases/IAdaptersFactory.h"
@@ -62,7 +64,8 @@ TEST(CompositionTest, RegistersEveryInterfaceOnce)
     ExpectOneOfEach<Entities::ISubtitleCollectionInteractor, Entities::ISubtitlesInteractor,
                     UseCases::ISubtitleCollectionPresenter, UseCases::IEditingPresenter, UseCases::ISubtitleController,
                     UseCases::IOnlineDownloaderController, UseCases::ISubtitleStreamAdapter, UseCases::IItemPresenter,
-                    UseCases::IMessagesController, Adapters::IExternalSubtitlesDialog>(*container, Lifetime::EachAnew);
+                    UseCases::IMessagesController, Adapters::IExternalSubtitlesDialog, Adapters::IEditingPanel,
+                    Adapters::IItemPanel>(*container, Lifetime::EachAnew);
     auto const factory = container->resolve<UseCases::IAdaptersFactory>();
     EXPECT_NE(factory->CreateEditingPresenter(), factory->CreateEditingPresenter());
     EXPECT_NE(factory->CreateItemPresenter(), factory->CreateItemPresenter());

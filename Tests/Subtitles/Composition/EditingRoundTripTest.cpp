@@ -1,6 +1,10 @@
 #include "Subtitles/Fakes/FakeEditingPanel.h"
 #include "Subtitles/Fakes/FakeTranscoder.h"
+#include "Subtitles/Fakes/TrackListClicks.h"
+#include "Support/WidgetSupport.h"
 
+#include "Subtitles/Details/EditingPanel.h"
+#include "Subtitles/Details/ItemPanel.h"
 #include "Subtitles/Subtitles.h"
 
 #include "App/GUIContainer.h"
@@ -9,6 +13,10 @@
 
 #include "Hypodermic/Container.h"
 #include "Hypodermic/ContainerBuilder.h"
+
+#include <QAbstractButton>
+#include <QSpinBox>
+#include <QTest>
 
 // From a panel that echoes through the whole module into the core settings.
 namespace Korvex::Converter::Subtitles
@@ -29,24 +37,27 @@ SubtitleTrack MakeStream(std::uint32_t index)
     return track;
 }
 
-class EditingRoundTripTest : public testing::Test
+/// The module with a host's panels around it.
+class Module
 {
-protected:
-    void SetUp() override
+public:
+    Module(std::shared_ptr<Adapters::IEditingPanel> const& editingPanel,
+           std::shared_ptr<Adapters::IItemPanel> const& itemPanel, Entities::SubtitlePresenterKind kind)
+        : m_kind(kind)
     {
         Hypodermic::ContainerBuilder builder;
         builder.registerInstance(std::make_shared<Testing::FakeTranscoder>())
             .as<Transcoder::Entities::ITranscoderInteractor>();
         auto const widgets = std::make_shared<Gui::GUIContainer>();
-        widgets->Register<Adapters::IEditingPanel>(m_panel);
+        widgets->Register(editingPanel);
+        widgets->Register(itemPanel);
         builder.registerInstance(widgets);
         FillBuilder(builder, nullptr);
         m_container = builder.build();
         InitFactories(m_container);
-        m_first = ShowFilm();
     }
 
-    /// An interactor with two tracks in the panel.
+    /// An interactor with two tracks in the panels.
     std::shared_ptr<Entities::ISubtitleCollectionInteractor> ShowFilm()
     {
         auto interactor = m_container->resolve<Entities::ISubtitleCollectionInteractorPool>()->GetInteractor();
@@ -54,16 +65,24 @@ protected:
         preset.formatId = Conf::IFormatFile::FORMAT_MATROSKA;
         interactor->SetPreset(preset);
         Entities::SubtitlePresenterSettings settings;
-        settings.kind = Entities::SubtitlePresenterKind::EditingPanel;
+        settings.kind = m_kind;
         interactor->SetPresenterSettings(settings);
         interactor->SetSubtitleCollection(SubtitleCollection(), true);
         interactor->AddTrackList({{SubtitleTrackID(2u), MakeStream(2)}, {SubtitleTrackID(10u), MakeStream(10)}});
         return interactor;
     }
 
-    std::shared_ptr<Testing::FakeEditingPanel> m_panel = std::make_shared<Testing::FakeEditingPanel>();
+private:
+    Entities::SubtitlePresenterKind m_kind;
     std::shared_ptr<Hypodermic::Container> m_container;
-    std::shared_ptr<Entities::ISubtitleCollectionInteractor> m_first;
+};
+
+class EditingRoundTripTest : public testing::Test
+{
+protected:
+    std::shared_ptr<Testing::FakeEditingPanel> m_panel = std::make_shared<Testing::FakeEditingPanel>();
+    Module m_module{m_panel, nullptr, Entities::SubtitlePresenterKind::EditingPanel};
+    std::shared_ptr<Entities::ISubtitleCollectionInteractor> m_first = m_module.ShowFilm();
 };
 
 TEST_F(EditingRoundTripTest, EditsReachTheSettingsAndTogglingKeepsThem)
@@ -106,13 +125,97 @@ TEST_F(EditingRoundTripTest, ThePanelServesTheFilmThatItShowsAlone)
     m_panel->UserSetsShift(12);
     SubtitleCollection const before = m_first->GetSubtitleCollection();
 
-    auto const second = ShowFilm();
+    auto const second = m_module.ShowFilm();
     m_panel->UserSelects(SubtitleTrackID(10u));
     m_panel->UserSetsShift(-5);
     m_panel->UserSelectsNone();
 
     EXPECT_EQ(m_first->GetSubtitleCollection(), before);
     EXPECT_EQ(second->GetSubtitleCollection().textSettings.positionShift, -5);
+}
+
+/// The panels of a desktop host in one window.
+class PanelsRoundTripTest : public testing::Test, public Entities::ISubtitleCollectionInteractorEventObserver
+{
+protected:
+    PanelsRoundTripTest()
+    {
+        m_film->RegisterEventHandler(this);
+        m_editing->resize(320, 700);
+        Korvex::Testing::ShowAndWait(*m_editing);
+        Korvex::Testing::ShowAndWait(*m_item);
+    }
+    ~PanelsRoundTripTest() override { m_film->UnregisterEventHandler(this); }
+
+    void OnApplyToAllFiles(SubtitleCollection const& collection) override { m_applied.push_back(collection); }
+
+    void ClickButton(QWidget& panel, char const* name)
+    {
+        auto* const button = panel.findChild<QAbstractButton*>(name);
+        ASSERT_NE(button, nullptr) << name;
+        QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(10, button->height() / 2));
+    }
+
+    /// Opens the editing panel's track list and clicks a row.
+    void ChooseInEditingPanel(int row)
+    {
+        ClickButton(*m_editing, "selectSubtitlesTrackButton");
+        auto* const list = m_editing->findChild<QWidget*>("subtitleCollection");
+        ASSERT_NE(list, nullptr) << "the drop-down did not open";
+        Testing::ClickTrackRow(*list, row);
+    }
+
+    [[nodiscard]] std::shared_ptr<Proc::SettingsSubtitleMixer const> GetMixer() const
+    {
+        return ReadCoreSettings(m_film->GetSubtitleCollection()).mixer;
+    }
+
+    std::shared_ptr<Details::EditingPanel> m_editing = std::make_shared<Details::EditingPanel>();
+    std::shared_ptr<Details::ItemPanel> m_item = std::make_shared<Details::ItemPanel>();
+    Module m_module{m_editing, m_item, Entities::SubtitlePresenterKind::Both};
+    std::shared_ptr<Entities::ISubtitleCollectionInteractor> m_film = m_module.ShowFilm();
+    std::vector<SubtitleCollection> m_applied;
+};
+
+TEST_F(PanelsRoundTripTest, AClickOnATrackReachesTheMixerAndTheOtherPanel)
+{
+    EXPECT_EQ(GetMixer(), nullptr);
+    ChooseInEditingPanel(3);
+    ASSERT_NE(GetMixer(), nullptr);
+    EXPECT_EQ(GetMixer()->GetSubtitleStreamIndex(), 10u);
+    EXPECT_EQ(m_item->GetCurrentTitle(), m_editing->GetCurrentTitle());
+
+    auto* const shift = m_editing->findChild<QSpinBox*>("alignSpinBox");
+    ASSERT_TRUE(shift != nullptr && shift->isEnabled());
+    shift->setFocus();
+    QTest::keyClick(shift, Qt::Key_Up);
+    EXPECT_EQ(GetMixer()->GetDrawerSettings().GetMoveUp(), 1);
+
+    Testing::ClickTrackRow(*m_item, 2);
+    EXPECT_EQ(GetMixer()->GetSubtitleStreamIndex(), 2u);
+    EXPECT_EQ(m_editing->GetCurrentTitle(), m_item->GetCurrentTitle());
+    Testing::ClickTrackRow(*m_item, 1);
+    EXPECT_EQ(GetMixer(), nullptr);
+    ASSERT_NE(ReadCoreSettings(m_film->GetSubtitleCollection()).soft, nullptr);
+    EXPECT_EQ(m_editing->GetCurrentTitle(), "Leave all tracks (softsub)");
+    ChooseInEditingPanel(0);
+    EXPECT_EQ(m_item->GetCurrentTitle(), "No subtitles");
+    EXPECT_EQ(ReadCoreSettings(m_film->GetSubtitleCollection()).soft, nullptr);
+}
+
+TEST_F(PanelsRoundTripTest, ApplyToAllTakesTheChoiceOfTheItemPanelOnce)
+{
+    Testing::ClickTrackRow(*m_item, 3);
+    ClickButton(*m_item, "applyToAllCheckBox");
+    EXPECT_TRUE(m_applied.empty()) << "not before the choice is finished";
+    ClickButton(*m_item, "doneButton");
+    ASSERT_EQ(m_applied.size(), 1u);
+    EXPECT_EQ(m_applied[0].currentTrack, SubtitleTrackID(10u));
+    EXPECT_FALSE(m_item->isVisible());
+
+    m_item->show();
+    ClickButton(*m_item, "doneButton");
+    EXPECT_EQ(m_applied.size(), 1u) << "the check box is cleared after each use";
 }
 
 } // namespace
