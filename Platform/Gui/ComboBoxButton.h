@@ -14,12 +14,13 @@ public:
     explicit ComboBoxButton(QWidget* parent = nullptr);
     ~ComboBoxButton() override;
 
-    void SetButtonText(QString const& text);
+    /// Plain text, an ampersand is one: captions are file names and titles.
+    void SetButtonText(QString const& caption);
     /// The whole caption.
-    [[nodiscard]] QString GetButtonText() const { return m_text; }
+    [[nodiscard]] QString GetButtonText() const { return m_caption; }
 
 private:
-    QString m_text;
+    QString m_caption;
 };
 
 } // namespace Korvex::GUI

@@ -7,11 +7,12 @@
 namespace Korvex::GUI
 {
 
-/// A button that opens something below itself, with a mark at its right edge. Space, Enter, Alt+Down and F4 open it
-/// like a click.
+/// A button that opens something below itself: its caption at the left, an arrow at the right. Space, Enter, Alt+Down
+/// and F4 open it like a click. It looks open from the click until `OnHideDropDown`.
 class KORVEX_GUI_API DropDownButton : public QPushButton
 {
     Q_OBJECT
+    Q_PROPERTY(bool open READ IsOpen) // for the style sheet
 public:
     explicit DropDownButton(QWidget* parent = nullptr);
     ~DropDownButton() override;
@@ -20,10 +21,21 @@ public:
     void OnHideDropDown();
     [[nodiscard]] bool IsOpen() const { return m_isOpen; }
 
+    [[nodiscard]] QSize sizeHint() const override;
+    /// Narrow: the caption is shortened where there is no room.
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
 protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void SetOpen(bool isOpen);
+    /// Where the caption stands, without the arrow.
+    [[nodiscard]] QRect FindTextPlace() const;
+    [[nodiscard]] QString MakeShortText() const;
+
     bool m_isOpen = false;
 };
 

@@ -4,8 +4,8 @@
 
 #include <QComboBox>
 
-/// A combo box in the host's look. A wheel turned over it scrolls the page it stands on unless the box has the focus.
-/// Otherwise a QComboBox.
+/// A combo box in the host's look. A wheel turned over it scrolls the page it stands on unless the box has the focus,
+/// and a text that has no room is shortened with an ellipsis. Otherwise a QComboBox.
 class KORVEX_GUI_API KComboBox : public QComboBox
 {
     Q_OBJECT
@@ -14,5 +14,6 @@ public:
     ~KComboBox() override;
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 };

@@ -1,7 +1,18 @@
 #include "Gui/KLabel.h"
 
+#include <QHelpEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QStyle>
+#include <QTextDocument>
+#include <QToolTip>
+
+namespace
+{
+
+constexpr int SHORTEST_TEXT = 4; ///< characters
+
+} // namespace
 
 KLabel::KLabel(QWidget* parent) : QLabel(parent) {}
 
@@ -15,14 +26,53 @@ void KLabel::SetElideMode(Qt::TextElideMode mode)
     update();
 }
 
-QSize KLabel::minimumSizeHint() const
+bool KLabel::IsOneLine() const
 {
-    return {fontMetrics().averageCharWidth() * 3, QLabel::minimumSizeHint().height()};
+    bool const isRich = textFormat() == Qt::RichText || (textFormat() == Qt::AutoText && Qt::mightBeRichText(text()));
+    return !text().isEmpty() && !isRich && !wordWrap() && !text().contains(QLatin1Char('\n'));
 }
 
-void KLabel::paintEvent(QPaintEvent* /*event*/)
+QSize KLabel::minimumSizeHint() const
 {
+    QSize const hint = QLabel::minimumSizeHint();
+    return IsOneLine() ? QSize(qMin(hint.width(), SHORTEST_TEXT * fontMetrics().averageCharWidth()), hint.height())
+                       : hint;
+}
+
+QRect KLabel::FindTextPlace() const
+{
+    QRect place = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
+    Qt::Alignment const horizontal = QStyle::visualAlignment(layoutDirection(), alignment());
+    int const shift = qMax(0, indent());
+    if (horizontal.testFlag(Qt::AlignLeft))
+        place.setLeft(place.left() + shift);
+    if (horizontal.testFlag(Qt::AlignRight))
+        place.setRight(place.right() - shift);
+    return place;
+}
+
+QString KLabel::MakeShortText() const
+{
+    return fontMetrics().elidedText(text(), m_mode, FindTextPlace().width());
+}
+
+bool KLabel::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && IsOneLine() && MakeShortText() != text())
+    {
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text().toHtmlEscaped(), this);
+        return true;
+    }
+    return QLabel::event(event);
+}
+
+void KLabel::paintEvent(QPaintEvent* event)
+{
+    // A buddy's mnemonic is QLabel's to draw.
+    if (!IsOneLine() || buddy() != nullptr || MakeShortText() == text())
+        return QLabel::paintEvent(event);
     QPainter painter(this);
-    painter.drawText(contentsRect(), static_cast<int>(alignment()),
-                     fontMetrics().elidedText(text(), m_mode, contentsRect().width()));
+    drawFrame(&painter);
+    int const flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())) | Qt::TextSingleLine;
+    style()->drawItemText(&painter, FindTextPlace(), flags, palette(), isEnabled(), MakeShortText(), foregroundRole());
 }
