@@ -51,7 +51,8 @@ public:
         m_before = qInstallMessageHandler(
             [](QtMsgType type, QMessageLogContext const&, QString const& text)
             {
-                if (type != QtDebugMsg && type != QtInfoMsg)
+                bool const isOfThePlatform = text.startsWith(QLatin1String("This plugin does not support"));
+                if (type != QtDebugMsg && type != QtInfoMsg && !isOfThePlatform)
                     collectedWarnings->append(text);
             });
     }

@@ -22,6 +22,9 @@ QIcon HostStyle::standardIcon(StandardPixmap pixmap, QStyleOption const* option,
     case SP_DirIcon:
     case SP_DirClosedIcon:
     case SP_DirOpenIcon:
+    case SP_DirHomeIcon:
+    case SP_ComputerIcon:
+    case SP_DriveHDIcon:
     case SP_FileDialogNewFolder:
         return MakeIcon(IconKind::Folder, ColorRole::DimText);
     case SP_FileIcon:
