@@ -5,6 +5,7 @@
 #include "Common/Sentences.h"
 #include "Common/SessionError.h"
 #include "Common/SoftPreparation.h"
+#include "Common/SubtitleFiles.h"
 #include "Common/WorkFolder.h"
 
 #include "Subtitles/Subtitles.h"
@@ -233,17 +234,6 @@ private:
             if (track.isExternal && (track.path == path || Core::IsSameFile(track.path, path)))
                 return id;
         return {};
-    }
-
-    /// The module says only that a file is no subtitle file; the core knows why.
-    static Core::Error ExplainUnreadable(ioPath const& path)
-    {
-        auto const document = Proc::LoadSubtitleFile(path, {});
-        if (!document)
-            return document.GetError();
-        Core::Error error = MakeError(Core::ErrorCode::FormatUnknown, path);
-        error.detail = "it does not hold exactly one subtitle track";
-        return error;
     }
 
     /// What the listed tracks still lack: the encodings of files and who is on by default.

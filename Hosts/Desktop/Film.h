@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Desktop/FilmChoice.h"
 #include "Desktop/FilmProblem.h"
 
 #include "Core/ioPath.h"
@@ -18,22 +19,21 @@ namespace Korvex::Hosts
 class HostServices;
 } // namespace Korvex::Hosts
 
+namespace Korvex::Core
+{
+struct Error;
+} // namespace Korvex::Core
+
 namespace Korvex::Proc
 {
 struct MediaInfo;
 class SettingsSubtitleMixer;
 } // namespace Korvex::Proc
 
-namespace Korvex::Converter::Subtitles::Entities
-{
-enum class SubtitleEncoding : std::int32_t;
-struct SubtitleCollection;
-struct SubtitleTrack;
-} // namespace Korvex::Converter::Subtitles::Entities
-
 namespace Korvex::Desktop
 {
 
+class ReadingThread;
 struct ConversionJob;
 struct OutputSettings;
 
@@ -48,23 +48,15 @@ enum class FilmState
     Unreadable, ///< it is no film; GetStateSentence says why
 };
 
-/// What the user may say of an added subtitle file.
-struct TrackProperties
-{
-    std::string language; ///< short name; empty: not stated
-    std::string title;
-    bool isDefault = false;
-    bool isForced = false;
-};
-
 /// One film in the list: what it holds, the subtitles chosen for it, what stands in the way of converting it. Every
 /// choice goes through the module's interactor, of which each film holds one. GUI thread.
 class Film final : public QObject
 {
     Q_OBJECT
 public:
-    /// `services` has to outlive the film. Nothing is read here: whoever read the file calls `SetMedia`.
-    Film(Hosts::HostServices& services, FilmId id, ioPath path);
+    /// `services` has to outlive the film. The film itself is not read here: whoever reads it calls `SetMedia` or
+    /// `SetFailure`. Added files are read on `reading`, without it on a thread of the film's own.
+    Film(Hosts::HostServices& services, FilmId id, ioPath path, std::shared_ptr<ReadingThread> reading = nullptr);
     ~Film() override;
 
     [[nodiscard]] FilmId GetId() const;
@@ -75,7 +67,15 @@ public:
     [[nodiscard]] Proc::MediaInfo const& GetMedia() const;
     [[nodiscard]] QImage const& GetThumbnail() const;
 
-    /// A copy of what the interactor edits.
+    /// The file was read: its subtitles are listed and what was chosen before is chosen again.
+    void SetMedia(Proc::MediaInfo const& media);
+    /// Missing where the error says that there is no such file, else unreadable. Choices are kept.
+    void SetFailure(Core::Error const& error);
+    void SetThumbnail(QImage const& thumbnail);
+    /// It is read anew, perhaps at another place.
+    void SetReading(ioPath const& path);
+
+    /// A copy of what the interactor edits, with the codecs that the tracks have in their sources.
     [[nodiscard]] Converter::Subtitles::Entities::SubtitleCollection GetCollection() const;
     /// The track that is drawn in; empty when none is.
     [[nodiscard]] std::optional<Converter::Subtitles::Entities::SubtitleTrack> GetDrawnTrack() const;
@@ -84,8 +84,16 @@ public:
     /// The choice in words: "No subtitles", "All 3 tracks", "Drawn in: film.ru.srt [Russian]".
     [[nodiscard]] QString DescribeChoice() const;
     [[nodiscard]] std::vector<FilmProblem> ListProblems() const;
+    /// It was read and nothing stands in the way.
+    [[nodiscard]] bool IsConvertible() const;
     [[nodiscard]] std::vector<Converter::Subtitles::Entities::SubtitleTrack> ListLeftOut() const;
 
+    /// What was decided; also of a film that is not there at the moment.
+    [[nodiscard]] FilmChoice GetChoice() const;
+    /// Decides all of it; takes effect when the film has been read.
+    void SetChoice(FilmChoice const& choice);
+
+    /// A film that is still being read gets them afterwards.
     void AddSubtitleFiles(std::vector<ioPath> const& paths);
     void ChooseNone();
     void ChooseAllSoft();
@@ -98,6 +106,8 @@ public:
     [[nodiscard]] TrackProperties GetTrackProperties(Converter::Subtitles::Entities::SubtitleTrackID const& id) const;
     void SetEncoding(Converter::Subtitles::Entities::SubtitleTrackID const& id,
                      Converter::Subtitles::Entities::SubtitleEncoding encoding);
+    void SetOffset(Converter::Subtitles::Entities::SubtitleTrackID const& id, double seconds);
+    void SetLook(Converter::Subtitles::Entities::SubtitleTextSettings const& look);
     /// Everything but `Kind::ChooseFormat` and `Kind::Locate`, which are the list's and the window's.
     void Apply(Remedy const& remedy);
 
@@ -105,11 +115,12 @@ public:
     /// Takes the editing panel and the item panel of the host's GUI container, from whichever film had them.
     void ShowInPanels();
 
-    /// Everything that a conversion needs, as it stands now. Only without problems.
+    /// Everything that a conversion needs, as it stands now. Only of a convertible film.
     [[nodiscard]] ConversionJob MakeJob(OutputSettings const& settings) const;
 
 Q_SIGNALS:
-    /// Anything that is shown of it changed: state, thumbnail, tracks, choice, look, problems.
+    /// Anything that is shown of it changed: state, thumbnail, tracks, choice, look, problems. Comes from the event
+    /// loop, once for several changes.
     void Changed();
     void ExtractRequested(Converter::Subtitles::Entities::SubtitleTrackID const& id);
     /// The user ticked "Apply to all files" and is done choosing.

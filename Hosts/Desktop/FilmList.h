@@ -27,9 +27,19 @@ public:
 
     /// Adds the films; a path that is in the list already is skipped. Returns the films of all the paths.
     std::vector<Film*> Add(std::vector<ioPath> const& paths);
+    /// Adds whatever was dropped or opened: films, the films in folders, and subtitle files, which go to the film of
+    /// their name, else to `current` (null: none). Returns the files that found no film.
+    std::vector<ioPath> AddDropped(std::vector<ioPath> const& paths, Film* current);
+    /// Also while it is being read. Not from inside one of the film's own signals.
     void Remove(FilmId id);
+    /// The film is at another place now: it is read there, and its choices are made again.
+    void Locate(FilmId id, ioPath const& path);
+    /// Looks which films are gone or there again. The answer comes as their changes.
+    void CheckFiles();
     [[nodiscard]] Film* Find(FilmId id) const;
     [[nodiscard]] std::vector<Film*> GetFilms() const;
+    /// -1 when it is not in the list.
+    [[nodiscard]] int FindRow(FilmId id) const;
 
     [[nodiscard]] OutputSettings const& GetOutput() const;
     void SetOutput(OutputSettings const& settings);
@@ -41,6 +51,9 @@ public:
 
 Q_SIGNALS:
     void OutputChanged();
+    /// Like the film's own signals, for whoever follows all of them.
+    void FilmChanged(Korvex::Desktop::FilmId id);
+    void ApplyToAllRequested(Korvex::Desktop::FilmId id);
 
 private:
     class Impl;

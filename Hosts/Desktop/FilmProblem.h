@@ -18,6 +18,7 @@ struct Remedy
         ChooseFormat, ///< for all films: `formatId`
         BurnTrack,    ///< draw `track` in
         LeaveOut,     ///< `track` does not go out
+        ResetOffset,  ///< `track` is not moved in time
         Locate,       ///< the user shows where the film is now
     };
 

@@ -1,0 +1,452 @@
+#include "Desktop/Film.h"
+
+#include "Common/SoftPlan.h"
+#include "Common/SubtitleFiles.h"
+#include "Desktop/ConversionJob.h"
+#include "Desktop/FilmSubtitles.h"
+#include "Desktop/FilmWords.h"
+#include "Desktop/OutputSettings.h"
+#include "Desktop/ReadingThread.h"
+
+#include "Subtitles/Subtitles.h"
+
+#include "Core/Error.h"
+#include "Core/ScopedObservation.h"
+#include "Proc/MediaInfo.h"
+#include "Proc/Settings.h"
+
+#include <QFileInfo>
+#include <QPointer>
+
+#include <set>
+#include <utility>
+
+namespace Korvex::Desktop
+{
+
+namespace Entities = Converter::Subtitles::Entities;
+using Entities::SubtitleCollection;
+using Entities::SubtitleCollectionMode;
+using Entities::SubtitleTrack;
+using Entities::SubtitleTrackID;
+
+namespace
+{
+
+/// What was found out about added files by reading them.
+struct FilesRead
+{
+    std::map<SubtitleTrackID, std::string> encodings;
+    std::map<SubtitleTrackID, QString> reasons; ///< why a file holds no subtitles
+};
+
+/// On the reading thread.
+FilesRead ReadFiles(SubtitleCollection files)
+{
+    FilesRead read;
+    Converter::Subtitles::NoteDetectedEncodings(files);
+    for (auto const& [id, track] : files.tracks)
+    {
+        if (track.codecId.empty())
+            read.reasons.emplace(id, QString::fromStdString(ToSentence(Hosts::ExplainUnreadable(track.path))));
+        else
+            read.encodings.emplace(id, track.extra);
+    }
+    return read;
+}
+
+std::vector<ioPath> MakeAbsolute(std::vector<ioPath> const& paths)
+{
+    std::vector<ioPath> absolute;
+    for (ioPath const& path : paths)
+        absolute.emplace_back(QFileInfo(QString::fromStdString(path.utf8string())).absoluteFilePath().toStdString());
+    return absolute;
+}
+
+} // namespace
+
+class Film::Impl final : public Entities::ISubtitleCollectionInteractorEventObserver
+{
+public:
+    Impl(Film& owner, Hosts::HostServices& services, FilmId filmId, ioPath filmPath,
+         std::shared_ptr<ReadingThread> readingThread)
+        : id(filmId),
+          path(std::move(filmPath)),
+          subtitles(services),
+          m_owner(owner),
+          m_services(services),
+          m_reading(readingThread ? std::move(readingThread) : std::make_shared<ReadingThread>()),
+          m_observation(subtitles.GetInteractor(), *this)
+    {
+        SetOutput({});
+    }
+
+    void SetOutput(OutputSettings const& settings)
+    {
+        m_formatId = settings.formatId;
+        subtitles.SetPreset(MakePreset(settings));
+        NoteChange();
+    }
+
+    void SetMedia(Proc::MediaInfo const& read)
+    {
+        FilmChoice const choice = GetChoice();
+        media = read;
+        state = FilmState::Ready;
+        stateSentence.clear();
+        m_wasRead = true;
+        m_files.clear();
+        m_reasons.clear();
+        subtitles.Open(media, choice);
+        if (!m_waitingFiles.empty())
+            subtitles.AddFiles(std::exchange(m_waitingFiles, {}));
+        NoteChange();
+    }
+
+    void SetFailure(Core::Error const& error)
+    {
+        bool const isMissing = error.code == Core::ErrorCode::FileNotFound;
+        state = isMissing ? FilmState::Missing : FilmState::Unreadable;
+        stateSentence = isMissing ? tr("The film \"%1\" is not there any more: show where it is now, or remove it from "
+                                       "the list.")
+                                        .arg(QString::fromStdString(path.utf8string()))
+                                  : QString::fromStdString(ToSentence(error));
+        NoteChange();
+    }
+
+    void SetReading(ioPath const& newPath)
+    {
+        path = newPath;
+        state = FilmState::Reading;
+        stateSentence.clear();
+        NoteChange();
+    }
+
+    [[nodiscard]] FilmChoice GetChoice() const { return m_wasRead ? subtitles.GetChoice() : m_waitingChoice; }
+
+    void SetChoice(FilmChoice const& choice)
+    {
+        if (m_wasRead)
+            subtitles.Open(media, choice);
+        else
+            m_waitingChoice = choice;
+        NoteChange();
+    }
+
+    void AddFiles(std::vector<ioPath> const& paths)
+    {
+        if (m_wasRead && state != FilmState::Reading)
+            subtitles.AddFiles(paths);
+        else
+            m_waitingFiles.insert(m_waitingFiles.end(), paths.begin(), paths.end());
+        NoteChange();
+    }
+
+    [[nodiscard]] std::vector<FilmProblem> ListProblems() const
+    {
+        if (state == FilmState::Missing)
+            return {{stateSentence, {{Remedy::Kind::Locate, tr("Locate..."), {}, {}}}}};
+        if (state == FilmState::Unreadable)
+            return {{stateSentence, {}}};
+        if (state == FilmState::Reading)
+            return {};
+        SubtitleCollection const collection = subtitles.GetCollection();
+        return FilmWords::ListProblems(collection, Hosts::MakeSoftPlan(m_services, media, collection, m_formatId),
+                                       m_reasons);
+    }
+
+    void NoteChange()
+    {
+        if (std::exchange(m_isChangeNoted, true))
+            return;
+        QMetaObject::invokeMethod(
+            &m_owner, [this] { TellChange(); }, Qt::QueuedConnection);
+    }
+
+    void OnSubtitleCollectionChanged(Entities::SubtitleCollectionID const& /*collection*/) override { NoteChange(); }
+
+    // Dialogs open in answer to these, which must not happen inside a notification.
+
+    void OnApplyToAllFiles(SubtitleCollection const& /*collection*/) override
+    {
+        QMetaObject::invokeMethod(&m_owner, &Film::ApplyToAllRequested, Qt::QueuedConnection);
+    }
+
+    void OnExtractSubtitleRequested(SubtitleTrackID const& track) override
+    {
+        QMetaObject::invokeMethod(
+            &m_owner, [this, track] { Q_EMIT m_owner.ExtractRequested(track); }, Qt::QueuedConnection);
+    }
+
+    FilmId const id;
+    ioPath path;
+    FilmState state = FilmState::Reading;
+    QString stateSentence;
+    Proc::MediaInfo media;
+    QImage thumbnail;
+    FilmSubtitles subtitles;
+
+private:
+    void TellChange()
+    {
+        if (m_wasRead)
+        {
+            subtitles.Settle();
+            ReadNewFiles();
+        }
+        // What settling changed is told along.
+        m_isChangeNoted = false;
+        Q_EMIT m_owner.Changed();
+    }
+
+    /// Files that came in since: their encodings, and why they hold no subtitles where they do not.
+    void ReadNewFiles()
+    {
+        SubtitleCollection fresh;
+        for (auto const& [trackId, track] : subtitles.GetCollection().tracks)
+        {
+            bool const isUnknown = track.codecId.empty() || (track.encodingEditable && track.extra.empty());
+            if (track.isExternal && isUnknown && m_files.insert(trackId).second)
+                fresh.tracks.emplace(trackId, track);
+        }
+        if (fresh.tracks.empty())
+            return;
+        m_reading->Add(ReadingThread::Urgency::Soon,
+                       [film = QPointer<Film>(&m_owner), fresh]() -> ReadingThread::Delivery
+                       {
+                           return [film, read = ReadFiles(fresh)]
+                           {
+                               if (film)
+                                   film->m_impl->NoteRead(read);
+                           };
+                       });
+    }
+
+    void NoteRead(FilesRead const& read)
+    {
+        for (auto const& [trackId, reason] : read.reasons)
+            m_reasons[trackId] = reason;
+        subtitles.NoteEncodings(read.encodings);
+        NoteChange();
+    }
+
+    Film& m_owner;
+    Hosts::HostServices& m_services;
+    std::shared_ptr<ReadingThread> m_reading;
+    std::string m_formatId;
+    bool m_wasRead = false;
+    bool m_isChangeNoted = false;
+    FilmChoice m_waitingChoice; ///< until the film has been read
+    std::vector<ioPath> m_waitingFiles;
+    std::set<SubtitleTrackID> m_files; ///< those that were read or are being read
+    std::map<SubtitleTrackID, QString> m_reasons;
+    Core::ScopedObservation<Entities::ISubtitleCollectionInteractorEventObserver> m_observation;
+};
+
+Film::Film(Hosts::HostServices& services, FilmId id, ioPath path, std::shared_ptr<ReadingThread> reading)
+    : m_impl(std::make_unique<Impl>(*this, services, id, std::move(path), std::move(reading)))
+{
+}
+
+Film::~Film() = default;
+
+FilmId Film::GetId() const
+{
+    return m_impl->id;
+}
+
+ioPath const& Film::GetPath() const
+{
+    return m_impl->path;
+}
+
+FilmState Film::GetState() const
+{
+    return m_impl->state;
+}
+
+QString Film::GetStateSentence() const
+{
+    return m_impl->stateSentence;
+}
+
+Proc::MediaInfo const& Film::GetMedia() const
+{
+    return m_impl->media;
+}
+
+QImage const& Film::GetThumbnail() const
+{
+    return m_impl->thumbnail;
+}
+
+void Film::SetMedia(Proc::MediaInfo const& media)
+{
+    m_impl->SetMedia(media);
+}
+
+void Film::SetFailure(Core::Error const& error)
+{
+    m_impl->SetFailure(error);
+}
+
+void Film::SetThumbnail(QImage const& thumbnail)
+{
+    m_impl->thumbnail = thumbnail;
+    m_impl->NoteChange();
+}
+
+void Film::SetReading(ioPath const& path)
+{
+    m_impl->SetReading(path);
+}
+
+SubtitleCollection Film::GetCollection() const
+{
+    return m_impl->subtitles.GetCollection();
+}
+
+std::optional<SubtitleTrack> Film::GetDrawnTrack() const
+{
+    SubtitleCollection const collection = GetCollection();
+    auto const current = collection.tracks.find(collection.currentTrack);
+    bool const isDrawn = collection.mode == SubtitleCollectionMode::SelectedTrack && collection.withoutSubtitles == 0 &&
+                         current != collection.tracks.end();
+    return isDrawn ? std::optional(current->second) : std::nullopt;
+}
+
+std::shared_ptr<Proc::SettingsSubtitleMixer const> Film::GetMixerSettings() const
+{
+    return Converter::Subtitles::ReadCoreSettings(GetCollection()).mixer;
+}
+
+QString Film::DescribeChoice() const
+{
+    return FilmWords::DescribeChoice(GetCollection());
+}
+
+std::vector<FilmProblem> Film::ListProblems() const
+{
+    return m_impl->ListProblems();
+}
+
+bool Film::IsConvertible() const
+{
+    return GetState() == FilmState::Ready && ListProblems().empty();
+}
+
+std::vector<SubtitleTrack> Film::ListLeftOut() const
+{
+    return m_impl->subtitles.ListLeftOut();
+}
+
+FilmChoice Film::GetChoice() const
+{
+    return m_impl->GetChoice();
+}
+
+void Film::SetChoice(FilmChoice const& choice)
+{
+    m_impl->SetChoice(choice);
+}
+
+void Film::AddSubtitleFiles(std::vector<ioPath> const& paths)
+{
+    m_impl->AddFiles(MakeAbsolute(paths));
+}
+
+void Film::ChooseNone()
+{
+    m_impl->subtitles.ChooseNone();
+}
+
+void Film::ChooseAllSoft()
+{
+    m_impl->subtitles.ChooseAllSoft();
+}
+
+void Film::ChooseTrack(SubtitleTrackID const& id)
+{
+    m_impl->subtitles.ChooseTrack(id);
+}
+
+void Film::LeaveOut(SubtitleTrackID const& id)
+{
+    m_impl->subtitles.LeaveOut(id);
+}
+
+void Film::PutBack(SubtitleTrackID const& id)
+{
+    m_impl->subtitles.PutBack(id);
+}
+
+void Film::SetTrackProperties(SubtitleTrackID const& id, TrackProperties const& properties)
+{
+    m_impl->subtitles.SetProperties(id, properties);
+}
+
+TrackProperties Film::GetTrackProperties(SubtitleTrackID const& id) const
+{
+    return m_impl->subtitles.GetProperties(id);
+}
+
+void Film::SetEncoding(SubtitleTrackID const& id, Entities::SubtitleEncoding encoding)
+{
+    m_impl->subtitles.SetEncoding(id, encoding);
+}
+
+void Film::SetOffset(SubtitleTrackID const& id, double seconds)
+{
+    m_impl->subtitles.SetOffset(id, seconds);
+}
+
+void Film::SetLook(Entities::SubtitleTextSettings const& look)
+{
+    m_impl->subtitles.SetLook(look);
+}
+
+void Film::Apply(Remedy const& remedy)
+{
+    switch (remedy.kind)
+    {
+    case Remedy::Kind::BurnTrack:
+        ChooseTrack(remedy.track);
+        break;
+    case Remedy::Kind::LeaveOut:
+        LeaveOut(remedy.track);
+        break;
+    case Remedy::Kind::ResetOffset:
+        SetOffset(remedy.track, 0.0);
+        break;
+    case Remedy::Kind::ChooseFormat:
+    case Remedy::Kind::Locate:
+        break;
+    }
+}
+
+void Film::SetOutput(OutputSettings const& settings)
+{
+    m_impl->SetOutput(settings);
+}
+
+void Film::ShowInPanels()
+{
+    m_impl->subtitles.ShowInPanels();
+}
+
+ConversionJob Film::MakeJob(OutputSettings const& settings) const
+{
+    ConversionJob job;
+    job.film = GetId();
+    job.media = GetMedia();
+    job.collection = GetCollection();
+    // News about the film's collection is not about that of the job.
+    job.collection.collectionId = Entities::SubtitleCollectionID();
+    job.collection.impl.reset();
+    job.collection.implCollection = 0;
+    job.preset = MakePreset(settings);
+    job.output = MakeOutputPath(GetPath(), settings);
+    return job;
+}
+
+} // namespace Korvex::Desktop

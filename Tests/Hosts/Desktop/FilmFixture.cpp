@@ -1,0 +1,68 @@
+#include "Hosts/Desktop/FilmFixture.h"
+
+#include "App/Configuration.h"
+#include "Core/FileSystem.h"
+
+#include <QtTest/QTest>
+
+namespace Korvex::Testing
+{
+
+using Desktop::Film;
+using Desktop::FilmState;
+
+FilmFixture::FilmFixture() : m_services(App::Configuration()), m_list(m_services) {}
+
+MadeSubtitle FilmFixture::MakeSubtitle(std::string const& codecId, std::string const& language)
+{
+    MadeSubtitle subtitle;
+    subtitle.codecId = codecId;
+    subtitle.cues = codecId == "hdmv_pgs_subtitle" ? MakeBoxCues() : MakeTextCues();
+    subtitle.language = language;
+    return subtitle;
+}
+
+ioPath FilmFixture::MakeFilm(std::string const& name, std::vector<MadeSubtitle> subtitles)
+{
+    MadeMedia media;
+    media.video = MadeVideo{};
+    media.audios.emplace_back();
+    media.subtitles = std::move(subtitles);
+    MakeMedia(m_folder / name, media);
+    return m_folder / name;
+}
+
+ioPath FilmFixture::WriteText(std::string const& name, std::string const& bytes)
+{
+    EXPECT_EQ(Core::WriteFile(m_folder / name, bytes, true), Core::SUCCESS);
+    return m_folder / name;
+}
+
+Film& FilmFixture::Open(ioPath const& path)
+{
+    Film& film = *m_list.Add({path}).front();
+    WaitUntil([&film] { return film.GetState() != FilmState::Reading; });
+    return film;
+}
+
+void FilmFixture::SetFormat(std::string const& formatId)
+{
+    Desktop::OutputSettings settings = m_list.GetOutput();
+    settings.formatId = formatId;
+    m_list.SetOutput(settings);
+}
+
+void FilmFixture::WaitUntil(std::function<bool()> const& condition)
+{
+    EXPECT_TRUE(QTest::qWaitFor(condition, 10'000));
+}
+
+std::vector<std::string> FilmFixture::ListSentences(Film const& film)
+{
+    std::vector<std::string> sentences;
+    for (Desktop::FilmProblem const& problem : film.ListProblems())
+        sentences.push_back(problem.sentence.toStdString());
+    return sentences;
+}
+
+} // namespace Korvex::Testing

@@ -1,0 +1,109 @@
+#include "Hosts/Desktop/FilmFixture.h"
+
+#include "Core/FileSystem.h"
+#include "Proc/MediaInfo.h"
+
+#include <QFile>
+#include <QSignalSpy>
+
+#include <gmock/gmock.h>
+
+namespace Korvex::Testing
+{
+namespace
+{
+
+using Desktop::Film;
+using Desktop::FilmId;
+using Desktop::FilmState;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class FilmListTest : public FilmFixture
+{
+};
+
+TEST_F(FilmListTest, FilmsAreReadAsideOnceEachAndShowTheirPicture)
+{
+    MadeMedia wide;
+    wide.video = MadeVideo{};
+    wide.video->width = 180;
+    wide.video->height = 144;
+    wide.video->sampleAspectNumerator = 2;
+    MakeMedia(m_folder / "wide.mkv", wide);
+    ASSERT_EQ(Core::CreateFolders(m_folder / "folder"), Core::SUCCESS);
+    MakeFilm("folder/a.mkv");
+    WriteText("folder/note.txt", "no film");
+    QString const link = QString::fromStdString((m_folder / "link.mkv").utf8string());
+    ASSERT_TRUE(QFile::link(QString::fromStdString((m_folder / "wide.mkv").utf8string()), link));
+
+    QSignalSpy inserted(&m_list, &QAbstractItemModel::rowsInserted);
+    m_list.AddDropped({m_folder / "wide.mkv", m_folder / "folder", m_folder / "link.mkv"}, nullptr);
+    EXPECT_EQ(inserted.count(), 2);
+    ASSERT_EQ(m_list.rowCount(), 2);
+    EXPECT_EQ(m_list.GetFilms().front()->GetState(), FilmState::Reading) << "adding waits for nothing";
+    WaitUntil([this] { return !m_list.GetFilms().back()->GetThumbnail().isNull(); });
+    EXPECT_EQ(m_list.GetFilms().front()->GetThumbnail().size(), QSize(160, 64));
+    EXPECT_EQ(m_list.GetFilms().back()->GetThumbnail().size(), QSize(160, 90));
+    QModelIndex const last = m_list.index(1);
+    EXPECT_EQ(last.data().toString(), "a.mkv");
+    EXPECT_EQ(last.data(Desktop::FilmList::FilmRole).value<Film*>(), m_list.GetFilms().back());
+}
+
+TEST_F(FilmListTest, RemovalWhileReadingAndUnreadableFiles)
+{
+    ioPath const broken = WriteText("broken.mkv", "this is no film");
+    std::vector<Film*> const films = m_list.Add({MakeFilm("a.mkv"), broken, WriteText("text.mkv", HELLO_SRT)});
+    m_list.Remove(films.front()->GetId());
+    ASSERT_EQ(m_list.rowCount(), 2);
+    WaitUntil([this] { return m_list.GetFilms().back()->GetState() != FilmState::Reading; });
+    Film const& unreadable = *m_list.Find(2);
+    EXPECT_EQ(unreadable.GetState(), FilmState::Unreadable);
+    EXPECT_THAT(ListSentences(unreadable), ElementsAre(HasSubstr("broken.mkv")));
+    EXPECT_THAT(ListSentences(*m_list.Find(3)), ElementsAre(HasSubstr("neither picture nor sound")));
+    EXPECT_THAT(m_list.index(0).data(Qt::ToolTipRole).toString().toStdString(), HasSubstr("broken.mkv\n"));
+}
+
+TEST_F(FilmListTest, DroppedSubtitlesGoToTheFilmOfTheirNameElseToTheCurrentOne)
+{
+    ASSERT_EQ(Core::CreateFolders(m_folder / "elsewhere"), Core::SUCCESS);
+    MakeFilm("film.mkv");
+    MakeFilm("film two.mkv");
+    ioPath const named = WriteText("elsewhere/film two.en.srt", HELLO_SRT);
+    ioPath const other = WriteText("elsewhere/other.srt", HELLO_SRT);
+    // The films are still being read when their files come.
+    auto const films = m_list.Add({m_folder / "film.mkv", m_folder / "film two.mkv"});
+    EXPECT_THAT(m_list.AddDropped({named, other}, films.front()), testing::IsEmpty());
+    EXPECT_THAT(m_list.AddDropped({other}, nullptr), ElementsAre(other));
+    WaitUntil([&] { return films.back()->GetState() == FilmState::Ready; });
+    ASSERT_TRUE(films.front()->GetDrawnTrack());
+    EXPECT_EQ(films.front()->GetDrawnTrack()->path, other);
+    ASSERT_TRUE(films.back()->GetDrawnTrack());
+    EXPECT_EQ(films.back()->GetDrawnTrack()->path, named);
+}
+
+TEST_F(FilmListTest, AFilmThatGoesKeepsItsChoiceUntilItIsThereAgain)
+{
+    ioPath const path = MakeFilm("film.mkv", {MakeSubtitle("subrip", "ger"), MakeSubtitle("ass", "fre")});
+    Film& film = Open(path);
+    film.LeaveOut(SubtitleTrackID(2U));
+    film.ChooseTrack(SubtitleTrackID(3U));
+    film.SetOffset(SubtitleTrackID(3U), 0.5);
+    QString const from = QString::fromStdString(path.utf8string());
+    ASSERT_TRUE(QFile::rename(from, from + ".away"));
+    m_list.CheckFiles();
+    WaitUntil([&] { return film.GetState() == FilmState::Missing; });
+    EXPECT_THAT(ListSentences(film), ElementsAre(HasSubstr("show where it is now")));
+    EXPECT_FALSE(film.IsConvertible());
+
+    m_list.Locate(film.GetId(), path.utf8string() + ".away");
+    WaitUntil([&] { return film.GetState() == FilmState::Ready; });
+    EXPECT_EQ(film.GetMedia().path, film.GetPath());
+    ASSERT_TRUE(film.GetDrawnTrack());
+    EXPECT_EQ(film.GetDrawnTrack()->synchronizationOffset, 0.5);
+    EXPECT_EQ(film.ListLeftOut().size(), 1U);
+    EXPECT_TRUE(film.IsConvertible());
+}
+
+} // namespace
+} // namespace Korvex::Testing
