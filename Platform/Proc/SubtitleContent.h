@@ -119,6 +119,13 @@ struct BitmapDocument
     std::vector<BitmapCue> cues;
 };
 
+/// When one event of a track is shown, counted from the start of the media file.
+struct CueSpan
+{
+    std::chrono::microseconds start{0};
+    std::chrono::microseconds end{0}; ///< the first moment at which it is gone
+};
+
 using SubtitleDocument = std::variant<TextDocument, BitmapDocument>;
 
 } // namespace Korvex::Proc

@@ -7,6 +7,7 @@
 #include "Proc/Settings.h"
 
 #include <memory>
+#include <utility>
 
 namespace Korvex::Proc
 {
@@ -24,14 +25,24 @@ public:
     {
         if (!m_source->IsActiveAt(time))
             return false;
-        if (m_source->Update(time) || !m_overlay.Fits(picture))
+        if (m_source->Update(time) || m_isStale || !m_overlay.Fits(picture))
             m_overlay.Build(m_source->CurrentInk(), picture);
+        m_isStale = false;
         return m_overlay.BlendOnto(picture);
     }
+
+    void SetSettings(SettingsSubtitleDrawer const& settings) override
+    {
+        m_source->SetSettings(settings);
+        m_isStale = true;
+    }
+
+    [[nodiscard]] std::vector<CueSpan> ListCueSpans() const override { return m_source->ListCueSpans(); }
 
 private:
     std::unique_ptr<Blend::IInkSource> m_source;
     Blend::Overlay m_overlay;
+    bool m_isStale = false; ///< the overlay is of other settings
 };
 
 Core::Result<std::unique_ptr<Blend::IInkSource>> MakeSource(SettingsSubtitleDrawer const& settings,
@@ -39,7 +50,7 @@ Core::Result<std::unique_ptr<Blend::IInkSource>> MakeSource(SettingsSubtitleDraw
 {
     if (auto* const bitmaps = std::get_if<BitmapDocument>(&document))
         return Blend::MakeBitmapInkSource(settings, std::move(*bitmaps), geometry);
-    return Ass::MakeTextInkSource(settings, std::get<TextDocument>(document), geometry);
+    return Ass::MakeTextInkSource(settings, std::move(std::get<TextDocument>(document)), geometry);
 }
 
 /// Far beyond any video, near enough to keep products of sizes within 32 bits.

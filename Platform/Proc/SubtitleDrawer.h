@@ -7,6 +7,7 @@
 #include "Proc/SubtitleContent.h"
 
 #include <chrono>
+#include <vector>
 
 namespace Korvex::Proc
 {
@@ -27,6 +28,13 @@ public:
     /// Paints what is shown at `time` (counted from the start of the media file, before the track's time shift) onto
     /// the picture, whose size has to be the geometry's. Returns true when a sample may have changed.
     virtual bool Draw(PictureView const& picture, std::chrono::microseconds time) = 0;
+
+    /// Draws by these settings from now on: the pictures are those of a drawer made anew. Costs no new look at the
+    /// track's events, however many there are.
+    virtual void SetSettings(SettingsSubtitleDrawer const& settings) = 0;
+
+    /// When the track has something to show, after its time shift, ordered by start.
+    [[nodiscard]] virtual std::vector<CueSpan> ListCueSpans() const = 0;
 };
 
 /// Reads the track that the settings name (a stream of `mediaPath` or an external file), whole, and prepares to draw it

@@ -14,9 +14,6 @@ namespace Korvex::Proc::Ass
 namespace
 {
 
-/// Alignment of text that nothing is said about: centred at the bottom.
-constexpr int DEFAULT_ALIGNMENT = 2;
-
 /// Widths in lines of the layout frame: enough to read white text on snow, too little to fill the letters.
 constexpr char const* OUTLINE_WIDTH = "1.2";
 constexpr char const* SHADOW_DEPTH = "0.6";

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace Korvex::Proc::Ass
 {
@@ -78,20 +79,10 @@ class TextInkSource : public Blend::IInkSource
 {
 public:
     TextInkSource(SettingsSubtitleDrawer const& settings, PictureGeometry const& geometry,
-                  std::unique_ptr<RenderContext> context, std::string script, LayoutRules rules)
-        : m_settings(settings),
-          m_geometry(geometry),
-          m_timeShift(settings.GetTimeShift()),
-          m_context(std::move(context)),
-          m_script(std::move(script)),
-          m_rules(rules)
-    {
-    }
-
-    void Load(TextDocument const& document);
+                  std::unique_ptr<RenderContext> context, TextDocument document);
 
     /// True when one of the first events leaves ink, or when there are no events.
-    [[nodiscard]] bool LeavesInk(TextDocument const& document);
+    [[nodiscard]] bool LeavesInk();
 
     [[nodiscard]] bool IsActiveAt(std::chrono::microseconds time) const override
     {
@@ -104,6 +95,10 @@ public:
 
     [[nodiscard]] Blend::Ink const& CurrentInk() const override { return m_ink; }
 
+    void SetSettings(SettingsSubtitleDrawer const& settings) override;
+
+    [[nodiscard]] std::vector<CueSpan> ListCueSpans() const override;
+
 private:
     struct Group
     {
@@ -113,10 +108,15 @@ private:
         std::vector<std::uint8_t> pixels; ///< behind the layers, where another group's turn would take them away
     };
 
+    void TakeEvents(TextDocument document);
+    void Restyle();
+    void GroupEvents();
     [[nodiscard]] bool IsMoved() const { return m_settings.GetMoveUp() != 0 || m_settings.GetMoveRight() != 0; }
-    void Add(TextCue const& cue, std::string text, int readOrder, int styleAlignment, bool hasOwnLook);
+    /// The alignment that the event is drawn with when it says nothing itself.
+    [[nodiscard]] int AlignmentOf(TrackEvent const& event) const;
+    [[nodiscard]] Place PlaceOf(TrackEvent const& event) const;
+    [[nodiscard]] std::string TextOf(TrackEvent const& event) const;
     [[nodiscard]] int LongestCjkRun() const;
-    [[nodiscard]] EventTrack& TrackOf(Place place);
     void TakeImages(Group& group) const;
     void Move(Group& group) const;
 
@@ -124,20 +124,108 @@ private:
     PictureGeometry m_geometry;
     std::chrono::microseconds m_timeShift;
     std::unique_ptr<RenderContext> m_context;
-    std::string m_script;
-    LayoutRules m_rules;
+    std::string const m_ownLook; ///< the script's header; empty: the settings' look
+    bool const m_breaksCjk;
+    std::vector<TrackEvent> m_events; ///< in the order of the file; never changes
+    std::vector<Place> m_places;      ///< of the events, by which they are grouped
     std::vector<Group> m_groups;
     Blend::Ink m_ink;
 };
 
-EventTrack& TextInkSource::TrackOf(Place place)
+TextInkSource::TextInkSource(SettingsSubtitleDrawer const& settings, PictureGeometry const& geometry,
+                             std::unique_ptr<RenderContext> context, TextDocument document)
+    : m_settings(settings),
+      m_geometry(geometry),
+      m_timeShift(settings.GetTimeShift()),
+      m_context(std::move(context)),
+      m_ownLook(document.scriptHeader),
+      m_breaksCjk(!document.HasOwnLook() && !m_context->CanBreakCjk())
 {
-    auto const group =
-        std::find_if(m_groups.begin(), m_groups.end(), [place](Group const& g) { return g.place == place; });
-    if (group != m_groups.end())
-        return group->track;
-    m_groups.push_back({place, EventTrack(*m_context, m_context->MakeScriptTrack(m_script, m_rules)), {}, {}});
-    return m_groups.back().track;
+    m_context->SetGeometry(m_geometry, m_ownLook.empty() ? GlyphShape::AsShown : GlyphShape::AsStored);
+    TakeEvents(std::move(document));
+    Restyle();
+}
+
+void TextInkSource::TakeEvents(TextDocument document)
+{
+    TrackPtr styles;
+    if (document.HasOwnLook())
+    {
+        styles = m_context->MakeScriptTrack(m_ownLook, LayoutRules::Script);
+        m_ink.authoredMatrix = AuthoredMatrix(styles->YCbCrMatrix);
+    }
+    int readOrder = 0;
+    m_events.reserve(document.cues.size());
+    for (TextCue& cue : document.cues)
+    {
+        TrackEvent event;
+        event.readOrder = readOrder++;
+        event.startMs = FloorToMs(cue.start);
+        event.endMs = FloorToMs(cue.end);
+        if (document.markup != TextMarkup::Ass)
+            cue.text = Text::ToAssText(cue.text, document.markup);
+        event.traits = ReadEventTraits(cue.text, cue.effect);
+        if (event.endMs <= event.startMs || event.traits.isBlank)
+            continue;
+        if (styles)
+            event.styleAlignment = StyleAlignment(*styles, cue.style);
+        event.cue = std::move(cue);
+        m_events.push_back(std::move(event));
+    }
+}
+
+void TextInkSource::SetSettings(SettingsSubtitleDrawer const& settings)
+{
+    m_settings = settings;
+    m_timeShift = std::chrono::microseconds(settings.GetTimeShift());
+    Restyle();
+}
+
+void TextInkSource::Restyle()
+{
+    LayoutRules const rules = m_ownLook.empty() ? LayoutRules::Modern : LayoutRules::Script;
+    std::string const script = m_ownLook.empty() ? MakeLookScript(m_settings, m_geometry) : m_ownLook;
+    GroupEvents();
+    for (Group& group : m_groups)
+    {
+        group.layers.clear();
+        group.track.SetStyles(m_context->MakeScriptTrack(script, rules),
+                              [this](TrackEvent const& event) { return TextOf(event); });
+    }
+    m_ink.masks.clear();
+}
+
+void TextInkSource::GroupEvents()
+{
+    std::vector<Place> places;
+    places.reserve(m_events.size());
+    for (TrackEvent const& event : m_events)
+        places.push_back(PlaceOf(event));
+    if (places == m_places)
+        return;
+    m_places = std::move(places);
+    m_groups.clear();
+    for (Place const place : PLACES)
+    {
+        std::vector<TrackEvent const*> events;
+        for (std::size_t i = 0; i < m_events.size(); ++i)
+        {
+            if (m_places[i] == place)
+                events.push_back(&m_events[i]);
+        }
+        if (!events.empty())
+            m_groups.push_back({place, EventTrack(*m_context, std::move(events)), {}, {}});
+    }
+}
+
+std::vector<CueSpan> TextInkSource::ListCueSpans() const
+{
+    std::vector<CueSpan> spans;
+    spans.reserve(m_events.size());
+    for (TrackEvent const& event : m_events)
+        spans.push_back({event.cue.start + m_timeShift, event.cue.end + m_timeShift});
+    std::stable_sort(spans.begin(), spans.end(), [](CueSpan const& a, CueSpan const& b) { return a.start < b.start; });
+    return spans;
 }
 
 /// How many wide characters surely have room in a line: none is wider than the font's size.
@@ -147,64 +235,43 @@ int TextInkSource::LongestCjkRun() const
     return static_cast<int>(columns / std::max(m_settings.GetAssRendererSettings().GetFontSize(), 1.0));
 }
 
-void TextInkSource::Load(TextDocument const& document)
+bool TextInkSource::LeavesInk()
 {
-    TrackPtr const styles = m_context->MakeScriptTrack(m_script, m_rules);
-    if (document.HasOwnLook())
-        m_ink.authoredMatrix = AuthoredMatrix(styles->YCbCrMatrix);
-    bool const breaksCjk = !document.HasOwnLook() && !m_context->CanBreakCjk();
-    int readOrder = 0;
-    for (TextCue const& cue : document.cues)
-    {
-        std::string text = document.markup == TextMarkup::Ass ? cue.text : Text::ToAssText(cue.text, document.markup);
-        if (breaksCjk)
-            text = AddCjkBreaks(text, LongestCjkRun());
-        Add(cue, std::move(text), readOrder++, StyleAlignment(*styles, cue.style), document.HasOwnLook());
-    }
-    for (Group& group : m_groups)
-        group.track.Finish();
-}
-
-bool TextInkSource::LeavesInk(TextDocument const& document)
-{
-    std::size_t tried = 0;
-    for (auto cue = document.cues.begin(); cue != document.cues.end() && tried < TRIED_EVENTS; ++cue)
+    std::size_t const tried = std::min(m_events.size(), TRIED_EVENTS);
+    for (std::size_t i = 0; i < tried; ++i)
     {
         // Half-way, in case it fades in.
-        std::chrono::microseconds const time = m_timeShift + cue->start + (cue->end - cue->start) / 2;
-        if (!IsActiveAt(time))
-            continue;
-        ++tried;
-        Update(time);
+        TextCue const& cue = m_events[i].cue;
+        Update(m_timeShift + cue.start + (cue.end - cue.start) / 2);
         if (!m_ink.IsEmpty())
             return true;
     }
     return tried == 0;
 }
 
-void TextInkSource::Add(TextCue const& cue, std::string text, int readOrder, int styleAlignment, bool hasOwnLook)
+int TextInkSource::AlignmentOf(TrackEvent const& event) const
 {
-    TrackEvent event;
-    event.startMs = FloorToMs(cue.start);
-    event.endMs = FloorToMs(cue.end);
-    event.readOrder = readOrder;
-    event.traits = ReadEventTraits(text, cue.effect);
-    if (event.endMs <= event.startMs || event.traits.isBlank)
-        return;
+    int const base = m_ownLook.empty() ? DEFAULT_ALIGNMENT : event.styleAlignment;
+    return ChooseAlignment(base, m_settings.GetHorizontalAlignment(), m_settings.GetVerticalAligment());
+}
 
-    int alignment = event.traits.alignment != 0 ? event.traits.alignment : styleAlignment;
-    if (hasOwnLook && event.traits.alignment == 0 && !event.traits.hasPosition)
-    {
-        alignment =
-            ChooseAlignment(styleAlignment, m_settings.GetHorizontalAlignment(), m_settings.GetVerticalAligment());
-        if (alignment != styleAlignment)
-            text.insert(0, "{\\an" + std::to_string(alignment) + '}');
-    }
-    Place place = Place::Fixed;
-    if (IsMoved() && !event.traits.hasPosition)
-        place = std::array{Place::Bottom, Place::Middle, Place::Top}[static_cast<std::size_t>((alignment - 1) / 3)];
-    event.text = std::move(text);
-    TrackOf(place).Add(cue, event);
+Place TextInkSource::PlaceOf(TrackEvent const& event) const
+{
+    if (!IsMoved() || event.traits.hasPosition)
+        return Place::Fixed;
+    int const alignment = event.traits.alignment != 0 ? event.traits.alignment : AlignmentOf(event);
+    return std::array{Place::Bottom, Place::Middle, Place::Top}[static_cast<std::size_t>((alignment - 1) / 3)];
+}
+
+std::string TextInkSource::TextOf(TrackEvent const& event) const
+{
+    if (m_breaksCjk)
+        return AddCjkBreaks(event.cue.text, LongestCjkRun());
+    bool const isAligned = m_ownLook.empty() || event.traits.alignment != 0 || event.traits.hasPosition;
+    int const alignment = AlignmentOf(event);
+    if (isAligned || alignment == event.styleAlignment)
+        return event.cue.text;
+    return "{\\an" + std::to_string(alignment) + '}' + event.cue.text;
 }
 
 bool TextInkSource::Update(std::chrono::microseconds time)
@@ -285,24 +352,18 @@ void TextInkSource::Move(Group& group) const
 } // namespace
 
 Core::Result<std::unique_ptr<Blend::IInkSource>>
-MakeTextInkSource(SettingsSubtitleDrawer const& settings, TextDocument const& document, PictureGeometry const& geometry)
+MakeTextInkSource(SettingsSubtitleDrawer const& settings, TextDocument document, PictureGeometry const& geometry)
 {
     std::unique_ptr<RenderContext> context = RenderContext::Make(document.fonts);
     if (!context)
         return Core::Error{Core::ErrorCode::Internal, {}, {}, {}, {}, "the text renderer could not be set up"};
-    std::string const look = MakeLookScript(settings, geometry);
     Core::Error const noFont{Core::ErrorCode::NoUsableFont, {}, {}, {}, {}, {}};
-    bool const hasLetters = context->CanDrawLetters(look);
+    bool const hasLetters = context->CanDrawLetters(MakeLookScript(settings, geometry));
     if (!hasLetters && document.fonts.empty())
         return noFont;
-    bool const hasOwnLook = document.HasOwnLook();
-    context->SetGeometry(geometry, hasOwnLook ? GlyphShape::AsStored : GlyphShape::AsShown);
-    auto source = std::make_unique<TextInkSource>(settings, geometry, std::move(context),
-                                                  hasOwnLook ? document.scriptHeader : look,
-                                                  hasOwnLook ? LayoutRules::Script : LayoutRules::Modern);
-    source->Load(document);
+    auto source = std::make_unique<TextInkSource>(settings, geometry, std::move(context), std::move(document));
     // Fonts that the file brings may be all there is, and need not have Latin letters.
-    if (!hasLetters && !source->LeavesInk(document))
+    if (!hasLetters && !source->LeavesInk())
         return noFont;
     return std::unique_ptr<Blend::IInkSource>(std::move(source));
 }

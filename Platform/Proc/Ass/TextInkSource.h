@@ -29,8 +29,7 @@ namespace Korvex::Proc::Ass
 /// The picture at a time depends on that time alone, whatever was drawn before it.
 ///
 /// Fails with NoUsableFont when letters leave no ink, which is all that happens where no font is installed.
-[[nodiscard]] Core::Result<std::unique_ptr<Blend::IInkSource>> MakeTextInkSource(SettingsSubtitleDrawer const& settings,
-                                                                                 TextDocument const& document,
-                                                                                 PictureGeometry const& geometry);
+[[nodiscard]] Core::Result<std::unique_ptr<Blend::IInkSource>>
+MakeTextInkSource(SettingsSubtitleDrawer const& settings, TextDocument document, PictureGeometry const& geometry);
 
 } // namespace Korvex::Proc::Ass

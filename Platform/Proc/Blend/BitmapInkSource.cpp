@@ -47,6 +47,8 @@ public:
     [[nodiscard]] bool IsActiveAt(std::chrono::microseconds time) const override { return FindCue(time) != nullptr; }
     bool Update(std::chrono::microseconds time) override;
     [[nodiscard]] Ink const& CurrentInk() const override { return m_ink; }
+    void SetSettings(SettingsSubtitleDrawer const& settings) override;
+    [[nodiscard]] std::vector<CueSpan> ListCueSpans() const override;
 
 private:
     struct Placed
@@ -241,6 +243,26 @@ bool BitmapInkSource::Update(std::chrono::microseconds time)
     for (Placed const& item : placed)
         Rasterize(item);
     return true;
+}
+
+void BitmapInkSource::SetSettings(SettingsSubtitleDrawer const& settings)
+{
+    m_settings = settings;
+    m_timeShift = std::chrono::microseconds(settings.GetTimeShift());
+    m_cue = nullptr;
+    m_pixels.clear();
+    m_ink.bitmaps.clear();
+}
+
+std::vector<CueSpan> BitmapInkSource::ListCueSpans() const
+{
+    std::vector<CueSpan> spans;
+    for (BitmapCue const& cue : m_document.cues)
+    {
+        if (!cue.rects.empty() && cue.end > cue.start)
+            spans.push_back({cue.start + m_timeShift, cue.end + m_timeShift});
+    }
+    return spans;
 }
 
 } // namespace

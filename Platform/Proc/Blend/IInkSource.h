@@ -1,8 +1,10 @@
 #pragma once
 
 #include "Proc/Blend/Ink.h"
+#include "Proc/SubtitleContent.h"
 
 #include <chrono>
+#include <vector>
 
 namespace Korvex::Proc::Blend
 {
@@ -22,6 +24,13 @@ public:
 
     /// The ink of the time last moved to; valid until the next `Update`.
     [[nodiscard]] virtual Ink const& CurrentInk() const = 0;
+
+    /// Goes over to other settings and keeps what does not depend on them. The ink is that of a source made anew; it
+    /// is to be asked for again by `Update`, whose answer counts from here.
+    virtual void SetSettings(SettingsSubtitleDrawer const& settings) = 0;
+
+    /// When events with something to show are active, ordered by start.
+    [[nodiscard]] virtual std::vector<CueSpan> ListCueSpans() const = 0;
 };
 
 } // namespace Korvex::Proc::Blend

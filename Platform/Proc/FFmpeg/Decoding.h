@@ -4,6 +4,9 @@
 
 #include "Core/Result.h"
 
+#include <cstddef>
+#include <utility>
+
 namespace Korvex::Proc::FFmpeg
 {
 
@@ -17,17 +20,11 @@ namespace Korvex::Proc::FFmpeg
 /// How much later than shown the decoded pictures of such a stream are stamped, in its time base; 0 for all others.
 [[nodiscard]] std::int64_t DecodingLead(AVFormatContext const& file, AVStream const& stream);
 
-/// Sends one packet (null: the end) and calls `take(Frame)` for every frame that is ready. A packet that does not
-/// decode is skipped and counted in `damaged`. False when `take` wanted no more.
+/// Calls `take(Frame)` for every frame that is ready; damage is counted in `damaged`. False when `take` wanted no more:
+/// the rest stays with the decoder, which may take no packet before it has been received.
 template <typename Take>
-bool Decode(AVCodecContext& decoder, AVPacket const* packet, std::size_t& damaged, Take&& take)
+bool ReceiveFrames(AVCodecContext& decoder, std::size_t& damaged, Take&& take)
 {
-    int const sent = avcodec_send_packet(&decoder, packet);
-    if (sent < 0 && sent != AVERROR_EOF)
-    {
-        ++damaged;
-        return true;
-    }
     for (;;)
     {
         Frame frame = MakeFrame();
@@ -42,6 +39,20 @@ bool Decode(AVCodecContext& decoder, AVPacket const* packet, std::size_t& damage
         if (!take(std::move(frame)))
             return false;
     }
+}
+
+/// Sends one packet (null: the end) and takes the frames that are ready then. A packet that does not decode is skipped
+/// and counted in `damaged`. False when `take` wanted no more.
+template <typename Take>
+bool Decode(AVCodecContext& decoder, AVPacket const* packet, std::size_t& damaged, Take&& take)
+{
+    int const sent = avcodec_send_packet(&decoder, packet);
+    if (sent < 0 && sent != AVERROR_EOF)
+    {
+        ++damaged;
+        return true;
+    }
+    return ReceiveFrames(decoder, damaged, std::forward<Take>(take));
 }
 
 } // namespace Korvex::Proc::FFmpeg

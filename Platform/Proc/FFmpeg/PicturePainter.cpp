@@ -72,11 +72,24 @@ PicturePainter::PicturePainter(PictureShape const& shape, boost::intrusive_ptr<I
 
 Core::Result<Frame> PicturePainter::Paint(Frame source, std::chrono::microseconds time)
 {
+    Core::Result<Frame> picture = Prepare(std::move(source));
+    if (!picture)
+        return picture;
+    return Draw(std::move(*picture), time);
+}
+
+Core::Result<Frame> PicturePainter::Prepare(Frame source)
+{
     Core::Result<Frame> converted = ToWorkingFormat(std::move(source));
     if (!converted)
         return converted;
     Frame picture = ToUpright(std::move(*converted));
     picture->sample_aspect_ratio = m_shape.sampleAspect;
+    return picture;
+}
+
+Frame PicturePainter::Draw(Frame picture, std::chrono::microseconds time)
+{
     if (m_drawer && m_drawer->IsVisibleAt(time))
     {
         picture = ToWritable(std::move(picture));

@@ -8,6 +8,7 @@
 
 #include <chrono>
 #include <optional>
+#include <utility>
 
 namespace Korvex::Proc::FFmpeg
 {
@@ -40,6 +41,16 @@ public:
     /// `time` counts from the start of the file. What the frame says of itself stays with the picture, as far as it
     /// still holds.
     [[nodiscard]] Core::Result<Frame> Paint(Frame source, std::chrono::microseconds time);
+
+    /// The two halves of `Paint`: the picture without subtitles, and such a picture with them. What is drawn on is a
+    /// copy where somebody else holds the picture too, and the picture itself where nothing is to be drawn.
+    [[nodiscard]] Core::Result<Frame> Prepare(Frame source);
+    [[nodiscard]] Frame Draw(Frame picture, std::chrono::microseconds time);
+
+    /// For pictures from now on; may be null.
+    void SetDrawer(boost::intrusive_ptr<ISubtitleDrawer> drawer) { m_drawer = std::move(drawer); }
+    /// Null without one.
+    [[nodiscard]] ISubtitleDrawer* Drawer() const { return m_drawer.get(); }
 
 private:
     [[nodiscard]] Core::Result<Frame> ToWorkingFormat(Frame source);
