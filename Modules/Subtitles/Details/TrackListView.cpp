@@ -53,6 +53,7 @@ TrackListView::TrackListView(TrackListModel& model, QWidget* parent) : QListView
     setItemDelegate(new TrackListDelegate(model, this));
     setFrameShape(QFrame::NoFrame);
     setUniformItemSizes(true);
+    setResizeMode(QListView::Adjust); // the buttons stand at the right edge
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

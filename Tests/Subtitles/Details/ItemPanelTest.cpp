@@ -3,6 +3,8 @@
 
 #include "Subtitles/Details/ItemPanel.h"
 
+#include "Gui/ModalPopup.h"
+
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
@@ -92,6 +94,34 @@ TEST_F(ItemPanelTest, TellsWhatTheUserDoesAndNothingThatIsPushedIn)
     m_panel.UnregisterEventHandler(this);
     ClickTrackRow(m_panel, 0);
     EXPECT_EQ(m_events.size(), 7u);
+}
+
+TEST_F(ItemPanelTest, ClosesThePopupThatHoldsItAndOpensAgain)
+{
+    QWidget window;
+    window.resize(500, 500);
+    GUI::ModalPopup popup(&window);
+    int closed = 0;
+    QObject::connect(&popup, &GUI::ModalPopup::Closed, &popup, [&] { ++closed; });
+    popup.hide();
+    Korvex::Testing::ShowAndWait(window);
+    for (int time = 1; time <= 2; ++time)
+    {
+        popup.SetPopup(&m_panel);
+        popup.setGeometry(window.rect());
+        popup.show();
+        popup.SetPopupPosition({20, 20});
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(m_panel.isVisible());
+        for (auto const* extract : m_panel.findChildren<QWidget*>("extractButton"))
+            EXPECT_FALSE(extract->visibleRegion().isEmpty());
+        if (time == 1)
+            Korvex::Testing::SaveScreenshot(window, "item-panel-popup");
+        Click("doneButton");
+        EXPECT_FALSE(popup.isVisible());
+        EXPECT_EQ(closed, time);
+    }
+    m_panel.setParent(nullptr);
 }
 
 /// Marks every text that goes through it.
