@@ -36,7 +36,7 @@ std::vector<QWidget*> ListTabStops(QWidget* content)
 
 } // namespace
 
-ModalPopup::ModalPopup(QWidget* parent) : QFrame(parent), m_parent(parent)
+ModalPopup::ModalPopup(QWidget* parent) : QFrame(parent)
 {
     setFocusPolicy(Qt::NoFocus);
     hide();
@@ -44,6 +44,7 @@ ModalPopup::ModalPopup(QWidget* parent) : QFrame(parent), m_parent(parent)
     {
         setGeometry(parent->rect());
         parent->installEventFilter(this);
+        connect(parent, &QObject::destroyed, this, [this] { m_isParentGoing = true; });
     }
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget* /*before*/, QWidget* now) { OnFocusChanged(now); });
@@ -52,9 +53,11 @@ ModalPopup::ModalPopup(QWidget* parent) : QFrame(parent), m_parent(parent)
 ModalPopup::~ModalPopup()
 {
     // Receivers may be the parent's, half destroyed by then.
-    bool const isParentGoing = parentWidget() != nullptr && m_parent == nullptr;
-    if (!isParentGoing)
+    if (!m_isParentGoing)
+    {
         Close(FocusAfter::Returns);
+        TellClosed();
+    }
     disconnect(qApp, nullptr, this, nullptr);
     m_isOpen = false;
 }
@@ -130,11 +133,22 @@ void ModalPopup::Close(FocusAfter focus)
 {
     if (!std::exchange(m_isOpen, false))
         return;
+    m_owesClosed = true;
+    bool const isHiddenByParent = !isHidden() && !isVisible();
     QPointer<QWidget> const focusBefore = std::exchange(m_focusBefore, nullptr);
-    hide();
+    hide(); // or it would come back with its parent
     if (focus == FocusAfter::Returns && focusBefore != nullptr)
         focusBefore->setFocus(Qt::PopupFocusReason);
-    Q_EMIT Closed(); // the last step: whoever hears it may delete the popup
+    if (isHiddenByParent)
+        QMetaObject::invokeMethod(this, &ModalPopup::TellClosed, Qt::QueuedConnection);
+    else
+        TellClosed();
+}
+
+void ModalPopup::TellClosed()
+{
+    if (std::exchange(m_owesClosed, false))
+        Q_EMIT Closed(); // the last step: whoever hears it may delete the popup
 }
 
 void ModalPopup::OnFocusChanged(QWidget* now)
@@ -146,8 +160,10 @@ void ModalPopup::OnFocusChanged(QWidget* now)
 void ModalPopup::showEvent(QShowEvent* event)
 {
     QFrame::showEvent(event);
-    if (event->spontaneous() || std::exchange(m_isOpen, true))
+    if (event->spontaneous() || m_isOpen)
         return;
+    TellClosed();
+    m_isOpen = true;
     m_focusBefore = window()->focusWidget();
     if (m_content == nullptr)
         return;
@@ -159,7 +175,7 @@ void ModalPopup::showEvent(QShowEvent* event)
 void ModalPopup::hideEvent(QHideEvent* event)
 {
     QFrame::hideEvent(event);
-    // A minimised window comes back as it was; a parent that is hidden must not come back with the popup.
+    // A minimised window comes back as it was.
     if (!event->spontaneous())
         Close(FocusAfter::Returns);
 }
@@ -183,8 +199,8 @@ bool ModalPopup::event(QEvent* event)
 
 bool ModalPopup::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_parent && event->type() == QEvent::Resize)
-        setGeometry(m_parent->rect());
+    if (watched == parentWidget() && event->type() == QEvent::Resize)
+        setGeometry(parentWidget()->rect());
     else if (watched == m_content && event->type() == QEvent::LayoutRequest)
         PlaceContent();
     else if (watched == m_content && event->type() == QEvent::HideToParent)

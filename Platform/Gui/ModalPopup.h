@@ -30,7 +30,8 @@ public:
     void SetPopupPosition(QPoint const& topLeft);
 
 Q_SIGNALS:
-    /// Once for each time that it was shown, however it closed.
+    /// Once for each time that it was shown, however it closed. At once; from the event loop where it closed because
+    /// its parent was hidden, which may be the beginning of the parent's destruction.
     void Closed();
 
 protected:
@@ -54,16 +55,18 @@ private:
     };
 
     void Close(FocusAfter focus);
+    void TellClosed();
     void OnFocusChanged(QWidget* now);
     void FocusContent();
     void PlaceContent();
     [[nodiscard]] QSize FindContentSize() const;
 
-    QPointer<QWidget> const m_parent; ///< cleared when its destruction begins
     QPointer<QWidget> m_content;
     QPointer<QWidget> m_focusBefore;
     QPoint m_wantedTopLeft;
     bool m_isOpen = false;
+    bool m_owesClosed = false;    ///< closed, and nobody told yet
+    bool m_isParentGoing = false; ///< its destructor runs
 };
 
 } // namespace Korvex::GUI

@@ -2,8 +2,10 @@
 
 #include "Gui/ComboBoxButton.h"
 
+#include <QHelpEvent>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 
 using Korvex::GUI::ComboBoxButton;
 using Korvex::Testing::ShowAndWait;
@@ -31,4 +33,28 @@ TEST(DropDownButtonTest, OpensByClickAndByEveryKeyOfAComboBox)
     clicks.clear();
     QTest::keyClick(&button, Qt::Key_Down, Qt::AltModifier);
     EXPECT_EQ(clicks.count(), 1);
+}
+
+TEST(DropDownButtonTest, ShortensALongCaptionAndTellsItInTheToolTip)
+{
+    QString const caption = QStringLiteral("Tom & Jerry <1940>, the whole first season [English]");
+    ComboBoxButton button;
+    button.SetButtonText(caption);
+    EXPECT_LT(button.minimumSizeHint().width(), 120);
+    EXPECT_GT(button.sizeHint().width(), button.fontMetrics().horizontalAdvance(caption));
+    EXPECT_TRUE(button.shortcut().isEmpty()); // the ampersand is text
+    auto const askForToolTip = [&button]
+    {
+        QToolTip::hideText();
+        QHelpEvent event(QEvent::ToolTip, QPoint(5, 5), button.mapToGlobal(QPoint(5, 5)));
+        QCoreApplication::sendEvent(&button, &event);
+        return QToolTip::text();
+    };
+    button.resize(button.sizeHint());
+    ShowAndWait(button);
+    EXPECT_EQ(askForToolTip(), QString());
+    button.resize(button.minimumSizeHint());
+    EXPECT_EQ(askForToolTip(), caption.toHtmlEscaped());
+    QToolTip::hideText();
+    EXPECT_EQ(button.GetButtonText(), caption);
 }
