@@ -9,6 +9,7 @@
 
 #include <QDoubleSpinBox>
 #include <QEvent>
+#include <QFontDialog>
 #include <QLabel>
 #include <QSlider>
 #include <QSpinBox>
@@ -55,6 +56,7 @@ EditingPanel::EditingPanel() : m_form(new Form(*this))
 
 EditingPanel::~EditingPanel()
 {
+    delete findChild<QFontDialog*>(); // an open dialog looks at its parent while it closes
     delete m_form;
 }
 

@@ -26,6 +26,7 @@ namespace
 constexpr int PANEL_MARGIN = 16;
 constexpr int GROUP_SPACING = 8;
 constexpr int FONT_NAME_WIDTH = 120;
+constexpr int SMALLEST_BOX_WIDTH = 120;
 
 template <typename Widget>
 Widget* Make(char const* objectName)
@@ -157,7 +158,7 @@ void EditingPanel::Form::Arrange()
     for (KComboBox* box : {encodingComboBox, alignComboBox})
     {
         box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        box->setMinimumWidth(FONT_NAME_WIDTH);
+        box->setMinimumWidth(SMALLEST_BOX_WIDTH);
     }
     MakeCaption(*selectTrackLabel, *selectSubtitlesTrackButton);
     MakeCaption(*encodingLabel, *encodingComboBox);

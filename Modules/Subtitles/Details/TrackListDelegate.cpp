@@ -18,8 +18,8 @@ namespace
 {
 
 constexpr int TICK_SIZE = 16;
-constexpr int BUTTON_SIZE = 24;
-constexpr int BUTTON_MARGIN = 4;
+constexpr int BUTTON_SIZE = 28;
+constexpr int BUTTON_MARGIN = 2;
 constexpr int SMALLEST_HEIGHT = BUTTON_SIZE + 2 * BUTTON_MARGIN;
 
 QStyle const& GetStyle(QStyleOptionViewItem const& option)
@@ -81,10 +81,15 @@ void TrackListDelegate::paint(QPainter* painter, QStyleOptionViewItem const& opt
                   GUI::GetColor(GUI::ColorRole::Accent));
 }
 
+/// No wider than the list is: a wider row would scroll its button out of sight.
 QSize TrackListDelegate::sizeHint(QStyleOptionViewItem const& option, QModelIndex const& index) const
 {
-    QSize const size = QStyledItemDelegate::sizeHint(option, index);
-    return {size.width() + BUTTON_SIZE + BUTTON_MARGIN, qMax(size.height(), SMALLEST_HEIGHT)};
+    return {1, qMax(QStyledItemDelegate::sizeHint(option, index).height(), SMALLEST_HEIGHT)};
+}
+
+int TrackListDelegate::GetWholeWidth(QStyleOptionViewItem const& option, QModelIndex const& index) const
+{
+    return QStyledItemDelegate::sizeHint(option, index).width() + BUTTON_SIZE + BUTTON_MARGIN;
 }
 
 void TrackListDelegate::updateEditorGeometry(QWidget* editor, QStyleOptionViewItem const& option,

@@ -17,6 +17,8 @@ public:
 
     void paint(QPainter* painter, QStyleOptionViewItem const& option, QModelIndex const& index) const override;
     [[nodiscard]] QSize sizeHint(QStyleOptionViewItem const& option, QModelIndex const& index) const override;
+    /// What the row would need to show its whole text.
+    [[nodiscard]] int GetWholeWidth(QStyleOptionViewItem const& option, QModelIndex const& index) const;
     /// Keeps the row's button at its place.
     void updateEditorGeometry(QWidget* editor, QStyleOptionViewItem const& option,
                               QModelIndex const& index) const override;

@@ -1,5 +1,7 @@
 #include "Subtitles/Details/TrackListModel.h"
 
+#include "Subtitles/Entities/SubtitleTrack.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -43,14 +45,15 @@ Qt::ItemFlags TrackListModel::flags(QModelIndex const& index) const
 
 void TrackListModel::AddTrack(SubtitleTrack const& track)
 {
+    QString const label = QString::fromStdString(GenerateLabel(track));
     if (auto const row = FindTrack(track.id))
     {
-        m_tracks[static_cast<std::size_t>(*row - FIRST_TRACK_ROW)] = track;
+        m_tracks[static_cast<std::size_t>(*row - FIRST_TRACK_ROW)].label = label;
         ReportChange(*row);
         return;
     }
     beginInsertRows({}, rowCount(), rowCount());
-    m_tracks.push_back(track);
+    m_tracks.push_back({track.id, label});
     endInsertRows();
 }
 
@@ -88,23 +91,28 @@ QString TrackListModel::GetTitle(int row) const
         return tr("No subtitles");
     if (row == ALL_SOFT_ROW)
         return tr("Leave all tracks (softsub)");
-    return QString::fromStdString(GenerateLabel(m_tracks[static_cast<std::size_t>(row - FIRST_TRACK_ROW)]));
+    return TrackOfRow(row).label;
 }
 
 std::optional<SubtitleTrackID> TrackListModel::GetTrackAt(int row) const
 {
     if (row < FIRST_TRACK_ROW || row >= rowCount())
         return std::nullopt;
-    return m_tracks[static_cast<std::size_t>(row - FIRST_TRACK_ROW)].id;
+    return TrackOfRow(row).id;
 }
 
 std::optional<int> TrackListModel::FindTrack(SubtitleTrackID const& id) const
 {
     auto const found =
-        std::find_if(m_tracks.begin(), m_tracks.end(), [&](SubtitleTrack const& track) { return track.id == id; });
+        std::find_if(m_tracks.begin(), m_tracks.end(), [&](Track const& track) { return track.id == id; });
     if (found == m_tracks.end())
         return std::nullopt;
     return FIRST_TRACK_ROW + static_cast<int>(found - m_tracks.begin());
+}
+
+TrackListModel::Track const& TrackListModel::TrackOfRow(int row) const
+{
+    return m_tracks[static_cast<std::size_t>(row - FIRST_TRACK_ROW)];
 }
 
 QString TrackListModel::ExplainWhyNotSoft() const

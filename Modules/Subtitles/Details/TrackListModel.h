@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Subtitles/Entities/SubtitleTrack.h"
 #include "Subtitles/Entities/SubtitleTrackID.h"
 
 #include <QAbstractListModel>
@@ -9,11 +8,16 @@
 #include <optional>
 #include <vector>
 
+namespace Korvex::Converter::Subtitles::Entities
+{
+struct SubtitleTrack;
+}
+
 namespace Korvex::Converter::Subtitles::Details
 {
 
-/// The rows of a track list and which of them is the choice. Texts are made when they are asked for, so they always are
-/// in the present language. GUI thread.
+/// The rows of a track list and which of them is the choice. Translated texts are made when they are asked for, so they
+/// always are in the present language. GUI thread.
 class TrackListModel final : public QAbstractListModel
 {
     Q_DECLARE_TR_FUNCTIONS(SubtitleCollection)
@@ -43,10 +47,17 @@ public:
     [[nodiscard]] std::optional<int> FindTrack(Entities::SubtitleTrackID const& id) const;
 
 private:
+    struct Track
+    {
+        Entities::SubtitleTrackID id;
+        QString label;
+    };
+
+    [[nodiscard]] Track const& TrackOfRow(int row) const;
     [[nodiscard]] QString ExplainWhyNotSoft() const;
     void ReportChange(int row);
 
-    std::vector<Entities::SubtitleTrack> m_tracks;
+    std::vector<Track> m_tracks;
     int m_chosenRow = ALL_SOFT_ROW;
     bool m_isSoftSubAvailable = true;
 };

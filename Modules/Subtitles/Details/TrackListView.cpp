@@ -18,6 +18,7 @@ namespace
 
 constexpr int VISIBLE_ROWS = 10;
 constexpr int SMALLEST_WIDTH = 160;
+constexpr int LARGEST_WIDTH = 400;
 
 /// An arrow into a tray, in the colour of the text.
 class ExtractButton final : public QToolButton
@@ -47,10 +48,13 @@ protected:
 
 } // namespace
 
-TrackListView::TrackListView(TrackListModel& model, QWidget* parent) : QListView(parent), m_model(model)
+TrackListView::TrackListView(TrackListModel& model, QWidget* parent)
+    : QListView(parent),
+      m_model(model),
+      m_delegate(new TrackListDelegate(model, this))
 {
     setModel(&model);
-    setItemDelegate(new TrackListDelegate(model, this));
+    setItemDelegate(m_delegate);
     setFrameShape(QFrame::NoFrame);
     setUniformItemSizes(true);
     setResizeMode(QListView::Adjust); // the buttons stand at the right edge
@@ -72,9 +76,13 @@ TrackListView::~TrackListView() = default;
 
 QSize TrackListView::sizeHint() const
 {
+    QStyleOptionViewItem const option = viewOptions();
+    int width = SMALLEST_WIDTH;
+    for (int row = 0; row < m_model.rowCount(); ++row)
+        width = qMax(width, m_delegate->GetWholeWidth(option, m_model.index(row)));
     int const rows = qMin(m_model.rowCount(), VISIBLE_ROWS);
     int const frame = 2 * frameWidth();
-    return {qMax(sizeHintForColumn(0), SMALLEST_WIDTH) + frame, rows * sizeHintForRow(0) + frame};
+    return {qMin(width, LARGEST_WIDTH) + frame, rows * sizeHintForRow(0) + frame};
 }
 
 QSize TrackListView::minimumSizeHint() const

@@ -5,6 +5,7 @@
 namespace Korvex::Converter::Subtitles::Details
 {
 
+class TrackListDelegate;
 class TrackListModel;
 
 /// Shows the rows of a track list: a tick at the chosen one, and at the right of each track a button to extract it.
@@ -43,6 +44,7 @@ private:
     [[nodiscard]] bool IsTrack(QModelIndex const& index) const;
 
     TrackListModel& m_model;
+    TrackListDelegate* m_delegate; ///< a child of this view
 };
 
 } // namespace Korvex::Converter::Subtitles::Details
