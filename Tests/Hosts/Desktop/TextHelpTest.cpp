@@ -1,0 +1,197 @@
+#include "Desktop/TextHelp.h"
+#include "Desktop/AlternativeButton.h"
+#include "Desktop/TextHelpView.h"
+
+#include "Core/FileSystem.h"
+#include "Gui/KLabel.h"
+#include "Proc/Text/SystemEncoder.h"
+#include "Support/WidgetSupport.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+namespace Korvex::Desktop
+{
+namespace
+{
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class TextHelpTest : public testing::Test
+{
+protected:
+    TextHelpTest() : m_folder(*Core::CreateWorkFolder()) {}
+    ~TextHelpTest() override { Core::RemoveWorkFolder(m_folder); }
+
+    ioPath Write(std::string const& name, std::string const& bytes) const
+    {
+        ioPath const path = m_folder / name;
+        EXPECT_FALSE(Core::WriteFile(path, bytes, true));
+        return path;
+    }
+
+    /// What the reader answers; fails the test when nothing comes.
+    TextHelp Read(TextHelpRequest const& request)
+    {
+        std::optional<TextHelp> answer;
+        auto const connection = QObject::connect(&m_reader, &TextHelpReader::Finished, &m_reader,
+                                                 [&answer](TextHelp const& help) { answer = help; });
+        m_reader.Request(request);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return answer.has_value(); }, 20'000));
+        QObject::disconnect(connection);
+        return answer.value_or(TextHelp());
+    }
+
+    ioPath const m_folder;
+    TextHelpReader m_reader;
+};
+
+std::string MakeSubRip(std::vector<std::string> const& texts)
+{
+    std::string file;
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        file += "1\n00:00:0" + std::to_string(i) + ",000 --> 00:00:0" + std::to_string(i + 1) + ",000\n" + texts[i] +
+                "\n\n";
+    return file;
+}
+
+std::vector<std::string> VisibleTexts(QWidget const& widget)
+{
+    std::vector<std::string> texts;
+    for (QLabel const* label : widget.findChildren<QLabel*>())
+    {
+        if (label->isVisible())
+            texts.push_back(label->text().toStdString());
+    }
+    return texts;
+}
+
+/// Labels without an ellipsis of their own have room for all of their text.
+void ExpectNothingClipped(QWidget const& widget)
+{
+    for (QLabel const* label : widget.findChildren<QLabel*>())
+    {
+        if (label->isVisible() && label->wordWrap())
+        {
+            EXPECT_GE(label->height(), label->heightForWidth(label->width())) << label->text().toStdString();
+        }
+    }
+}
+
+std::vector<std::string> const RUSSIAN = {"Ты опять опоздал на поезд?", "Я ждал тебя целый час.",
+                                          "Ничего, завтра поедем вместе, если только ты не забудешь ключи."};
+
+TEST_F(TextHelpTest, OffersTheRightEncodingAtOneClick)
+{
+    ioPath const path = Write("film.srt", Testing::EncodeText(MakeSubRip(RUSSIAN), "CP1251"));
+    TextHelpView view;
+    view.Show(Read({path, std::nullopt, "CP1250", "DejaVu Sans"}));
+    view.resize(320, 10);
+    Testing::ShowAndWait(view);
+
+    EXPECT_THAT(view.findChild<QLabel*>("detectionLabel")->text().toStdString(),
+                HasSubstr("Windows-1251 (very sure, 9"));
+    auto const buttons = view.findChildren<AlternativeButton*>();
+    ASSERT_EQ(buttons.size(), 3);
+    QSignalSpy chosen(&view, &TextHelpView::EncodingChosen);
+    buttons[0]->setFocus();
+    QTest::keyClick(buttons[0], Qt::Key_Space);
+    ASSERT_EQ(chosen.size(), 1);
+    EXPECT_EQ(chosen[0][0].toString(), "CP1251");
+    EXPECT_EQ(buttons[0]->accessibleName(), "Windows-1251: Ты опять опоздал на поезд?");
+
+    view.Show(Read({path, std::nullopt, "CP1251", "DejaVu Sans"}));
+    EXPECT_EQ(view.findChild<KLabel*>()->text(), "Ты опять опоздал на поезд?");
+    EXPECT_FALSE(view.findChild<QLabel*>("replacedBytesLabel")->isVisible());
+}
+
+TEST_F(TextHelpTest, SaysWhatCannotBeReadAndWhichFontsStandIn)
+{
+    TextHelpView view;
+    view.resize(280, 10);
+    Testing::ShowAndWait(view);
+    ioPath const russian = Write("film.srt", Testing::EncodeText(MakeSubRip(RUSSIAN), "CP1251"));
+    view.Show(Read({russian, std::nullopt, "UTF-8", "No Such Font"}));
+    EXPECT_TRUE(view.findChild<QLabel*>("replacedBytesLabel")->text().startsWith("89 byte"));
+    EXPECT_THAT(view.findChild<QLabel*>("missingFontLabel")->text().toStdString(),
+                HasSubstr("\"No Such Font\" is not installed; \""));
+
+    ioPath const japanese = Write("film.ja.srt", MakeSubRip({"昨日の夜は\U000F1234"}));
+    view.Show(Read({japanese, std::nullopt, "", "DejaVu Sans"}));
+    EXPECT_THAT(view.findChild<QLabel*>("standInsLabel")->text().toStdString(),
+                AllOf(HasSubstr("\"DejaVu Sans\" lacks 5 "), HasSubstr("(Japanese): \"Noto Sans CJK JP\"")));
+    EXPECT_TRUE(view.findChild<QLabel*>("unavailableLabel")->isVisible());
+    EXPECT_FALSE(view.findChild<QLabel*>("missingFontLabel")->isVisible());
+
+    // A script has fonts of its own: they are not the user's choice.
+    view.Show(Read({japanese, std::nullopt, "", ""}));
+    EXPECT_FALSE(view.findChild<QLabel*>("standInsLabel")->isVisible());
+
+    view.Show(Read({m_folder / "gone.srt", std::nullopt, "", "DejaVu Sans"}));
+    EXPECT_THAT(VisibleTexts(view), ElementsAre(HasSubstr("gone.srt")));
+    view.Clear();
+    EXPECT_FALSE(view.isVisible());
+}
+
+TEST_F(TextHelpTest, AnswersTheNewestRequestOnly)
+{
+    std::string longText;
+    for (int i = 0; i < 5'000; ++i)
+        longText += MakeSubRip({"Подожди " + std::to_string(i)});
+    ioPath const longFile = Write("long.srt", Testing::EncodeText(longText, "CP1251"));
+    ioPath const shortFile = Write("short.srt", MakeSubRip({"Short."}));
+    std::vector<std::string> answers;
+    QObject::connect(&m_reader, &TextHelpReader::Finished, &m_reader,
+                     [&](TextHelp const& help) { answers.push_back(help.sample->lines[0]); });
+    for (char const* const encoding : {"", "CP1251", "KOI8-R"})
+        m_reader.Request({longFile, std::nullopt, encoding, "DejaVu Sans"});
+    m_reader.Request({shortFile, std::nullopt, "", "DejaVu Sans"});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !answers.empty(); }, 20'000));
+    QTest::qWait(200);
+    EXPECT_THAT(answers, ElementsAre("Short."));
+
+    // What is dropped is not reported, and a reader may go in the middle of a read.
+    TextHelpReader dropped;
+    bool isReported = false;
+    QObject::connect(&dropped, &TextHelpReader::Finished, &dropped, [&isReported] { isReported = true; });
+    dropped.Request({longFile, std::nullopt, "", "DejaVu Sans"});
+    dropped.Drop();
+    QTest::qWait(400);
+    EXPECT_FALSE(isReported);
+    dropped.Request({longFile, std::nullopt, "", "DejaVu Sans"});
+}
+
+TEST_F(TextHelpTest, FitsIntoANarrowPane)
+{
+    ioPath const russian = Write("film.srt", Testing::EncodeText(MakeSubRip(RUSSIAN), "CP1251"));
+    ioPath const hebrew =
+        Write("film.he.srt",
+              Testing::EncodeText(MakeSubRip({"לאן אתה הולך עכשיו?", "אני חוזר הביתה, כבר מאוחר."}), "ISO-8859-8"));
+    std::vector<std::pair<QString, TextHelp>> const cases = {
+        {"wrong", Read({russian, std::nullopt, "CP1250", "Verdana"})},
+        {"bytes", Read({russian, std::nullopt, "UTF-8", "Noto Sans Hebrew"})},
+        {"right-to-left", Read({hebrew, std::nullopt, "", "Noto Sans"})},
+    };
+    Testing::ForEachTheme(
+        [&](QString const& theme)
+        {
+            for (auto const& [name, help] : cases)
+            {
+                for (int const width : {280, 360})
+                {
+                    TextHelpView view;
+                    view.Show(help);
+                    view.resize(width, view.heightForWidth(width));
+                    Testing::ShowAndWait(view);
+                    EXPECT_LE(view.minimumSizeHint().width(), 280);
+                    ExpectNothingClipped(view);
+                    Testing::SaveScreenshot(view, "text-help-" + name + '-' + QString::number(width) + '-' + theme);
+                }
+            }
+        });
+}
+
+} // namespace
+} // namespace Korvex::Desktop
