@@ -1,6 +1,11 @@
 #include "Desktop/TextHelp.h"
+#include "Hosts/Desktop/FilmFixture.h"
+
 #include "Desktop/AlternativeButton.h"
+#include "Desktop/TextHelpPane.h"
 #include "Desktop/TextHelpView.h"
+
+#include "Subtitles/Entities/SubtitleCollection.h"
 
 #include "Core/FileSystem.h"
 #include "Gui/KLabel.h"
@@ -191,6 +196,43 @@ TEST_F(TextHelpTest, FitsIntoANarrowPane)
                 }
             }
         });
+}
+
+class TextHelpPaneTest : public Testing::FilmFixture
+{
+};
+
+TEST_F(TextHelpPaneTest, FollowsTheDrawnTrackAndSetsItsEncoding)
+{
+    using Converter::Subtitles::Entities::SubtitleEncoding;
+    Film& film = Open(MakeFilm("film.mkv", {MakeSubtitle("subrip", "ger")}));
+    ioPath const russian = WriteText("other.srt", Testing::RUSSIAN_SRT);
+    Testing::SubtitleTrackID const added(russian);
+    film.AddSubtitleFiles({russian});
+    film.ChooseTrack(added);
+    film.SetEncoding(added, SubtitleEncoding::KOI8R);
+
+    TextHelpPane pane;
+    EXPECT_FALSE(pane.isVisible());
+    pane.ShowFilm(&film);
+    auto const* const line = pane.findChild<KLabel*>();
+    WaitUntil([&] { return pane.isVisible(); });
+    EXPECT_NE(line->text(), "Привет, это первая строка фильма.");
+
+    QTest::mouseClick(pane.findChild<AlternativeButton*>(), Qt::LeftButton);
+    EXPECT_EQ(film.GetDrawnTrack()->encoding, SubtitleEncoding::Windows1251);
+    WaitUntil([&] { return line->text() == "Привет, это первая строка фильма."; });
+
+    // The film's own track is in UTF-8; only its font may be worth a word.
+    auto const* const sample = pane.findChild<QFrame*>("textSample");
+    film.ChooseTrack(Testing::SubtitleTrackID(2));
+    WaitUntil([&] { return !sample->isVisible(); });
+    film.ChooseNone();
+    WaitUntil([&] { return !pane.isVisible(); });
+    film.ChooseTrack(added);
+    WaitUntil([&] { return sample->isVisible(); });
+    m_list.Remove(film.GetId());
+    WaitUntil([&] { return !pane.isVisible(); });
 }
 
 } // namespace
