@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+#include <chrono>
+
+namespace Korvex::Desktop
+{
+
+/// How long something will still take, in words and no more exact than anybody can know: "less than a minute left",
+/// "3 min left", "2 h 5 min left".
+[[nodiscard]] QString FormatTimeLeft(std::chrono::seconds left);
+
+} // namespace Korvex::Desktop

@@ -1,0 +1,171 @@
+#include "Desktop/OutputBar.h"
+#include "Desktop/TimeTexts.h"
+
+#include "Support/WidgetSupport.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QMenu>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTest>
+#include <QTranslator>
+
+#include <map>
+
+namespace Korvex::Desktop
+{
+namespace
+{
+
+using namespace std::chrono_literals;
+
+/// The longest of the languages, as far as this bar is concerned.
+class German final : public QTranslator
+{
+public:
+    German() { QCoreApplication::installTranslator(this); }
+
+    bool isEmpty() const override { return false; }
+    QString translate(char const* /*context*/, char const* source, char const* /*comment*/, int /*n*/) const override
+    {
+        static std::map<std::string, char const*> const TEXTS{
+            {"&Format", "&Format"},
+            {"&Quality", "&Qualität"},
+            {"As the source", "Wie die Quelle"},
+            {"&Save", "&Speichern"},
+            {"Beside each film", "Neben jedem Film"},
+            {"&Convert all", "Alle &umwandeln"},
+            {"Convert &this film", "&Diesen Film umwandeln"},
+            {"&Pause", "&Anhalten"},
+            {"Ca&ncel", "A&bbrechen"},
+            {"less than a minute left", "noch weniger als eine Minute"},
+            {"%1 h %n min left", "noch %1 Std. %n Min."},
+        };
+        auto const found = TEXTS.find(source);
+        return found == TEXTS.end() ? QString() : QString::fromUtf8(found->second);
+    }
+};
+
+class OutputBarTest : public testing::Test
+{
+protected:
+    OutputBarTest()
+    {
+        QObject::connect(&m_bar, &OutputBar::SettingsChanged, &m_bar,
+                         [this](OutputSettings const& settings) { m_changes.push_back(settings); });
+        QObject::connect(&m_bar, &OutputBar::ConvertAllRequested, &m_bar, [this] { m_asked += "all "; });
+        QObject::connect(&m_bar, &OutputBar::ConvertCurrentRequested, &m_bar, [this] { m_asked += "current "; });
+        QObject::connect(&m_bar, &OutputBar::CancelRequested, &m_bar, [this] { m_asked += "cancel "; });
+        QObject::connect(&m_bar, &OutputBar::PauseToggled, &m_bar,
+                         [this](bool isPaused) { m_asked += isPaused ? "pause " : "resume "; });
+    }
+
+    template <typename Widget>
+    Widget& Find(char const* name)
+    {
+        auto* widget = m_bar.findChild<Widget*>(QString::fromLatin1(name));
+        EXPECT_NE(widget, nullptr) << name;
+        return *widget;
+    }
+    QPushButton& Button(char const* name) { return Find<QPushButton>(name); }
+
+    OutputBar m_bar;
+    std::vector<OutputSettings> m_changes;
+    std::string m_asked;
+};
+
+TEST_F(OutputBarTest, FitsANarrowWindowInGermanAndInBothThemes)
+{
+    ConversionSummary summary;
+    summary.fraction = 0.37;
+    summary.remaining = 2h + 5min;
+    OutputSettings settings;
+    settings.formatId = "mpegts";
+    Testing::ShowAndWait(m_bar);
+    {
+        German const german;
+        QApplication::processEvents();
+        Testing::ForEachTheme(
+            [&](QString const& theme)
+            {
+                m_bar.ShowSettings(settings);
+                m_bar.SetConvertible(true, true);
+                m_bar.ShowConversion(summary);
+                m_bar.resize(900, m_bar.sizeHint().height());
+                QApplication::processEvents();
+                EXPECT_LE(m_bar.minimumSizeHint().width(), 900);
+                EXPECT_EQ(Button("convertAllButton").text(), QStringLiteral("Alle &umwandeln"));
+                for (auto const* child : m_bar.findChildren<QPushButton*>())
+                {
+                    bool const isShortenedByRule = child->objectName() == QLatin1String("outputFolderButton");
+                    EXPECT_TRUE(isShortenedByRule || child->width() >= child->sizeHint().width())
+                        << child->objectName().toStdString();
+                }
+                Testing::SaveScreenshot(m_bar, "output-bar-" + theme);
+            });
+    }
+    QApplication::processEvents();
+    EXPECT_EQ(Button("convertAllButton").text(), QStringLiteral("&Convert all")) << "back at run time";
+}
+
+TEST_F(OutputBarTest, TellsWhatTheUserDoesAndNothingElse)
+{
+    OutputSettings settings;
+    settings.quality = Quality::Small;
+    settings.folder = ioPath("/somewhere");
+    m_bar.ShowSettings(settings);
+    Testing::ShowAndWait(m_bar);
+    EXPECT_TRUE(m_changes.empty());
+    EXPECT_FALSE(Button("convertAllButton").isEnabled());
+    EXPECT_FALSE(Button("pauseButton").isVisible());
+
+    auto& format = Find<QComboBox>("formatCombo");
+    format.setFocus();
+    QTest::keyClick(&format, Qt::Key_Down);
+    auto& quality = Find<QComboBox>("qualityCombo");
+    QTest::keyClick(&quality, Qt::Key_Home);
+    Button("outputFolderButton").click();
+    auto& menu = Find<QMenu>("outputFolderMenu");
+    ASSERT_TRUE(menu.isVisible());
+    QTest::keyClick(&menu, Qt::Key_Down);
+    QTest::keyClick(&menu, Qt::Key_Return);
+    ASSERT_EQ(m_changes.size(), 3U);
+    EXPECT_EQ(m_changes[0].formatId, "mp4");
+    EXPECT_EQ(m_changes[1].quality, Quality::AsSource);
+    EXPECT_EQ(m_changes[2].folder, std::nullopt);
+
+    menu.actions().back()->trigger();
+    auto& dialog = Find<QFileDialog>("outputFolderDialog");
+    Q_EMIT dialog.fileSelected(QStringLiteral("/elsewhere"));
+    dialog.close();
+    EXPECT_EQ(m_changes.back().folder, ioPath("/elsewhere"));
+    EXPECT_EQ(m_bar.GetSettings().formatId, "mp4");
+
+    m_bar.SetConvertible(true, true);
+    QTest::keyClick(&Button("convertAllButton"), Qt::Key_Space);
+    QTest::keyClick(&Button("convertCurrentButton"), Qt::Key_Space);
+    m_bar.ShowConversion(ConversionSummary{0.999, 59s, false});
+    EXPECT_EQ(Find<QProgressBar>("totalProgress").text(), QStringLiteral("99 %")) << "not done before it is done";
+    QTest::keyClick(&Button("pauseButton"), Qt::Key_Space);
+    m_bar.ShowConversion(ConversionSummary{0.999, 59s, true});
+    QTest::keyClick(&Button("pauseButton"), Qt::Key_Space);
+    QTest::keyClick(&Button("cancelButton"), Qt::Key_Space);
+    EXPECT_EQ(m_asked, "all current pause resume cancel ");
+    m_bar.ShowConversion(std::nullopt);
+    EXPECT_FALSE(Button("cancelButton").isVisible());
+}
+
+TEST(TimeTextsTest, NoMoreExactThanAnybodyCanKnow)
+{
+    EXPECT_EQ(FormatTimeLeft(59s), QStringLiteral("less than a minute left"));
+    EXPECT_EQ(FormatTimeLeft(89s), QStringLiteral("1 min left"));
+    EXPECT_EQ(FormatTimeLeft(59min + 40s), QStringLiteral("1 h left"));
+    EXPECT_EQ(FormatTimeLeft(2h + 5min + 10s), QStringLiteral("2 h 5 min left"));
+    EXPECT_EQ(FormatTimeLeft(30h), QStringLiteral("30 h left"));
+}
+
+} // namespace
+} // namespace Korvex::Desktop
