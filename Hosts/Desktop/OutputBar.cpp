@@ -20,6 +20,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -30,6 +31,7 @@ namespace
 {
 
 constexpr int PROGRESS_STEPS = 1000;
+constexpr int GROUP_SPACING = 12; ///< pixels, between a field and the next label
 constexpr std::array<Quality, 4> QUALITIES{Quality::AsSource, Quality::High, Quality::Medium, Quality::Small};
 
 QString ToText(std::string const& utf8)
@@ -68,6 +70,16 @@ QString QualityHelp(Quality quality)
         return OutputBar::tr("The picture is encoded anew into a small file; losses are visible.");
     }
     return {};
+}
+
+/// Makes the box wide enough for each of its texts: all of them are short.
+void FitTexts(QComboBox& box)
+{
+    GUI::FixComboBox(&box);
+    int longest = 0;
+    for (int row = 0; row < box.count(); ++row)
+        longest = std::max(longest, box.itemText(row).size());
+    box.setMinimumContentsLength(longest);
 }
 
 } // namespace
@@ -110,14 +122,16 @@ public:
         if (!summary)
             return;
         m_progress->setValue(static_cast<int>(std::floor(summary->fraction * PROGRESS_STEPS)));
-        m_progress->setFormat(OutputBar::tr("%1 %").arg(static_cast<int>(std::floor(summary->fraction * 100.0))));
+        QString const percent = OutputBar::tr("%1 %").arg(static_cast<int>(std::floor(summary->fraction * 100.0)));
+        QString words;
+        if (summary->isPaused)
+            words = OutputBar::tr("paused");
+        else if (summary->remaining)
+            words = FormatTimeLeft(*summary->remaining);
+        m_progressText->setText(words.isEmpty() ? percent : OutputBar::tr("%1, %2").arg(percent, words));
         m_pause->setText(summary->isPaused ? OutputBar::tr("&Resume") : OutputBar::tr("&Pause"));
         m_pause->setToolTip(summary->isPaused ? OutputBar::tr("Go on converting")
                                               : OutputBar::tr("Stand still until you resume"));
-        if (summary->isPaused)
-            m_timeLeft->setText(OutputBar::tr("Paused"));
-        else
-            m_timeLeft->setText(summary->remaining ? FormatTimeLeft(*summary->remaining) : QString());
     }
 
     void Retranslate()
@@ -133,22 +147,20 @@ public:
             m_quality->setItemData(row, QualityHelp(quality), Qt::ToolTipRole);
         }
         m_quality->setToolTip(QualityHelp(m_settings.quality));
+        FitTexts(*m_format);
+        FitTexts(*m_quality);
         m_folderLabel->setText(OutputBar::tr("&Save"));
         m_beside->setText(OutputBar::tr("Beside each film"));
         m_choose->setText(OutputBar::tr("Choose a folder..."));
         m_convertAll->setText(OutputBar::tr("&Convert all"));
         m_convertAll->setToolTip(OutputBar::tr("Convert all films that are ready"));
-        m_convertCurrent->setText(OutputBar::tr("Convert &this film"));
-        m_convertCurrent->setToolTip(OutputBar::tr("Convert only the film that is chosen in the list"));
+        m_convertCurrent->setText(OutputBar::tr("Only &this film"));
+        m_convertCurrent->setToolTip(OutputBar::tr("Convert the film that is chosen in the list, and no other"));
         m_progress->setAccessibleName(OutputBar::tr("Progress of all conversions"));
-        m_timeLeft->setAccessibleName(OutputBar::tr("Time left"));
+        m_progressText->setAccessibleName(m_progress->accessibleName());
         m_cancel->setText(OutputBar::tr("Ca&ncel"));
         m_cancel->setToolTip(OutputBar::tr("Stop converting; half-written files are removed"));
         ShowFolder();
-        // The bar beside it keeps its length while the words change.
-        QFontMetrics const metrics(m_timeLeft->font());
-        m_timeLeft->setMinimumWidth(std::max(metrics.horizontalAdvance(FormatTimeLeft(std::chrono::seconds(1))),
-                                             metrics.horizontalAdvance(FormatTimeLeft(std::chrono::minutes(699)))));
         ShowConversion(m_summary);
     }
 
@@ -163,8 +175,6 @@ private:
         m_quality->setObjectName(QStringLiteral("qualityCombo"));
         for (Quality const quality : QUALITIES)
             m_quality->addItem(QualityName(quality), static_cast<int>(quality));
-        for (QComboBox* box : {m_format, m_quality})
-            GUI::FixComboBox(box);
 
         m_folder = new GUI::ComboBoxButton(&m_bar);
         m_folder->setObjectName(QStringLiteral("outputFolderButton"));
@@ -183,8 +193,9 @@ private:
         m_progress = new QProgressBar(m_conversion);
         m_progress->setObjectName(QStringLiteral("totalProgress"));
         m_progress->setRange(0, PROGRESS_STEPS);
-        m_timeLeft = new KLabel(m_conversion);
-        m_timeLeft->setObjectName(QStringLiteral("timeLeftLabel"));
+        m_progress->setTextVisible(false);
+        m_progressText = new KLabel(m_conversion);
+        m_progressText->setObjectName(QStringLiteral("totalProgressLabel"));
         m_pause = MakeButton("pauseButton");
         m_cancel = MakeButton("cancelButton");
 
@@ -212,8 +223,11 @@ private:
     {
         auto* conversion = new QHBoxLayout(m_conversion);
         conversion->setContentsMargins(0, 0, 0, 0);
-        conversion->addWidget(m_progress, 1);
-        conversion->addWidget(m_timeLeft);
+        auto* progress = new QVBoxLayout;
+        progress->setSpacing(2);
+        progress->addWidget(m_progressText);
+        progress->addWidget(m_progress);
+        conversion->addLayout(progress, 1);
         conversion->addWidget(m_pause);
         conversion->addWidget(m_cancel);
 
@@ -224,17 +238,22 @@ private:
         {
             settings->addWidget(label);
             settings->addWidget(field, field == m_folder ? 1 : 0);
-            settings->addSpacing(settings->spacing());
+            if (field != m_folder)
+                settings->addSpacing(GROUP_SPACING);
         }
-        settings->addWidget(m_convertCurrent);
-        settings->addWidget(m_convertAll);
+
+        auto* actions = new QHBoxLayout;
+        actions->addWidget(m_conversion, 1);
+        actions->addStretch();
+        actions->addWidget(m_convertCurrent);
+        actions->addWidget(m_convertAll);
 
         auto* rows = new QVBoxLayout(&m_bar);
-        rows->addWidget(m_conversion);
         rows->addLayout(settings);
+        rows->addLayout(actions);
 
-        std::array<QWidget*, 7> const order{m_pause,  m_cancel,         m_format,    m_quality,
-                                            m_folder, m_convertCurrent, m_convertAll};
+        std::array<QWidget*, 7> const order{m_format, m_quality,        m_folder,    m_pause,
+                                            m_cancel, m_convertCurrent, m_convertAll};
         for (std::size_t i = 1; i < order.size(); ++i)
             QWidget::setTabOrder(order[i - 1], order[i]);
     }
@@ -314,7 +333,7 @@ private:
     QPushButton* m_convertCurrent = nullptr;
     QWidget* m_conversion = nullptr;
     QProgressBar* m_progress = nullptr;
-    KLabel* m_timeLeft = nullptr;
+    KLabel* m_progressText = nullptr;
     QPushButton* m_pause = nullptr;
     QPushButton* m_cancel = nullptr;
 };
