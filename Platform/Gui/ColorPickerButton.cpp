@@ -70,11 +70,11 @@ void ColorPickerButton::Retranslate()
 {
     QString const name = m_color.name();
     setText(name);
-    QString const description = m_caption.isEmpty() ? tr("Colour %1").arg(name) : tr("%1: %2").arg(m_caption, name);
+    QString const description = m_caption.isEmpty() ? tr("Color %1").arg(name) : tr("%1: %2").arg(m_caption, name);
     setToolTip(description.toHtmlEscaped());
     setAccessibleName(description);
     if (m_dialog != nullptr)
-        m_dialog->setWindowTitle(m_caption.isEmpty() ? tr("Choose a colour") : m_caption);
+        m_dialog->setWindowTitle(m_caption.isEmpty() ? tr("Choose a color") : m_caption);
 }
 
 QSize ColorPickerButton::sizeHint() const

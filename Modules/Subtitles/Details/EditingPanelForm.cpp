@@ -215,10 +215,8 @@ void EditingPanel::Form::Describe()
     alignSpinBox->setToolTip(tr("Position shift"));
     syncSpinBox->setAccessibleName(tr("Synchronization offset in seconds"));
     syncSpinBox->setToolTip(tr("Synchronization offset in seconds"));
-    textColorPicker->setAccessibleName(tr("Text color"));
-    textColorPicker->setToolTip(tr("Text color"));
-    outlineColorPicker->setAccessibleName(tr("Outline color"));
-    outlineColorPicker->setToolTip(tr("Outline color"));
+    textColorPicker->SetCaption(tr("Text color"));
+    outlineColorPicker->SetCaption(tr("Outline color"));
 }
 
 void EditingPanel::Form::ShowFont()
