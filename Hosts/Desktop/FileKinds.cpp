@@ -2,6 +2,7 @@
 
 #include "Core/FileSystem.h"
 
+#include <QFileInfo>
 #include <QString>
 
 #include <set>
@@ -27,6 +28,12 @@ bool IsFilmFileName(ioPath const& path)
 }
 
 } // namespace
+
+ioPath MakeAbsolute(ioPath const& path)
+{
+    QFileInfo const file(QString::fromStdString(path.utf8string()));
+    return file.isAbsolute() ? path : ioPath(file.absoluteFilePath().toStdString());
+}
 
 bool IsSubtitleFileName(ioPath const& path)
 {

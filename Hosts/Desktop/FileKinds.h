@@ -4,9 +4,12 @@
 
 #include <vector>
 
-/// What a file is taken for when it is dropped or opened, by its name.
+/// What files are taken for when they are dropped or opened, by their names.
 namespace Korvex::Desktop
 {
+
+/// A path that still holds when the working folder is another one.
+[[nodiscard]] ioPath MakeAbsolute(ioPath const& path);
 
 [[nodiscard]] bool IsSubtitleFileName(ioPath const& path);
 

@@ -3,10 +3,11 @@
 #include "Common/SoftPlan.h"
 #include "Common/SubtitleFiles.h"
 #include "Desktop/ConversionJob.h"
+#include "Desktop/FileKinds.h"
+#include "Desktop/FileThread.h"
 #include "Desktop/FilmSubtitles.h"
 #include "Desktop/FilmWords.h"
 #include "Desktop/OutputSettings.h"
-#include "Desktop/ReadingThread.h"
 
 #include "Subtitles/Subtitles.h"
 
@@ -15,9 +16,10 @@
 #include "Proc/MediaInfo.h"
 #include "Proc/Settings.h"
 
-#include <QFileInfo>
 #include <QPointer>
 
+#include <algorithm>
+#include <iterator>
 #include <set>
 #include <utility>
 
@@ -55,27 +57,19 @@ FilesRead ReadFiles(SubtitleCollection files)
     return read;
 }
 
-std::vector<ioPath> MakeAbsolute(std::vector<ioPath> const& paths)
-{
-    std::vector<ioPath> absolute;
-    for (ioPath const& path : paths)
-        absolute.emplace_back(QFileInfo(QString::fromStdString(path.utf8string())).absoluteFilePath().toStdString());
-    return absolute;
-}
-
 } // namespace
 
 class Film::Impl final : public Entities::ISubtitleCollectionInteractorEventObserver
 {
 public:
     Impl(Film& owner, Hosts::HostServices& services, FilmId filmId, ioPath filmPath,
-         std::shared_ptr<ReadingThread> readingThread)
+         std::shared_ptr<FileThread> fileThread)
         : id(filmId),
           path(std::move(filmPath)),
           subtitles(services),
           m_owner(owner),
           m_services(services),
-          m_reading(readingThread ? std::move(readingThread) : std::make_shared<ReadingThread>()),
+          m_fileThread(fileThread ? std::move(fileThread) : std::make_shared<FileThread>()),
           m_observation(subtitles.GetInteractor(), *this)
     {
         SetOutput({});
@@ -90,7 +84,7 @@ public:
 
     void SetMedia(Proc::MediaInfo const& read)
     {
-        FilmChoice const choice = GetChoice();
+        FilmChoice const choice = m_wasRead ? subtitles.GetChoice() : m_waitingChoice;
         media = read;
         state = FilmState::Ready;
         stateSentence.clear();
@@ -122,7 +116,18 @@ public:
         NoteChange();
     }
 
-    [[nodiscard]] FilmChoice GetChoice() const { return m_wasRead ? subtitles.GetChoice() : m_waitingChoice; }
+    [[nodiscard]] FilmChoice GetChoice() const
+    {
+        FilmChoice choice = m_wasRead ? subtitles.GetChoice() : m_waitingChoice;
+        for (ioPath const& file : m_waitingFiles)
+        {
+            choice.files.push_back(file);
+            choice.mode = SubtitleCollectionMode::SelectedTrack;
+            choice.isWithoutSubtitles = false;
+            choice.currentTrack = SubtitleTrackID(file);
+        }
+        return choice;
+    }
 
     void SetChoice(FilmChoice const& choice)
     {
@@ -211,15 +216,15 @@ private:
         }
         if (fresh.tracks.empty())
             return;
-        m_reading->Add(ReadingThread::Urgency::Soon,
-                       [film = QPointer<Film>(&m_owner), fresh]() -> ReadingThread::Delivery
-                       {
-                           return [film, read = ReadFiles(fresh)]
-                           {
-                               if (film)
-                                   film->m_impl->NoteRead(read);
-                           };
-                       });
+        m_fileThread->Add(FileThread::Urgency::Soon,
+                          [film = QPointer<Film>(&m_owner), fresh]() -> FileThread::Delivery
+                          {
+                              return [film, read = ReadFiles(fresh)]
+                              {
+                                  if (film)
+                                      film->m_impl->NoteRead(read);
+                              };
+                          });
     }
 
     void NoteRead(FilesRead const& read)
@@ -232,7 +237,7 @@ private:
 
     Film& m_owner;
     Hosts::HostServices& m_services;
-    std::shared_ptr<ReadingThread> m_reading;
+    std::shared_ptr<FileThread> m_fileThread;
     std::string m_formatId;
     bool m_wasRead = false;
     bool m_isChangeNoted = false;
@@ -243,8 +248,8 @@ private:
     Core::ScopedObservation<Entities::ISubtitleCollectionInteractorEventObserver> m_observation;
 };
 
-Film::Film(Hosts::HostServices& services, FilmId id, ioPath path, std::shared_ptr<ReadingThread> reading)
-    : m_impl(std::make_unique<Impl>(*this, services, id, std::move(path), std::move(reading)))
+Film::Film(Hosts::HostServices& services, FilmId id, ioPath path, std::shared_ptr<FileThread> fileThread)
+    : m_impl(std::make_unique<Impl>(*this, services, id, std::move(path), std::move(fileThread)))
 {
 }
 
@@ -352,7 +357,9 @@ void Film::SetChoice(FilmChoice const& choice)
 
 void Film::AddSubtitleFiles(std::vector<ioPath> const& paths)
 {
-    m_impl->AddFiles(MakeAbsolute(paths));
+    std::vector<ioPath> absolute;
+    std::transform(paths.begin(), paths.end(), std::back_inserter(absolute), MakeAbsolute);
+    m_impl->AddFiles(absolute);
 }
 
 void Film::ChooseNone()

@@ -33,7 +33,7 @@ class SettingsSubtitleMixer;
 namespace Korvex::Desktop
 {
 
-class ReadingThread;
+class FileThread;
 struct ConversionJob;
 struct OutputSettings;
 
@@ -55,8 +55,8 @@ class Film final : public QObject
     Q_OBJECT
 public:
     /// `services` has to outlive the film. The film itself is not read here: whoever reads it calls `SetMedia` or
-    /// `SetFailure`. Added files are read on `reading`, without it on a thread of the film's own.
-    Film(Hosts::HostServices& services, FilmId id, ioPath path, std::shared_ptr<ReadingThread> reading = nullptr);
+    /// `SetFailure`. Added files are read on `fileThread`, without it on a thread of the film's own.
+    Film(Hosts::HostServices& services, FilmId id, ioPath path, std::shared_ptr<FileThread> fileThread = nullptr);
     ~Film() override;
 
     [[nodiscard]] FilmId GetId() const;

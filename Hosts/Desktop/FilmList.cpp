@@ -1,12 +1,11 @@
 #include "Desktop/FilmList.h"
 
 #include "Desktop/FileKinds.h"
+#include "Desktop/FileThread.h"
 #include "Desktop/MediaReading.h"
-#include "Desktop/ReadingThread.h"
 
 #include "Core/FileSystem.h"
 
-#include <QFileInfo>
 #include <QStringList>
 
 #include <algorithm>
@@ -16,16 +15,11 @@
 namespace Korvex::Desktop
 {
 
-using Urgency = ReadingThread::Urgency;
-using Delivery = ReadingThread::Delivery;
+using Urgency = FileThread::Urgency;
+using Delivery = FileThread::Delivery;
 
 namespace
 {
-
-ioPath MakeAbsolute(ioPath const& path)
-{
-    return QFileInfo(QString::fromStdString(path.utf8string())).absoluteFilePath().toStdString();
-}
 
 /// "Film.srt", "Film.en.srt", "Film - forced.srt" are of "Film.mkv"; the longest name that fits has the best claim.
 std::size_t MatchName(ioPath const& film, ioPath const& subtitles)
@@ -46,13 +40,13 @@ public:
     Impl(FilmList& owner, Hosts::HostServices& services)
         : m_owner(owner),
           m_services(services),
-          m_reading(std::make_shared<ReadingThread>())
+          m_fileThread(std::make_shared<FileThread>())
     {
     }
 
     Film& Append(ioPath const& path)
     {
-        auto film = std::make_unique<Film>(m_services, ++m_lastId, path, m_reading);
+        auto film = std::make_unique<Film>(m_services, ++m_lastId, path, m_fileThread);
         FilmId const id = film->GetId();
         film->SetOutput(output);
         connect(film.get(), &Film::Changed, &m_owner, [this, id] { NoteChange(id); });
@@ -68,16 +62,18 @@ public:
 
     void Read(Film const& film)
     {
-        m_reading->Add(Urgency::Soon,
-                       [this, id = film.GetId(), path = film.GetPath()]() -> Delivery
-                       { return [this, id, path, media = ReadHeaders(path)] { NoteHeaders(id, path, media); }; });
+        m_fileThread->Add(Urgency::Soon,
+                          [this, id = film.GetId(), path = film.GetPath()]() -> Delivery
+                          { return [this, id, path, media = ReadHeaders(path)] { NoteHeaders(id, path, media); }; });
     }
 
     void Check(Film const& film)
     {
-        m_reading->Add(Urgency::Soon,
-                       [this, id = film.GetId(), path = film.GetPath()]() -> Delivery
-                       { return [this, id, path, isThere = Core::FileExists(path)] { NoteFile(id, path, isThere); }; });
+        m_fileThread->Add(Urgency::Soon,
+                          [this, id = film.GetId(), path = film.GetPath()]() -> Delivery {
+                              return [this, id, path, isThere = Core::FileExists(path)]
+                              { NoteFile(id, path, isThere); };
+                          });
     }
 
     [[nodiscard]] Film* FindSame(ioPath const& path) const
@@ -125,15 +121,15 @@ private:
             return;
         }
         film->SetMedia(*media);
-        m_reading->Add(Urgency::Later,
-                       [this, id, read = *media]() -> Delivery
-                       {
-                           return [this, id, path = read.path, thumbnail = ReadThumbnail(read)]
-                           {
-                               if (Film* shown = FindRead(id, path))
-                                   shown->SetThumbnail(thumbnail);
-                           };
-                       });
+        m_fileThread->Add(Urgency::Later,
+                          [this, id, read = *media]() -> Delivery
+                          {
+                              return [this, id, path = read.path, thumbnail = ReadThumbnail(read)]
+                              {
+                                  if (Film* shown = FindRead(id, path))
+                                      shown->SetThumbnail(thumbnail);
+                              };
+                          });
     }
 
     void NoteFile(FilmId id, ioPath const& path, bool isThere)
@@ -165,7 +161,7 @@ private:
     FilmList& m_owner;
     Hosts::HostServices& m_services;
     FilmId m_lastId = 0;
-    std::shared_ptr<ReadingThread> m_reading; ///< shared with the films; what it delivers comes from the event loop
+    std::shared_ptr<FileThread> m_fileThread; ///< shared with the films; what it delivers comes from the event loop
 };
 
 FilmList::FilmList(Hosts::HostServices& services, QObject* parent)

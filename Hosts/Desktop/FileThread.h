@@ -12,14 +12,14 @@
 namespace Korvex::Desktop
 {
 
-/// A thread on which files are read, one task after the other, so that the GUI thread never waits for a disk. Made and
-/// called by the GUI thread.
-class ReadingThread final : public QObject
+/// A thread on which files are read and written, one task after the other, so that the GUI thread never waits for a
+/// disk. Made and called by the GUI thread.
+class FileThread final : public QObject
 {
 public:
     /// Carries a task's result to where it is shown. Runs on the GUI thread, from its event loop.
     using Delivery = std::function<void()>;
-    /// Runs on the reading thread. An empty delivery: nobody waits for it.
+    /// Runs on this thread. An empty delivery: nobody waits for it.
     using Task = std::function<Delivery()>;
 
     enum class Urgency
@@ -28,9 +28,9 @@ public:
         Later, ///< when nothing else is left
     };
 
-    ReadingThread() = default;
+    FileThread() = default;
     /// Waits for the task that runs; those that wait are dropped, and nothing is delivered any more.
-    ~ReadingThread() override;
+    ~FileThread() override;
 
     void Add(Urgency urgency, Task task);
 

@@ -1,4 +1,4 @@
-#include "Desktop/ReadingThread.h"
+#include "Desktop/FileThread.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -19,7 +19,7 @@ QEvent::Type WakeType()
 
 } // namespace
 
-ReadingThread::~ReadingThread()
+FileThread::~FileThread()
 {
     {
         std::lock_guard const lock(m_mutex);
@@ -30,7 +30,7 @@ ReadingThread::~ReadingThread()
         m_thread.join();
 }
 
-void ReadingThread::Add(Urgency urgency, Task task)
+void FileThread::Add(Urgency urgency, Task task)
 {
     WakeType(); // registered before the other thread asks for it
     if (!m_thread.joinable())
@@ -42,7 +42,7 @@ void ReadingThread::Add(Urgency urgency, Task task)
     m_hasWork.notify_all();
 }
 
-bool ReadingThread::event(QEvent* event)
+bool FileThread::event(QEvent* event)
 {
     if (event->type() != WakeType())
         return QObject::event(event);
@@ -50,7 +50,7 @@ bool ReadingThread::event(QEvent* event)
     return true;
 }
 
-void ReadingThread::Run()
+void FileThread::Run()
 {
     std::unique_lock lock(m_mutex);
     for (;;)
@@ -73,7 +73,7 @@ void ReadingThread::Run()
     }
 }
 
-void ReadingThread::Deliver()
+void FileThread::Deliver()
 {
     std::vector<Delivery> deliveries;
     {
