@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Core/ioPath.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <vector>
+
+class QDropEvent;
+class QMimeData;
+class QWidget;
+
+namespace Korvex::Desktop
+{
+
+class DropHighlight;
+
+/// Lets files be dropped anywhere on a window, also on fields that would take their names as text, and lights the
+/// window up while they hover. GUI thread.
+class DropTarget final : public QObject
+{
+    Q_OBJECT
+public:
+    /// Belongs to the window.
+    explicit DropTarget(QWidget* window);
+    ~DropTarget() override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    void Dropped(std::vector<Korvex::ioPath> const& paths);
+
+private:
+    bool HandleDrag(QEvent* event);
+    void Drop(QDropEvent& event);
+
+    QWidget* m_window;
+    DropHighlight* m_highlight;
+    /// Moving from one widget to the next leaves and enters: the light goes only when nothing was entered.
+    QTimer m_leaving;
+};
+
+} // namespace Korvex::Desktop

@@ -1,0 +1,158 @@
+#include "Desktop/FilmActions.h"
+
+#include "Desktop/Actions.h"
+#include "Desktop/ConversionControl.h"
+#include "Desktop/ConversionQueue.h"
+#include "Desktop/FilmList.h"
+#include "Desktop/FilmListPane.h"
+#include "Desktop/Notices.h"
+#include "Desktop/RevealFile.h"
+
+#include "Subtitles/Entities/SubtitleTrack.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <algorithm>
+#include <optional>
+
+namespace Korvex::Desktop
+{
+
+FilmActions::FilmActions(Parts const& parts) : QObject(&parts.window), m_parts(parts)
+{
+    Connect();
+    UpdateEnabled();
+}
+
+FilmActions::~FilmActions() = default;
+
+void FilmActions::Connect()
+{
+    auto const on = [this](ActionId id, auto const& run)
+    { connect(m_parts.actions.Get(id), &QAction::triggered, this, run); };
+    FilmListPane& pane = m_parts.pane;
+    ConversionControl& control = m_parts.control;
+    on(ActionId::RemoveFilms, [this] { RemoveSelected(); });
+    on(ActionId::PreviousFilm, [&pane] { pane.MoveSelection(-1); });
+    on(ActionId::NextFilm, [&pane] { pane.MoveSelection(1); });
+    on(ActionId::ChooseSubtitles, [&pane] { pane.PressSubtitlesButton(); });
+    on(ActionId::RevealOutput, [this] { Reveal(m_parts.pane.GetCurrentFilm()); });
+    on(ActionId::ConvertFilm, [&pane, &control] { control.Convert(pane.GetSelectedFilms()); });
+    on(ActionId::ConvertAll, [&control] { control.ConvertAll(); });
+    on(ActionId::CancelAll, [&control] { control.CancelAll(); });
+    on(ActionId::CancelFilm,
+       [&pane, &control]
+       {
+           for (Film* film : pane.GetSelectedFilms())
+               control.Cancel(film->GetId());
+       });
+    on(ActionId::ApplyToAll,
+       [this]
+       {
+           if (Film* film = m_parts.pane.GetCurrentFilm())
+               Q_EMIT ApplyToAllRequested(film->GetId());
+       });
+    connect(m_parts.actions.Get(ActionId::Pause), &QAction::toggled, &m_parts.queue, &ConversionQueue::SetPaused);
+    connect(&pane, &FilmListPane::RevealRequested, this, &FilmActions::Reveal);
+
+    connect(&pane, &FilmListPane::CurrentFilmChanged, this, &FilmActions::UpdateEnabled);
+    connect(&pane, &FilmListPane::SelectionChanged, this, &FilmActions::UpdateEnabled);
+    connect(&m_parts.films, &FilmList::FilmChanged, this, &FilmActions::UpdateEnabled);
+    connect(&m_parts.queue, &ConversionQueue::StatusChanged, this, &FilmActions::UpdateEnabled);
+    connect(&m_parts.queue, &ConversionQueue::Finished, this, &FilmActions::UpdateEnabled);
+}
+
+void FilmActions::UpdateEnabled()
+{
+    Film const* film = m_parts.pane.GetCurrentFilm();
+    std::vector<Film*> const selected = m_parts.pane.GetSelectedFilms();
+    bool const isReady = film != nullptr && film->GetState() == FilmState::Ready;
+    bool const isConverting =
+        std::any_of(selected.begin(), selected.end(),
+                    [this](Film const* each) { return m_parts.control.IsConverting(each->GetId()); });
+    std::optional<ConversionStatus> const status =
+        film == nullptr ? std::nullopt : m_parts.queue.FindStatus(film->GetId());
+    auto const enable = [this](ActionId id, bool isEnabled) { m_parts.actions.Get(id)->setEnabled(isEnabled); };
+    enable(ActionId::AddSubtitles, film != nullptr);
+    enable(ActionId::ChooseSubtitles, isReady);
+    enable(ActionId::ApplyToAll, isReady && m_parts.films.rowCount() > 1);
+    enable(ActionId::CopyCommand, false);
+    enable(ActionId::RevealOutput, status && status->state == ConversionState::Done);
+    enable(ActionId::RemoveFilms, !selected.empty());
+    enable(ActionId::PreviousFilm, film != nullptr);
+    enable(ActionId::NextFilm, film != nullptr);
+    enable(ActionId::ConvertAll, m_parts.films.rowCount() > 0);
+    enable(ActionId::ConvertFilm, !selected.empty() && !isConverting);
+    enable(ActionId::CancelFilm, isConverting);
+    enable(ActionId::CancelAll, m_parts.queue.IsActive());
+    enable(ActionId::Pause, m_parts.queue.IsActive());
+}
+
+void FilmActions::RemoveSelected()
+{
+    std::vector<Film*> const films = m_parts.pane.GetSelectedFilms();
+    if (!ConfirmRemoval(films))
+        return;
+    std::vector<FilmId> ids;
+    std::transform(films.begin(), films.end(), std::back_inserter(ids), [](Film const* film) { return film->GetId(); });
+    for (FilmId const id : ids)
+    {
+        m_parts.control.Cancel(id);
+        m_parts.films.Remove(id);
+    }
+    UpdateEnabled();
+}
+
+bool FilmActions::ConfirmRemoval(std::vector<Film*> const& films) const
+{
+    auto const isConverting = [this](Film const* film) { return m_parts.control.IsConverting(film->GetId()); };
+    auto const converting = std::find_if(films.begin(), films.end(), isConverting);
+    if (converting == films.end())
+        return true;
+    QString const name = QString::fromStdString((*converting)->GetPath().FileName());
+    QMessageBox box(QMessageBox::Question, tr("Remove a film that is being converted?"),
+                    tr("\"%1\" is being converted. Removing it cancels its conversion.").arg(name),
+                    QMessageBox::NoButton, &m_parts.window);
+    auto* remove = box.addButton(tr("Cancel conversion and remove"), QMessageBox::DestructiveRole);
+    auto* keep = box.addButton(tr("Keep it"), QMessageBox::RejectRole);
+    box.setDefaultButton(keep);
+    box.setEscapeButton(keep);
+    box.exec();
+    return box.clickedButton() == remove;
+}
+
+void FilmActions::Reveal(Film* film)
+{
+    std::optional<ConversionStatus> const status =
+        film == nullptr ? std::nullopt : m_parts.queue.FindStatus(film->GetId());
+    if (!status || status->output.empty() || RevealFile(status->output))
+        return;
+    m_parts.notices.AddNews(Mark::Warning, tr("No file manager could be started: the film is \"%1\".")
+                                               .arg(QString::fromStdString(status->output.utf8string())));
+}
+
+void FilmActions::FillPutBackMenu(QMenu& menu)
+{
+    auto const refill = [this, &menu] { RefillPutBackMenu(menu); };
+    connect(&m_parts.pane, &FilmListPane::CurrentFilmChanged, &menu, refill);
+    connect(&m_parts.films, &FilmList::FilmChanged, &menu, refill);
+    refill();
+}
+
+void FilmActions::RefillPutBackMenu(QMenu& menu)
+{
+    menu.clear();
+    if (Film* film = m_parts.pane.GetCurrentFilm())
+        for (auto const& track : film->ListLeftOut())
+        {
+            QString label = QString::fromStdString(GenerateLabel(track));
+            label.replace(QLatin1Char('&'), QLatin1String("&&"));
+            connect(menu.addAction(label), &QAction::triggered, film, [film, id = track.id] { film->PutBack(id); });
+        }
+    menu.menuAction()->setEnabled(!menu.isEmpty());
+}
+
+} // namespace Korvex::Desktop

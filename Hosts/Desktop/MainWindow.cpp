@@ -1,0 +1,180 @@
+#include "Desktop/MainWindow.h"
+
+#include "Desktop/AboutDialog.h"
+#include "Desktop/Actions.h"
+#include "Desktop/ConversionControl.h"
+#include "Desktop/ConversionQueue.h"
+#include "Desktop/DropTarget.h"
+#include "Desktop/EmptyPage.h"
+#include "Desktop/FileActions.h"
+#include "Desktop/FilmActions.h"
+#include "Desktop/FilmList.h"
+#include "Desktop/FilmListPane.h"
+#include "Desktop/MainMenu.h"
+#include "Desktop/ModulePanels.h"
+#include "Desktop/NoticeBar.h"
+#include "Desktop/Notices.h"
+#include "Desktop/ShortcutsDialog.h"
+#include "Desktop/SubtitlesPopup.h"
+#include "Desktop/SubtitlesSide.h"
+
+#include "Common/HostServices.h"
+
+#include "Subtitles/Adapters/IMessagesView.h"
+#include "Subtitles/Details/EditingPanel.h"
+#include "Subtitles/Details/ItemPanel.h"
+
+#include "App/GUIContainer.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace Korvex::Desktop
+{
+
+MainWindow::MainWindow(Program const& program)
+    : m_program(program),
+      m_panels(std::make_unique<ModulePanels>(program.services))
+{
+    setObjectName(QStringLiteral("mainWindow"));
+    MakeParts();
+    LayOut();
+    ConnectFilms();
+    ConnectHelp();
+    Retranslate();
+    ShowFilm(nullptr);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::MakeParts()
+{
+    auto const& [services, films, queue] = m_program;
+    m_actions = new Actions(this);
+    m_menu = new MainMenu(*m_actions, *menuBar(), this);
+    m_control = new ConversionControl(films, queue, this);
+    m_filmPane =
+        new FilmListPane(films, queue, m_actions->Get(ActionId::AddFilms), m_actions->Get(ActionId::RemoveFilms), this);
+    m_noticeBar = new NoticeBar(this);
+    m_notices = new Notices(films, queue, *m_noticeBar, this);
+    services.GetGuiContainer().Register(m_notices->GetMessagesView());
+    m_fileActions = new FileActions(films, *m_filmPane, *m_notices, *m_actions, *this);
+    m_filmActions = new FilmActions({films, *m_filmPane, queue, *m_control, *m_notices, *m_actions, *this});
+    m_filmActions->FillPutBackMenu(*m_menu->GetPutBackMenu());
+    m_popup = new SubtitlesPopup(m_panels->GetItemPanel(), *this);
+}
+
+void MainWindow::LayOut()
+{
+    constexpr QSize MINIMUM_SIZE(900, 600);
+    constexpr QSize FIRST_SIZE(1280, 800);
+    constexpr int MARGIN = 8;
+
+    auto* center = new QWidget(this);
+    auto* centerLayout = new QVBoxLayout(center);
+    centerLayout->setContentsMargins(0, 0, 0, 0);
+    centerLayout->addWidget(m_noticeBar);
+    centerLayout->addStretch(1);
+
+    auto* side = new SubtitlesSide(m_panels->GetEditingPanel(), this);
+
+    m_splitter = new QSplitter(Qt::Horizontal, this);
+    m_splitter->setObjectName(QStringLiteral("mainSplitter"));
+    m_splitter->setChildrenCollapsible(false);
+    m_splitter->setContentsMargins(MARGIN, MARGIN, MARGIN, MARGIN);
+    for (QWidget* part : {static_cast<QWidget*>(m_filmPane), center, static_cast<QWidget*>(side)})
+        m_splitter->addWidget(part);
+    m_splitter->setStretchFactor(1, 1);
+    m_splitter->setSizes({320, 620, 320});
+
+    auto* emptyPage = new EmptyPage(this);
+    connect(emptyPage, &QAbstractButton::clicked, m_fileActions, &FileActions::ChooseFilms);
+    m_pages = new QStackedWidget(this);
+    m_pages->addWidget(emptyPage);
+    m_pages->addWidget(m_splitter);
+    setCentralWidget(m_pages);
+    setMinimumSize(MINIMUM_SIZE);
+    resize(FIRST_SIZE);
+}
+
+void MainWindow::ConnectFilms()
+{
+    auto const showPage = [this] { m_pages->setCurrentIndex(m_program.films.rowCount() == 0 ? 0 : 1); };
+    connect(&m_program.films, &QAbstractItemModel::rowsInserted, this, showPage);
+    connect(&m_program.films, &QAbstractItemModel::rowsRemoved, this, showPage);
+    showPage();
+    connect(m_filmPane, &FilmListPane::CurrentFilmChanged, this, &MainWindow::ShowFilm);
+    connect(&m_program.films, &FilmList::FilmChanged, this, &MainWindow::EnablePanel);
+    connect(m_filmPane, &FilmListPane::SubtitlesRequested, this, &MainWindow::ShowSubtitles);
+    connect(m_filmPane, &FilmListPane::MenuRequested, this,
+            [this](Film*, QPoint const& place) { m_menu->GetFilmMenu()->popup(place); });
+    connect(m_control, &ConversionControl::ProblemFound, m_filmPane, &FilmListPane::SelectFilm);
+    connect(m_notices, &Notices::ConvertRequested, this,
+            [this](FilmId id)
+            {
+                if (Film* film = m_program.films.Find(id))
+                    m_control->Convert({film});
+            });
+    connect(new DropTarget(this), &DropTarget::Dropped, this, &MainWindow::AddFiles);
+}
+
+void MainWindow::ConnectHelp()
+{
+    connect(m_actions->Get(ActionId::Quit), &QAction::triggered, this, &QWidget::close);
+    connect(m_actions->Get(ActionId::ShowShortcuts), &QAction::triggered, this,
+            [this] { ShortcutsDialog(*m_actions, this).exec(); });
+    connect(m_actions->Get(ActionId::ShowAbout), &QAction::triggered, this, [this] { AboutDialog(this).exec(); });
+}
+
+void MainWindow::AddFiles(std::vector<ioPath> const& paths)
+{
+    m_fileActions->Take(paths);
+}
+
+void MainWindow::ShowFilm(Film* film)
+{
+    if (film != nullptr)
+        film->ShowInPanels();
+    EnablePanel();
+    m_notices->ShowFilm(film);
+}
+
+void MainWindow::EnablePanel()
+{
+    Film const* film = m_filmPane->GetCurrentFilm();
+    m_panels->GetEditingPanel().setEnabled(film != nullptr && film->GetState() == FilmState::Ready);
+}
+
+void MainWindow::ShowSubtitles(Film* film, QRect const& button)
+{
+    m_filmPane->SelectFilm(film->GetId());
+    m_popup->Open(button);
+}
+
+void MainWindow::Retranslate()
+{
+    setWindowTitle(QStringLiteral("Korvex Subtitles"));
+    m_actions->Retranslate();
+    m_menu->Retranslate();
+    m_notices->Retranslate();
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        Retranslate();
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(m_control->ConfirmClose(this));
+}
+
+} // namespace Korvex::Desktop

@@ -1,0 +1,43 @@
+#include "Desktop/SubtitlesSide.h"
+
+#include <QEvent>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace Korvex::Desktop
+{
+
+SubtitlesSide::SubtitlesSide(QWidget& editingPanel, QWidget* parent) : KFrame(parent), m_scroll(new QScrollArea(this))
+{
+    setObjectName(QStringLiteral("subtitlesSide"));
+    auto* column = new QWidget;
+    column->setObjectName(QStringLiteral("subtitlesColumn"));
+    auto* columnLayout = new QVBoxLayout(column);
+    columnLayout->setContentsMargins(0, 0, 0, 0);
+    columnLayout->addWidget(&editingPanel);
+    columnLayout->addStretch(1);
+
+    m_scroll->setObjectName(QStringLiteral("subtitlesScroll"));
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setWidget(column);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_scroll);
+    column->installEventFilter(this);
+}
+
+SubtitlesSide::~SubtitlesSide() = default;
+
+bool SubtitlesSide::eventFilter(QObject* watched, QEvent* event)
+{
+    // The column scrolls up and down alone, so it sets how narrow this side can become.
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Polish)
+        m_scroll->setMinimumWidth(m_scroll->widget()->minimumSizeHint().width() +
+                                  m_scroll->verticalScrollBar()->sizeHint().width());
+    return KFrame::eventFilter(watched, event);
+}
+
+} // namespace Korvex::Desktop
