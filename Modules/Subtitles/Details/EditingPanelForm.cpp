@@ -25,8 +25,8 @@ namespace
 
 constexpr int PANEL_MARGIN = 16;
 constexpr int GROUP_SPACING = 8;
-constexpr int FONT_NAME_WIDTH = 120;
-constexpr int SMALLEST_BOX_WIDTH = 120;
+constexpr int FONT_NAME_WIDTH = 96;
+constexpr int HELP_BUTTON_SIZE = 28;
 
 template <typename Widget>
 Widget* Make(char const* objectName)
@@ -92,6 +92,7 @@ EditingPanel::Form::Form(EditingPanel& owner)
     Util::ApplyWidgetStyle(outputSubsInfoButton, QStringLiteral("helpButton"), "styleHint");
     Util::ApplyWidgetStyle(addSubtitlesButton, QStringLiteral("accentColorComboBoxButton"), "styleHint");
     Util::ApplyWidgetStyle(selectFontButton, QStringLiteral("selectFont"), "styleHint");
+    outputSubsInfoButton->setFixedSize(HELP_BUTTON_SIZE, HELP_BUTTON_SIZE);
     SetRanges();
 }
 
@@ -154,12 +155,6 @@ void EditingPanel::Form::Arrange()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(main.frame);
 
-    // The boxes' widest texts decide what they want, not what they need.
-    for (KComboBox* box : {encodingComboBox, alignComboBox})
-    {
-        box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        box->setMinimumWidth(SMALLEST_BOX_WIDTH);
-    }
     MakeCaption(*selectTrackLabel, *selectSubtitlesTrackButton);
     MakeCaption(*encodingLabel, *encodingComboBox);
     MakeCaption(*alignLabel, *alignComboBox);
@@ -221,11 +216,11 @@ void EditingPanel::Form::Describe()
 
 void EditingPanel::Form::ShowFont()
 {
-    QString const name =
-        font.pointSize() > 0 ? QStringLiteral("%1, %2").arg(font.family()).arg(font.pointSize()) : font.family();
-    selectFontButton->setText(GUI::ElideText(FONT_NAME_WIDTH, name, selectFontButton->font(), Qt::ElideMiddle));
-    selectFontButton->setToolTip(tr("Font: %1").arg(name));
-    selectFontButton->setAccessibleName(tr("Font: %1").arg(name));
+    QString const family = font.family();
+    QString const whole = font.pointSize() > 0 ? QStringLiteral("%1, %2").arg(family).arg(font.pointSize()) : family;
+    selectFontButton->setText(GUI::ElideText(FONT_NAME_WIDTH, family, selectFontButton->font(), Qt::ElideRight));
+    selectFontButton->setToolTip(tr("Font: %1").arg(whole));
+    selectFontButton->setAccessibleName(tr("Font: %1").arg(whole));
 }
 
 void EditingPanel::Form::ReleaseContent()

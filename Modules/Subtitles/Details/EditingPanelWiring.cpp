@@ -202,16 +202,16 @@ void EditingPanel::ShowPopup(QWidget& content, QString const& objectName, GUI::D
         delete m_form->popup;
     }
     content.setAttribute(Qt::WA_DontShowOnScreen, false);
-    content.setFixedWidth(anchor.width());
+    // As wide as the button, or wider where its words need it; long track names are shortened instead.
+    content.setMinimumWidth(anchor.width());
+    if (&content == m_form->trackList)
+        content.setMaximumWidth(anchor.width());
     m_form->popup = new GUI::ModalPopup(this);
     m_form->popup->SetPopup(&content);
     connect(m_form->popup, &GUI::ModalPopup::Closed, m_form->connections.get(),
             [this, button = &anchor]
             {
                 m_form->ReleaseContent();
-                // Also when the panel was hidden around it: an empty veil must not come back with the panel.
-                if (m_form->popup)
-                    m_form->popup->hide();
                 button->OnHideDropDown();
             });
     GUI::SetRoundedProperty(m_form->popup);

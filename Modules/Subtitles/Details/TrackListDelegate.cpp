@@ -2,12 +2,11 @@
 
 #include "Subtitles/Details/TrackListModel.h"
 
-#include "Gui/LookAndFeelManager.h"
+#include "Gui/Icons.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QHelpEvent>
-#include <QPainter>
 #include <QStyle>
 #include <QToolTip>
 
@@ -34,22 +33,12 @@ QRect GetButtonRect(QStyleOptionViewItem const& option)
     return QStyle::visualRect(option.direction, option.rect, {left, top, BUTTON_SIZE, BUTTON_SIZE});
 }
 
-void PaintTick(QPainter& painter, QRectF const& place, QColor const& color)
-{
-    QRectF const rect = place.adjusted(2, 3, -2, -3);
-    QPointF const corner(rect.left() + rect.width() * 0.35, rect.bottom());
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(color, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPolyline(QPolygonF({{rect.left(), rect.center().y()}, corner, rect.topRight()}));
-    painter.restore();
-}
-
 } // namespace
 
 TrackListDelegate::TrackListDelegate(TrackListModel const& model, QObject* parent)
     : QStyledItemDelegate(parent),
-      m_model(model)
+      m_model(model),
+      m_tick(GUI::MakeIcon(GUI::IconKind::Check, GUI::ColorRole::Accent))
 {
 }
 
@@ -59,6 +48,8 @@ void TrackListDelegate::initStyleOption(QStyleOptionViewItem* option, QModelInde
     QStyledItemDelegate::initStyleOption(option, index);
     option->features |= QStyleOptionViewItem::HasDecoration;
     option->decorationSize = {TICK_SIZE, TICK_SIZE};
+    if (index.row() == m_model.GetChosenRow())
+        option->icon = m_tick;
 }
 
 int TrackListDelegate::GetTextWidth(QStyleOptionViewItem const& row, QModelIndex const& index) const
@@ -76,9 +67,6 @@ void TrackListDelegate::paint(QPainter* painter, QStyleOptionViewItem const& opt
     QStyle const& style = GetStyle(row);
     row.text = row.fontMetrics.elidedText(row.text, Qt::ElideMiddle, GetTextWidth(row, index));
     style.drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
-    if (index.row() == m_model.GetChosenRow())
-        PaintTick(*painter, style.subElementRect(QStyle::SE_ItemViewItemDecoration, &row, row.widget),
-                  GUI::GetColor(GUI::ColorRole::Accent));
 }
 
 /// No wider than the list is: a wider row would scroll its button out of sight.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QStyledItemDelegate>
 
 namespace Korvex::Converter::Subtitles::Details
@@ -33,6 +34,7 @@ private:
     [[nodiscard]] int GetTextWidth(QStyleOptionViewItem const& row, QModelIndex const& index) const;
 
     TrackListModel const& m_model;
+    QIcon const m_tick;
 };
 
 } // namespace Korvex::Converter::Subtitles::Details

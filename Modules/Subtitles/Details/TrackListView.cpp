@@ -3,11 +3,10 @@
 #include "Subtitles/Details/TrackListDelegate.h"
 #include "Subtitles/Details/TrackListModel.h"
 
-#include "Gui/LookAndFeelManager.h"
+#include "Gui/Icons.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QToolButton>
 
 namespace Korvex::Converter::Subtitles::Details
@@ -19,32 +18,6 @@ namespace
 constexpr int VISIBLE_ROWS = 10;
 constexpr int SMALLEST_WIDTH = 160;
 constexpr int LARGEST_WIDTH = 400;
-
-/// An arrow into a tray, in the colour of the text.
-class ExtractButton final : public QToolButton
-{
-public:
-    explicit ExtractButton(QWidget* parent) : QToolButton(parent)
-    {
-        setObjectName(QStringLiteral("extractButton"));
-        setAutoRaise(true);
-        setFocusPolicy(Qt::NoFocus); // the list has a key for it
-    }
-
-protected:
-    void paintEvent(QPaintEvent* event) override
-    {
-        QToolButton::paintEvent(event);
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(GUI::GetColor(underMouse() ? GUI::ColorRole::Text : GUI::ColorRole::DimText), 1.5,
-                            Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter.translate(QRectF(rect()).center());
-        painter.drawLine(QPointF(0, -6), QPointF(0, 2));
-        painter.drawPolyline(QPolygonF{{{-3, -1}, {0, 2}, {3, -1}}});
-        painter.drawPolyline(QPolygonF{{{-6, 2}, {-6, 6}, {6, 6}, {6, 2}}});
-    }
-};
 
 } // namespace
 
@@ -111,7 +84,11 @@ void TrackListView::rowsInserted(QModelIndex const& parent, int first, int last)
 
 void TrackListView::AddButton(QModelIndex const& index)
 {
-    auto* const button = new ExtractButton(viewport());
+    auto* const button = new QToolButton(viewport());
+    button->setObjectName(QStringLiteral("extractButton"));
+    button->setIcon(GUI::MakeIcon(GUI::IconKind::Extract, GUI::ColorRole::DimText));
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::NoFocus); // the list has a key for it
     setIndexWidget(index, button);
     DescribeButton(index);
     connect(button, &QToolButton::clicked, this,
