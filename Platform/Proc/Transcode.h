@@ -77,9 +77,16 @@ public:
     virtual void Wait() = 0;
 };
 
-/// Checks everything that can be known before the first frame: both paths, the container, each track against the
-/// container, encoders.
+/// When a job looks at its input, which takes as long as the disk does.
+enum class TranscodeChecks
+{
+    Now,         ///< while it is made, so that what cannot work is refused
+    WhenStarted, ///< on its own thread, so that its maker waits for nothing; refusals come as the report
+};
+
+/// Checks the output's place at once, and then or when it is started everything that can be known before the first
+/// frame: the input, the container, each track against the container, encoders.
 [[nodiscard]] KORVEX_PLATFORM_API Core::Result<boost::intrusive_ptr<ITranscodeJob>>
-MakeTranscodeJob(SettingsTranscode const& settings);
+MakeTranscodeJob(SettingsTranscode const& settings, TranscodeChecks checks = TranscodeChecks::Now);
 
 } // namespace Korvex::Proc

@@ -70,7 +70,8 @@ public:
     /// Announces a film to the observers.
     virtual void AddMediaItem(MediaItem const& item) = 0;
 
-    /// Checks the request and starts it. The observer is not owned; it has to live until `OnConversionFinished` or
+    /// Checks the output's place and starts the conversion; never waits for the input, so that whatever else stands in
+    /// the way comes with the report. The observer is not owned; it has to live until `OnConversionFinished` or
     /// `DropConversion`.
     virtual Core::Result<ConversionId> StartConversion(ConversionRequest const& request,
                                                        IConversionObserver& observer) = 0;

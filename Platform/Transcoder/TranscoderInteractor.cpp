@@ -218,7 +218,8 @@ private:
 };
 
 TranscoderInteractor::TranscoderInteractor()
-    : TranscoderInteractor([](Proc::SettingsTranscode const& settings) { return Proc::MakeTranscodeJob(settings); })
+    : TranscoderInteractor([](Proc::SettingsTranscode const& settings)
+                           { return Proc::MakeTranscodeJob(settings, Proc::TranscodeChecks::WhenStarted); })
 {
 }
 

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <atomic>
 #include <condition_variable>
+#include <exception>
 #include <mutex>
 #include <optional>
 #include <thread>
@@ -85,130 +86,6 @@ private:
     TranscodeProgress m_progress;
 };
 
-/// Everything that the job's thread needs. It outlives the job object, which may go inside `OnFinished`.
-class JobState
-{
-public:
-    JobState(SettingsTranscode settings, std::unique_ptr<JobControl> jobControl, InputFile input, StreamMap plan)
-        : control(std::move(jobControl)),
-          m_settings(std::move(settings)),
-          m_input(std::move(input)),
-          m_plan(std::move(plan))
-    {
-    }
-
-    void Cancel() { control->Fail(MakeError(Core::ErrorCode::Cancelled, m_settings.input)); }
-
-    /// True inside the calls of the observer. The thread says so itself: at its first call whoever started it may not
-    /// know its id yet.
-    [[nodiscard]] bool IsOwnThread() const { return m_runner == std::this_thread::get_id(); }
-
-    void Run(ITranscodeObserver& observer)
-    {
-        m_runner = std::this_thread::get_id();
-        ProgressMeter meter(PlayingTime(m_input->Context()), observer, control->Gate());
-        TranscodeReport report;
-        // The stated duration may be far off.
-        bool isEstimate = m_input->Context().duration_estimation_method == AVFMT_DURATION_FROM_BITRATE;
-        {
-            Conversion conversion(m_settings, *m_input, m_plan, *control);
-            report.error = conversion.Run([&](std::chrono::microseconds time) { meter.Advance(time); });
-            isEstimate = isEstimate || conversion.HasClosedJumps();
-        }
-        m_input.reset();
-        report.warnings = m_plan.warnings;
-        for (std::string& warning : control->TakeWarnings())
-            report.warnings.push_back(std::move(warning));
-        if (!report.error && !isEstimate)
-            WarnOfEarlyEnd(meter, report);
-        report.output = m_settings.output;
-        report.duration = meter.Done();
-        if (!report.error)
-            meter.Complete();
-        observer.OnFinished(report);
-    }
-
-    void MarkFinished()
-    {
-        {
-            std::lock_guard const lock(m_mutex);
-            m_isFinished = true;
-        }
-        m_finished.notify_all();
-    }
-
-    void WaitFinished()
-    {
-        std::unique_lock lock(m_mutex);
-        m_finished.wait(lock, [this] { return m_isFinished; });
-    }
-
-    std::unique_ptr<JobControl> const control;
-
-private:
-    /// A file that breaks off converts as far as it goes; nobody should take the result for the whole film.
-    void WarnOfEarlyEnd(ProgressMeter const& meter, TranscodeReport& report) const
-    {
-        std::chrono::microseconds const missing = meter.Total() - meter.Done();
-        if (missing < std::chrono::seconds(2) || missing < meter.Total() / 10)
-            return;
-        auto seconds = [](std::chrono::microseconds time)
-        { return std::to_string(std::chrono::duration_cast<std::chrono::seconds>(time).count()); };
-        report.warnings.push_back("\"" + m_settings.input.utf8string() + "\" ends after " + seconds(meter.Done()) +
-                                  " of " + seconds(meter.Total()) + " seconds, and so does the output.");
-    }
-
-    SettingsTranscode const m_settings;
-    std::optional<InputFile> m_input;
-    StreamMap m_plan;
-    std::atomic<std::thread::id> m_runner{};
-    std::mutex m_mutex;
-    std::condition_variable m_finished;
-    bool m_isFinished = false;
-};
-
-class TranscodeJob final : public ITranscodeJob
-{
-public:
-    explicit TranscodeJob(std::shared_ptr<JobState> state) : m_state(std::move(state)) {}
-
-    void Start(ITranscodeObserver& observer) override
-    {
-        m_thread = std::thread(
-            [state = m_state, &observer]
-            {
-                state->Run(observer);
-                state->MarkFinished();
-            });
-    }
-
-    void Cancel() override { m_state->Cancel(); }
-    void SetPaused(bool isPaused) override { m_state->control->Gate().SetPaused(isPaused); }
-
-    void Wait() override
-    {
-        if (!m_state->IsOwnThread() && m_thread.joinable())
-            m_state->WaitFinished();
-    }
-
-private:
-    ~TranscodeJob() override
-    {
-        if (!m_thread.joinable())
-            return;
-        if (m_state->IsOwnThread())
-        {
-            m_thread.detach(); // the last reference went inside OnFinished; the thread keeps what it needs
-            return;
-        }
-        m_state->Cancel();
-        m_thread.join();
-    }
-
-    std::shared_ptr<JobState> m_state;
-    std::thread m_thread;
-};
-
 std::vector<ioPath> InputsOf(SettingsTranscode const& settings)
 {
     std::vector<ioPath> inputs{settings.input};
@@ -246,24 +123,177 @@ Core::Status CheckMixer(SettingsTranscode const& settings, InputFile const& inpu
     return error;
 }
 
+/// Everything that the job's thread needs. It outlives the job object, which may go inside `OnFinished`.
+class JobState
+{
+public:
+    explicit JobState(SettingsTranscode settings) : m_settings(std::move(settings)) {}
+
+    /// Opens the input and plans the output, unless that was done before.
+    Core::Status Open()
+    {
+        if (m_input)
+            return Core::SUCCESS;
+        InputOptions options;
+        options.cancelled = &control.StopFlag();
+        Core::Result<InputFile> input = InputFile::Open(m_settings.input, options);
+        if (!input)
+            return input.GetError();
+        if (Core::Status failed = CheckMixer(m_settings, *input))
+            return failed;
+        Core::Result<StreamMap> plan = MakeStreamMap(m_settings, *input);
+        if (!plan)
+            return plan.GetError();
+        m_input = std::move(*input);
+        m_plan = std::move(*plan);
+        return Core::SUCCESS;
+    }
+
+    void Cancel() { control.Fail(MakeError(Core::ErrorCode::Cancelled, m_settings.input)); }
+
+    /// True inside the calls of the observer. The thread says so itself: at its first call whoever started it may not
+    /// know its id yet.
+    [[nodiscard]] bool IsOwnThread() const { return m_runner == std::this_thread::get_id(); }
+
+    void Run(ITranscodeObserver& observer)
+    {
+        m_runner = std::this_thread::get_id();
+        TranscodeReport report;
+        report.output = m_settings.output;
+        report.error = OpenGuarded();
+        if (!report.error)
+            Convert(observer, report);
+        observer.OnFinished(report);
+    }
+
+    void MarkFinished()
+    {
+        {
+            std::lock_guard const lock(m_mutex);
+            m_isFinished = true;
+        }
+        m_finished.notify_all();
+    }
+
+    void WaitFinished()
+    {
+        std::unique_lock lock(m_mutex);
+        m_finished.wait(lock, [this] { return m_isFinished; });
+    }
+
+    JobControl control;
+
+private:
+    /// On the job's thread, where nobody else would catch anything. A cancel has the say over what it led to.
+    Core::Status OpenGuarded()
+    {
+        Core::Status failed;
+        try
+        {
+            failed = Open();
+        }
+        catch (std::exception const& error)
+        {
+            failed = MakeError(Core::ErrorCode::Internal, m_settings.input, error.what());
+        }
+        return failed && control.IsStopped() ? control.GetError() : failed;
+    }
+
+    void Convert(ITranscodeObserver& observer, TranscodeReport& report)
+    {
+        ProgressMeter meter(PlayingTime(m_input->Context()), observer, control.Gate());
+        // The stated duration may be far off.
+        bool isEstimate = m_input->Context().duration_estimation_method == AVFMT_DURATION_FROM_BITRATE;
+        {
+            Conversion conversion(m_settings, *m_input, m_plan, control);
+            report.error = conversion.Run([&](std::chrono::microseconds time) { meter.Advance(time); });
+            isEstimate = isEstimate || conversion.HasClosedJumps();
+        }
+        m_input.reset();
+        report.warnings = m_plan.warnings;
+        for (std::string& warning : control.TakeWarnings())
+            report.warnings.push_back(std::move(warning));
+        if (!report.error && !isEstimate)
+            WarnOfEarlyEnd(meter, report);
+        report.duration = meter.Done();
+        if (!report.error)
+            meter.Complete();
+    }
+
+    /// A file that breaks off converts as far as it goes; nobody should take the result for the whole film.
+    void WarnOfEarlyEnd(ProgressMeter const& meter, TranscodeReport& report) const
+    {
+        std::chrono::microseconds const missing = meter.Total() - meter.Done();
+        if (missing < std::chrono::seconds(2) || missing < meter.Total() / 10)
+            return;
+        auto seconds = [](std::chrono::microseconds time)
+        { return std::to_string(std::chrono::duration_cast<std::chrono::seconds>(time).count()); };
+        report.warnings.push_back("\"" + m_settings.input.utf8string() + "\" ends after " + seconds(meter.Done()) +
+                                  " of " + seconds(meter.Total()) + " seconds, and so does the output.");
+    }
+
+    SettingsTranscode const m_settings;
+    std::optional<InputFile> m_input;
+    StreamMap m_plan;
+    std::atomic<std::thread::id> m_runner{};
+    std::mutex m_mutex;
+    std::condition_variable m_finished;
+    bool m_isFinished = false;
+};
+
+class TranscodeJob final : public ITranscodeJob
+{
+public:
+    explicit TranscodeJob(std::shared_ptr<JobState> state) : m_state(std::move(state)) {}
+
+    void Start(ITranscodeObserver& observer) override
+    {
+        m_thread = std::thread(
+            [state = m_state, &observer]
+            {
+                state->Run(observer);
+                state->MarkFinished();
+            });
+    }
+
+    void Cancel() override { m_state->Cancel(); }
+    void SetPaused(bool isPaused) override { m_state->control.Gate().SetPaused(isPaused); }
+
+    void Wait() override
+    {
+        if (!m_state->IsOwnThread() && m_thread.joinable())
+            m_state->WaitFinished();
+    }
+
+private:
+    ~TranscodeJob() override
+    {
+        if (!m_thread.joinable())
+            return;
+        if (m_state->IsOwnThread())
+        {
+            m_thread.detach(); // the last reference went inside OnFinished; the thread keeps what it needs
+            return;
+        }
+        m_state->Cancel();
+        m_thread.join();
+    }
+
+    std::shared_ptr<JobState> m_state;
+    std::thread m_thread;
+};
+
 } // namespace
 
-Core::Result<boost::intrusive_ptr<ITranscodeJob>> MakeTranscodeJob(SettingsTranscode const& settings)
+Core::Result<boost::intrusive_ptr<ITranscodeJob>> MakeTranscodeJob(SettingsTranscode const& settings,
+                                                                   TranscodeChecks checks)
 {
     if (Core::Status failed = Core::CheckOutput(settings.output, InputsOf(settings), settings.overwrite))
         return *failed;
-    auto control = std::make_unique<JobControl>();
-    InputOptions options;
-    options.cancelled = &control->StopFlag();
-    Core::Result<InputFile> input = InputFile::Open(settings.input, options);
-    if (!input)
-        return input.GetError();
-    if (Core::Status failed = CheckMixer(settings, *input))
+    auto state = std::make_shared<JobState>(settings);
+    Core::Status const failed = checks == TranscodeChecks::Now ? state->Open() : Core::SUCCESS;
+    if (failed)
         return *failed;
-    Core::Result<StreamMap> plan = MakeStreamMap(settings, *input);
-    if (!plan)
-        return plan.GetError();
-    auto state = std::make_shared<JobState>(settings, std::move(control), std::move(*input), std::move(*plan));
     return boost::intrusive_ptr<ITranscodeJob>(new TranscodeJob(std::move(state)));
 }
 

@@ -115,7 +115,8 @@ TEST(JobLifetimeTest, EveryEndIsReportedOnceAndLeavesAWholeFileOrNone)
     for (int round = 0; round < 72; ++round)
     {
         SCOPED_TRACE(round);
-        auto job = MakeTranscodeJob(round % 3 == 0 ? burn : soft);
+        auto job = MakeTranscodeJob(round % 3 == 0 ? burn : soft,
+                                    round % 2 == 0 ? TranscodeChecks::Now : TranscodeChecks::WhenStarted);
         ASSERT_TRUE(job) << Core::ToSentence(job.GetError());
         Listener listener;
         listener.ending = ENDINGS[static_cast<std::size_t>(round / 3) % ENDINGS.size()];
@@ -129,6 +130,26 @@ TEST(JobLifetimeTest, EveryEndIsReportedOnceAndLeavesAWholeFileOrNone)
         EXPECT_TRUE(!listener.error || listener.ending != Ending::Completed);
         Core::RemoveFile(output);
     }
+}
+
+TEST(JobLifetimeTest, WhatIsCheckedLateIsRefusedInTheReport)
+{
+    TemporaryFolder const folder;
+    auto settings = Testing::SoftSettings(folder / "gone.mkv", folder / "out.mkv", "matroska", {});
+    EXPECT_EQ(MakeTranscodeJob(settings).GetError().code, Core::ErrorCode::FileNotFound);
+    auto job = MakeTranscodeJob(settings, TranscodeChecks::WhenStarted);
+    ASSERT_TRUE(job);
+    Listener listener;
+    (*job)->Start(listener);
+    (*job)->Wait();
+    EXPECT_EQ(listener.count, 1);
+    ASSERT_TRUE(listener.error);
+    EXPECT_EQ(listener.error->code, Core::ErrorCode::FileNotFound);
+    EXPECT_TRUE(Core::ListFolder(folder.Path()).empty());
+
+    settings.output = folder / "no folder/out.mkv";
+    EXPECT_EQ(MakeTranscodeJob(settings, TranscodeChecks::WhenStarted).GetError().code,
+              Core::ErrorCode::OutputFolderMissing);
 }
 
 } // namespace
