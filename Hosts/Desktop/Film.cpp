@@ -345,6 +345,11 @@ std::vector<SubtitleTrack> Film::ListLeftOut() const
     return m_impl->subtitles.ListLeftOut();
 }
 
+std::map<SubtitleTrackID, SubtitleTrack> const& Film::ListFoundBeside() const
+{
+    return m_impl->subtitles.ListFoundBeside();
+}
+
 FilmChoice Film::GetChoice() const
 {
     return m_impl->GetChoice();

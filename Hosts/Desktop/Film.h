@@ -87,6 +87,10 @@ public:
     /// It was read and nothing stands in the way.
     [[nodiscard]] bool IsConvertible() const;
     [[nodiscard]] std::vector<Converter::Subtitles::Entities::SubtitleTrack> ListLeftOut() const;
+    /// The files that were found beside it, as they were found.
+    [[nodiscard]] std::map<Converter::Subtitles::Entities::SubtitleTrackID,
+                           Converter::Subtitles::Entities::SubtitleTrack> const&
+    ListFoundBeside() const;
 
     /// What was decided; also of a film that is not there at the moment.
     [[nodiscard]] FilmChoice GetChoice() const;

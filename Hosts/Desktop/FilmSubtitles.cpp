@@ -97,6 +97,10 @@ void FilmSubtitles::Open(Proc::MediaInfo const& media, FilmChoice const& choice)
         (choice.leftOut.count(id) > 0 ? m_leftOut : tracks).emplace(id, track);
     m_interactor->AddTrackList(tracks);
     m_services.GetTranscoder().AddMediaItem(MediaItem{media.path, static_cast<std::uint32_t>(fresh.collectionId)});
+    m_foundBeside.clear();
+    for (auto const& [id, track] : m_interactor->GetSubtitleCollection().tracks)
+        if (track.isExternal)
+            m_foundBeside.emplace(id, track);
     for (ioPath const& file : choice.files)
         if (!IsListed(file))
             m_interactor->AddSubtitles(file);

@@ -61,6 +61,8 @@ public:
     [[nodiscard]] Collection GetCollection() const;
     [[nodiscard]] FilmChoice GetChoice() const;
     [[nodiscard]] std::vector<Track> ListLeftOut() const;
+    /// The files that were found beside the film, as they were found.
+    [[nodiscard]] std::map<TrackID, Track> const& ListFoundBeside() const { return m_foundBeside; }
     [[nodiscard]] TrackProperties GetProperties(TrackID const& id) const;
 
     void AddFiles(std::vector<ioPath> const& paths);
@@ -106,6 +108,7 @@ private:
     std::vector<std::string> m_allowedCodecIds;
     std::map<TrackID, std::string> m_sourceCodecs;
     std::map<TrackID, Track> m_ownTracks; ///< as the film has them
+    std::map<TrackID, Track> m_foundBeside;
     std::map<TrackID, Track> m_leftOut;
     std::set<TrackID> m_removedFiles;
     std::optional<std::set<TrackID>> m_defaultTracks; ///< not set: as in the film
