@@ -239,11 +239,11 @@ TEST_F(ExportTest, ACancelEndsTheReadingAtAnyMomentAndLeavesNoFile)
 {
     MadeMedia media;
     media.audios.resize(1);
-    media.audios[0].duration = std::chrono::minutes(10);
+    media.audios[0].duration = std::chrono::minutes(3);
     media.audios[0].sampleRate = 8000;
     media.subtitles.resize(2);
     media.subtitles[1].codecId = "hdmv_pgs_subtitle";
-    for (int second = 0; second < 599; ++second)
+    for (int second = 0; second < 179; ++second)
     {
         MadeCue cue = Testing::MakeBoxCues().front();
         cue.text = "Cue";
