@@ -306,12 +306,15 @@ private:
         dialog->open();
     }
 
+    /// By its name, which is the end of a path and would be the first thing to be cut off.
     void ShowFolder()
     {
-        QString const place =
-            m_settings.folder ? QDir::toNativeSeparators(ToText(m_settings.folder->utf8string())) : m_beside->text();
-        m_folder->SetButtonText(place);
-        m_folder->setAccessibleName(OutputBar::tr("Output folder: %1").arg(place));
+        QString const path =
+            m_settings.folder ? QDir::toNativeSeparators(ToText(m_settings.folder->utf8string())) : QString();
+        QString const name = m_settings.folder ? ToText(m_settings.folder->FileName()) : m_beside->text();
+        m_folder->SetButtonText(name.isEmpty() ? path : name);
+        m_folder->setToolTip(path);
+        m_folder->setAccessibleName(OutputBar::tr("Output folder: %1").arg(path.isEmpty() ? name : path));
         m_beside->setChecked(!m_settings.folder);
     }
 

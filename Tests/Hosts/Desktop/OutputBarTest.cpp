@@ -105,6 +105,13 @@ TEST_F(OutputBarTest, FitsANarrowWindowInGermanAndInBothThemes)
                         << child->objectName().toStdString();
                 }
                 Testing::SaveScreenshot(m_bar, "output-bar-" + theme);
+                OutputSettings elsewhere;
+                elsewhere.folder = ioPath("/home/somebody/Films/Converted for the living room & the train");
+                m_bar.ShowSettings(elsewhere);
+                m_bar.ShowConversion(std::nullopt);
+                QApplication::processEvents();
+                EXPECT_EQ(m_bar.width(), 900) << "a long path widens it";
+                Testing::SaveScreenshot(m_bar, "output-bar-idle-" + theme);
             });
     }
     QApplication::processEvents();
