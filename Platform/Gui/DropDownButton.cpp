@@ -1,13 +1,13 @@
 #include "Gui/DropDownButton.h"
 
 #include "Gui/Icons.h"
+#include "Gui/Style/WholeTextTip.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <QStylePainter>
-#include <QToolTip>
 
 namespace Korvex::GUI
 {
@@ -96,14 +96,11 @@ void DropDownButton::paintEvent(QPaintEvent* /*event*/)
 
 bool DropDownButton::event(QEvent* event)
 {
-    if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && MakeShortText() != text())
-    {
-        QString whole = text();
-        whole.replace(QLatin1String("&&"), QLatin1String("&"));
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), whole.toHtmlEscaped(), this);
-        return true;
-    }
-    return QPushButton::event(event);
+    if (event->type() != QEvent::ToolTip)
+        return QPushButton::event(event);
+    auto const readable = [](QString caption) { return caption.replace(QLatin1String("&&"), QLatin1String("&")); };
+    return ShowWholeText(*this, *static_cast<QHelpEvent*>(event), readable(MakeShortText()), readable(text())) ||
+           QPushButton::event(event);
 }
 
 void DropDownButton::keyPressEvent(QKeyEvent* event)

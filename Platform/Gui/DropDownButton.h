@@ -34,6 +34,7 @@ private:
     void SetOpen(bool isOpen);
     /// Where the caption stands, without the arrow.
     [[nodiscard]] QRect FindTextPlace() const;
+    /// Of the caption as it is written, ampersands doubled.
     [[nodiscard]] QString MakeShortText() const;
 
     bool m_isOpen = false;

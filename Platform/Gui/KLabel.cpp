@@ -1,11 +1,12 @@
 #include "Gui/KLabel.h"
 
+#include "Gui/Style/WholeTextTip.h"
+
 #include <QHelpEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QTextDocument>
-#include <QToolTip>
 
 namespace
 {
@@ -58,12 +59,9 @@ QString KLabel::MakeShortText() const
 
 bool KLabel::event(QEvent* event)
 {
-    if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && IsOneLine() && MakeShortText() != text())
-    {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text().toHtmlEscaped(), this);
-        return true;
-    }
-    return QLabel::event(event);
+    bool const isTold = event->type() == QEvent::ToolTip && IsOneLine() &&
+                        Korvex::GUI::ShowWholeText(*this, *static_cast<QHelpEvent*>(event), MakeShortText(), text());
+    return isTold || QLabel::event(event);
 }
 
 void KLabel::paintEvent(QPaintEvent* event)

@@ -2,12 +2,11 @@
 
 #include "Gui/ComboBoxButton.h"
 
-#include <QHelpEvent>
 #include <QSignalSpy>
 #include <QTest>
-#include <QToolTip>
 
 using Korvex::GUI::ComboBoxButton;
+using Korvex::Testing::AskForToolTip;
 using Korvex::Testing::ShowAndWait;
 
 TEST(DropDownButtonTest, OpensByClickAndByEveryKeyOfAComboBox)
@@ -43,18 +42,10 @@ TEST(DropDownButtonTest, ShortensALongCaptionAndTellsItInTheToolTip)
     EXPECT_LT(button.minimumSizeHint().width(), 120);
     EXPECT_GT(button.sizeHint().width(), button.fontMetrics().horizontalAdvance(caption));
     EXPECT_TRUE(button.shortcut().isEmpty()); // the ampersand is text
-    auto const askForToolTip = [&button]
-    {
-        QToolTip::hideText();
-        QHelpEvent event(QEvent::ToolTip, QPoint(5, 5), button.mapToGlobal(QPoint(5, 5)));
-        QCoreApplication::sendEvent(&button, &event);
-        return QToolTip::text();
-    };
     button.resize(button.sizeHint());
     ShowAndWait(button);
-    EXPECT_EQ(askForToolTip(), QString());
+    EXPECT_EQ(AskForToolTip(button), QString());
     button.resize(button.minimumSizeHint());
-    EXPECT_EQ(askForToolTip(), caption.toHtmlEscaped());
-    QToolTip::hideText();
+    EXPECT_EQ(AskForToolTip(button), caption.toHtmlEscaped());
     EXPECT_EQ(button.GetButtonText(), caption);
 }

@@ -21,6 +21,7 @@
 using namespace Korvex;
 using GUI::ColorRole;
 using GUI::IconKind;
+using Korvex::Testing::AskForToolTip;
 using Korvex::Testing::ForEachTheme;
 using Korvex::Testing::ShowAndWait;
 
@@ -199,6 +200,9 @@ TEST(LookTest, LabelsAndBoxesGetNarrowWithoutLosingTheirText)
     label.SetElideMode(Qt::ElideLeft);
     EXPECT_NE(label.grab().toImage(), shortened);
     EXPECT_EQ(label.text(), text);
+    EXPECT_EQ(AskForToolTip(label), text);
+    label.setFixedWidth(label.sizeHint().width());
+    EXPECT_EQ(AskForToolTip(label), QString());
 
     KComboBox* const box = MakeComboBox();
     box->addItem(text);
@@ -208,6 +212,12 @@ TEST(LookTest, LabelsAndBoxesGetNarrowWithoutLosingTheirText)
     box->setFixedWidth(box->minimumSizeHint().width());
     ShowAndWait(window);
     EXPECT_LT(box->width(), box->fontMetrics().horizontalAdvance(text));
+    box->setCurrentText(QStringLiteral("Cyrillic"));
+    EXPECT_EQ(AskForToolTip(*box), QString());
+    box->setCurrentText(text);
+    EXPECT_EQ(AskForToolTip(*box), text);
+    box->setItemData(box->currentIndex(), QStringLiteral("Tip"), Qt::ToolTipRole);
+    EXPECT_EQ(AskForToolTip(*box), QStringLiteral("Tip"));
     box->showPopup();
     QCoreApplication::processEvents();
     EXPECT_GE(box->view()->viewport()->width(), box->fontMetrics().horizontalAdvance(text));

@@ -21,6 +21,9 @@ void ForEachTheme(std::function<void(QString const& themeName)> const& body);
 /// Shows the widget, lets it lay itself out and handles what is queued. Fails the test when it does not come up.
 void ShowAndWait(QWidget& widget);
 
+/// What the widget says when the mouse rests on its top-left corner; empty for nothing.
+[[nodiscard]] QString AskForToolTip(QWidget& widget);
+
 /// Keeps a picture of the widget for looking at, as <name>.png in the folder that the environment variable
 /// KORVEX_SCREENSHOTS names; does nothing without it.
 void SaveScreenshot(QWidget& widget, QString const& name);

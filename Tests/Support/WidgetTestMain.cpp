@@ -4,7 +4,9 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QHelpEvent>
 #include <QTest>
+#include <QToolTip>
 #include <QWidget>
 
 #include <gmock/gmock.h>
@@ -46,6 +48,20 @@ void ShowAndWait(QWidget& widget)
     widget.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&widget));
     QCoreApplication::processEvents();
+}
+
+QString AskForToolTip(QWidget& widget)
+{
+    QPoint const corner(2, 2);
+    QHelpEvent event(QEvent::ToolTip, corner, widget.mapToGlobal(corner));
+    QCoreApplication::sendEvent(&widget, &event);
+    QString const text = QToolTip::isVisible() ? QToolTip::text() : QString();
+    QToolTip::hideText();
+    // The tip fades out; without this the next question would still see it.
+    for (QWidget* const window : QApplication::topLevelWidgets())
+        if (window->windowType() == Qt::ToolTip)
+            window->hide();
+    return text;
 }
 
 void SaveScreenshot(QWidget& widget, QString const& name)
