@@ -43,14 +43,14 @@ public:
 
     void Retranslate()
     {
-        m_panel.setAccessibleName(tr("Subtitles of this film"));
-        m_header->setText(tr("Choose subtitles"));
-        m_addLabel->setText(tr("Add subtitles"));
-        m_choose->setText(tr("Choose file"));
-        m_find->setText(tr("Find file"));
-        m_applyToAll->setText(tr("Apply to all files"));
-        m_applyToAll->setToolTip(tr("Makes the same choice for every film of the list"));
-        m_done->setText(tr("Done"));
+        m_panel.setAccessibleName(ItemPanel::tr("Subtitles of this film"));
+        m_header->setText(ItemPanel::tr("Choose subtitles"));
+        m_addLabel->setText(ItemPanel::tr("Add subtitles"));
+        m_choose->setText(ItemPanel::tr("Choose file"));
+        m_find->setText(ItemPanel::tr("Find file"));
+        m_applyToAll->setText(ItemPanel::tr("Apply to all files"));
+        m_applyToAll->setToolTip(ItemPanel::tr("Makes the same choice for every film of the list"));
+        m_done->setText(ItemPanel::tr("Done"));
     }
 
 private:
