@@ -4,6 +4,7 @@
 #include "Desktop/ConversionSetup.h"
 #include "Desktop/ConversionTexts.h"
 #include "Desktop/ConversionTotals.h"
+#include "Desktop/FilmWords.h"
 #include "Desktop/TrackPreparation.h"
 
 #include "Common/HostServices.h"
@@ -204,8 +205,9 @@ private:
             return Convert(item);
 
         Hosts::SoftPlan plan = Hosts::MakeSoftPlan(m_services, job.media, job.collection, job.preset.formatId);
-        if (!plan.problems.empty())
-            return DescribeProblem(plan.problems.front(), job.media.path, job.preset.formatId);
+        auto const problems = FilmWords::ListProblems(job.collection, plan, {});
+        if (!problems.empty())
+            return QStringLiteral("\"%1\": %2").arg(ToText(job.media.path.FileName()), problems.front().sentence);
         if (plan.rewrites.empty())
             return Convert(item);
         item.status.state = ConversionState::Preparing;
