@@ -62,8 +62,8 @@ QRect DropDownButton::FindTextPlace() const
     QStyleOptionButton option;
     initStyleOption(&option);
     QRect place = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
-    place.setWidth(qMax(0, place.width() - GAP - ARROW_SIDE));
-    return QStyle::visualRect(layoutDirection(), rect(), place);
+    int const arrow = GAP + ARROW_SIDE;
+    return isRightToLeft() ? place.adjusted(arrow, 0, 0, 0) : place.adjusted(0, 0, -arrow, 0);
 }
 
 QString DropDownButton::MakeShortText() const

@@ -5,6 +5,7 @@
 #include <QColorDialog>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTranslator>
 
 using Korvex::GUI::ColorPickerButton;
 using Korvex::Testing::ForEachTheme;
@@ -17,6 +18,16 @@ QColorDialog* FindDialog(ColorPickerButton const& button)
 {
     return button.findChild<QColorDialog*>();
 }
+
+class GermanTranslator final : public QTranslator
+{
+public:
+    QString translate(char const* /*context*/, char const* text, char const* /*comment*/, int /*n*/) const override
+    {
+        return qstrcmp(text, "Color %1") == 0 ? QStringLiteral("Farbe %1") : QString();
+    }
+    [[nodiscard]] bool isEmpty() const override { return false; }
+};
 
 QList<QColor> ListColors(QSignalSpy const& spy)
 {
@@ -40,6 +51,11 @@ TEST(ColorPickerButtonTest, TellsItsColorInWords)
     button.SetCaption(QStringLiteral("Text & outline"));
     EXPECT_EQ(button.accessibleName(), QStringLiteral("Text & outline: #12abef"));
     EXPECT_EQ(button.toolTip(), QStringLiteral("Text &amp; outline: #12abef"));
+    button.SetCaption({});
+    GermanTranslator german;
+    QCoreApplication::installTranslator(&german);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(button.accessibleName(), QStringLiteral("Farbe #12abef"));
 }
 
 TEST(ColorPickerButtonTest, ReportsColorsWhileTheDialogIsOpenAndGoesBackOnCancel)

@@ -5,8 +5,14 @@
 #include <QString>
 
 #include <functional>
+#include <iosfwd>
 
 class QWidget;
+
+QT_BEGIN_NAMESPACE
+/// Lets GoogleTest print what differs in words.
+void PrintTo(QString const& text, std::ostream* stream);
+QT_END_NAMESPACE
 
 /// For test programs made by `korvex_add_widget_test`: they have a QApplication and the host's look (light at first).
 namespace Korvex::Testing

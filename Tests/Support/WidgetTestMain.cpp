@@ -13,6 +13,14 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <ostream>
+
+QT_BEGIN_NAMESPACE
+void PrintTo(QString const& text, std::ostream* stream)
+{
+    *stream << '"' << text.toStdString() << '"';
+}
+QT_END_NAMESPACE
 
 namespace
 {
