@@ -1,6 +1,9 @@
 #include "Desktop/FilmActions.h"
 
 #include "Desktop/Actions.h"
+#include "Desktop/ApplyReportDialog.h"
+#include "Desktop/ApplyToAll.h"
+#include "Desktop/CommandLineText.h"
 #include "Desktop/ConversionControl.h"
 #include "Desktop/ConversionQueue.h"
 #include "Desktop/FilmList.h"
@@ -11,6 +14,8 @@
 #include "Subtitles/Entities/SubtitleTrack.h"
 
 #include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
@@ -52,9 +57,12 @@ void FilmActions::Connect()
     on(ActionId::ApplyToAll,
        [this]
        {
-           if (Film* film = m_parts.pane.GetCurrentFilm())
-               Q_EMIT ApplyToAllRequested(film->GetId());
+           if (Film const* film = m_parts.pane.GetCurrentFilm())
+               ApplyChoiceToAll(film->GetId());
        });
+    on(ActionId::CopyCommand, [this] { CopyCommand(); });
+    // Queued: it comes from a button inside the popup, which closes first.
+    connect(&m_parts.films, &FilmList::ApplyToAllRequested, this, &FilmActions::ApplyChoiceToAll, Qt::QueuedConnection);
     connect(m_parts.actions.Get(ActionId::Pause), &QAction::toggled, &m_parts.queue, &ConversionQueue::SetPaused);
     connect(&pane, &FilmListPane::RevealRequested, this, &FilmActions::Reveal);
 
@@ -79,7 +87,7 @@ void FilmActions::UpdateEnabled()
     enable(ActionId::AddSubtitles, film != nullptr);
     enable(ActionId::ChooseSubtitles, isReady);
     enable(ActionId::ApplyToAll, isReady && m_parts.films.rowCount() > 1);
-    enable(ActionId::CopyCommand, false);
+    enable(ActionId::CopyCommand, isReady);
     enable(ActionId::RevealOutput, status && status->state == ConversionState::Done);
     enable(ActionId::RemoveFilms, !selected.empty());
     enable(ActionId::PreviousFilm, film != nullptr);
@@ -132,6 +140,27 @@ void FilmActions::Reveal(Film* film)
         return;
     m_parts.notices.AddNews(Mark::Warning, tr("No file manager could be started: the film is \"%1\".")
                                                .arg(QString::fromStdString(status->output.utf8string())));
+}
+
+void FilmActions::ApplyChoiceToAll(FilmId id)
+{
+    Film const* film = m_parts.films.Find(id);
+    if (film == nullptr || m_parts.films.rowCount() < 2)
+        return;
+    QString const name = QString::fromStdString(film->GetPath().FileName());
+    ApplyReportDialog(name, ApplyToAll(m_parts.films, *film), &m_parts.window).exec();
+}
+
+void FilmActions::CopyCommand()
+{
+    Film const* film = m_parts.pane.GetCurrentFilm();
+    if (film == nullptr || film->GetState() != FilmState::Ready)
+        return;
+    CommandLineText const command = MakeCommandLine(*film, m_parts.films.GetOutput());
+    QGuiApplication::clipboard()->setText(QString::fromStdString(QuoteWords(command.words, GetUsualShell())));
+    for (QString const& sentence : command.unsaid)
+        m_parts.notices.AddNews(Mark::Warning, sentence);
+    m_parts.notices.AddNews(Mark::Success, tr("The command line is in the clipboard."));
 }
 
 void FilmActions::FillPutBackMenu(QMenu& menu)

@@ -44,14 +44,13 @@ public:
     void FillPutBackMenu(QMenu& menu);
     void Reveal(Film* film);
 
-Q_SIGNALS:
-    void ApplyToAllRequested(Korvex::Desktop::FilmId film);
-
 private:
     void Connect();
     void UpdateEnabled();
     void RemoveSelected();
     [[nodiscard]] bool ConfirmRemoval(std::vector<Film*> const& films) const;
+    void ApplyChoiceToAll(FilmId id);
+    void CopyCommand();
     void RefillPutBackMenu(QMenu& menu);
 
     Parts m_parts;

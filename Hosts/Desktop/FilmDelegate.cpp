@@ -150,7 +150,7 @@ void FilmDelegate::paint(QPainter* painter, QStyleOptionViewItem const& option, 
 
     painter->setFont(FilmRowLayout::MakeNameFont(option.font));
     painter->setPen(GetColor(ColorRole::Text));
-    PaintElided(*painter, layout.name, row.name, Qt::ElideMiddle);
+    painter->drawText(layout.name, Qt::AlignLeft | Qt::AlignTop, layout.nameLines.join(QLatin1Char('\n')));
     painter->setFont(option.font);
     PaintChoice(*painter, layout.choice, row.choice, layout.choice.contains(pointer));
 

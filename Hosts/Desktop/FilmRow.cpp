@@ -2,12 +2,14 @@
 
 #include "Desktop/ConversionQueue.h"
 #include "Desktop/Film.h"
+#include "Desktop/TimeTexts.h"
 #include "Desktop/TimeWords.h"
 
 #include "Proc/MediaInfo.h"
 
 #include <QCoreApplication>
 #include <QFontMetrics>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -40,6 +42,24 @@ QString DescribeFacts(Film const& film)
     return facts;
 }
 
+/// At most two lines, the second one shortened.
+QStringList SplitName(QString const& name, QFont const& font, int width)
+{
+    QFontMetrics const metrics(font);
+    if (metrics.horizontalAdvance(name) <= width)
+        return {name};
+    QTextLayout text(name, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    text.setTextOption(option);
+    text.beginLayout();
+    QTextLine first = text.createLine();
+    first.setLineWidth(width);
+    text.endLayout();
+    QString const rest = name.mid(first.textLength());
+    return {name.left(first.textLength()).trimmed(), metrics.elidedText(rest, Qt::ElideMiddle, width)};
+}
+
 void DescribeProgress(ConversionStatus const& status, bool isPaused, FilmRow& row)
 {
     row.isConverting = true;
@@ -53,7 +73,7 @@ void DescribeProgress(ConversionStatus const& status, bool isPaused, FilmRow& ro
     if (status.fraction)
         row.sentence += QStringLiteral("  %1\u00A0%").arg(static_cast<int>(std::floor(*status.fraction * 100.0)));
     if (status.remaining && !isPaused)
-        row.sentence += QStringLiteral("  \u00B7  ") + DescribeRemaining(*status.remaining);
+        row.sentence += QStringLiteral("  \u00B7  ") + FormatTimeLeft(*status.remaining);
 }
 
 /// True when it said something that goes before the film's own problems.
@@ -155,20 +175,19 @@ FilmRowLayout::FilmRowLayout(FilmRow const& row, QRect const& place, QFont const
     QFontMetrics const metrics(font);
     QFontMetrics const smallMetrics(MakeSmallFont(font));
     QRect const inner = place.adjusted(MARGIN, MARGIN, -MARGIN, 0);
-    name = QRect(inner.left(), inner.top() - 2, inner.width(), nameMetrics.height());
-    thumbnail = QRect(QPoint(inner.left(), name.bottom() + 1 + 2 * LINE_GAP), THUMBNAIL_SIZE);
+    thumbnail = QRect(inner.topLeft(), THUMBNAIL_SIZE);
 
     int const left = thumbnail.right() + 1 + GAP;
     int const width = std::max(0, inner.right() + 1 - left);
-    facts = QRect(left, thumbnail.top(), width, smallMetrics.height());
-    int bottom = facts.bottom() + 1;
+    nameLines = SplitName(row.name, MakeNameFont(font), width);
+    name = QRect(left, inner.top() - 2, width, nameMetrics.lineSpacing() * nameLines.size());
+    facts = QRect(left, name.bottom() + 1 + LINE_GAP, width, smallMetrics.height());
+    int bottom = std::max(facts.bottom(), thumbnail.bottom()) + 1;
     if (!row.choice.isEmpty())
     {
-        int const buttonHeight = metrics.height() + 2 * CHOICE_PADDING;
-        choice = QRect(left, std::max(bottom + LINE_GAP, thumbnail.bottom() + 1 - buttonHeight), width, buttonHeight);
+        choice = QRect(inner.left(), bottom + 2 * LINE_GAP, inner.width(), metrics.height() + 2 * CHOICE_PADDING);
         bottom = choice.bottom() + 1;
     }
-    bottom = std::max(bottom, thumbnail.bottom() + 1);
 
     if (row.isConverting)
     {

@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QRect>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -46,6 +47,7 @@ struct FilmRowLayout
 
     QRect thumbnail;
     QRect name;
+    QStringList nameLines;
     QRect facts;
     QRect choice;
     QRect mark;

@@ -14,9 +14,14 @@
 #include "Desktop/ModulePanels.h"
 #include "Desktop/NoticeBar.h"
 #include "Desktop/Notices.h"
+#include "Desktop/OutputBar.h"
+#include "Desktop/OutputControl.h"
+#include "Desktop/SessionStore.h"
 #include "Desktop/ShortcutsDialog.h"
 #include "Desktop/SubtitlesPopup.h"
 #include "Desktop/SubtitlesSide.h"
+#include "Desktop/TextHelpPane.h"
+#include "Desktop/ViewSettings.h"
 
 #include "Common/HostServices.h"
 
@@ -38,6 +43,15 @@
 namespace Korvex::Desktop
 {
 
+namespace
+{
+
+// Names of what the session keeps.
+constexpr char const* GEOMETRY = "window";
+constexpr char const* SPLITTER = "splitter";
+
+} // namespace
+
 MainWindow::MainWindow(Program const& program)
     : m_program(program),
       m_panels(std::make_unique<ModulePanels>(program.services))
@@ -48,6 +62,7 @@ MainWindow::MainWindow(Program const& program)
     ConnectFilms();
     ConnectHelp();
     Retranslate();
+    RestorePlaces();
     ShowFilm(nullptr);
 }
 
@@ -55,7 +70,7 @@ MainWindow::~MainWindow() = default;
 
 void MainWindow::MakeParts()
 {
-    auto const& [services, films, queue] = m_program;
+    auto const& [services, films, queue, store, look, languages] = m_program;
     m_actions = new Actions(this);
     m_menu = new MainMenu(*m_actions, *menuBar(), this);
     m_control = new ConversionControl(films, queue, this);
@@ -67,6 +82,10 @@ void MainWindow::MakeParts()
     m_fileActions = new FileActions(films, *m_filmPane, *m_notices, *m_actions, *this);
     m_filmActions = new FilmActions({films, *m_filmPane, queue, *m_control, *m_notices, *m_actions, *this});
     m_filmActions->FillPutBackMenu(*m_menu->GetPutBackMenu());
+    m_textHelp = new TextHelpPane(this);
+    m_outputBar = new OutputBar(this);
+    new OutputControl({films, *m_filmPane, queue, *m_control, *m_actions, *m_outputBar}, this);
+    new ViewSettings(store, look, languages, *m_actions, *m_menu->GetLanguageMenu(), this);
     m_popup = new SubtitlesPopup(m_panels->GetItemPanel(), *this);
 }
 
@@ -82,7 +101,7 @@ void MainWindow::LayOut()
     centerLayout->addWidget(m_noticeBar);
     centerLayout->addStretch(1);
 
-    auto* side = new SubtitlesSide(m_panels->GetEditingPanel(), this);
+    auto* side = new SubtitlesSide(m_panels->GetEditingPanel(), *m_textHelp, this);
 
     m_splitter = new QSplitter(Qt::Horizontal, this);
     m_splitter->setObjectName(QStringLiteral("mainSplitter"));
@@ -98,7 +117,13 @@ void MainWindow::LayOut()
     m_pages = new QStackedWidget(this);
     m_pages->addWidget(emptyPage);
     m_pages->addWidget(m_splitter);
-    setCentralWidget(m_pages);
+    auto* whole = new QWidget(this);
+    auto* wholeLayout = new QVBoxLayout(whole);
+    wholeLayout->setContentsMargins(0, 0, 0, 0);
+    wholeLayout->setSpacing(0);
+    wholeLayout->addWidget(m_pages, 1);
+    wholeLayout->addWidget(m_outputBar);
+    setCentralWidget(whole);
     setMinimumSize(MINIMUM_SIZE);
     resize(FIRST_SIZE);
 }
@@ -126,6 +151,7 @@ void MainWindow::ConnectFilms()
 
 void MainWindow::ConnectHelp()
 {
+    connect(&m_program.store, &SessionStore::SavingFailed, this, &MainWindow::ShowWarning);
     connect(m_actions->Get(ActionId::Quit), &QAction::triggered, this, &QWidget::close);
     connect(m_actions->Get(ActionId::ShowShortcuts), &QAction::triggered, this,
             [this] { ShortcutsDialog(*m_actions, this).exec(); });
@@ -137,11 +163,29 @@ void MainWindow::AddFiles(std::vector<ioPath> const& paths)
     m_fileActions->Take(paths);
 }
 
+void MainWindow::ShowWarning(QString const& sentence)
+{
+    m_notices->AddNews(Mark::Warning, sentence);
+}
+
+void MainWindow::RestorePlaces()
+{
+    restoreGeometry(m_program.store.GetExtra(GEOMETRY));
+    m_splitter->restoreState(m_program.store.GetExtra(SPLITTER));
+}
+
+void MainWindow::KeepPlaces()
+{
+    m_program.store.SetExtra(GEOMETRY, saveGeometry());
+    m_program.store.SetExtra(SPLITTER, m_splitter->saveState());
+}
+
 void MainWindow::ShowFilm(Film* film)
 {
     if (film != nullptr)
         film->ShowInPanels();
     EnablePanel();
+    m_textHelp->ShowFilm(film);
     m_notices->ShowFilm(film);
 }
 
@@ -175,6 +219,8 @@ void MainWindow::changeEvent(QEvent* event)
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(m_control->ConfirmClose(this));
+    if (event->isAccepted())
+        KeepPlaces();
 }
 
 } // namespace Korvex::Desktop

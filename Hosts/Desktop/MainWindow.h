@@ -10,6 +10,11 @@
 class QSplitter;
 class QStackedWidget;
 
+namespace Korvex::App
+{
+class ILookAndFeelManager;
+} // namespace Korvex::App
+
 namespace Korvex::Desktop
 {
 
@@ -20,11 +25,15 @@ class FileActions;
 class FilmActions;
 class FilmList;
 class FilmListPane;
+class Languages;
 class MainMenu;
 class ModulePanels;
 class NoticeBar;
 class Notices;
+class OutputBar;
+class SessionStore;
 class SubtitlesPopup;
+class TextHelpPane;
 
 /// What the window shows and works on. All of it outlives the window.
 struct Program
@@ -32,6 +41,9 @@ struct Program
     Hosts::HostServices& services;
     FilmList& films;
     ConversionQueue& queue;
+    SessionStore& store; ///< has restored
+    App::ILookAndFeelManager& look;
+    Languages& languages;
 };
 
 /// Puts the parts of the program beside each other and connects them; what they do is theirs. GUI thread.
@@ -44,6 +56,8 @@ public:
 
     /// Films, folders and subtitle files, as if they had been dropped.
     void AddFiles(std::vector<ioPath> const& paths);
+    /// A sentence about something that went wrong; the user may close it.
+    void ShowWarning(QString const& sentence);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -54,6 +68,8 @@ private:
     void LayOut();
     void ConnectFilms();
     void ConnectHelp();
+    void RestorePlaces();
+    void KeepPlaces();
     void ShowFilm(Film* film);
     void EnablePanel();
     void ShowSubtitles(Film* film, QRect const& button);
@@ -70,6 +86,8 @@ private:
     Notices* m_notices = nullptr;
     FileActions* m_fileActions = nullptr;
     FilmActions* m_filmActions = nullptr;
+    TextHelpPane* m_textHelp = nullptr;
+    OutputBar* m_outputBar = nullptr;
     SubtitlesPopup* m_popup = nullptr;
     QStackedWidget* m_pages = nullptr;
     QSplitter* m_splitter = nullptr;

@@ -1,6 +1,7 @@
 #include "Desktop/SubtitlesSide.h"
 
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -8,14 +9,21 @@
 namespace Korvex::Desktop
 {
 
-SubtitlesSide::SubtitlesSide(QWidget& editingPanel, QWidget* parent) : KFrame(parent), m_scroll(new QScrollArea(this))
+SubtitlesSide::SubtitlesSide(QWidget& editingPanel, QWidget& textHelp, QWidget* parent)
+    : KFrame(parent),
+      m_scroll(new QScrollArea(this))
 {
     setObjectName(QStringLiteral("subtitlesSide"));
+    constexpr int MARGIN = 12;
     auto* column = new QWidget;
     column->setObjectName(QStringLiteral("subtitlesColumn"));
     auto* columnLayout = new QVBoxLayout(column);
     columnLayout->setContentsMargins(0, 0, 0, 0);
     columnLayout->addWidget(&editingPanel);
+    auto* helpLayout = new QHBoxLayout;
+    helpLayout->setContentsMargins(MARGIN, 0, MARGIN, MARGIN);
+    helpLayout->addWidget(&textHelp);
+    columnLayout->addLayout(helpLayout);
     columnLayout->addStretch(1);
 
     m_scroll->setObjectName(QStringLiteral("subtitlesScroll"));

@@ -7,13 +7,14 @@ class QScrollArea;
 namespace Korvex::Desktop
 {
 
-/// The window's right side: a column that scrolls, with the module's editing panel on top. GUI thread.
+/// The window's right side: a column that scrolls, with the module's editing panel on top and the help
+/// with its texts below. GUI thread.
 class SubtitlesSide final : public KFrame
 {
     Q_OBJECT
 public:
-    /// Takes the panel in as a child; its owner may take it out again.
-    explicit SubtitlesSide(QWidget& editingPanel, QWidget* parent = nullptr);
+    /// Takes both in as children; the panel's owner may take it out again.
+    SubtitlesSide(QWidget& editingPanel, QWidget& textHelp, QWidget* parent = nullptr);
     ~SubtitlesSide() override;
 
 protected:

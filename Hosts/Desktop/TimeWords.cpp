@@ -1,19 +1,7 @@
 #include "Desktop/TimeWords.h"
 
-#include <QCoreApplication>
-
 namespace Korvex::Desktop
 {
-
-namespace
-{
-
-QString Translate(char const* text)
-{
-    return QCoreApplication::translate("TimeWords", text);
-}
-
-} // namespace
 
 QString FormatDuration(std::chrono::microseconds duration)
 {
@@ -25,16 +13,6 @@ QString FormatDuration(std::chrono::microseconds duration)
     if (hours == 0)
         return QStringLiteral("%1:%2").arg(minutes).arg(seconds, 2, 10, zero);
     return QStringLiteral("%1:%2:%3").arg(hours).arg(minutes, 2, 10, zero).arg(seconds, 2, 10, zero);
-}
-
-QString DescribeRemaining(std::chrono::seconds remaining)
-{
-    auto const seconds = remaining.count();
-    if (seconds < 60)
-        return Translate(QT_TRANSLATE_NOOP("TimeWords", "%1 s left")).arg(seconds);
-    if (seconds < 3600)
-        return Translate(QT_TRANSLATE_NOOP("TimeWords", "%1 min left")).arg((seconds + 30) / 60);
-    return Translate(QT_TRANSLATE_NOOP("TimeWords", "%1 h %2 min left")).arg(seconds / 3600).arg(seconds / 60 % 60);
 }
 
 } // namespace Korvex::Desktop

@@ -1,6 +1,8 @@
 #include "Desktop/ConversionQueue.h"
 #include "Desktop/FilmList.h"
+#include "Desktop/Languages.h"
 #include "Desktop/MainWindow.h"
+#include "Desktop/SessionStore.h"
 
 #include "Common/HostServices.h"
 #include "Common/Logging.h"
@@ -65,12 +67,18 @@ bool ReadFiles(QStringList const& arguments, std::vector<ioPath>& files)
 
 int RunWindow(std::vector<ioPath> const& files)
 {
-    GUI::LookAndFeelManager const lookAndFeel(GUI::FindSystemTheme());
+    GUI::LookAndFeelManager lookAndFeel(GUI::FindSystemTheme());
     Hosts::HostServices services(
         App::LoadConfiguration(App::FindConfigurationFile(&App::LookUpEnvironment), &App::LookUpEnvironment));
+    Desktop::Languages languages;
+    languages.Switch(Desktop::Languages::FindSystemLanguage());
     Desktop::FilmList films(services);
     Desktop::ConversionQueue queue(services);
-    Desktop::MainWindow window({services, films, queue});
+    Desktop::SessionStore store(films, Desktop::FindSessionFile());
+    QString const failure = store.Restore();
+    Desktop::MainWindow window({services, films, queue, store, lookAndFeel, languages});
+    if (!failure.isEmpty())
+        window.ShowWarning(failure);
     window.show();
     if (!files.empty())
         window.AddFiles(files);
