@@ -83,6 +83,8 @@ void PreviewStage::Build()
     m_hint->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_hint->setTextFormat(Qt::PlainText);
     m_hint->setWordWrap(true);
+    // Room for two lines, so that the picture stays when a longer hint comes.
+    m_hint->setMinimumHeight(2 * m_hint->fontMetrics().lineSpacing());
     Util::ApplyWidgetStyle(m_hint, QStringLiteral("dim"), "role");
 
     auto* const row = new QHBoxLayout;
