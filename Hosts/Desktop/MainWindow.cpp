@@ -21,6 +21,7 @@
 #include "Desktop/SubtitlesPopup.h"
 #include "Desktop/SubtitlesSide.h"
 #include "Desktop/TextHelpPane.h"
+#include "Desktop/TrackActions.h"
 #include "Desktop/ViewSettings.h"
 
 #include "Common/HostServices.h"
@@ -82,6 +83,7 @@ void MainWindow::MakeParts()
     m_fileActions = new FileActions(films, *m_filmPane, *m_notices, *m_actions, *this);
     m_filmActions = new FilmActions({films, *m_filmPane, queue, *m_control, *m_notices, *m_actions, *this});
     m_filmActions->FillPutBackMenu(*m_menu->GetPutBackMenu());
+    m_trackActions = new TrackActions(*m_panels, *m_notices, *this);
     m_textHelp = new TextHelpPane(this);
     m_outputBar = new OutputBar(this);
     new OutputControl({films, *m_filmPane, queue, *m_control, *m_actions, *m_outputBar}, this);
@@ -185,6 +187,7 @@ void MainWindow::ShowFilm(Film* film)
     if (film != nullptr)
         film->ShowInPanels();
     EnablePanel();
+    m_trackActions->ShowFilm(film);
     m_textHelp->ShowFilm(film);
     m_notices->ShowFilm(film);
 }

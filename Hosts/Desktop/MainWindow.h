@@ -34,6 +34,7 @@ class OutputBar;
 class SessionStore;
 class SubtitlesPopup;
 class TextHelpPane;
+class TrackActions;
 
 /// What the window shows and works on. All of it outlives the window.
 struct Program
@@ -86,6 +87,7 @@ private:
     Notices* m_notices = nullptr;
     FileActions* m_fileActions = nullptr;
     FilmActions* m_filmActions = nullptr;
+    TrackActions* m_trackActions = nullptr;
     TextHelpPane* m_textHelp = nullptr;
     OutputBar* m_outputBar = nullptr;
     SubtitlesPopup* m_popup = nullptr;

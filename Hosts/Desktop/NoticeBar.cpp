@@ -3,6 +3,7 @@
 #include "Desktop/FlowLayout.h"
 #include "Desktop/MarkLabel.h"
 
+#include "Gui/Icons.h"
 #include "Gui/Style.h"
 
 #include <QEvent>
@@ -66,9 +67,10 @@ NoticeBar::NoticeBar(QWidget* parent)
     m_sentence->setTextFormat(Qt::PlainText);
     m_sentence->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_pageLabel->setObjectName(QStringLiteral("noticePageLabel"));
-    m_previous->setText(QStringLiteral("\u2039"));
-    m_next->setText(QStringLiteral("\u203A"));
-    m_close->setText(QStringLiteral("\u00D7"));
+    m_sentence->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_previous->setIcon(GUI::MakeIcon(GUI::IconKind::ArrowLeft));
+    m_next->setIcon(GUI::MakeIcon(GUI::IconKind::ArrowRight));
+    m_close->setIcon(GUI::MakeIcon(GUI::IconKind::Close));
 
     auto* pager = new QHBoxLayout(m_pager);
     pager->setContentsMargins(0, 0, 0, 0);
