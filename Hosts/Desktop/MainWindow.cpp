@@ -16,6 +16,7 @@
 #include "Desktop/Notices.h"
 #include "Desktop/OutputBar.h"
 #include "Desktop/OutputControl.h"
+#include "Desktop/PreviewPane.h"
 #include "Desktop/SessionStore.h"
 #include "Desktop/ShortcutsDialog.h"
 #include "Desktop/SubtitlesPopup.h"
@@ -85,6 +86,7 @@ void MainWindow::MakeParts()
     m_filmActions->FillPutBackMenu(*m_menu->GetPutBackMenu());
     m_trackActions = new TrackActions(*m_panels, *m_notices, *this);
     m_textHelp = new TextHelpPane(this);
+    m_preview = new PreviewPane(this);
     m_outputBar = new OutputBar(this);
     new OutputControl({films, *m_filmPane, queue, *m_control, *m_actions, *m_outputBar}, this);
     new ViewSettings(store, look, languages, *m_actions, *m_menu->GetLanguageMenu(), this);
@@ -101,7 +103,7 @@ void MainWindow::LayOut()
     auto* centerLayout = new QVBoxLayout(center);
     centerLayout->setContentsMargins(0, 0, 0, 0);
     centerLayout->addWidget(m_noticeBar);
-    centerLayout->addStretch(1);
+    centerLayout->addWidget(m_preview, 1);
 
     auto* side = new SubtitlesSide(m_panels->GetEditingPanel(), *m_textHelp, this);
 
@@ -188,6 +190,7 @@ void MainWindow::ShowFilm(Film* film)
         film->ShowInPanels();
     EnablePanel();
     m_trackActions->ShowFilm(film);
+    m_preview->ShowFilm(film);
     m_textHelp->ShowFilm(film);
     m_notices->ShowFilm(film);
 }

@@ -31,6 +31,7 @@ class ModulePanels;
 class NoticeBar;
 class Notices;
 class OutputBar;
+class PreviewPane;
 class SessionStore;
 class SubtitlesPopup;
 class TextHelpPane;
@@ -89,6 +90,7 @@ private:
     FilmActions* m_filmActions = nullptr;
     TrackActions* m_trackActions = nullptr;
     TextHelpPane* m_textHelp = nullptr;
+    PreviewPane* m_preview = nullptr;
     OutputBar* m_outputBar = nullptr;
     SubtitlesPopup* m_popup = nullptr;
     QStackedWidget* m_pages = nullptr;
