@@ -23,6 +23,7 @@ using std::string_view_literals::operator""sv;
 
 constexpr std::size_t HEAD_BYTES = 4096;
 constexpr std::size_t TEXT_LIMIT = 64U << 20;
+constexpr std::size_t BEGINNING_BYTES = 64U << 10;
 
 Core::Error MakeError(ErrorCode code, ioPath const& path)
 {
@@ -30,17 +31,6 @@ Core::Error MakeError(ErrorCode code, ioPath const& path)
     error.code = code;
     error.file = path;
     return error;
-}
-
-std::string FormatOf(TextDocument const& document)
-{
-    if (document.codecId == Codec::CODEC_ID_SUBRIP)
-        return Conf::IFormatFile::FORMAT_SRT;
-    if (document.codecId == Codec::CODEC_ID_ASS)
-        return Conf::IFormatFile::FORMAT_ASS;
-    if (document.codecId == Codec::CODEC_ID_SSA)
-        return Conf::IFormatFile::FORMAT_SSA;
-    return document.codecId;
 }
 
 bool IsTransportStream(std::string_view head)
@@ -152,8 +142,37 @@ Core::Result<std::optional<ExternalText>> LoadExternalText(ioPath const& path, s
         return LoadByDemuxer(path, encoding);
     ExternalText text;
     text.document = std::move(**own);
-    text.formatId = FormatOf(text.document);
+    text.formatId = FindTextFormatId(text.document.codecId);
     return std::optional<ExternalText>(std::move(text));
+}
+
+std::string FindTextFormatId(std::string const& codecId)
+{
+    if (codecId == Codec::CODEC_ID_SUBRIP)
+        return Conf::IFormatFile::FORMAT_SRT;
+    if (codecId == Codec::CODEC_ID_ASS)
+        return Conf::IFormatFile::FORMAT_ASS;
+    if (codecId == Codec::CODEC_ID_SSA)
+        return Conf::IFormatFile::FORMAT_SSA;
+    return codecId;
+}
+
+std::string FindCodecByBeginning(ioPath const& path, std::string const& encoding)
+{
+    Core::Result<std::string> const beginning = Core::ReadFileHead(path, BEGINNING_BYTES);
+    if (!beginning || beginning->size() < BEGINNING_BYTES || !LooksLikeText(*beginning, path.Extension()))
+        return {};
+    // Cut behind a whole line. In UTF-16 that would cut a character, and such a file is read whole.
+    std::size_t const end = beginning->rfind('\n');
+    if (end == std::string::npos || beginning->find('\0') != std::string::npos)
+        return {};
+    Core::Result<Text::DecodedText> const text =
+        Text::DecodeText(std::string_view(*beginning).substr(0, end + 1), encoding);
+    auto const format = text ? Text::DetermineTextFormat(text->utf8, path.Extension()) : std::nullopt;
+    if (!format)
+        return {};
+    TextDocument const document = Text::ReadText(text->utf8, *format);
+    return document.cues.empty() ? std::string() : document.codecId;
 }
 
 } // namespace Korvex::Proc

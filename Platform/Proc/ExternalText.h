@@ -24,6 +24,13 @@ struct ExternalText
 [[nodiscard]] Core::Result<std::optional<ExternalText>>
 LoadExternalText(ioPath const& path, std::string const& encoding, std::string const& samiClass = {});
 
+/// The format, as MediaInfo::formatId, of a file that holds text of this codec.
+[[nodiscard]] std::string FindTextFormatId(std::string const& codecId);
+
+/// The codec of a long file in one of the formats that the core has readers for, told by its beginning alone. Empty
+/// when that does not tell, and for short files, which are as quickly read whole.
+[[nodiscard]] std::string FindCodecByBeginning(ioPath const& path, std::string const& encoding);
+
 /// From the first bytes of a file and its extension: is it a text, in whatever encoding?
 [[nodiscard]] bool LooksLikeText(std::string_view head, std::string const& extension);
 

@@ -26,6 +26,7 @@ public:
     [[nodiscard]] virtual std::size_t GetStreamCount() const = 0;
     /// Empty for an index that is too large.
     [[nodiscard]] virtual boost::intrusive_ptr<IStream> GetStream(std::size_t index) const = 0;
+    /// Of a long text file the duration is unknown: it would take reading all of it.
     [[nodiscard]] virtual MediaInfo const& GetMediaInfo() const = 0;
 };
 

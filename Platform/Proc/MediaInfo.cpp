@@ -56,6 +56,16 @@ Core::Result<MediaInfo> ProbeMedia(ioPath const& path, std::string const& encodi
     return FFmpeg::ProbeMediaFile(path);
 }
 
+Core::Result<MediaInfo> ProbeStreams(ioPath const& path, std::string const& encoding)
+{
+    ExternalText text;
+    text.document.codecId = FindCodecByBeginning(path, encoding);
+    if (text.document.codecId.empty())
+        return ProbeMedia(path, encoding);
+    text.formatId = FindTextFormatId(text.document.codecId);
+    return DescribeText(path, text);
+}
+
 Core::Result<MediaInfo> ProbeMedia(ioPath const& path)
 {
     return ProbeMedia(path, {});

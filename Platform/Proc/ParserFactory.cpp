@@ -56,7 +56,7 @@ try
 {
     if (!input)
         return {};
-    Core::Result<MediaInfo> info = ProbeMedia(input->GetPath(), settings.encoding);
+    Core::Result<MediaInfo> info = ProbeStreams(input->GetPath(), settings.encoding);
     if (!info)
         return {};
     return new Parser(std::move(info).Value());

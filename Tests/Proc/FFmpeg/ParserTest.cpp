@@ -188,6 +188,23 @@ TEST_F(ParserTest, ASubtitleFileIsOneStreamOfTheRightCodecWhateverItsName)
     EXPECT_EQ(CodecByParser(Write("legacy.srt", legacy)), "subrip");
 }
 
+TEST_F(ParserTest, LongTextsGiveTheirCodecAsShortOnesDo)
+{
+    std::string const filler(200'000, ' ');
+    std::string lines;
+    for (int i = 0; i < 5000; ++i)
+        lines += SRT;
+    EXPECT_EQ(CodecByParser(Write("long.srt", lines)), "subrip");
+    EXPECT_EQ(CodecByParser(Write("script.srt", SCRIPT + lines)), "ass");
+    EXPECT_EQ(CodecByParser(Write("old.ssa", SCRIPT_V4 + lines)), "ssa");
+    EXPECT_EQ(CodecByParser(Write("late.ass", "[Script Info]\n; " + filler + "\n" + SCRIPT)), "ass");
+    std::string wide = "\xFF\xFE";
+    for (char const c : lines)
+        wide += {c, '\0'};
+    EXPECT_EQ(CodecByParser(Write("wide.srt", wide)), "subrip");
+    EXPECT_EQ(CodecByParser(Write("none.txt", filler + lines.substr(0, 4))), "no parser");
+}
+
 TEST_F(ParserTest, RefusesWhatIsNoMediaByItsKind)
 {
     EXPECT_EQ(CodeOf(m_folder / "missing.mkv"), ErrorCode::FileNotFound);
