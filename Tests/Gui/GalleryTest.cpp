@@ -144,7 +144,9 @@ QWidget* MakeFields()
     auto* const slider = new QSlider(Qt::Horizontal);
     slider->setRange(-100, 100);
     auto* const windowsBox = MakeComboBox();
-    windowsBox->setStyle(QStyleFactory::create(QStringLiteral("Windows")));
+    QStyle* const windowsStyle = QStyleFactory::create(QStringLiteral("Windows"));
+    windowsStyle->setParent(windowsBox);
+    windowsBox->setStyle(windowsStyle);
     auto* const longBox = MakeComboBox();
     longBox->setCurrentIndex(2);
     auto* const progress = new QProgressBar;

@@ -11,12 +11,14 @@
 #include <QImage>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QStyle>
 #include <QStyleFactory>
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include <cmath>
+#include <memory>
 
 using namespace Korvex;
 using GUI::ColorRole;
@@ -45,14 +47,16 @@ double MeasureContrast(QColor const& first, QColor const& second)
 /// Shown on the host's window in a parent with another base style, where one is named.
 QImage GrabWithBaseStyle(QWidget* widget, QString const& panelStyle, QString const& ownStyle)
 {
+    std::unique_ptr<QStyle> const styleOfPanel(QStyleFactory::create(panelStyle)); // null for no name
+    std::unique_ptr<QStyle> const styleOfWidget(QStyleFactory::create(ownStyle));
     QWidget window;
     auto* const panel = new QFrame;
     (new QVBoxLayout(&window))->addWidget(panel);
     (new QVBoxLayout(panel))->addWidget(widget);
-    if (!ownStyle.isEmpty())
-        widget->setStyle(QStyleFactory::create(ownStyle));
-    if (!panelStyle.isEmpty())
-        panel->setStyle(QStyleFactory::create(panelStyle));
+    if (styleOfWidget != nullptr)
+        widget->setStyle(styleOfWidget.get());
+    if (styleOfPanel != nullptr)
+        panel->setStyle(styleOfPanel.get());
     widget->setFixedSize(200, 32);
     widget->setFocusPolicy(Qt::NoFocus);
     ShowAndWait(window);
