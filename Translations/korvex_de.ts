@@ -4,68 +4,40 @@
 <context>
     <name>ConversionTexts</name>
     <message>
-        <source>&quot;%1&quot; (%2)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Track %1 (%2)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot be written anew in its encoding for %3: choose another format, draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot be moved in time as a switchable track of %3: set its offset to 0, draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot go into %3: draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot go into %3: choose %4, draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> or </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 holds no cues and was left out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 enthält keine Untertitel und wurde weggelassen.</translation>
     </message>
     <message>
         <source>%1 goes into %2 as %3.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 kommt als %3 in %2.</translation>
     </message>
     <message>
         <source>%1 was read as %2.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 wurde als %2 gelesen.</translation>
     </message>
     <message>
         <source>%1 was moved by %2 s.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 wurde um %2 s verschoben.</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) of %1 could not be read as text.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n Byte von %1 ließ sich nicht als Text lesen.</numerusform>
+            <numerusform>%n Bytes von %1 ließen sich nicht als Text lesen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of %1 made no sense and were left out.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n Untertitel von %1 war unbrauchbar und wurde weggelassen.</numerusform>
+            <numerusform>%n Untertitel von %1 waren unbrauchbar und wurden weggelassen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of %1 would never be shown and were left out.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n Untertitel von %1 würde nie gezeigt und wurde weggelassen.</numerusform>
+            <numerusform>%n Untertitel von %1 würden nie gezeigt und wurden weggelassen.</numerusform>
         </translation>
     </message>
 </context>
@@ -73,174 +45,174 @@
     <name>EditingPanel</name>
     <message>
         <source>Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Untertitel</translation>
     </message>
     <message>
         <source>Choose subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Untertitel wählen</translation>
     </message>
     <message>
         <source>Subtitles encoding</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kodierung der Untertitel</translation>
     </message>
     <message>
         <source>Aligment</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ausrichtung</translation>
     </message>
     <message>
         <source>Synchronize</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Synchronisieren</translation>
     </message>
     <message>
         <source>Add subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Untertitel hinzufügen</translation>
     </message>
     <message>
         <source>Leave all tracks (softsub)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Alle Spuren behalten (Softsub)</translation>
     </message>
     <message>
         <source>Choose file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Datei wählen</translation>
     </message>
     <message>
         <source>Find file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Datei suchen</translation>
     </message>
     <message>
         <source>Relocating subtitles saves all subtitle tracks. You can select them in player.&lt;br&gt;&lt;br&gt;Select one of track to hardsub them.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Beim Übernehmen bleiben alle Untertitelspuren erhalten. Sie lassen sich im Player auswählen.&lt;br&gt;&lt;br&gt;Wählen Sie eine Spur, um sie fest ins Bild einzubrennen.</translation>
     </message>
     <message>
         <source>Hastened</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Früher</translation>
     </message>
     <message>
         <source>Delayed</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Später</translation>
     </message>
     <message>
         <source>Help on subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hilfe zu Untertiteln</translation>
     </message>
     <message>
         <source>Position shift</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lage verschieben</translation>
     </message>
     <message>
         <source>Synchronization offset in seconds</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zeitversatz in Sekunden</translation>
     </message>
     <message>
         <source>Text color</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Textfarbe</translation>
     </message>
     <message>
         <source>Outline color</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Konturfarbe</translation>
     </message>
     <message>
         <source>Font: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Schriftart: %1</translation>
     </message>
 </context>
 <context>
     <name>ExternalSubtitlesDialog</name>
     <message>
         <source>Choose subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Untertitel wählen</translation>
     </message>
     <message>
         <source>Subtitle files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Untertiteldateien (%1)</translation>
     </message>
 </context>
 <context>
     <name>FilmRow</name>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Angehalten</translation>
     </message>
     <message>
         <source>Preparing subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Untertitel werden vorbereitet</translation>
     </message>
     <message>
         <source>Converting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wird umgewandelt</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wartet</translation>
     </message>
     <message>
         <source>Converted</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Umgewandelt</translation>
     </message>
     <message numerus="yes">
         <source>Converted, with %n remark(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Umgewandelt, mit %n Hinweis</numerusform>
+            <numerusform>Umgewandelt, mit %n Hinweisen</numerusform>
         </translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abgebrochen</translation>
     </message>
     <message>
         <source>Reading the film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Film wird gelesen</translation>
     </message>
     <message>
         <source>Show in folder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Im Ordner zeigen</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Converter::Subtitles::Details::ItemPanel</name>
     <message>
         <source>Subtitles of this film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Untertitel dieses Films</translation>
     </message>
     <message>
         <source>Choose subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Untertitel wählen</translation>
     </message>
     <message>
         <source>Add subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Untertitel hinzufügen</translation>
     </message>
     <message>
         <source>Choose file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Datei wählen</translation>
     </message>
     <message>
         <source>Find file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Datei suchen</translation>
     </message>
     <message>
         <source>Apply to all files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Auf alle Dateien anwenden</translation>
     </message>
     <message>
         <source>Makes the same choice for every film of the list</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Trifft für jeden Film der Liste dieselbe Wahl</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fertig</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::AboutDialog</name>
     <message>
         <source>About Korvex Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Über Korvex Subtitles</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Version %1</translation>
     </message>
     <message>
         <source>Converts films with their subtitles: as tracks that can be switched on and off, or drawn into the picture.
@@ -248,93 +220,151 @@
 Free software under the GNU General Public License, version 3 or later. It comes without any warranty.
 
 It is built on Qt, FFmpeg and libass.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wandelt Filme mit ihren Untertiteln um: als Spuren zum Ein- und Ausschalten oder ins Bild eingebrannt.
+
+Freie Software unter der GNU General Public License, Version 3 oder später. Ohne jede Gewährleistung.
+
+Baut auf Qt, FFmpeg und libass auf.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::Actions</name>
     <message>
         <source>&amp;Add films...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Filme &amp;hinzufügen …</translation>
     </message>
     <message>
         <source>Add &amp;subtitles...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Untertitel hinzufügen …</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Beenden</translation>
     </message>
     <message>
         <source>&amp;Subtitles...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Untertitel …</translation>
     </message>
     <message>
         <source>Apply these subtitles to &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Diese Untertitel auf &amp;alle anwenden</translation>
     </message>
     <message>
         <source>&amp;Copy as command line</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Als Befehlszeile &amp;kopieren</translation>
     </message>
     <message>
         <source>Show &amp;output in folder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Er&amp;gebnis im Ordner zeigen</translation>
     </message>
     <message>
         <source>&amp;Remove from list</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aus der Liste &amp;entfernen</translation>
     </message>
     <message>
         <source>&amp;Previous film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Voriger Film</translation>
     </message>
     <message>
         <source>&amp;Next film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Nächster Film</translation>
     </message>
     <message>
         <source>Convert &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Alle umwandeln</translation>
     </message>
     <message>
         <source>Convert this &amp;film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Diesen &amp;Film umwandeln</translation>
     </message>
     <message>
         <source>&amp;Pause</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Anhalten</translation>
     </message>
     <message>
         <source>&amp;Cancel this film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Diesen Film a&amp;bbrechen</translation>
     </message>
     <message>
         <source>Cancel a&amp;ll</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Alles abb&amp;rechen</translation>
     </message>
     <message>
         <source>As the &amp;system</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wie das &amp;System</translation>
     </message>
     <message>
         <source>&amp;Light</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Hell</translation>
     </message>
     <message>
         <source>&amp;Dark</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Dunkel</translation>
     </message>
     <message>
         <source>&amp;Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Tastenkürzel</translation>
     </message>
     <message>
         <source>&amp;About Korvex Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ü&amp;ber Korvex Subtitles</translation>
     </message>
     <message>
         <source>Remove</source>
+        <translation type="unfinished">Entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::ApplyToAll</name>
+    <message>
+        <source>&quot;%1&quot;: nothing changed, because the film cannot be read at the moment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: nothing changed, because it has no track like %2 and no file of that name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::CommandLineText</name>
+    <message>
+        <source>A picture that cannot be copied is encoded with --crf %1 there and %2 here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The text cannot be moved by more than %1 lines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The font size %1 is not a whole number up to %2: the nearest one stands for it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 keeps its own language, title and forced mark.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 keeps the language, title and forced mark that its name states.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 goes out without its mark for the hard of hearing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which of the film&apos;s own tracks players show by themselves stays as in the film.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The files have different encodings: all are read as they are detected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tracks are moved by different offsets: none is moved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text cannot be moved by more than a day.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -342,109 +372,109 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::Desktop::ConversionControl</name>
     <message>
         <source>Quit while converting?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Während der Umwandlung beenden?</translation>
     </message>
     <message>
         <source>Films are still being converted. Quitting cancels them; what is finished stays.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Es werden noch Filme umgewandelt. Beim Beenden werden sie abgebrochen; was fertig ist, bleibt.</translation>
     </message>
     <message>
         <source>Cancel conversions and quit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Umwandlungen abbrechen und beenden</translation>
     </message>
     <message>
         <source>Go on converting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Weiter umwandeln</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::ConversionQueue</name>
     <message>
         <source>The subtitles of &quot;%1&quot; cannot go out as chosen; choose them again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die Untertitel von „%1“ lassen sich so nicht ausgeben; wählen Sie sie neu.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::DropHighlight</name>
     <message>
         <source>Drop films, folders or subtitle files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Filme, Ordner oder Untertiteldateien ablegen</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::EmptyPage</name>
     <message>
         <source>Drop films here or choose files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Filme hier ablegen oder Dateien wählen</translation>
     </message>
     <message>
         <source>Folders work too. Subtitle files beside a film are found by themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Auch Ordner gehen. Untertiteldateien neben einem Film werden von selbst gefunden.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::FileActions</name>
     <message>
         <source>&quot;%1&quot; needs a film to go with: add the film first.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zu „%1“ fehlt der Film: Fügen Sie zuerst den Film hinzu.</translation>
     </message>
     <message>
         <source>No new film was found in &quot;%1&quot;: choose a folder with films.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">In „%1“ wurde kein neuer Film gefunden: Wählen Sie einen Ordner mit Filmen.</translation>
     </message>
     <message>
         <source>Add films</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Filme hinzufügen</translation>
     </message>
     <message>
         <source>Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Untertitel</translation>
     </message>
     <message>
         <source>All files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Alle Dateien</translation>
     </message>
     <message>
         <source>Add subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Untertitel hinzufügen</translation>
     </message>
     <message>
         <source>Where is &quot;%1&quot; now?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wo ist „%1“ jetzt?</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::Film</name>
     <message>
         <source>The film &quot;%1&quot; is not there any more: show where it is now, or remove it from the list.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Der Film „%1“ ist nicht mehr da: Zeigen Sie, wo er jetzt ist, oder entfernen Sie ihn aus der Liste.</translation>
     </message>
     <message>
         <source>Locate...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Suchen …</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::FilmActions</name>
     <message>
         <source>Remove a film that is being converted?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Einen Film entfernen, der gerade umgewandelt wird?</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is being converted. Removing it cancels its conversion.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">„%1“ wird gerade umgewandelt. Das Entfernen bricht die Umwandlung ab.</translation>
     </message>
     <message>
         <source>Cancel conversion and remove</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Umwandlung abbrechen und entfernen</translation>
     </message>
     <message>
         <source>Keep it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Behalten</translation>
     </message>
     <message>
         <source>No file manager could be started: the film is &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Es ließ sich kein Dateimanager starten: Der Film ist „%1“.</translation>
     </message>
 </context>
 <context>
@@ -452,262 +482,341 @@ It is built on Qt, FFmpeg and libass.</source>
     <message numerus="yes">
         <source>%n film(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n Film</numerusform>
+            <numerusform>%n Filme</numerusform>
         </translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Filme</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::FilmWords</name>
     <message>
         <source>Track %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Spur %1</translation>
     </message>
     <message numerus="yes">
         <source>All %n track(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n Spur</numerusform>
+            <numerusform>Alle %n Spuren</numerusform>
         </translation>
     </message>
     <message>
         <source>No subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Keine Untertitel</translation>
     </message>
     <message>
         <source>Drawn in: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Eingebrannt: %1</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; holds no subtitles that can be read: remove it.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die Datei „%1“ enthält keine lesbaren Untertitel: Entfernen Sie sie.</translation>
     </message>
     <message>
         <source>Remove the file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Datei entfernen</translation>
     </message>
     <message>
         <source>%1 cannot go into %2: draw it in, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 passt nicht in %2: Brennen Sie die Spur ein oder lassen Sie sie weg.</translation>
     </message>
     <message>
         <source>%1 cannot go into %2: choose %3, draw it in, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 passt nicht in %2: Wählen Sie %3, brennen Sie die Spur ein oder lassen Sie sie weg.</translation>
     </message>
     <message>
         <source>Choose %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 wählen</translation>
     </message>
     <message>
         <source>%1 cannot be moved in time while it stays a track: draw it in, set its offset to 0, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 lässt sich als Spur zeitlich nicht verschieben: Brennen Sie sie ein, setzen Sie ihren Versatz auf 0 oder lassen Sie sie weg.</translation>
     </message>
     <message>
         <source>Set its offset to 0</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Versatz auf 0 setzen</translation>
     </message>
     <message>
         <source>%1 cannot be read in another encoding while it stays a track: draw it in, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 lässt sich als Spur nicht in einer anderen Kodierung lesen: Brennen Sie sie ein oder lassen Sie sie weg.</translation>
     </message>
     <message>
         <source>Draw it in</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Einbrennen</translation>
     </message>
     <message>
         <source>Leave it out</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Weglassen</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::MainMenu</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Datei</translation>
     </message>
     <message>
         <source>Fil&amp;m</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fil&amp;m</translation>
     </message>
     <message>
         <source>Put &amp;back left-out tracks</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Weggelassene Spuren &amp;zurückholen</translation>
     </message>
     <message>
         <source>&amp;Convert</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Umwandeln</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Ansicht</translation>
     </message>
     <message>
         <source>&amp;Theme</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Farbschema</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Sprache</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Hilfe</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::NoticeBar</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 von %2</translation>
     </message>
     <message>
         <source>Previous notice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Vorige Meldung</translation>
     </message>
     <message>
         <source>Next notice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nächste Meldung</translation>
     </message>
     <message>
         <source>Close this notice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Diese Meldung schließen</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::Notices</name>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Erneut versuchen</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::OutputBar</name>
     <message>
         <source>As the source</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wie die Quelle</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hoch</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mittel</translation>
     </message>
     <message>
         <source>Small</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Klein</translation>
     </message>
     <message>
         <source>The picture is copied unchanged where nothing is drawn into it and the format can carry it; otherwise it is encoded in high quality.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Das Bild wird unverändert kopiert, wo nichts eingebrannt wird und das Format es tragen kann; sonst wird es in hoher Qualität kodiert.</translation>
     </message>
     <message>
         <source>The picture is encoded anew; differences are next to invisible.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Das Bild wird neu kodiert; Unterschiede sind so gut wie unsichtbar.</translation>
     </message>
     <message>
         <source>The picture is encoded anew; good for watching, in a smaller file.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Das Bild wird neu kodiert; gut zum Ansehen, in einer kleineren Datei.</translation>
     </message>
     <message>
         <source>The picture is encoded anew into a small file; losses are visible.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Das Bild wird neu in eine kleine Datei kodiert; Verluste sind sichtbar.</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 %</translation>
     </message>
     <message>
         <source>paused</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">angehalten</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1, %2</translation>
     </message>
     <message>
         <source>&amp;Resume</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Fortsetzen</translation>
     </message>
     <message>
         <source>&amp;Pause</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Anhalten</translation>
     </message>
     <message>
         <source>Go on converting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Weiter umwandeln</translation>
     </message>
     <message>
         <source>Stand still until you resume</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Stillstehen, bis Sie fortsetzen</translation>
     </message>
     <message>
         <source>&amp;Format</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Format</translation>
     </message>
     <message>
         <source>Output format</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ausgabeformat</translation>
     </message>
     <message>
         <source>&amp;Quality</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Qualität</translation>
     </message>
     <message>
         <source>Quality of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Qualität des Bildes</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Speichern</translation>
     </message>
     <message>
         <source>Beside each film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Neben jedem Film</translation>
     </message>
     <message>
         <source>Choose a folder...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ordner wählen …</translation>
     </message>
     <message>
         <source>&amp;Convert all</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Alle &amp;umwandeln</translation>
     </message>
     <message>
         <source>Convert all films that are ready</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Alle Filme umwandeln, die bereit sind</translation>
     </message>
     <message>
         <source>Only &amp;this film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nur &amp;diesen Film</translation>
     </message>
     <message>
         <source>Convert the film that is chosen in the list, and no other</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nur den Film umwandeln, der in der Liste gewählt ist</translation>
     </message>
     <message>
         <source>Progress of all conversions</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fortschritt aller Umwandlungen</translation>
     </message>
     <message>
         <source>Ca&amp;ncel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A&amp;bbrechen</translation>
     </message>
     <message>
         <source>Stop converting; half-written files are removed</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Umwandlung beenden; halb geschriebene Dateien werden entfernt</translation>
     </message>
     <message>
         <source>Where to save</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Speicherort</translation>
     </message>
     <message>
         <source>Output folder: %1</source>
+        <translation type="unfinished">Ausgabeordner: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SaveTrack</name>
+    <message>
+        <source>SubRip (*.srt)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Advanced SubStation Alpha (*.ass)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blu-ray subtitles (*.sup)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matroska (*.mkv *.mks)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the track as</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>&quot;%1&quot; was saved as %2 with %n cue(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s) could not be read as %1</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) without usable times were left out</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of no duration were left out</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; does not tell how to save the track: let it end in .srt, .ass, .sup or .mkv.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; is %3, which no subtitle file can hold: draw it into the picture instead.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save a track</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -715,132 +824,132 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::Desktop::SessionStore</name>
     <message>
         <source>The list of last time in &quot;%1&quot; cannot be read, and nothing is kept this time: rename or remove that file.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die letzte Liste in „%1“ ist nicht lesbar, und diesmal wird nichts gespeichert: Benennen Sie die Datei um oder entfernen Sie sie.</translation>
     </message>
     <message>
         <source>The list of last time was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die letzte Liste stammt von einer neueren Version des Programms; sie liegt als „%1“ bereit. Öffnen Sie Ihre Filme neu.</translation>
     </message>
     <message>
         <source>The list of last time is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die letzte Liste ist beschädigt; sie liegt als „%1“ bereit. Öffnen Sie Ihre Filme neu.</translation>
     </message>
     <message>
         <source>The list of films could not be kept in &quot;%1&quot; (%2): check that you may write there.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die Liste der Filme ließ sich nicht in „%1“ speichern (%2): Prüfen Sie, ob Sie dort schreiben dürfen.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::ShortcutsDialog</name>
     <message>
         <source>Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tastenkürzel</translation>
     </message>
     <message>
         <source>In the list: subtitles of the film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">In der Liste: Untertitel des Films</translation>
     </message>
     <message>
         <source>In the list: menu of the film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">In der Liste: Menü des Films</translation>
     </message>
     <message>
         <source>Close what is open</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Offenes schließen</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::TextHelpPane</name>
     <message>
         <source>Help with the text</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hilfe zum Text</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::TextHelpTexts</name>
     <message>
         <source>The file itself says that it is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die Datei selbst sagt, dass sie %1 ist.</translation>
     </message>
     <message>
         <source>Detected: %1 (certain).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Erkannt: %1 (sicher).</translation>
     </message>
     <message>
         <source>Nothing tells the encoding; %1 is a guess.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nichts verrät die Kodierung; %1 ist geraten.</translation>
     </message>
     <message>
         <source>Detected: %1 (very sure, %2).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Erkannt: %1 (sehr sicher, %2).</translation>
     </message>
     <message>
         <source>Detected: %1 (fairly sure, %2).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Erkannt: %1 (ziemlich sicher, %2).</translation>
     </message>
     <message>
         <source>Detected: %1 (not sure, %2).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Erkannt: %1 (unsicher, %2).</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) cannot be read in this encoding and show as &quot;%1&quot;.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n Byte ist in dieser Kodierung nicht lesbar und erscheint als „%1“.</numerusform>
+            <numerusform>%n Bytes sind in dieser Kodierung nicht lesbar und erscheinen als „%1“.</numerusform>
         </translation>
     </message>
     <message>
         <source>The font &quot;%1&quot; is not installed; &quot;%2&quot; stands in.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die Schriftart „%1“ ist nicht installiert; „%2“ springt ein.</translation>
     </message>
     <message>
         <source>Japanese</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Japanisch</translation>
     </message>
     <message>
         <source>Chinese</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Chinesisch</translation>
     </message>
     <message>
         <source>Korean</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Koreanisch</translation>
     </message>
     <message>
         <source>Cyrillic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kyrillisch</translation>
     </message>
     <message>
         <source>Greek</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Griechisch</translation>
     </message>
     <message>
         <source>Hebrew</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hebräisch</translation>
     </message>
     <message>
         <source>Arabic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Arabisch</translation>
     </message>
     <message>
         <source>Thai</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Thailändisch</translation>
     </message>
     <message>
         <source>Devanagari</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Devanagari</translation>
     </message>
     <message numerus="yes">
         <source>&quot;%1&quot; lacks %n character(s) of this text (%2): &quot;%3&quot; stands in.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>„%1“ fehlt %n Zeichen dieses Textes (%2): „%3“ springt ein.</numerusform>
+            <numerusform>„%1“ fehlen %n Zeichen dieses Textes (%2): „%3“ springt ein.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>No installed font has %n character(s) of this text (%1); they show as empty boxes.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Keine installierte Schriftart hat %n Zeichen dieses Textes (%1); es erscheint als leeres Kästchen.</numerusform>
+            <numerusform>Keine installierte Schriftart hat %n Zeichen dieses Textes (%1); sie erscheinen als leere Kästchen.</numerusform>
         </translation>
     </message>
 </context>
@@ -848,10 +957,92 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::Desktop::TextHelpView</name>
     <message>
         <source>It could also read:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Es könnte auch heißen:</translation>
     </message>
     <message>
         <source>First lines of the text</source>
+        <translation type="unfinished">Erste Zeilen des Textes</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::TrackMenu</name>
+    <message>
+        <source>&amp;Draw in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove from the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Leave out of the output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language, &amp;title and marks…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Put back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save as a file…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::TrackPropertiesDialog</name>
+    <message>
+        <source>Subtitle track</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not stated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On by &amp;default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Players show this track unless another one is chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Forced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only what has to be read in any case: signs and foreign speech</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This language is not known: choose one from the list, or write its code, such as &quot;en&quot; or &quot;pt-br&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -859,182 +1050,182 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::GUI::ColorPickerButton</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2</translation>
     </message>
     <message>
         <source>Color %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Farbe %1</translation>
     </message>
     <message>
         <source>Choose a color</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Farbe wählen</translation>
     </message>
 </context>
 <context>
     <name>OnlineDownloaderInteractor</name>
     <message>
         <source>No online subtitle service is set up; add its API key to the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Es ist kein Online-Dienst für Untertitel eingerichtet; tragen Sie dessen API-Schlüssel in die Einstellungen ein.</translation>
     </message>
 </context>
 <context>
     <name>SubtitleCollection</name>
     <message>
         <source>Subtitle tracks</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Untertitelspuren</translation>
     </message>
     <message>
         <source>Current choice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aktuelle Wahl</translation>
     </message>
     <message>
         <source>No subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Keine Untertitel</translation>
     </message>
     <message>
         <source>Leave all tracks (softsub)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Alle Spuren behalten (Softsub)</translation>
     </message>
     <message>
         <source>There are no subtitle tracks yet. Add a subtitle file first.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Es gibt noch keine Untertitelspuren. Fügen Sie zuerst eine Untertiteldatei hinzu.</translation>
     </message>
     <message>
         <source>The chosen output format cannot carry these tracks. Choose another format, or burn one track in.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Das gewählte Ausgabeformat kann diese Spuren nicht tragen. Wählen Sie ein anderes Format oder brennen Sie eine Spur ein.</translation>
     </message>
     <message>
         <source>Save this track to a file (Ctrl+S)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Diese Spur in eine Datei speichern (Strg+S)</translation>
     </message>
     <message>
         <source>Save to a file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">In eine Datei speichern: %1</translation>
     </message>
 </context>
 <context>
     <name>SubtitleCollectionInteractor</name>
     <message>
         <source>No subtitles were found in &quot;%1&quot;: take it out of the list and choose an SRT, ASS or SSA file.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">In „%1“ wurden keine Untertitel gefunden: Nehmen Sie die Datei aus der Liste und wählen Sie eine SRT-, ASS- oder SSA-Datei.</translation>
     </message>
 </context>
 <context>
     <name>SubtitleSettings</name>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Automatisch</translation>
     </message>
     <message>
         <source>UTF-8</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">UTF-8</translation>
     </message>
     <message>
         <source>Windows-1251</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Windows-1251</translation>
     </message>
     <message>
         <source>Central and Eastern European (Windows-1250)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mittel- und osteuropäisch (Windows-1250)</translation>
     </message>
     <message>
         <source>Russian (KOI8-R)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Russisch (KOI8-R)</translation>
     </message>
     <message>
         <source>Ukrainian, Belarusian (KOI8-U/RU)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ukrainisch, Belarussisch (KOI8-U/RU)</translation>
     </message>
     <message>
         <source>Esperanto, Galician, Maltese, Turkish (ISO-8859-3)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Esperanto, Galicisch, Maltesisch, Türkisch (ISO-8859-3)</translation>
     </message>
     <message>
         <source>Modern Greek (ISO-8859-7)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Neugriechisch (ISO-8859-7)</translation>
     </message>
     <message>
         <source>Hebrew charsets (ISO-8859-8)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hebräisch (ISO-8859-8)</translation>
     </message>
     <message>
         <source>Turkish (ISO-8859-9)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Türkisch (ISO-8859-9)</translation>
     </message>
     <message>
         <source>Baltic (ISO-8859-13)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Baltisch (ISO-8859-13)</translation>
     </message>
     <message>
         <source>Western European Languages with Euro (ISO-8859-15)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Westeuropäisch mit Euro (ISO-8859-15)</translation>
     </message>
     <message>
         <source>Japanese charsets (SHIFT-JIS/CP932)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Japanisch (SHIFT-JIS/CP932)</translation>
     </message>
     <message>
         <source>Simplified Chinese charset (CP936)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Vereinfachtes Chinesisch (CP936)</translation>
     </message>
     <message>
         <source>Traditional Chinese charset (BIG5)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Traditionelles Chinesisch (BIG5)</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Vorgabe</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Oben</translation>
     </message>
     <message>
         <source>Vertical center</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Vertikal mittig</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Unten</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Links</translation>
     </message>
     <message>
         <source>Horizontal center</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Horizontal mittig</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Rechts</translation>
     </message>
 </context>
 <context>
     <name>TimeTexts</name>
     <message>
         <source>less than a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">weniger als eine Minute übrig</translation>
     </message>
     <message numerus="yes">
         <source>%n min left</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>noch %n min</numerusform>
+            <numerusform>noch %n min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n h left</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>noch %n h</numerusform>
+            <numerusform>noch %n h</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 h %n min left</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>noch %1 h %n min</numerusform>
+            <numerusform>noch %1 h %n min</numerusform>
         </translation>
     </message>
 </context>
@@ -1042,15 +1233,15 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>TimeWords</name>
     <message>
         <source>%1 s left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">noch %1 s</translation>
     </message>
     <message>
         <source>%1 min left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">noch %1 min</translation>
     </message>
     <message>
         <source>%1 h %2 min left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">noch %1 h %2 min</translation>
     </message>
 </context>
 </TS>

@@ -4,68 +4,40 @@
 <context>
     <name>ConversionTexts</name>
     <message>
-        <source>&quot;%1&quot; (%2)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Track %1 (%2)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot be written anew in its encoding for %3: choose another format, draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot be moved in time as a switchable track of %3: set its offset to 0, draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot go into %3: draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot go into %3: choose %4, draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> or </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 holds no cues and was left out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 no contiene subtítulos y se dejó fuera.</translation>
     </message>
     <message>
         <source>%1 goes into %2 as %3.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 se incluye en %2 como %3.</translation>
     </message>
     <message>
         <source>%1 was read as %2.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 se leyó como %2.</translation>
     </message>
     <message>
         <source>%1 was moved by %2 s.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 se desplazó %2 s.</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) of %1 could not be read as text.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n byte de %1 no se pudo leer como texto.</numerusform>
+            <numerusform>%n bytes de %1 no se pudieron leer como texto.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of %1 made no sense and were left out.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n subtítulo de %1 no tenía sentido y se dejó fuera.</numerusform>
+            <numerusform>%n subtítulos de %1 no tenían sentido y se dejaron fuera.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of %1 would never be shown and were left out.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n subtítulo de %1 no se mostraría nunca y se dejó fuera.</numerusform>
+            <numerusform>%n subtítulos de %1 no se mostrarían nunca y se dejaron fuera.</numerusform>
         </translation>
     </message>
 </context>
@@ -73,174 +45,174 @@
     <name>EditingPanel</name>
     <message>
         <source>Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Subtítulos</translation>
     </message>
     <message>
         <source>Choose subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Elegir subtítulos</translation>
     </message>
     <message>
         <source>Subtitles encoding</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Codificación de los subtítulos</translation>
     </message>
     <message>
         <source>Aligment</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Alineación</translation>
     </message>
     <message>
         <source>Synchronize</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sincronizar</translation>
     </message>
     <message>
         <source>Add subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Añadir subtítulos</translation>
     </message>
     <message>
         <source>Leave all tracks (softsub)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Conservar todas las pistas (softsub)</translation>
     </message>
     <message>
         <source>Choose file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Elegir archivo</translation>
     </message>
     <message>
         <source>Find file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Buscar archivo</translation>
     </message>
     <message>
         <source>Relocating subtitles saves all subtitle tracks. You can select them in player.&lt;br&gt;&lt;br&gt;Select one of track to hardsub them.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Al trasladar los subtítulos se conservan todas las pistas. Puede elegirlas en el reproductor.&lt;br&gt;&lt;br&gt;Elija una de las pistas para incrustarla en la imagen.</translation>
     </message>
     <message>
         <source>Hastened</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Adelantado</translation>
     </message>
     <message>
         <source>Delayed</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Retrasado</translation>
     </message>
     <message>
         <source>Help on subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ayuda sobre los subtítulos</translation>
     </message>
     <message>
         <source>Position shift</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Desplazamiento de la posición</translation>
     </message>
     <message>
         <source>Synchronization offset in seconds</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Desfase de sincronización en segundos</translation>
     </message>
     <message>
         <source>Text color</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Color del texto</translation>
     </message>
     <message>
         <source>Outline color</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Color del contorno</translation>
     </message>
     <message>
         <source>Font: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fuente: %1</translation>
     </message>
 </context>
 <context>
     <name>ExternalSubtitlesDialog</name>
     <message>
         <source>Choose subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Elegir subtítulos</translation>
     </message>
     <message>
         <source>Subtitle files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Archivos de subtítulos (%1)</translation>
     </message>
 </context>
 <context>
     <name>FilmRow</name>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">En pausa</translation>
     </message>
     <message>
         <source>Preparing subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Preparando los subtítulos</translation>
     </message>
     <message>
         <source>Converting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Convirtiendo</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">En espera</translation>
     </message>
     <message>
         <source>Converted</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Convertida</translation>
     </message>
     <message numerus="yes">
         <source>Converted, with %n remark(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Convertida, con %n observación</numerusform>
+            <numerusform>Convertida, con %n observaciones</numerusform>
         </translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cancelada</translation>
     </message>
     <message>
         <source>Reading the film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Leyendo la película</translation>
     </message>
     <message>
         <source>Show in folder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mostrar en la carpeta</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Converter::Subtitles::Details::ItemPanel</name>
     <message>
         <source>Subtitles of this film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Subtítulos de esta película</translation>
     </message>
     <message>
         <source>Choose subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Elegir subtítulos</translation>
     </message>
     <message>
         <source>Add subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Añadir subtítulos</translation>
     </message>
     <message>
         <source>Choose file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Elegir archivo</translation>
     </message>
     <message>
         <source>Find file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Buscar archivo</translation>
     </message>
     <message>
         <source>Apply to all files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aplicar a todos los archivos</translation>
     </message>
     <message>
         <source>Makes the same choice for every film of the list</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hace la misma elección para cada película de la lista</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Listo</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::AboutDialog</name>
     <message>
         <source>About Korvex Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Acerca de Korvex Subtitles</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Versión %1</translation>
     </message>
     <message>
         <source>Converts films with their subtitles: as tracks that can be switched on and off, or drawn into the picture.
@@ -248,93 +220,151 @@
 Free software under the GNU General Public License, version 3 or later. It comes without any warranty.
 
 It is built on Qt, FFmpeg and libass.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Convierte películas con sus subtítulos: como pistas que se activan y desactivan, o incrustados en la imagen.
+
+Software libre bajo la Licencia Pública General de GNU, versión 3 o posterior. Se ofrece sin garantía alguna.
+
+Se basa en Qt, FFmpeg y libass.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::Actions</name>
     <message>
         <source>&amp;Add films...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Añadir películas...</translation>
     </message>
     <message>
         <source>Add &amp;subtitles...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Añadir &amp;subtítulos...</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Salir</translation>
     </message>
     <message>
         <source>&amp;Subtitles...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Subtítulos...</translation>
     </message>
     <message>
         <source>Apply these subtitles to &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aplicar estos subtítulos a &amp;todas</translation>
     </message>
     <message>
         <source>&amp;Copy as command line</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Copiar como línea de órdenes</translation>
     </message>
     <message>
         <source>Show &amp;output in folder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Mostrar el resultado en la carpeta</translation>
     </message>
     <message>
         <source>&amp;Remove from list</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Quitar de la lista</translation>
     </message>
     <message>
         <source>&amp;Previous film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Película &amp;anterior</translation>
     </message>
     <message>
         <source>&amp;Next film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Película &amp;siguiente</translation>
     </message>
     <message>
         <source>Convert &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Convertir &amp;todas</translation>
     </message>
     <message>
         <source>Convert this &amp;film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Convertir esta &amp;película</translation>
     </message>
     <message>
         <source>&amp;Pause</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Pausar</translation>
     </message>
     <message>
         <source>&amp;Cancel this film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Cancelar esta película</translation>
     </message>
     <message>
         <source>Cancel a&amp;ll</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cancelar &amp;todo</translation>
     </message>
     <message>
         <source>As the &amp;system</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Como el &amp;sistema</translation>
     </message>
     <message>
         <source>&amp;Light</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Claro</translation>
     </message>
     <message>
         <source>&amp;Dark</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Oscuro</translation>
     </message>
     <message>
         <source>&amp;Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Atajos de teclado</translation>
     </message>
     <message>
         <source>&amp;About Korvex Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Acerca de Korvex Subtitles</translation>
     </message>
     <message>
         <source>Remove</source>
+        <translation type="unfinished">Quitar</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::ApplyToAll</name>
+    <message>
+        <source>&quot;%1&quot;: nothing changed, because the film cannot be read at the moment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: nothing changed, because it has no track like %2 and no file of that name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::CommandLineText</name>
+    <message>
+        <source>A picture that cannot be copied is encoded with --crf %1 there and %2 here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The text cannot be moved by more than %1 lines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The font size %1 is not a whole number up to %2: the nearest one stands for it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 keeps its own language, title and forced mark.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 keeps the language, title and forced mark that its name states.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 goes out without its mark for the hard of hearing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which of the film&apos;s own tracks players show by themselves stays as in the film.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The files have different encodings: all are read as they are detected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tracks are moved by different offsets: none is moved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text cannot be moved by more than a day.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -342,109 +372,109 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::Desktop::ConversionControl</name>
     <message>
         <source>Quit while converting?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">¿Salir mientras se convierte?</translation>
     </message>
     <message>
         <source>Films are still being converted. Quitting cancels them; what is finished stays.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aún se están convirtiendo películas. Al salir se cancelan; lo que está terminado se conserva.</translation>
     </message>
     <message>
         <source>Cancel conversions and quit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cancelar las conversiones y salir</translation>
     </message>
     <message>
         <source>Go on converting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Seguir convirtiendo</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::ConversionQueue</name>
     <message>
         <source>The subtitles of &quot;%1&quot; cannot go out as chosen; choose them again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Los subtítulos de «%1» no pueden salir como se eligió; vuelva a elegirlos.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::DropHighlight</name>
     <message>
         <source>Drop films, folders or subtitle files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Suelte películas, carpetas o archivos de subtítulos</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::EmptyPage</name>
     <message>
         <source>Drop films here or choose files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Suelte películas aquí o elija archivos</translation>
     </message>
     <message>
         <source>Folders work too. Subtitle files beside a film are found by themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">También sirven carpetas. Los archivos de subtítulos junto a una película se encuentran solos.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::FileActions</name>
     <message>
         <source>&quot;%1&quot; needs a film to go with: add the film first.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">«%1» necesita una película: añada primero la película.</translation>
     </message>
     <message>
         <source>No new film was found in &quot;%1&quot;: choose a folder with films.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">No se encontró ninguna película nueva en «%1»: elija una carpeta con películas.</translation>
     </message>
     <message>
         <source>Add films</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Añadir películas</translation>
     </message>
     <message>
         <source>Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Subtítulos</translation>
     </message>
     <message>
         <source>All files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Todos los archivos</translation>
     </message>
     <message>
         <source>Add subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Añadir subtítulos</translation>
     </message>
     <message>
         <source>Where is &quot;%1&quot; now?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">¿Dónde está «%1» ahora?</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::Film</name>
     <message>
         <source>The film &quot;%1&quot; is not there any more: show where it is now, or remove it from the list.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La película «%1» ya no está: indique dónde está ahora o quítela de la lista.</translation>
     </message>
     <message>
         <source>Locate...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Localizar...</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::FilmActions</name>
     <message>
         <source>Remove a film that is being converted?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">¿Quitar una película que se está convirtiendo?</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is being converted. Removing it cancels its conversion.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">«%1» se está convirtiendo. Al quitarla se cancela su conversión.</translation>
     </message>
     <message>
         <source>Cancel conversion and remove</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cancelar la conversión y quitar</translation>
     </message>
     <message>
         <source>Keep it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Conservarla</translation>
     </message>
     <message>
         <source>No file manager could be started: the film is &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">No se pudo iniciar ningún gestor de archivos: la película es «%1».</translation>
     </message>
 </context>
 <context>
@@ -452,262 +482,341 @@ It is built on Qt, FFmpeg and libass.</source>
     <message numerus="yes">
         <source>%n film(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n película</numerusform>
+            <numerusform>%n películas</numerusform>
         </translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Películas</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::FilmWords</name>
     <message>
         <source>Track %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pista %1</translation>
     </message>
     <message numerus="yes">
         <source>All %n track(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n pista</numerusform>
+            <numerusform>Las %n pistas</numerusform>
         </translation>
     </message>
     <message>
         <source>No subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sin subtítulos</translation>
     </message>
     <message>
         <source>Drawn in: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Incrustada: %1</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; holds no subtitles that can be read: remove it.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">El archivo «%1» no contiene subtítulos legibles: quítelo.</translation>
     </message>
     <message>
         <source>Remove the file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Quitar el archivo</translation>
     </message>
     <message>
         <source>%1 cannot go into %2: draw it in, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 no cabe en %2: incrústela en la imagen o déjela fuera.</translation>
     </message>
     <message>
         <source>%1 cannot go into %2: choose %3, draw it in, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 no cabe en %2: elija %3, incrústela en la imagen o déjela fuera.</translation>
     </message>
     <message>
         <source>Choose %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Elegir %1</translation>
     </message>
     <message>
         <source>%1 cannot be moved in time while it stays a track: draw it in, set its offset to 0, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 no se puede desplazar en el tiempo mientras siga siendo una pista: incrústela, ponga su desfase a 0 o déjela fuera.</translation>
     </message>
     <message>
         <source>Set its offset to 0</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Poner su desfase a 0</translation>
     </message>
     <message>
         <source>%1 cannot be read in another encoding while it stays a track: draw it in, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 no se puede leer con otra codificación mientras siga siendo una pista: incrústela o déjela fuera.</translation>
     </message>
     <message>
         <source>Draw it in</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Incrustarla</translation>
     </message>
     <message>
         <source>Leave it out</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dejarla fuera</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::MainMenu</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Archivo</translation>
     </message>
     <message>
         <source>Fil&amp;m</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pelíc&amp;ula</translation>
     </message>
     <message>
         <source>Put &amp;back left-out tracks</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Recuperar las pistas dejadas fuera</translation>
     </message>
     <message>
         <source>&amp;Convert</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Convertir</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Ver</translation>
     </message>
     <message>
         <source>&amp;Theme</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Tema</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Idioma</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A&amp;yuda</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::NoticeBar</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 de %2</translation>
     </message>
     <message>
         <source>Previous notice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aviso anterior</translation>
     </message>
     <message>
         <source>Next notice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aviso siguiente</translation>
     </message>
     <message>
         <source>Close this notice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cerrar este aviso</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::Notices</name>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Reintentar</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::OutputBar</name>
     <message>
         <source>As the source</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Como el original</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Alta</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Media</translation>
     </message>
     <message>
         <source>Small</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pequeño</translation>
     </message>
     <message>
         <source>The picture is copied unchanged where nothing is drawn into it and the format can carry it; otherwise it is encoded in high quality.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La imagen se copia sin cambios si no se incrusta nada y el formato la admite; si no, se codifica en alta calidad.</translation>
     </message>
     <message>
         <source>The picture is encoded anew; differences are next to invisible.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La imagen se vuelve a codificar; las diferencias son casi invisibles.</translation>
     </message>
     <message>
         <source>The picture is encoded anew; good for watching, in a smaller file.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La imagen se vuelve a codificar; buena para ver, en un archivo más pequeño.</translation>
     </message>
     <message>
         <source>The picture is encoded anew into a small file; losses are visible.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La imagen se vuelve a codificar en un archivo pequeño; las pérdidas son visibles.</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 %</translation>
     </message>
     <message>
         <source>paused</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">en pausa</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1, %2</translation>
     </message>
     <message>
         <source>&amp;Resume</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Reanudar</translation>
     </message>
     <message>
         <source>&amp;Pause</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Pausar</translation>
     </message>
     <message>
         <source>Go on converting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Seguir convirtiendo</translation>
     </message>
     <message>
         <source>Stand still until you resume</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Detenerse hasta que usted reanude</translation>
     </message>
     <message>
         <source>&amp;Format</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Formato</translation>
     </message>
     <message>
         <source>Output format</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Formato de salida</translation>
     </message>
     <message>
         <source>&amp;Quality</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Calidad</translation>
     </message>
     <message>
         <source>Quality of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Calidad de la imagen</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Guardar</translation>
     </message>
     <message>
         <source>Beside each film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Junto a cada película</translation>
     </message>
     <message>
         <source>Choose a folder...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Elegir una carpeta...</translation>
     </message>
     <message>
         <source>&amp;Convert all</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Convertir todas</translation>
     </message>
     <message>
         <source>Convert all films that are ready</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Convertir todas las películas que están listas</translation>
     </message>
     <message>
         <source>Only &amp;this film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Solo &amp;esta película</translation>
     </message>
     <message>
         <source>Convert the film that is chosen in the list, and no other</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Convertir la película elegida en la lista y ninguna otra</translation>
     </message>
     <message>
         <source>Progress of all conversions</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Progreso de todas las conversiones</translation>
     </message>
     <message>
         <source>Ca&amp;ncel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ca&amp;ncelar</translation>
     </message>
     <message>
         <source>Stop converting; half-written files are removed</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Detener la conversión; los archivos a medio escribir se eliminan</translation>
     </message>
     <message>
         <source>Where to save</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dónde guardar</translation>
     </message>
     <message>
         <source>Output folder: %1</source>
+        <translation type="unfinished">Carpeta de salida: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SaveTrack</name>
+    <message>
+        <source>SubRip (*.srt)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Advanced SubStation Alpha (*.ass)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blu-ray subtitles (*.sup)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matroska (*.mkv *.mks)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the track as</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>&quot;%1&quot; was saved as %2 with %n cue(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s) could not be read as %1</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) without usable times were left out</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of no duration were left out</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; does not tell how to save the track: let it end in .srt, .ass, .sup or .mkv.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; is %3, which no subtitle file can hold: draw it into the picture instead.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save a track</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -715,132 +824,132 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::Desktop::SessionStore</name>
     <message>
         <source>The list of last time in &quot;%1&quot; cannot be read, and nothing is kept this time: rename or remove that file.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La última lista, en «%1», no se puede leer y esta vez no se guarda nada: cambie el nombre del archivo o elimínelo.</translation>
     </message>
     <message>
         <source>The list of last time was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La última lista la escribió una versión más reciente del programa; se conserva como «%1». Abra de nuevo sus películas.</translation>
     </message>
     <message>
         <source>The list of last time is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La última lista está dañada; se conserva como «%1». Abra de nuevo sus películas.</translation>
     </message>
     <message>
         <source>The list of films could not be kept in &quot;%1&quot; (%2): check that you may write there.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La lista de películas no se pudo guardar en «%1» (%2): compruebe que puede escribir allí.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::ShortcutsDialog</name>
     <message>
         <source>Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Atajos de teclado</translation>
     </message>
     <message>
         <source>In the list: subtitles of the film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">En la lista: subtítulos de la película</translation>
     </message>
     <message>
         <source>In the list: menu of the film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">En la lista: menú de la película</translation>
     </message>
     <message>
         <source>Close what is open</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cerrar lo que está abierto</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::TextHelpPane</name>
     <message>
         <source>Help with the text</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ayuda con el texto</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::TextHelpTexts</name>
     <message>
         <source>The file itself says that it is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">El propio archivo indica que es %1.</translation>
     </message>
     <message>
         <source>Detected: %1 (certain).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Detectado: %1 (seguro).</translation>
     </message>
     <message>
         <source>Nothing tells the encoding; %1 is a guess.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nada revela la codificación; %1 es una suposición.</translation>
     </message>
     <message>
         <source>Detected: %1 (very sure, %2).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Detectado: %1 (muy seguro, %2).</translation>
     </message>
     <message>
         <source>Detected: %1 (fairly sure, %2).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Detectado: %1 (bastante seguro, %2).</translation>
     </message>
     <message>
         <source>Detected: %1 (not sure, %2).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Detectado: %1 (no seguro, %2).</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) cannot be read in this encoding and show as &quot;%1&quot;.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n byte no se puede leer con esta codificación y aparece como «%1».</numerusform>
+            <numerusform>%n bytes no se pueden leer con esta codificación y aparecen como «%1».</numerusform>
         </translation>
     </message>
     <message>
         <source>The font &quot;%1&quot; is not installed; &quot;%2&quot; stands in.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La fuente «%1» no está instalada; la sustituye «%2».</translation>
     </message>
     <message>
         <source>Japanese</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">japonés</translation>
     </message>
     <message>
         <source>Chinese</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">chino</translation>
     </message>
     <message>
         <source>Korean</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">coreano</translation>
     </message>
     <message>
         <source>Cyrillic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">cirílico</translation>
     </message>
     <message>
         <source>Greek</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">griego</translation>
     </message>
     <message>
         <source>Hebrew</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">hebreo</translation>
     </message>
     <message>
         <source>Arabic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">árabe</translation>
     </message>
     <message>
         <source>Thai</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">tailandés</translation>
     </message>
     <message>
         <source>Devanagari</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">devanagari</translation>
     </message>
     <message numerus="yes">
         <source>&quot;%1&quot; lacks %n character(s) of this text (%2): &quot;%3&quot; stands in.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>A «%1» le falta %n carácter de este texto (%2): lo sustituye «%3».</numerusform>
+            <numerusform>A «%1» le faltan %n caracteres de este texto (%2): los sustituye «%3».</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>No installed font has %n character(s) of this text (%1); they show as empty boxes.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Ninguna fuente instalada tiene %n carácter de este texto (%1); aparece como un recuadro vacío.</numerusform>
+            <numerusform>Ninguna fuente instalada tiene %n caracteres de este texto (%1); aparecen como recuadros vacíos.</numerusform>
         </translation>
     </message>
 </context>
@@ -848,10 +957,92 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::Desktop::TextHelpView</name>
     <message>
         <source>It could also read:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">También podría leerse así:</translation>
     </message>
     <message>
         <source>First lines of the text</source>
+        <translation type="unfinished">Primeras líneas del texto</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::TrackMenu</name>
+    <message>
+        <source>&amp;Draw in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove from the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Leave out of the output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language, &amp;title and marks…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Put back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save as a file…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::TrackPropertiesDialog</name>
+    <message>
+        <source>Subtitle track</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not stated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On by &amp;default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Players show this track unless another one is chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Forced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only what has to be read in any case: signs and foreign speech</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This language is not known: choose one from the list, or write its code, such as &quot;en&quot; or &quot;pt-br&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -859,182 +1050,182 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::GUI::ColorPickerButton</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2</translation>
     </message>
     <message>
         <source>Color %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Color %1</translation>
     </message>
     <message>
         <source>Choose a color</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Elegir un color</translation>
     </message>
 </context>
 <context>
     <name>OnlineDownloaderInteractor</name>
     <message>
         <source>No online subtitle service is set up; add its API key to the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">No hay ningún servicio de subtítulos en línea configurado; añada su clave de API a la configuración.</translation>
     </message>
 </context>
 <context>
     <name>SubtitleCollection</name>
     <message>
         <source>Subtitle tracks</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pistas de subtítulos</translation>
     </message>
     <message>
         <source>Current choice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Elección actual</translation>
     </message>
     <message>
         <source>No subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sin subtítulos</translation>
     </message>
     <message>
         <source>Leave all tracks (softsub)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Conservar todas las pistas (softsub)</translation>
     </message>
     <message>
         <source>There are no subtitle tracks yet. Add a subtitle file first.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Todavía no hay pistas de subtítulos. Añada primero un archivo de subtítulos.</translation>
     </message>
     <message>
         <source>The chosen output format cannot carry these tracks. Choose another format, or burn one track in.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">El formato de salida elegido no admite estas pistas. Elija otro formato o incruste una pista.</translation>
     </message>
     <message>
         <source>Save this track to a file (Ctrl+S)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guardar esta pista en un archivo (Ctrl+S)</translation>
     </message>
     <message>
         <source>Save to a file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guardar en un archivo: %1</translation>
     </message>
 </context>
 <context>
     <name>SubtitleCollectionInteractor</name>
     <message>
         <source>No subtitles were found in &quot;%1&quot;: take it out of the list and choose an SRT, ASS or SSA file.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">No se encontraron subtítulos en «%1»: quítelo de la lista y elija un archivo SRT, ASS o SSA.</translation>
     </message>
 </context>
 <context>
     <name>SubtitleSettings</name>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Automática</translation>
     </message>
     <message>
         <source>UTF-8</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">UTF-8</translation>
     </message>
     <message>
         <source>Windows-1251</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Windows-1251</translation>
     </message>
     <message>
         <source>Central and Eastern European (Windows-1250)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Europa central y oriental (Windows-1250)</translation>
     </message>
     <message>
         <source>Russian (KOI8-R)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ruso (KOI8-R)</translation>
     </message>
     <message>
         <source>Ukrainian, Belarusian (KOI8-U/RU)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ucraniano, bielorruso (KOI8-U/RU)</translation>
     </message>
     <message>
         <source>Esperanto, Galician, Maltese, Turkish (ISO-8859-3)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Esperanto, gallego, maltés, turco (ISO-8859-3)</translation>
     </message>
     <message>
         <source>Modern Greek (ISO-8859-7)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Griego moderno (ISO-8859-7)</translation>
     </message>
     <message>
         <source>Hebrew charsets (ISO-8859-8)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hebreo (ISO-8859-8)</translation>
     </message>
     <message>
         <source>Turkish (ISO-8859-9)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Turco (ISO-8859-9)</translation>
     </message>
     <message>
         <source>Baltic (ISO-8859-13)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Báltico (ISO-8859-13)</translation>
     </message>
     <message>
         <source>Western European Languages with Euro (ISO-8859-15)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Europa occidental con euro (ISO-8859-15)</translation>
     </message>
     <message>
         <source>Japanese charsets (SHIFT-JIS/CP932)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Japonés (SHIFT-JIS/CP932)</translation>
     </message>
     <message>
         <source>Simplified Chinese charset (CP936)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Chino simplificado (CP936)</translation>
     </message>
     <message>
         <source>Traditional Chinese charset (BIG5)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Chino tradicional (BIG5)</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Predeterminada</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Arriba</translation>
     </message>
     <message>
         <source>Vertical center</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Centro vertical</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abajo</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Izquierda</translation>
     </message>
     <message>
         <source>Horizontal center</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Centro horizontal</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Derecha</translation>
     </message>
 </context>
 <context>
     <name>TimeTexts</name>
     <message>
         <source>less than a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">queda menos de un minuto</translation>
     </message>
     <message numerus="yes">
         <source>%n min left</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>queda %n min</numerusform>
+            <numerusform>quedan %n min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n h left</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>queda %n h</numerusform>
+            <numerusform>quedan %n h</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 h %n min left</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>quedan %1 h %n min</numerusform>
+            <numerusform>quedan %1 h %n min</numerusform>
         </translation>
     </message>
 </context>
@@ -1042,15 +1233,15 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>TimeWords</name>
     <message>
         <source>%1 s left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">quedan %1 s</translation>
     </message>
     <message>
         <source>%1 min left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">quedan %1 min</translation>
     </message>
     <message>
         <source>%1 h %2 min left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">quedan %1 h %2 min</translation>
     </message>
 </context>
 </TS>

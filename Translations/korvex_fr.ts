@@ -4,68 +4,40 @@
 <context>
     <name>ConversionTexts</name>
     <message>
-        <source>&quot;%1&quot; (%2)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Track %1 (%2)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot be written anew in its encoding for %3: choose another format, draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot be moved in time as a switchable track of %3: set its offset to 0, draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot go into %3: draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot go into %3: choose %4, draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> or </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 holds no cues and was left out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 ne contient aucun sous-titre et a été laissée de côté.</translation>
     </message>
     <message>
         <source>%1 goes into %2 as %3.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 est placée dans %2 en tant que %3.</translation>
     </message>
     <message>
         <source>%1 was read as %2.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 a été lue en %2.</translation>
     </message>
     <message>
         <source>%1 was moved by %2 s.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 a été décalée de %2 s.</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) of %1 could not be read as text.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n octet de %1 n&apos;a pas pu être lu comme du texte.</numerusform>
+            <numerusform>%n octets de %1 n&apos;ont pas pu être lus comme du texte.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of %1 made no sense and were left out.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n sous-titre de %1 était inutilisable et a été laissé de côté.</numerusform>
+            <numerusform>%n sous-titres de %1 étaient inutilisables et ont été laissés de côté.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of %1 would never be shown and were left out.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n sous-titre de %1 ne serait jamais affiché et a été laissé de côté.</numerusform>
+            <numerusform>%n sous-titres de %1 ne seraient jamais affichés et ont été laissés de côté.</numerusform>
         </translation>
     </message>
 </context>
@@ -73,174 +45,174 @@
     <name>EditingPanel</name>
     <message>
         <source>Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sous-titres</translation>
     </message>
     <message>
         <source>Choose subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Choisir les sous-titres</translation>
     </message>
     <message>
         <source>Subtitles encoding</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Encodage des sous-titres</translation>
     </message>
     <message>
         <source>Aligment</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Alignement</translation>
     </message>
     <message>
         <source>Synchronize</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Synchroniser</translation>
     </message>
     <message>
         <source>Add subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ajouter des sous-titres</translation>
     </message>
     <message>
         <source>Leave all tracks (softsub)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Garder toutes les pistes (softsub)</translation>
     </message>
     <message>
         <source>Choose file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Choisir un fichier</translation>
     </message>
     <message>
         <source>Find file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Chercher un fichier</translation>
     </message>
     <message>
         <source>Relocating subtitles saves all subtitle tracks. You can select them in player.&lt;br&gt;&lt;br&gt;Select one of track to hardsub them.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Le transfert des sous-titres conserve toutes les pistes. Vous pouvez les choisir dans le lecteur.&lt;br&gt;&lt;br&gt;Choisissez une piste pour l&apos;incruster dans l&apos;image.</translation>
     </message>
     <message>
         <source>Hastened</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Avancé</translation>
     </message>
     <message>
         <source>Delayed</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Retardé</translation>
     </message>
     <message>
         <source>Help on subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aide sur les sous-titres</translation>
     </message>
     <message>
         <source>Position shift</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Décalage de la position</translation>
     </message>
     <message>
         <source>Synchronization offset in seconds</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Décalage de synchronisation en secondes</translation>
     </message>
     <message>
         <source>Text color</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Couleur du texte</translation>
     </message>
     <message>
         <source>Outline color</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Couleur du contour</translation>
     </message>
     <message>
         <source>Font: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Police&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>ExternalSubtitlesDialog</name>
     <message>
         <source>Choose subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Choisir les sous-titres</translation>
     </message>
     <message>
         <source>Subtitle files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fichiers de sous-titres (%1)</translation>
     </message>
 </context>
 <context>
     <name>FilmRow</name>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">En pause</translation>
     </message>
     <message>
         <source>Preparing subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Préparation des sous-titres</translation>
     </message>
     <message>
         <source>Converting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Conversion en cours</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">En attente</translation>
     </message>
     <message>
         <source>Converted</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Converti</translation>
     </message>
     <message numerus="yes">
         <source>Converted, with %n remark(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Converti, avec %n remarque</numerusform>
+            <numerusform>Converti, avec %n remarques</numerusform>
         </translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Annulé</translation>
     </message>
     <message>
         <source>Reading the film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lecture du film</translation>
     </message>
     <message>
         <source>Show in folder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Afficher dans le dossier</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Converter::Subtitles::Details::ItemPanel</name>
     <message>
         <source>Subtitles of this film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sous-titres de ce film</translation>
     </message>
     <message>
         <source>Choose subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Choisir les sous-titres</translation>
     </message>
     <message>
         <source>Add subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ajouter des sous-titres</translation>
     </message>
     <message>
         <source>Choose file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Choisir un fichier</translation>
     </message>
     <message>
         <source>Find file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Chercher un fichier</translation>
     </message>
     <message>
         <source>Apply to all files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Appliquer à tous les fichiers</translation>
     </message>
     <message>
         <source>Makes the same choice for every film of the list</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fait le même choix pour chaque film de la liste</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Terminé</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::AboutDialog</name>
     <message>
         <source>About Korvex Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">À propos de Korvex Subtitles</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Version %1</translation>
     </message>
     <message>
         <source>Converts films with their subtitles: as tracks that can be switched on and off, or drawn into the picture.
@@ -248,93 +220,151 @@
 Free software under the GNU General Public License, version 3 or later. It comes without any warranty.
 
 It is built on Qt, FFmpeg and libass.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Convertit des films avec leurs sous-titres&#xa0;: en pistes que l&apos;on active ou désactive, ou incrustés dans l&apos;image.
+
+Logiciel libre sous licence publique générale GNU, version 3 ou ultérieure. Il est fourni sans aucune garantie.
+
+Il repose sur Qt, FFmpeg et libass.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::Actions</name>
     <message>
         <source>&amp;Add films...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Ajouter des films...</translation>
     </message>
     <message>
         <source>Add &amp;subtitles...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ajouter des &amp;sous-titres...</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Quitter</translation>
     </message>
     <message>
         <source>&amp;Subtitles...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Sous-titres...</translation>
     </message>
     <message>
         <source>Apply these subtitles to &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Appliquer ces sous-titres à &amp;tous</translation>
     </message>
     <message>
         <source>&amp;Copy as command line</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Copier en ligne de commande</translation>
     </message>
     <message>
         <source>Show &amp;output in folder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Afficher le &amp;résultat dans le dossier</translation>
     </message>
     <message>
         <source>&amp;Remove from list</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Retirer de la liste</translation>
     </message>
     <message>
         <source>&amp;Previous film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Film &amp;précédent</translation>
     </message>
     <message>
         <source>&amp;Next film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Film &amp;suivant</translation>
     </message>
     <message>
         <source>Convert &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Tout convertir</translation>
     </message>
     <message>
         <source>Convert this &amp;film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Convertir ce &amp;film</translation>
     </message>
     <message>
         <source>&amp;Pause</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Pause</translation>
     </message>
     <message>
         <source>&amp;Cancel this film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Annuler ce film</translation>
     </message>
     <message>
         <source>Cancel a&amp;ll</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tout &amp;annuler</translation>
     </message>
     <message>
         <source>As the &amp;system</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Comme le &amp;système</translation>
     </message>
     <message>
         <source>&amp;Light</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Clair</translation>
     </message>
     <message>
         <source>&amp;Dark</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Sombre</translation>
     </message>
     <message>
         <source>&amp;Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Raccourcis clavier</translation>
     </message>
     <message>
         <source>&amp;About Korvex Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">À &amp;propos de Korvex Subtitles</translation>
     </message>
     <message>
         <source>Remove</source>
+        <translation type="unfinished">Retirer</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::ApplyToAll</name>
+    <message>
+        <source>&quot;%1&quot;: nothing changed, because the film cannot be read at the moment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: nothing changed, because it has no track like %2 and no file of that name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::CommandLineText</name>
+    <message>
+        <source>A picture that cannot be copied is encoded with --crf %1 there and %2 here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The text cannot be moved by more than %1 lines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The font size %1 is not a whole number up to %2: the nearest one stands for it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 keeps its own language, title and forced mark.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 keeps the language, title and forced mark that its name states.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 goes out without its mark for the hard of hearing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which of the film&apos;s own tracks players show by themselves stays as in the film.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The files have different encodings: all are read as they are detected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tracks are moved by different offsets: none is moved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text cannot be moved by more than a day.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -342,109 +372,109 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::Desktop::ConversionControl</name>
     <message>
         <source>Quit while converting?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Quitter pendant la conversion&#xa0;?</translation>
     </message>
     <message>
         <source>Films are still being converted. Quitting cancels them; what is finished stays.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Des films sont encore en cours de conversion. Quitter les annule&#xa0;; ce qui est terminé reste.</translation>
     </message>
     <message>
         <source>Cancel conversions and quit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Annuler les conversions et quitter</translation>
     </message>
     <message>
         <source>Go on converting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Continuer la conversion</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::ConversionQueue</name>
     <message>
         <source>The subtitles of &quot;%1&quot; cannot go out as chosen; choose them again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Les sous-titres de «&#xa0;%1&#xa0;» ne peuvent pas sortir comme choisi&#xa0;; choisissez-les de nouveau.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::DropHighlight</name>
     <message>
         <source>Drop films, folders or subtitle files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Déposez des films, des dossiers ou des fichiers de sous-titres</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::EmptyPage</name>
     <message>
         <source>Drop films here or choose files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Déposez des films ici ou choisissez des fichiers</translation>
     </message>
     <message>
         <source>Folders work too. Subtitle files beside a film are found by themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Les dossiers aussi. Les fichiers de sous-titres à côté d&apos;un film sont trouvés automatiquement.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::FileActions</name>
     <message>
         <source>&quot;%1&quot; needs a film to go with: add the film first.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">«&#xa0;%1&#xa0;» a besoin d&apos;un film&#xa0;: ajoutez d&apos;abord le film.</translation>
     </message>
     <message>
         <source>No new film was found in &quot;%1&quot;: choose a folder with films.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aucun nouveau film dans «&#xa0;%1&#xa0;»&#xa0;: choisissez un dossier contenant des films.</translation>
     </message>
     <message>
         <source>Add films</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ajouter des films</translation>
     </message>
     <message>
         <source>Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sous-titres</translation>
     </message>
     <message>
         <source>All files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tous les fichiers</translation>
     </message>
     <message>
         <source>Add subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ajouter des sous-titres</translation>
     </message>
     <message>
         <source>Where is &quot;%1&quot; now?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Où se trouve «&#xa0;%1&#xa0;» maintenant&#xa0;?</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::Film</name>
     <message>
         <source>The film &quot;%1&quot; is not there any more: show where it is now, or remove it from the list.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Le film «&#xa0;%1&#xa0;» n&apos;est plus là&#xa0;: indiquez où il se trouve maintenant ou retirez-le de la liste.</translation>
     </message>
     <message>
         <source>Locate...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Localiser...</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::FilmActions</name>
     <message>
         <source>Remove a film that is being converted?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Retirer un film en cours de conversion&#xa0;?</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is being converted. Removing it cancels its conversion.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">«&#xa0;%1&#xa0;» est en cours de conversion. Le retirer annule sa conversion.</translation>
     </message>
     <message>
         <source>Cancel conversion and remove</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Annuler la conversion et retirer</translation>
     </message>
     <message>
         <source>Keep it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Le garder</translation>
     </message>
     <message>
         <source>No file manager could be started: the film is &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aucun gestionnaire de fichiers n&apos;a pu être lancé&#xa0;: le film est «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -452,262 +482,341 @@ It is built on Qt, FFmpeg and libass.</source>
     <message numerus="yes">
         <source>%n film(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n film</numerusform>
+            <numerusform>%n films</numerusform>
         </translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Films</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::FilmWords</name>
     <message>
         <source>Track %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Piste %1</translation>
     </message>
     <message numerus="yes">
         <source>All %n track(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n piste</numerusform>
+            <numerusform>Les %n pistes</numerusform>
         </translation>
     </message>
     <message>
         <source>No subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pas de sous-titres</translation>
     </message>
     <message>
         <source>Drawn in: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Incrustée&#xa0;: %1</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; holds no subtitles that can be read: remove it.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Le fichier «&#xa0;%1&#xa0;» ne contient aucun sous-titre lisible&#xa0;: retirez-le.</translation>
     </message>
     <message>
         <source>Remove the file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Retirer le fichier</translation>
     </message>
     <message>
         <source>%1 cannot go into %2: draw it in, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 ne peut pas aller dans %2&#xa0;: incrustez-la ou laissez-la de côté.</translation>
     </message>
     <message>
         <source>%1 cannot go into %2: choose %3, draw it in, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 ne peut pas aller dans %2&#xa0;: choisissez %3, incrustez-la ou laissez-la de côté.</translation>
     </message>
     <message>
         <source>Choose %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Choisir %1</translation>
     </message>
     <message>
         <source>%1 cannot be moved in time while it stays a track: draw it in, set its offset to 0, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 ne peut pas être décalée dans le temps tant qu&apos;elle reste une piste&#xa0;: incrustez-la, mettez son décalage à 0 ou laissez-la de côté.</translation>
     </message>
     <message>
         <source>Set its offset to 0</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mettre son décalage à 0</translation>
     </message>
     <message>
         <source>%1 cannot be read in another encoding while it stays a track: draw it in, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 ne peut pas être lue dans un autre encodage tant qu&apos;elle reste une piste&#xa0;: incrustez-la ou laissez-la de côté.</translation>
     </message>
     <message>
         <source>Draw it in</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">L&apos;incruster</translation>
     </message>
     <message>
         <source>Leave it out</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La laisser de côté</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::MainMenu</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Fichier</translation>
     </message>
     <message>
         <source>Fil&amp;m</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fil&amp;m</translation>
     </message>
     <message>
         <source>Put &amp;back left-out tracks</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Remettre les pistes laissées de côté</translation>
     </message>
     <message>
         <source>&amp;Convert</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Convertir</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Affichage</translation>
     </message>
     <message>
         <source>&amp;Theme</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Thème</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Langue</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ai&amp;de</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::NoticeBar</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 sur %2</translation>
     </message>
     <message>
         <source>Previous notice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Avis précédent</translation>
     </message>
     <message>
         <source>Next notice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Avis suivant</translation>
     </message>
     <message>
         <source>Close this notice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fermer cet avis</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::Notices</name>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Réessayer</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::OutputBar</name>
     <message>
         <source>As the source</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Comme la source</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Haute</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Moyenne</translation>
     </message>
     <message>
         <source>Small</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Petite</translation>
     </message>
     <message>
         <source>The picture is copied unchanged where nothing is drawn into it and the format can carry it; otherwise it is encoded in high quality.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">L&apos;image est copiée sans changement si rien n&apos;y est incrusté et si le format l&apos;accepte&#xa0;; sinon elle est encodée en haute qualité.</translation>
     </message>
     <message>
         <source>The picture is encoded anew; differences are next to invisible.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">L&apos;image est réencodée&#xa0;; les différences sont presque invisibles.</translation>
     </message>
     <message>
         <source>The picture is encoded anew; good for watching, in a smaller file.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">L&apos;image est réencodée&#xa0;; convient pour regarder, dans un fichier plus petit.</translation>
     </message>
     <message>
         <source>The picture is encoded anew into a small file; losses are visible.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">L&apos;image est réencodée dans un petit fichier&#xa0;; les pertes sont visibles.</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 %</translation>
     </message>
     <message>
         <source>paused</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">en pause</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1, %2</translation>
     </message>
     <message>
         <source>&amp;Resume</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Reprendre</translation>
     </message>
     <message>
         <source>&amp;Pause</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Pause</translation>
     </message>
     <message>
         <source>Go on converting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Continuer la conversion</translation>
     </message>
     <message>
         <source>Stand still until you resume</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">S&apos;arrêter jusqu&apos;à la reprise</translation>
     </message>
     <message>
         <source>&amp;Format</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Format</translation>
     </message>
     <message>
         <source>Output format</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Format de sortie</translation>
     </message>
     <message>
         <source>&amp;Quality</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Qualité</translation>
     </message>
     <message>
         <source>Quality of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Qualité de l&apos;image</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Enregistrer</translation>
     </message>
     <message>
         <source>Beside each film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">À côté de chaque film</translation>
     </message>
     <message>
         <source>Choose a folder...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Choisir un dossier...</translation>
     </message>
     <message>
         <source>&amp;Convert all</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Tout convertir</translation>
     </message>
     <message>
         <source>Convert all films that are ready</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Convertir tous les films prêts</translation>
     </message>
     <message>
         <source>Only &amp;this film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Seulement &amp;ce film</translation>
     </message>
     <message>
         <source>Convert the film that is chosen in the list, and no other</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Convertir le film choisi dans la liste, et aucun autre</translation>
     </message>
     <message>
         <source>Progress of all conversions</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Progression de toutes les conversions</translation>
     </message>
     <message>
         <source>Ca&amp;ncel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A&amp;nnuler</translation>
     </message>
     <message>
         <source>Stop converting; half-written files are removed</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Arrêter la conversion&#xa0;; les fichiers inachevés sont supprimés</translation>
     </message>
     <message>
         <source>Where to save</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Où enregistrer</translation>
     </message>
     <message>
         <source>Output folder: %1</source>
+        <translation type="unfinished">Dossier de sortie&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SaveTrack</name>
+    <message>
+        <source>SubRip (*.srt)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Advanced SubStation Alpha (*.ass)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blu-ray subtitles (*.sup)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matroska (*.mkv *.mks)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the track as</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>&quot;%1&quot; was saved as %2 with %n cue(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s) could not be read as %1</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) without usable times were left out</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of no duration were left out</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; does not tell how to save the track: let it end in .srt, .ass, .sup or .mkv.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; is %3, which no subtitle file can hold: draw it into the picture instead.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save a track</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -715,132 +824,132 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::Desktop::SessionStore</name>
     <message>
         <source>The list of last time in &quot;%1&quot; cannot be read, and nothing is kept this time: rename or remove that file.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La dernière liste, dans «&#xa0;%1&#xa0;», est illisible et rien n&apos;est conservé cette fois&#xa0;: renommez ou supprimez ce fichier.</translation>
     </message>
     <message>
         <source>The list of last time was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La dernière liste a été écrite par une version plus récente du programme&#xa0;; elle est conservée sous «&#xa0;%1&#xa0;». Rouvrez vos films.</translation>
     </message>
     <message>
         <source>The list of last time is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La dernière liste est endommagée&#xa0;; elle est conservée sous «&#xa0;%1&#xa0;». Rouvrez vos films.</translation>
     </message>
     <message>
         <source>The list of films could not be kept in &quot;%1&quot; (%2): check that you may write there.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La liste des films n&apos;a pas pu être conservée dans «&#xa0;%1&#xa0;» (%2)&#xa0;: vérifiez que vous pouvez y écrire.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::ShortcutsDialog</name>
     <message>
         <source>Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Raccourcis clavier</translation>
     </message>
     <message>
         <source>In the list: subtitles of the film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dans la liste&#xa0;: sous-titres du film</translation>
     </message>
     <message>
         <source>In the list: menu of the film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dans la liste&#xa0;: menu du film</translation>
     </message>
     <message>
         <source>Close what is open</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fermer ce qui est ouvert</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::TextHelpPane</name>
     <message>
         <source>Help with the text</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aide pour le texte</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::TextHelpTexts</name>
     <message>
         <source>The file itself says that it is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Le fichier indique lui-même qu&apos;il est en %1.</translation>
     </message>
     <message>
         <source>Detected: %1 (certain).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Détecté&#xa0;: %1 (certain).</translation>
     </message>
     <message>
         <source>Nothing tells the encoding; %1 is a guess.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Rien n&apos;indique l&apos;encodage&#xa0;; %1 est une supposition.</translation>
     </message>
     <message>
         <source>Detected: %1 (very sure, %2).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Détecté&#xa0;: %1 (très sûr, %2).</translation>
     </message>
     <message>
         <source>Detected: %1 (fairly sure, %2).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Détecté&#xa0;: %1 (assez sûr, %2).</translation>
     </message>
     <message>
         <source>Detected: %1 (not sure, %2).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Détecté&#xa0;: %1 (pas sûr, %2).</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) cannot be read in this encoding and show as &quot;%1&quot;.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n octet est illisible dans cet encodage et apparaît comme «&#xa0;%1&#xa0;».</numerusform>
+            <numerusform>%n octets sont illisibles dans cet encodage et apparaissent comme «&#xa0;%1&#xa0;».</numerusform>
         </translation>
     </message>
     <message>
         <source>The font &quot;%1&quot; is not installed; &quot;%2&quot; stands in.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La police «&#xa0;%1&#xa0;» n&apos;est pas installée&#xa0;; «&#xa0;%2&#xa0;» la remplace.</translation>
     </message>
     <message>
         <source>Japanese</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">japonais</translation>
     </message>
     <message>
         <source>Chinese</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">chinois</translation>
     </message>
     <message>
         <source>Korean</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">coréen</translation>
     </message>
     <message>
         <source>Cyrillic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">cyrillique</translation>
     </message>
     <message>
         <source>Greek</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">grec</translation>
     </message>
     <message>
         <source>Hebrew</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">hébreu</translation>
     </message>
     <message>
         <source>Arabic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">arabe</translation>
     </message>
     <message>
         <source>Thai</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">thaï</translation>
     </message>
     <message>
         <source>Devanagari</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">devanagari</translation>
     </message>
     <message numerus="yes">
         <source>&quot;%1&quot; lacks %n character(s) of this text (%2): &quot;%3&quot; stands in.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Il manque à «&#xa0;%1&#xa0;» %n caractère de ce texte (%2)&#xa0;: «&#xa0;%3&#xa0;» le remplace.</numerusform>
+            <numerusform>Il manque à «&#xa0;%1&#xa0;» %n caractères de ce texte (%2)&#xa0;: «&#xa0;%3&#xa0;» les remplace.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>No installed font has %n character(s) of this text (%1); they show as empty boxes.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Aucune police installée n&apos;a %n caractère de ce texte (%1)&#xa0;; il apparaît comme un carré vide.</numerusform>
+            <numerusform>Aucune police installée n&apos;a %n caractères de ce texte (%1)&#xa0;; ils apparaissent comme des carrés vides.</numerusform>
         </translation>
     </message>
 </context>
@@ -848,10 +957,92 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::Desktop::TextHelpView</name>
     <message>
         <source>It could also read:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">On pourrait aussi lire&#xa0;:</translation>
     </message>
     <message>
         <source>First lines of the text</source>
+        <translation type="unfinished">Premières lignes du texte</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::TrackMenu</name>
+    <message>
+        <source>&amp;Draw in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove from the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Leave out of the output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language, &amp;title and marks…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Put back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save as a file…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::TrackPropertiesDialog</name>
+    <message>
+        <source>Subtitle track</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not stated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On by &amp;default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Players show this track unless another one is chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Forced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only what has to be read in any case: signs and foreign speech</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This language is not known: choose one from the list, or write its code, such as &quot;en&quot; or &quot;pt-br&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -859,182 +1050,182 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::GUI::ColorPickerButton</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Color %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Couleur %1</translation>
     </message>
     <message>
         <source>Choose a color</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Choisir une couleur</translation>
     </message>
 </context>
 <context>
     <name>OnlineDownloaderInteractor</name>
     <message>
         <source>No online subtitle service is set up; add its API key to the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aucun service de sous-titres en ligne n&apos;est configuré&#xa0;; ajoutez sa clé d&apos;API aux paramètres.</translation>
     </message>
 </context>
 <context>
     <name>SubtitleCollection</name>
     <message>
         <source>Subtitle tracks</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pistes de sous-titres</translation>
     </message>
     <message>
         <source>Current choice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Choix actuel</translation>
     </message>
     <message>
         <source>No subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pas de sous-titres</translation>
     </message>
     <message>
         <source>Leave all tracks (softsub)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Garder toutes les pistes (softsub)</translation>
     </message>
     <message>
         <source>There are no subtitle tracks yet. Add a subtitle file first.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Il n&apos;y a pas encore de pistes de sous-titres. Ajoutez d&apos;abord un fichier de sous-titres.</translation>
     </message>
     <message>
         <source>The chosen output format cannot carry these tracks. Choose another format, or burn one track in.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Le format de sortie choisi n&apos;accepte pas ces pistes. Choisissez un autre format ou incrustez une piste.</translation>
     </message>
     <message>
         <source>Save this track to a file (Ctrl+S)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Enregistrer cette piste dans un fichier (Ctrl+S)</translation>
     </message>
     <message>
         <source>Save to a file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Enregistrer dans un fichier&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>SubtitleCollectionInteractor</name>
     <message>
         <source>No subtitles were found in &quot;%1&quot;: take it out of the list and choose an SRT, ASS or SSA file.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aucun sous-titre n&apos;a été trouvé dans «&#xa0;%1&#xa0;»&#xa0;: retirez-le de la liste et choisissez un fichier SRT, ASS ou SSA.</translation>
     </message>
 </context>
 <context>
     <name>SubtitleSettings</name>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Automatique</translation>
     </message>
     <message>
         <source>UTF-8</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">UTF-8</translation>
     </message>
     <message>
         <source>Windows-1251</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Windows-1251</translation>
     </message>
     <message>
         <source>Central and Eastern European (Windows-1250)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Europe centrale et orientale (Windows-1250)</translation>
     </message>
     <message>
         <source>Russian (KOI8-R)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Russe (KOI8-R)</translation>
     </message>
     <message>
         <source>Ukrainian, Belarusian (KOI8-U/RU)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ukrainien, biélorusse (KOI8-U/RU)</translation>
     </message>
     <message>
         <source>Esperanto, Galician, Maltese, Turkish (ISO-8859-3)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Espéranto, galicien, maltais, turc (ISO-8859-3)</translation>
     </message>
     <message>
         <source>Modern Greek (ISO-8859-7)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Grec moderne (ISO-8859-7)</translation>
     </message>
     <message>
         <source>Hebrew charsets (ISO-8859-8)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hébreu (ISO-8859-8)</translation>
     </message>
     <message>
         <source>Turkish (ISO-8859-9)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Turc (ISO-8859-9)</translation>
     </message>
     <message>
         <source>Baltic (ISO-8859-13)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Balte (ISO-8859-13)</translation>
     </message>
     <message>
         <source>Western European Languages with Euro (ISO-8859-15)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Europe occidentale avec euro (ISO-8859-15)</translation>
     </message>
     <message>
         <source>Japanese charsets (SHIFT-JIS/CP932)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Japonais (SHIFT-JIS/CP932)</translation>
     </message>
     <message>
         <source>Simplified Chinese charset (CP936)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Chinois simplifié (CP936)</translation>
     </message>
     <message>
         <source>Traditional Chinese charset (BIG5)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Chinois traditionnel (BIG5)</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Par défaut</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Haut</translation>
     </message>
     <message>
         <source>Vertical center</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Centre vertical</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Bas</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Gauche</translation>
     </message>
     <message>
         <source>Horizontal center</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Centre horizontal</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Droite</translation>
     </message>
 </context>
 <context>
     <name>TimeTexts</name>
     <message>
         <source>less than a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">il reste moins d&apos;une minute</translation>
     </message>
     <message numerus="yes">
         <source>%n min left</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n min restante</numerusform>
+            <numerusform>%n min restantes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n h left</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n h restante</numerusform>
+            <numerusform>%n h restantes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 h %n min left</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%1 h %n min restantes</numerusform>
+            <numerusform>%1 h %n min restantes</numerusform>
         </translation>
     </message>
 </context>
@@ -1042,15 +1233,15 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>TimeWords</name>
     <message>
         <source>%1 s left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 s restantes</translation>
     </message>
     <message>
         <source>%1 min left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 min restantes</translation>
     </message>
     <message>
         <source>%1 h %2 min left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 h %2 min restantes</translation>
     </message>
 </context>
 </TS>

@@ -4,65 +4,37 @@
 <context>
     <name>ConversionTexts</name>
     <message>
-        <source>&quot;%1&quot; (%2)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Track %1 (%2)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot be written anew in its encoding for %3: choose another format, draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot be moved in time as a switchable track of %3: set its offset to 0, draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot go into %3: draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot go into %3: choose %4, draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> or </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 holds no cues and was left out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 には字幕がないため、除外しました。</translation>
     </message>
     <message>
         <source>%1 goes into %2 as %3.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 は %3 として %2 に入ります。</translation>
     </message>
     <message>
         <source>%1 was read as %2.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 は %2 として読み込みました。</translation>
     </message>
     <message>
         <source>%1 was moved by %2 s.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 を %2 秒ずらしました。</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) of %1 could not be read as text.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%1 の %n バイトをテキストとして読み込めませんでした。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of %1 made no sense and were left out.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%1 の字幕 %n 件は意味をなさないため、除外しました。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of %1 would never be shown and were left out.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%1 の字幕 %n 件は表示されることがないため、除外しました。</numerusform>
         </translation>
     </message>
 </context>
@@ -70,173 +42,173 @@
     <name>EditingPanel</name>
     <message>
         <source>Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕</translation>
     </message>
     <message>
         <source>Choose subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕を選択</translation>
     </message>
     <message>
         <source>Subtitles encoding</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕の文字コード</translation>
     </message>
     <message>
         <source>Aligment</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">配置</translation>
     </message>
     <message>
         <source>Synchronize</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">同期</translation>
     </message>
     <message>
         <source>Add subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕を追加</translation>
     </message>
     <message>
         <source>Leave all tracks (softsub)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">すべてのトラックを残す (ソフト字幕)</translation>
     </message>
     <message>
         <source>Choose file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ファイルを選択</translation>
     </message>
     <message>
         <source>Find file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ファイルを探す</translation>
     </message>
     <message>
         <source>Relocating subtitles saves all subtitle tracks. You can select them in player.&lt;br&gt;&lt;br&gt;Select one of track to hardsub them.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕を移すと、すべての字幕トラックが保存されます。プレーヤーで選択できます。&lt;br&gt;&lt;br&gt;映像に焼き込むには、トラックを 1 つ選んでください。</translation>
     </message>
     <message>
         <source>Hastened</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">早める</translation>
     </message>
     <message>
         <source>Delayed</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">遅らせる</translation>
     </message>
     <message>
         <source>Help on subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕のヘルプ</translation>
     </message>
     <message>
         <source>Position shift</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">位置のずれ</translation>
     </message>
     <message>
         <source>Synchronization offset in seconds</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">同期のずれ (秒)</translation>
     </message>
     <message>
         <source>Text color</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">文字の色</translation>
     </message>
     <message>
         <source>Outline color</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">縁取りの色</translation>
     </message>
     <message>
         <source>Font: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">フォント: %1</translation>
     </message>
 </context>
 <context>
     <name>ExternalSubtitlesDialog</name>
     <message>
         <source>Choose subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕を選択</translation>
     </message>
     <message>
         <source>Subtitle files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕ファイル (%1)</translation>
     </message>
 </context>
 <context>
     <name>FilmRow</name>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">一時停止中</translation>
     </message>
     <message>
         <source>Preparing subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕を準備中</translation>
     </message>
     <message>
         <source>Converting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">変換中</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">待機中</translation>
     </message>
     <message>
         <source>Converted</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">変換済み</translation>
     </message>
     <message numerus="yes">
         <source>Converted, with %n remark(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>変換済み、注意 %n 件</numerusform>
         </translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">キャンセルされました</translation>
     </message>
     <message>
         <source>Reading the film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映画を読み込み中</translation>
     </message>
     <message>
         <source>Show in folder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">フォルダーで表示</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Converter::Subtitles::Details::ItemPanel</name>
     <message>
         <source>Subtitles of this film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">この映画の字幕</translation>
     </message>
     <message>
         <source>Choose subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕を選択</translation>
     </message>
     <message>
         <source>Add subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕を追加</translation>
     </message>
     <message>
         <source>Choose file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ファイルを選択</translation>
     </message>
     <message>
         <source>Find file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ファイルを探す</translation>
     </message>
     <message>
         <source>Apply to all files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">すべてのファイルに適用</translation>
     </message>
     <message>
         <source>Makes the same choice for every film of the list</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">一覧のすべての映画で同じものを選択します</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">完了</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::AboutDialog</name>
     <message>
         <source>About Korvex Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Korvex Subtitles について</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">バージョン %1</translation>
     </message>
     <message>
         <source>Converts films with their subtitles: as tracks that can be switched on and off, or drawn into the picture.
@@ -244,93 +216,151 @@
 Free software under the GNU General Public License, version 3 or later. It comes without any warranty.
 
 It is built on Qt, FFmpeg and libass.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映画を字幕ごと変換します。字幕はオン・オフできるトラックにも、映像への焼き込みにもできます。
+
+GNU 一般公衆利用許諾書バージョン 3 以降によるフリーソフトウェアです。いかなる保証もありません。
+
+Qt、FFmpeg、libass を利用しています。</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::Actions</name>
     <message>
         <source>&amp;Add films...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映画を追加(&amp;A)...</translation>
     </message>
     <message>
         <source>Add &amp;subtitles...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕を追加(&amp;S)...</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">終了(&amp;Q)</translation>
     </message>
     <message>
         <source>&amp;Subtitles...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕(&amp;S)...</translation>
     </message>
     <message>
         <source>Apply these subtitles to &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">この字幕をすべてに適用(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Copy as command line</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">コマンドラインとしてコピー(&amp;C)</translation>
     </message>
     <message>
         <source>Show &amp;output in folder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">出力をフォルダーで表示(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Remove from list</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">一覧から削除(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Previous film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">前の映画(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Next film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">次の映画(&amp;N)</translation>
     </message>
     <message>
         <source>Convert &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">すべて変換(&amp;A)</translation>
     </message>
     <message>
         <source>Convert this &amp;film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">この映画を変換(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Pause</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">一時停止(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Cancel this film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">この映画をキャンセル(&amp;C)</translation>
     </message>
     <message>
         <source>Cancel a&amp;ll</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">すべてキャンセル(&amp;L)</translation>
     </message>
     <message>
         <source>As the &amp;system</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">システムに合わせる(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Light</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ライト(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Dark</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ダーク(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">キーボードショートカット(&amp;K)</translation>
     </message>
     <message>
         <source>&amp;About Korvex Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Korvex Subtitles について(&amp;A)</translation>
     </message>
     <message>
         <source>Remove</source>
+        <translation type="unfinished">削除</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::ApplyToAll</name>
+    <message>
+        <source>&quot;%1&quot;: nothing changed, because the film cannot be read at the moment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: nothing changed, because it has no track like %2 and no file of that name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::CommandLineText</name>
+    <message>
+        <source>A picture that cannot be copied is encoded with --crf %1 there and %2 here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The text cannot be moved by more than %1 lines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The font size %1 is not a whole number up to %2: the nearest one stands for it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 keeps its own language, title and forced mark.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 keeps the language, title and forced mark that its name states.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 goes out without its mark for the hard of hearing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which of the film&apos;s own tracks players show by themselves stays as in the film.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The files have different encodings: all are read as they are detected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tracks are moved by different offsets: none is moved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text cannot be moved by more than a day.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -338,109 +368,109 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::Desktop::ConversionControl</name>
     <message>
         <source>Quit while converting?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">変換中ですが終了しますか？</translation>
     </message>
     <message>
         <source>Films are still being converted. Quitting cancels them; what is finished stays.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映画を変換しています。終了すると中止されます。完了したものは残ります。</translation>
     </message>
     <message>
         <source>Cancel conversions and quit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">変換を中止して終了</translation>
     </message>
     <message>
         <source>Go on converting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">変換を続ける</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::ConversionQueue</name>
     <message>
         <source>The subtitles of &quot;%1&quot; cannot go out as chosen; choose them again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">「%1」の字幕は選択どおりに出力できません。選び直してください。</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::DropHighlight</name>
     <message>
         <source>Drop films, folders or subtitle files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映画、フォルダー、字幕ファイルをドロップ</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::EmptyPage</name>
     <message>
         <source>Drop films here or choose files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映画をここにドロップするか、ファイルを選択</translation>
     </message>
     <message>
         <source>Folders work too. Subtitle files beside a film are found by themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">フォルダーも使えます。映画と同じ場所の字幕ファイルは自動で見つかります。</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::FileActions</name>
     <message>
         <source>&quot;%1&quot; needs a film to go with: add the film first.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">「%1」を組み合わせる映画がありません。先に映画を追加してください。</translation>
     </message>
     <message>
         <source>No new film was found in &quot;%1&quot;: choose a folder with films.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">「%1」に新しい映画は見つかりませんでした。映画のあるフォルダーを選んでください。</translation>
     </message>
     <message>
         <source>Add films</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映画を追加</translation>
     </message>
     <message>
         <source>Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕</translation>
     </message>
     <message>
         <source>All files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">すべてのファイル</translation>
     </message>
     <message>
         <source>Add subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕を追加</translation>
     </message>
     <message>
         <source>Where is &quot;%1&quot; now?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">「%1」は今どこにありますか？</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::Film</name>
     <message>
         <source>The film &quot;%1&quot; is not there any more: show where it is now, or remove it from the list.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映画「%1」が見つかりません。現在の場所を指定するか、一覧から削除してください。</translation>
     </message>
     <message>
         <source>Locate...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">場所を指定...</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::FilmActions</name>
     <message>
         <source>Remove a film that is being converted?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">変換中の映画を削除しますか？</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is being converted. Removing it cancels its conversion.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">「%1」を変換しています。削除すると変換が中止されます。</translation>
     </message>
     <message>
         <source>Cancel conversion and remove</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">変換を中止して削除</translation>
     </message>
     <message>
         <source>Keep it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">残す</translation>
     </message>
     <message>
         <source>No file manager could be started: the film is &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ファイルマネージャーを起動できませんでした。映画は「%1」です。</translation>
     </message>
 </context>
 <context>
@@ -448,260 +478,335 @@ It is built on Qt, FFmpeg and libass.</source>
     <message numerus="yes">
         <source>%n film(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>映画 %n 本</numerusform>
         </translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映画</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::FilmWords</name>
     <message>
         <source>Track %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">トラック %1</translation>
     </message>
     <message numerus="yes">
         <source>All %n track(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>全 %n トラック</numerusform>
         </translation>
     </message>
     <message>
         <source>No subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕なし</translation>
     </message>
     <message>
         <source>Drawn in: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">焼き込み: %1</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; holds no subtitles that can be read: remove it.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ファイル「%1」には読み込める字幕がありません。削除してください。</translation>
     </message>
     <message>
         <source>Remove the file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ファイルを削除</translation>
     </message>
     <message>
         <source>%1 cannot go into %2: draw it in, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 は %2 に入れられません。映像に焼き込むか、除外してください。</translation>
     </message>
     <message>
         <source>%1 cannot go into %2: choose %3, draw it in, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 は %2 に入れられません。%3 を選ぶか、映像に焼き込むか、除外してください。</translation>
     </message>
     <message>
         <source>Choose %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 を選ぶ</translation>
     </message>
     <message>
         <source>%1 cannot be moved in time while it stays a track: draw it in, set its offset to 0, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 はトラックのままでは時間をずらせません。映像に焼き込むか、ずれを 0 にするか、除外してください。</translation>
     </message>
     <message>
         <source>Set its offset to 0</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ずれを 0 にする</translation>
     </message>
     <message>
         <source>%1 cannot be read in another encoding while it stays a track: draw it in, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 はトラックのままでは別の文字コードで読み込めません。映像に焼き込むか、除外してください。</translation>
     </message>
     <message>
         <source>Draw it in</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">焼き込む</translation>
     </message>
     <message>
         <source>Leave it out</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">除外する</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::MainMenu</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ファイル(&amp;F)</translation>
     </message>
     <message>
         <source>Fil&amp;m</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映画(&amp;M)</translation>
     </message>
     <message>
         <source>Put &amp;back left-out tracks</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">除外したトラックを戻す(&amp;B)</translation>
     </message>
     <message>
         <source>&amp;Convert</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">変換(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">表示(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Theme</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">テーマ(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">言語(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ヘルプ(&amp;H)</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::NoticeBar</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1/%2</translation>
     </message>
     <message>
         <source>Previous notice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">前の通知</translation>
     </message>
     <message>
         <source>Next notice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">次の通知</translation>
     </message>
     <message>
         <source>Close this notice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">この通知を閉じる</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::Notices</name>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">再試行</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::OutputBar</name>
     <message>
         <source>As the source</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">元と同じ</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">高</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">中</translation>
     </message>
     <message>
         <source>Small</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">小</translation>
     </message>
     <message>
         <source>The picture is copied unchanged where nothing is drawn into it and the format can carry it; otherwise it is encoded in high quality.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">何も焼き込まず、形式が対応していれば映像をそのままコピーします。それ以外は高品質でエンコードします。</translation>
     </message>
     <message>
         <source>The picture is encoded anew; differences are next to invisible.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映像を再エンコードします。違いはほとんど分かりません。</translation>
     </message>
     <message>
         <source>The picture is encoded anew; good for watching, in a smaller file.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映像を再エンコードします。視聴に十分で、ファイルは小さくなります。</translation>
     </message>
     <message>
         <source>The picture is encoded anew into a small file; losses are visible.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映像を小さなファイルに再エンコードします。劣化が目に見えます。</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 %</translation>
     </message>
     <message>
         <source>paused</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">一時停止中</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1、%2</translation>
     </message>
     <message>
         <source>&amp;Resume</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">再開(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Pause</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">一時停止(&amp;P)</translation>
     </message>
     <message>
         <source>Go on converting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">変換を続ける</translation>
     </message>
     <message>
         <source>Stand still until you resume</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">再開するまで停止します</translation>
     </message>
     <message>
         <source>&amp;Format</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">形式(&amp;F)</translation>
     </message>
     <message>
         <source>Output format</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">出力形式</translation>
     </message>
     <message>
         <source>&amp;Quality</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">品質(&amp;Q)</translation>
     </message>
     <message>
         <source>Quality of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映像の品質</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">保存先(&amp;S)</translation>
     </message>
     <message>
         <source>Beside each film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">各映画と同じ場所</translation>
     </message>
     <message>
         <source>Choose a folder...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">フォルダーを選択...</translation>
     </message>
     <message>
         <source>&amp;Convert all</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">すべて変換(&amp;C)</translation>
     </message>
     <message>
         <source>Convert all films that are ready</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">準備のできた映画をすべて変換します</translation>
     </message>
     <message>
         <source>Only &amp;this film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">この映画のみ(&amp;T)</translation>
     </message>
     <message>
         <source>Convert the film that is chosen in the list, and no other</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">一覧で選択した映画だけを変換します</translation>
     </message>
     <message>
         <source>Progress of all conversions</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">すべての変換の進行状況</translation>
     </message>
     <message>
         <source>Ca&amp;ncel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">キャンセル(&amp;N)</translation>
     </message>
     <message>
         <source>Stop converting; half-written files are removed</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">変換を中止します。書きかけのファイルは削除されます</translation>
     </message>
     <message>
         <source>Where to save</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">保存する場所</translation>
     </message>
     <message>
         <source>Output folder: %1</source>
+        <translation type="unfinished">出力フォルダー: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SaveTrack</name>
+    <message>
+        <source>SubRip (*.srt)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Advanced SubStation Alpha (*.ass)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blu-ray subtitles (*.sup)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matroska (*.mkv *.mks)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the track as</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>&quot;%1&quot; was saved as %2 with %n cue(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s) could not be read as %1</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) without usable times were left out</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of no duration were left out</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; does not tell how to save the track: let it end in .srt, .ass, .sup or .mkv.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; is %3, which no subtitle file can hold: draw it into the picture instead.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save a track</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -709,129 +814,129 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::Desktop::SessionStore</name>
     <message>
         <source>The list of last time in &quot;%1&quot; cannot be read, and nothing is kept this time: rename or remove that file.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">前回の一覧「%1」を読み込めないため、今回は何も保存されません。そのファイルの名前を変えるか、削除してください。</translation>
     </message>
     <message>
         <source>The list of last time was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">前回の一覧は新しいバージョンのプログラムで書かれたもので、「%1」として残してあります。映画を開き直してください。</translation>
     </message>
     <message>
         <source>The list of last time is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">前回の一覧は壊れているため、「%1」として残してあります。映画を開き直してください。</translation>
     </message>
     <message>
         <source>The list of films could not be kept in &quot;%1&quot; (%2): check that you may write there.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映画の一覧を「%1」に保存できませんでした (%2)。書き込み権限を確認してください。</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::ShortcutsDialog</name>
     <message>
         <source>Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">キーボードショートカット</translation>
     </message>
     <message>
         <source>In the list: subtitles of the film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">一覧で: 映画の字幕</translation>
     </message>
     <message>
         <source>In the list: menu of the film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">一覧で: 映画のメニュー</translation>
     </message>
     <message>
         <source>Close what is open</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">開いているものを閉じる</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::TextHelpPane</name>
     <message>
         <source>Help with the text</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">テキストのヘルプ</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::TextHelpTexts</name>
     <message>
         <source>The file itself says that it is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ファイル自体が %1 だと示しています。</translation>
     </message>
     <message>
         <source>Detected: %1 (certain).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">検出: %1 (確実)。</translation>
     </message>
     <message>
         <source>Nothing tells the encoding; %1 is a guess.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">文字コードの手がかりがありません。%1 は推測です。</translation>
     </message>
     <message>
         <source>Detected: %1 (very sure, %2).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">検出: %1 (非常に確か、%2)。</translation>
     </message>
     <message>
         <source>Detected: %1 (fairly sure, %2).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">検出: %1 (かなり確か、%2)。</translation>
     </message>
     <message>
         <source>Detected: %1 (not sure, %2).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">検出: %1 (不確か、%2)。</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) cannot be read in this encoding and show as &quot;%1&quot;.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n バイトはこの文字コードでは読み込めず、「%1」と表示されます。</numerusform>
         </translation>
     </message>
     <message>
         <source>The font &quot;%1&quot; is not installed; &quot;%2&quot; stands in.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">フォント「%1」はインストールされていません。「%2」で代用します。</translation>
     </message>
     <message>
         <source>Japanese</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">日本語</translation>
     </message>
     <message>
         <source>Chinese</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">中国語</translation>
     </message>
     <message>
         <source>Korean</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">韓国語</translation>
     </message>
     <message>
         <source>Cyrillic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">キリル文字</translation>
     </message>
     <message>
         <source>Greek</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ギリシャ文字</translation>
     </message>
     <message>
         <source>Hebrew</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ヘブライ文字</translation>
     </message>
     <message>
         <source>Arabic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">アラビア文字</translation>
     </message>
     <message>
         <source>Thai</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">タイ文字</translation>
     </message>
     <message>
         <source>Devanagari</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">デーヴァナーガリー文字</translation>
     </message>
     <message numerus="yes">
         <source>&quot;%1&quot; lacks %n character(s) of this text (%2): &quot;%3&quot; stands in.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>「%1」にはこのテキストの %n 文字 (%2) がありません。「%3」で代用します。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>No installed font has %n character(s) of this text (%1); they show as empty boxes.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>このテキストの %n 文字 (%1) は、どのフォントにもありません。空の四角で表示されます。</numerusform>
         </translation>
     </message>
 </context>
@@ -839,10 +944,92 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::Desktop::TextHelpView</name>
     <message>
         <source>It could also read:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">次のようにも読めます:</translation>
     </message>
     <message>
         <source>First lines of the text</source>
+        <translation type="unfinished">テキストの最初の行</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::TrackMenu</name>
+    <message>
+        <source>&amp;Draw in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove from the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Leave out of the output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language, &amp;title and marks…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Put back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save as a file…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::TrackPropertiesDialog</name>
+    <message>
+        <source>Subtitle track</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not stated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On by &amp;default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Players show this track unless another one is chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Forced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only what has to be read in any case: signs and foreign speech</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This language is not known: choose one from the list, or write its code, such as &quot;en&quot; or &quot;pt-br&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -850,179 +1037,179 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::GUI::ColorPickerButton</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2</translation>
     </message>
     <message>
         <source>Color %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">色 %1</translation>
     </message>
     <message>
         <source>Choose a color</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">色を選択</translation>
     </message>
 </context>
 <context>
     <name>OnlineDownloaderInteractor</name>
     <message>
         <source>No online subtitle service is set up; add its API key to the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">オンライン字幕サービスが設定されていません。設定に API キーを追加してください。</translation>
     </message>
 </context>
 <context>
     <name>SubtitleCollection</name>
     <message>
         <source>Subtitle tracks</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕トラック</translation>
     </message>
     <message>
         <source>Current choice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">現在の選択</translation>
     </message>
     <message>
         <source>No subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕なし</translation>
     </message>
     <message>
         <source>Leave all tracks (softsub)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">すべてのトラックを残す (ソフト字幕)</translation>
     </message>
     <message>
         <source>There are no subtitle tracks yet. Add a subtitle file first.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕トラックがまだありません。先に字幕ファイルを追加してください。</translation>
     </message>
     <message>
         <source>The chosen output format cannot carry these tracks. Choose another format, or burn one track in.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">選択した出力形式にはこれらのトラックを入れられません。別の形式を選ぶか、1 つを焼き込んでください。</translation>
     </message>
     <message>
         <source>Save this track to a file (Ctrl+S)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">このトラックをファイルに保存 (Ctrl+S)</translation>
     </message>
     <message>
         <source>Save to a file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ファイルに保存: %1</translation>
     </message>
 </context>
 <context>
     <name>SubtitleCollectionInteractor</name>
     <message>
         <source>No subtitles were found in &quot;%1&quot;: take it out of the list and choose an SRT, ASS or SSA file.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">「%1」に字幕が見つかりませんでした。一覧から外し、SRT、ASS、SSA のいずれかのファイルを選んでください。</translation>
     </message>
 </context>
 <context>
     <name>SubtitleSettings</name>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">自動</translation>
     </message>
     <message>
         <source>UTF-8</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">UTF-8</translation>
     </message>
     <message>
         <source>Windows-1251</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Windows-1251</translation>
     </message>
     <message>
         <source>Central and Eastern European (Windows-1250)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">中央・東ヨーロッパ言語 (Windows-1250)</translation>
     </message>
     <message>
         <source>Russian (KOI8-R)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ロシア語 (KOI8-R)</translation>
     </message>
     <message>
         <source>Ukrainian, Belarusian (KOI8-U/RU)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ウクライナ語、ベラルーシ語 (KOI8-U/RU)</translation>
     </message>
     <message>
         <source>Esperanto, Galician, Maltese, Turkish (ISO-8859-3)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">エスペラント、ガリシア語、マルタ語、トルコ語 (ISO-8859-3)</translation>
     </message>
     <message>
         <source>Modern Greek (ISO-8859-7)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">現代ギリシャ語 (ISO-8859-7)</translation>
     </message>
     <message>
         <source>Hebrew charsets (ISO-8859-8)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ヘブライ語 (ISO-8859-8)</translation>
     </message>
     <message>
         <source>Turkish (ISO-8859-9)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">トルコ語 (ISO-8859-9)</translation>
     </message>
     <message>
         <source>Baltic (ISO-8859-13)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">バルト諸語 (ISO-8859-13)</translation>
     </message>
     <message>
         <source>Western European Languages with Euro (ISO-8859-15)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">西ヨーロッパ言語・ユーロ記号付き (ISO-8859-15)</translation>
     </message>
     <message>
         <source>Japanese charsets (SHIFT-JIS/CP932)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">日本語 (SHIFT-JIS/CP932)</translation>
     </message>
     <message>
         <source>Simplified Chinese charset (CP936)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">簡体字中国語 (CP936)</translation>
     </message>
     <message>
         <source>Traditional Chinese charset (BIG5)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">繁体字中国語 (BIG5)</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">既定</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">上</translation>
     </message>
     <message>
         <source>Vertical center</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">上下中央</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">下</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">左</translation>
     </message>
     <message>
         <source>Horizontal center</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">左右中央</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">右</translation>
     </message>
 </context>
 <context>
     <name>TimeTexts</name>
     <message>
         <source>less than a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">残り 1 分未満</translation>
     </message>
     <message numerus="yes">
         <source>%n min left</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>残り %n 分</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n h left</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>残り %n 時間</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 h %n min left</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>残り %1 時間 %n 分</numerusform>
         </translation>
     </message>
 </context>
@@ -1030,15 +1217,15 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>TimeWords</name>
     <message>
         <source>%1 s left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">残り %1 秒</translation>
     </message>
     <message>
         <source>%1 min left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">残り %1 分</translation>
     </message>
     <message>
         <source>%1 h %2 min left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">残り %1 時間 %2 分</translation>
     </message>
 </context>
 </TS>

@@ -4,71 +4,43 @@
 <context>
     <name>ConversionTexts</name>
     <message>
-        <source>&quot;%1&quot; (%2)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Track %1 (%2)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot be written anew in its encoding for %3: choose another format, draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot be moved in time as a switchable track of %3: set its offset to 0, draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot go into %3: draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of &quot;%2&quot; cannot go into %3: choose %4, draw it in or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> or </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 holds no cues and was left out.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: brak napisów, ścieżka została pominięta.</translation>
     </message>
     <message>
         <source>%1 goes into %2 as %3.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 trafia do %2 jako %3.</translation>
     </message>
     <message>
         <source>%1 was read as %2.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: odczytano jako %2.</translation>
     </message>
     <message>
         <source>%1 was moved by %2 s.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: przesunięto o %2 s.</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) of %1 could not be read as text.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n bajtu z %1 nie dało się odczytać jako tekstu.</numerusform>
+            <numerusform>%n bajtów z %1 nie dało się odczytać jako tekstu.</numerusform>
+            <numerusform>%n bajtów z %1 nie dało się odczytać jako tekstu.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of %1 made no sense and were left out.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n napis z %1 był bez sensu i został pominięty.</numerusform>
+            <numerusform>%n napisy z %1 były bez sensu i zostały pominięte.</numerusform>
+            <numerusform>%n napisów z %1 było bez sensu i zostało pominiętych.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of %1 would never be shown and were left out.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n napis z %1 nigdy by się nie pojawił i został pominięty.</numerusform>
+            <numerusform>%n napisy z %1 nigdy by się nie pojawiły i zostały pominięte.</numerusform>
+            <numerusform>%n napisów z %1 nigdy by się nie pojawiło i zostało pominiętych.</numerusform>
         </translation>
     </message>
 </context>
@@ -76,175 +48,175 @@
     <name>EditingPanel</name>
     <message>
         <source>Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Napisy</translation>
     </message>
     <message>
         <source>Choose subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wybierz napisy</translation>
     </message>
     <message>
         <source>Subtitles encoding</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kodowanie napisów</translation>
     </message>
     <message>
         <source>Aligment</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wyrównanie</translation>
     </message>
     <message>
         <source>Synchronize</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Synchronizuj</translation>
     </message>
     <message>
         <source>Add subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dodaj napisy</translation>
     </message>
     <message>
         <source>Leave all tracks (softsub)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zachowaj wszystkie ścieżki (softsub)</translation>
     </message>
     <message>
         <source>Choose file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wybierz plik</translation>
     </message>
     <message>
         <source>Find file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Znajdź plik</translation>
     </message>
     <message>
         <source>Relocating subtitles saves all subtitle tracks. You can select them in player.&lt;br&gt;&lt;br&gt;Select one of track to hardsub them.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Przeniesienie napisów zachowuje wszystkie ścieżki. Można je wybrać w odtwarzaczu.&lt;br&gt;&lt;br&gt;Wybierz jedną ścieżkę, aby wtopić ją w obraz.</translation>
     </message>
     <message>
         <source>Hastened</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Przyspieszone</translation>
     </message>
     <message>
         <source>Delayed</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Opóźnione</translation>
     </message>
     <message>
         <source>Help on subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pomoc dotycząca napisów</translation>
     </message>
     <message>
         <source>Position shift</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Przesunięcie położenia</translation>
     </message>
     <message>
         <source>Synchronization offset in seconds</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Przesunięcie synchronizacji w sekundach</translation>
     </message>
     <message>
         <source>Text color</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kolor tekstu</translation>
     </message>
     <message>
         <source>Outline color</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kolor obrysu</translation>
     </message>
     <message>
         <source>Font: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Czcionka: %1</translation>
     </message>
 </context>
 <context>
     <name>ExternalSubtitlesDialog</name>
     <message>
         <source>Choose subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wybierz napisy</translation>
     </message>
     <message>
         <source>Subtitle files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pliki napisów (%1)</translation>
     </message>
 </context>
 <context>
     <name>FilmRow</name>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wstrzymano</translation>
     </message>
     <message>
         <source>Preparing subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Przygotowywanie napisów</translation>
     </message>
     <message>
         <source>Converting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Konwertowanie</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Oczekuje</translation>
     </message>
     <message>
         <source>Converted</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Przekonwertowano</translation>
     </message>
     <message numerus="yes">
         <source>Converted, with %n remark(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Przekonwertowano, %n uwaga</numerusform>
+            <numerusform>Przekonwertowano, %n uwagi</numerusform>
+            <numerusform>Przekonwertowano, %n uwag</numerusform>
         </translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Anulowano</translation>
     </message>
     <message>
         <source>Reading the film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Odczytywanie filmu</translation>
     </message>
     <message>
         <source>Show in folder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pokaż w folderze</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Converter::Subtitles::Details::ItemPanel</name>
     <message>
         <source>Subtitles of this film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Napisy tego filmu</translation>
     </message>
     <message>
         <source>Choose subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wybierz napisy</translation>
     </message>
     <message>
         <source>Add subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dodaj napisy</translation>
     </message>
     <message>
         <source>Choose file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wybierz plik</translation>
     </message>
     <message>
         <source>Find file</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Znajdź plik</translation>
     </message>
     <message>
         <source>Apply to all files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zastosuj do wszystkich plików</translation>
     </message>
     <message>
         <source>Makes the same choice for every film of the list</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dokonuje tego samego wyboru dla każdego filmu z listy</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Gotowe</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::AboutDialog</name>
     <message>
         <source>About Korvex Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">O programie Korvex Subtitles</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wersja %1</translation>
     </message>
     <message>
         <source>Converts films with their subtitles: as tracks that can be switched on and off, or drawn into the picture.
@@ -252,93 +224,151 @@
 Free software under the GNU General Public License, version 3 or later. It comes without any warranty.
 
 It is built on Qt, FFmpeg and libass.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Konwertuje filmy z napisami: jako ścieżki do włączania i wyłączania albo wtopione w obraz.
+
+Wolne oprogramowanie na licencji GNU General Public License w wersji 3 lub nowszej. Bez żadnej gwarancji.
+
+Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::Actions</name>
     <message>
         <source>&amp;Add films...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Dodaj filmy...</translation>
     </message>
     <message>
         <source>Add &amp;subtitles...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dodaj &amp;napisy...</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Za&amp;kończ</translation>
     </message>
     <message>
         <source>&amp;Subtitles...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Napisy...</translation>
     </message>
     <message>
         <source>Apply these subtitles to &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zastosuj te napisy do &amp;wszystkich</translation>
     </message>
     <message>
         <source>&amp;Copy as command line</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Kopiuj jako wiersz poleceń</translation>
     </message>
     <message>
         <source>Show &amp;output in folder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pokaż &amp;wynik w folderze</translation>
     </message>
     <message>
         <source>&amp;Remove from list</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Usuń z listy</translation>
     </message>
     <message>
         <source>&amp;Previous film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Poprzedni film</translation>
     </message>
     <message>
         <source>&amp;Next film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Następny film</translation>
     </message>
     <message>
         <source>Convert &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Konwertuj &amp;wszystkie</translation>
     </message>
     <message>
         <source>Convert this &amp;film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Konwertuj ten &amp;film</translation>
     </message>
     <message>
         <source>&amp;Pause</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">W&amp;strzymaj</translation>
     </message>
     <message>
         <source>&amp;Cancel this film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Anuluj ten film</translation>
     </message>
     <message>
         <source>Cancel a&amp;ll</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Anuluj &amp;wszystkie</translation>
     </message>
     <message>
         <source>As the &amp;system</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Jak w &amp;systemie</translation>
     </message>
     <message>
         <source>&amp;Light</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Jasny</translation>
     </message>
     <message>
         <source>&amp;Dark</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Ciemny</translation>
     </message>
     <message>
         <source>&amp;Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Skróty klawiszowe</translation>
     </message>
     <message>
         <source>&amp;About Korvex Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;O programie Korvex Subtitles</translation>
     </message>
     <message>
         <source>Remove</source>
+        <translation type="unfinished">Usuń</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::ApplyToAll</name>
+    <message>
+        <source>&quot;%1&quot;: nothing changed, because the film cannot be read at the moment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: nothing changed, because it has no track like %2 and no file of that name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::CommandLineText</name>
+    <message>
+        <source>A picture that cannot be copied is encoded with --crf %1 there and %2 here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The text cannot be moved by more than %1 lines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The font size %1 is not a whole number up to %2: the nearest one stands for it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 keeps its own language, title and forced mark.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 keeps the language, title and forced mark that its name states.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 goes out without its mark for the hard of hearing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which of the film&apos;s own tracks players show by themselves stays as in the film.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The files have different encodings: all are read as they are detected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tracks are moved by different offsets: none is moved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text cannot be moved by more than a day.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -346,109 +376,109 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::Desktop::ConversionControl</name>
     <message>
         <source>Quit while converting?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zakończyć podczas konwersji?</translation>
     </message>
     <message>
         <source>Films are still being converted. Quitting cancels them; what is finished stays.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Trwa konwersja filmów. Zakończenie ją anuluje; to, co gotowe, pozostanie.</translation>
     </message>
     <message>
         <source>Cancel conversions and quit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Anuluj konwersje i zakończ</translation>
     </message>
     <message>
         <source>Go on converting</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Konwertuj dalej</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::ConversionQueue</name>
     <message>
         <source>The subtitles of &quot;%1&quot; cannot go out as chosen; choose them again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Napisów filmu „%1” nie da się zapisać zgodnie z wyborem; wybierz je ponownie.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::DropHighlight</name>
     <message>
         <source>Drop films, folders or subtitle files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Upuść filmy, foldery lub pliki napisów</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::EmptyPage</name>
     <message>
         <source>Drop films here or choose files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Upuść filmy tutaj lub wybierz pliki</translation>
     </message>
     <message>
         <source>Folders work too. Subtitle files beside a film are found by themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Foldery też działają. Pliki napisów obok filmu są znajdowane automatycznie.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::FileActions</name>
     <message>
         <source>&quot;%1&quot; needs a film to go with: add the film first.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">„%1” wymaga filmu: najpierw dodaj film.</translation>
     </message>
     <message>
         <source>No new film was found in &quot;%1&quot;: choose a folder with films.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">W „%1” nie znaleziono nowych filmów: wybierz folder z filmami.</translation>
     </message>
     <message>
         <source>Add films</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dodaj filmy</translation>
     </message>
     <message>
         <source>Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Napisy</translation>
     </message>
     <message>
         <source>All files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wszystkie pliki</translation>
     </message>
     <message>
         <source>Add subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dodaj napisy</translation>
     </message>
     <message>
         <source>Where is &quot;%1&quot; now?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Gdzie teraz jest „%1”?</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::Film</name>
     <message>
         <source>The film &quot;%1&quot; is not there any more: show where it is now, or remove it from the list.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Filmu „%1” już tam nie ma: wskaż, gdzie teraz jest, lub usuń go z listy.</translation>
     </message>
     <message>
         <source>Locate...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wskaż...</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::FilmActions</name>
     <message>
         <source>Remove a film that is being converted?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Usunąć film, który jest konwertowany?</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is being converted. Removing it cancels its conversion.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">„%1” jest konwertowany. Usunięcie anuluje konwersję.</translation>
     </message>
     <message>
         <source>Cancel conversion and remove</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Anuluj konwersję i usuń</translation>
     </message>
     <message>
         <source>Keep it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zachowaj</translation>
     </message>
     <message>
         <source>No file manager could be started: the film is &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nie udało się uruchomić menedżera plików: film to „%1”.</translation>
     </message>
 </context>
 <context>
@@ -456,24 +486,315 @@ It is built on Qt, FFmpeg and libass.</source>
     <message numerus="yes">
         <source>%n film(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n film</numerusform>
+            <numerusform>%n filmy</numerusform>
+            <numerusform>%n filmów</numerusform>
         </translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Filmy</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::FilmWords</name>
     <message>
         <source>Track %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ścieżka %1</translation>
     </message>
     <message numerus="yes">
         <source>All %n track(s)</source>
+        <translation type="unfinished">
+            <numerusform>%n ścieżka</numerusform>
+            <numerusform>Wszystkie %n ścieżki</numerusform>
+            <numerusform>Wszystkie %n ścieżek</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No subtitles</source>
+        <translation type="unfinished">Bez napisów</translation>
+    </message>
+    <message>
+        <source>Drawn in: %1</source>
+        <translation type="unfinished">Wtopiona: %1</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; holds no subtitles that can be read: remove it.</source>
+        <translation type="unfinished">Plik „%1” nie zawiera napisów, które da się odczytać: usuń go.</translation>
+    </message>
+    <message>
+        <source>Remove the file</source>
+        <translation type="unfinished">Usuń plik</translation>
+    </message>
+    <message>
+        <source>%1 cannot go into %2: draw it in, or leave it out.</source>
+        <translation type="unfinished">%1 nie może trafić do %2: wtop ją w obraz lub pomiń.</translation>
+    </message>
+    <message>
+        <source>%1 cannot go into %2: choose %3, draw it in, or leave it out.</source>
+        <translation type="unfinished">%1 nie może trafić do %2: wybierz %3, wtop ją w obraz lub pomiń.</translation>
+    </message>
+    <message>
+        <source>Choose %1</source>
+        <translation type="unfinished">Wybierz %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be moved in time while it stays a track: draw it in, set its offset to 0, or leave it out.</source>
+        <translation type="unfinished">%1 nie może zostać przesunięta w czasie, dopóki jest ścieżką: wtop ją w obraz, ustaw przesunięcie na 0 lub pomiń.</translation>
+    </message>
+    <message>
+        <source>Set its offset to 0</source>
+        <translation type="unfinished">Ustaw przesunięcie na 0</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read in another encoding while it stays a track: draw it in, or leave it out.</source>
+        <translation type="unfinished">%1 nie może zostać odczytana w innym kodowaniu, dopóki jest ścieżką: wtop ją w obraz lub pomiń.</translation>
+    </message>
+    <message>
+        <source>Draw it in</source>
+        <translation type="unfinished">Wtop w obraz</translation>
+    </message>
+    <message>
+        <source>Leave it out</source>
+        <translation type="unfinished">Pomiń</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::MainMenu</name>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished">&amp;Plik</translation>
+    </message>
+    <message>
+        <source>Fil&amp;m</source>
+        <translation type="unfinished">Fil&amp;m</translation>
+    </message>
+    <message>
+        <source>Put &amp;back left-out tracks</source>
+        <translation type="unfinished">&amp;Przywróć pominięte ścieżki</translation>
+    </message>
+    <message>
+        <source>&amp;Convert</source>
+        <translation type="unfinished">&amp;Konwersja</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation type="unfinished">&amp;Widok</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation type="unfinished">&amp;Motyw</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation type="unfinished">&amp;Język</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished">Pomo&amp;c</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::NoticeBar</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished">%1 z %2</translation>
+    </message>
+    <message>
+        <source>Previous notice</source>
+        <translation type="unfinished">Poprzedni komunikat</translation>
+    </message>
+    <message>
+        <source>Next notice</source>
+        <translation type="unfinished">Następny komunikat</translation>
+    </message>
+    <message>
+        <source>Close this notice</source>
+        <translation type="unfinished">Zamknij ten komunikat</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::Notices</name>
+    <message>
+        <source>Try again</source>
+        <translation type="unfinished">Spróbuj ponownie</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::OutputBar</name>
+    <message>
+        <source>As the source</source>
+        <translation type="unfinished">Jak źródło</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation type="unfinished">Wysoka</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation type="unfinished">Średnia</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation type="unfinished">Mała</translation>
+    </message>
+    <message>
+        <source>The picture is copied unchanged where nothing is drawn into it and the format can carry it; otherwise it is encoded in high quality.</source>
+        <translation type="unfinished">Obraz jest kopiowany bez zmian, jeśli nic nie jest w niego wtapiane i format go obsługuje; w przeciwnym razie jest kodowany w wysokiej jakości.</translation>
+    </message>
+    <message>
+        <source>The picture is encoded anew; differences are next to invisible.</source>
+        <translation type="unfinished">Obraz jest kodowany na nowo; różnice są prawie niewidoczne.</translation>
+    </message>
+    <message>
+        <source>The picture is encoded anew; good for watching, in a smaller file.</source>
+        <translation type="unfinished">Obraz jest kodowany na nowo; dobry do oglądania, w mniejszym pliku.</translation>
+    </message>
+    <message>
+        <source>The picture is encoded anew into a small file; losses are visible.</source>
+        <translation type="unfinished">Obraz jest kodowany na nowo do małego pliku; straty są widoczne.</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished">%1%</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation type="unfinished">wstrzymano</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1, %2</translation>
+    </message>
+    <message>
+        <source>&amp;Resume</source>
+        <translation type="unfinished">&amp;Wznów</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation type="unfinished">W&amp;strzymaj</translation>
+    </message>
+    <message>
+        <source>Go on converting</source>
+        <translation type="unfinished">Konwertuj dalej</translation>
+    </message>
+    <message>
+        <source>Stand still until you resume</source>
+        <translation type="unfinished">Wstrzymaj do wznowienia</translation>
+    </message>
+    <message>
+        <source>&amp;Format</source>
+        <translation type="unfinished">&amp;Format</translation>
+    </message>
+    <message>
+        <source>Output format</source>
+        <translation type="unfinished">Format wyjściowy</translation>
+    </message>
+    <message>
+        <source>&amp;Quality</source>
+        <translation type="unfinished">&amp;Jakość</translation>
+    </message>
+    <message>
+        <source>Quality of the picture</source>
+        <translation type="unfinished">Jakość obrazu</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished">&amp;Zapisz</translation>
+    </message>
+    <message>
+        <source>Beside each film</source>
+        <translation type="unfinished">Obok każdego filmu</translation>
+    </message>
+    <message>
+        <source>Choose a folder...</source>
+        <translation type="unfinished">Wybierz folder...</translation>
+    </message>
+    <message>
+        <source>&amp;Convert all</source>
+        <translation type="unfinished">&amp;Konwertuj wszystkie</translation>
+    </message>
+    <message>
+        <source>Convert all films that are ready</source>
+        <translation type="unfinished">Konwertuj wszystkie gotowe filmy</translation>
+    </message>
+    <message>
+        <source>Only &amp;this film</source>
+        <translation type="unfinished">Tylko &amp;ten film</translation>
+    </message>
+    <message>
+        <source>Convert the film that is chosen in the list, and no other</source>
+        <translation type="unfinished">Konwertuj tylko film wybrany na liście</translation>
+    </message>
+    <message>
+        <source>Progress of all conversions</source>
+        <translation type="unfinished">Postęp wszystkich konwersji</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel</source>
+        <translation type="unfinished">A&amp;nuluj</translation>
+    </message>
+    <message>
+        <source>Stop converting; half-written files are removed</source>
+        <translation type="unfinished">Zatrzymaj konwersję; niedokończone pliki są usuwane</translation>
+    </message>
+    <message>
+        <source>Where to save</source>
+        <translation type="unfinished">Gdzie zapisać</translation>
+    </message>
+    <message>
+        <source>Output folder: %1</source>
+        <translation type="unfinished">Folder wyjściowy: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SaveTrack</name>
+    <message>
+        <source>SubRip (*.srt)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Advanced SubStation Alpha (*.ass)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blu-ray subtitles (*.sup)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matroska (*.mkv *.mks)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the track as</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>&quot;%1&quot; was saved as %2 with %n cue(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s) could not be read as %1</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) without usable times were left out</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of no duration were left out</source>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
@@ -481,239 +802,31 @@ It is built on Qt, FFmpeg and libass.</source>
         </translation>
     </message>
     <message>
-        <source>No subtitles</source>
+        <source>%1.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Drawn in: %1</source>
+        <source>%1; %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; holds no subtitles that can be read: remove it.</source>
+        <source>The name &quot;%1&quot; does not tell how to save the track: let it end in .srt, .ass, .sup or .mkv.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Remove the file</source>
+        <source>Track %1 of &quot;%2&quot; is %3, which no subtitle file can hold: draw it into the picture instead.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 cannot go into %2: draw it in, or leave it out.</source>
+        <source>Saving &quot;%1&quot;</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 cannot go into %2: choose %3, draw it in, or leave it out.</source>
+        <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Choose %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 cannot be moved in time while it stays a track: draw it in, set its offset to 0, or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Set its offset to 0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 cannot be read in another encoding while it stays a track: draw it in, or leave it out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Draw it in</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Leave it out</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>Korvex::Desktop::MainMenu</name>
-    <message>
-        <source>&amp;File</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Fil&amp;m</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Put &amp;back left-out tracks</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Convert</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Theme</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>Korvex::Desktop::NoticeBar</name>
-    <message>
-        <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Previous notice</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Next notice</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Close this notice</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>Korvex::Desktop::Notices</name>
-    <message>
-        <source>Try again</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>Korvex::Desktop::OutputBar</name>
-    <message>
-        <source>As the source</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>High</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Medium</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Small</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The picture is copied unchanged where nothing is drawn into it and the format can carry it; otherwise it is encoded in high quality.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The picture is encoded anew; differences are next to invisible.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The picture is encoded anew; good for watching, in a smaller file.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The picture is encoded anew into a small file; losses are visible.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>paused</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1, %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Resume</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Pause</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Go on converting</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Stand still until you resume</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Format</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Output format</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Quality</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Quality of the picture</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Beside each film</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Choose a folder...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Convert all</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Convert all films that are ready</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Only &amp;this film</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Convert the film that is chosen in the list, and no other</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Progress of all conversions</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Ca&amp;ncel</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Stop converting; half-written files are removed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Where to save</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Output folder: %1</source>
+        <source>Save a track</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -721,135 +834,135 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::Desktop::SessionStore</name>
     <message>
         <source>The list of last time in &quot;%1&quot; cannot be read, and nothing is kept this time: rename or remove that file.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ostatniej listy w „%1” nie da się odczytać i tym razem nic nie zostanie zapisane: zmień nazwę pliku lub go usuń.</translation>
     </message>
     <message>
         <source>The list of last time was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ostatnią listę zapisała nowsza wersja programu; zachowano ją jako „%1”. Otwórz filmy ponownie.</translation>
     </message>
     <message>
         <source>The list of last time is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ostatnia lista jest uszkodzona; zachowano ją jako „%1”. Otwórz filmy ponownie.</translation>
     </message>
     <message>
         <source>The list of films could not be kept in &quot;%1&quot; (%2): check that you may write there.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Listy filmów nie dało się zapisać w „%1” (%2): sprawdź, czy masz tam prawo zapisu.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::ShortcutsDialog</name>
     <message>
         <source>Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Skróty klawiszowe</translation>
     </message>
     <message>
         <source>In the list: subtitles of the film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Na liście: napisy filmu</translation>
     </message>
     <message>
         <source>In the list: menu of the film</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Na liście: menu filmu</translation>
     </message>
     <message>
         <source>Close what is open</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zamknij to, co otwarte</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::TextHelpPane</name>
     <message>
         <source>Help with the text</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pomoc dotycząca tekstu</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::TextHelpTexts</name>
     <message>
         <source>The file itself says that it is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Plik sam podaje, że to %1.</translation>
     </message>
     <message>
         <source>Detected: %1 (certain).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wykryto: %1 (na pewno).</translation>
     </message>
     <message>
         <source>Nothing tells the encoding; %1 is a guess.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nic nie zdradza kodowania; %1 to przypuszczenie.</translation>
     </message>
     <message>
         <source>Detected: %1 (very sure, %2).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wykryto: %1 (bardzo pewne, %2).</translation>
     </message>
     <message>
         <source>Detected: %1 (fairly sure, %2).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wykryto: %1 (dość pewne, %2).</translation>
     </message>
     <message>
         <source>Detected: %1 (not sure, %2).</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wykryto: %1 (niepewne, %2).</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) cannot be read in this encoding and show as &quot;%1&quot;.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n bajtu nie da się odczytać w tym kodowaniu, widać go jako „%1”.</numerusform>
+            <numerusform>%n bajtów nie da się odczytać w tym kodowaniu, widać je jako „%1”.</numerusform>
+            <numerusform>%n bajtów nie da się odczytać w tym kodowaniu, widać je jako „%1”.</numerusform>
         </translation>
     </message>
     <message>
         <source>The font &quot;%1&quot; is not installed; &quot;%2&quot; stands in.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Czcionka „%1” nie jest zainstalowana; zastępuje ją „%2”.</translation>
     </message>
     <message>
         <source>Japanese</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">japoński</translation>
     </message>
     <message>
         <source>Chinese</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">chiński</translation>
     </message>
     <message>
         <source>Korean</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">koreański</translation>
     </message>
     <message>
         <source>Cyrillic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">cyrylica</translation>
     </message>
     <message>
         <source>Greek</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">grecki</translation>
     </message>
     <message>
         <source>Hebrew</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">hebrajski</translation>
     </message>
     <message>
         <source>Arabic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">arabski</translation>
     </message>
     <message>
         <source>Thai</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">tajski</translation>
     </message>
     <message>
         <source>Devanagari</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">dewanagari</translation>
     </message>
     <message numerus="yes">
         <source>&quot;%1&quot; lacks %n character(s) of this text (%2): &quot;%3&quot; stands in.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>W „%1” brakuje %n znaku tego tekstu (%2): zastępuje go „%3”.</numerusform>
+            <numerusform>W „%1” brakuje %n znaków tego tekstu (%2): zastępuje je „%3”.</numerusform>
+            <numerusform>W „%1” brakuje %n znaków tego tekstu (%2): zastępuje je „%3”.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>No installed font has %n character(s) of this text (%1); they show as empty boxes.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Żadna zainstalowana czcionka nie ma %n znaku tego tekstu (%1); widać go jako puste pole.</numerusform>
+            <numerusform>Żadna zainstalowana czcionka nie ma %n znaków tego tekstu (%1); widać je jako puste pola.</numerusform>
+            <numerusform>Żadna zainstalowana czcionka nie ma %n znaków tego tekstu (%1); widać je jako puste pola.</numerusform>
         </translation>
     </message>
 </context>
@@ -857,10 +970,92 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::Desktop::TextHelpView</name>
     <message>
         <source>It could also read:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Można też odczytać:</translation>
     </message>
     <message>
         <source>First lines of the text</source>
+        <translation type="unfinished">Pierwsze wiersze tekstu</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::TrackMenu</name>
+    <message>
+        <source>&amp;Draw in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove from the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Leave out of the output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language, &amp;title and marks…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Put back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save as a file…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::TrackPropertiesDialog</name>
+    <message>
+        <source>Subtitle track</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not stated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On by &amp;default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Players show this track unless another one is chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Forced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only what has to be read in any case: signs and foreign speech</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This language is not known: choose one from the list, or write its code, such as &quot;en&quot; or &quot;pt-br&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -868,185 +1063,185 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>Korvex::GUI::ColorPickerButton</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2</translation>
     </message>
     <message>
         <source>Color %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kolor %1</translation>
     </message>
     <message>
         <source>Choose a color</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wybierz kolor</translation>
     </message>
 </context>
 <context>
     <name>OnlineDownloaderInteractor</name>
     <message>
         <source>No online subtitle service is set up; add its API key to the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nie skonfigurowano internetowej usługi z napisami; dodaj jej klucz API do ustawień.</translation>
     </message>
 </context>
 <context>
     <name>SubtitleCollection</name>
     <message>
         <source>Subtitle tracks</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ścieżki napisów</translation>
     </message>
     <message>
         <source>Current choice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Bieżący wybór</translation>
     </message>
     <message>
         <source>No subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Bez napisów</translation>
     </message>
     <message>
         <source>Leave all tracks (softsub)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zachowaj wszystkie ścieżki (softsub)</translation>
     </message>
     <message>
         <source>There are no subtitle tracks yet. Add a subtitle file first.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nie ma jeszcze ścieżek napisów. Najpierw dodaj plik z napisami.</translation>
     </message>
     <message>
         <source>The chosen output format cannot carry these tracks. Choose another format, or burn one track in.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wybrany format wyjściowy nie obsługuje tych ścieżek. Wybierz inny format lub wtop jedną ścieżkę.</translation>
     </message>
     <message>
         <source>Save this track to a file (Ctrl+S)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zapisz tę ścieżkę do pliku (Ctrl+S)</translation>
     </message>
     <message>
         <source>Save to a file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zapisz do pliku: %1</translation>
     </message>
 </context>
 <context>
     <name>SubtitleCollectionInteractor</name>
     <message>
         <source>No subtitles were found in &quot;%1&quot;: take it out of the list and choose an SRT, ASS or SSA file.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">W „%1” nie znaleziono napisów: usuń plik z listy i wybierz plik SRT, ASS lub SSA.</translation>
     </message>
 </context>
 <context>
     <name>SubtitleSettings</name>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Automatycznie</translation>
     </message>
     <message>
         <source>UTF-8</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">UTF-8</translation>
     </message>
     <message>
         <source>Windows-1251</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Windows-1251</translation>
     </message>
     <message>
         <source>Central and Eastern European (Windows-1250)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Środkowo- i wschodnioeuropejskie (Windows-1250)</translation>
     </message>
     <message>
         <source>Russian (KOI8-R)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Rosyjskie (KOI8-R)</translation>
     </message>
     <message>
         <source>Ukrainian, Belarusian (KOI8-U/RU)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ukraińskie, białoruskie (KOI8-U/RU)</translation>
     </message>
     <message>
         <source>Esperanto, Galician, Maltese, Turkish (ISO-8859-3)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Esperanto, galicyjskie, maltańskie, tureckie (ISO-8859-3)</translation>
     </message>
     <message>
         <source>Modern Greek (ISO-8859-7)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nowogreckie (ISO-8859-7)</translation>
     </message>
     <message>
         <source>Hebrew charsets (ISO-8859-8)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hebrajskie (ISO-8859-8)</translation>
     </message>
     <message>
         <source>Turkish (ISO-8859-9)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tureckie (ISO-8859-9)</translation>
     </message>
     <message>
         <source>Baltic (ISO-8859-13)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Bałtyckie (ISO-8859-13)</translation>
     </message>
     <message>
         <source>Western European Languages with Euro (ISO-8859-15)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zachodnioeuropejskie z euro (ISO-8859-15)</translation>
     </message>
     <message>
         <source>Japanese charsets (SHIFT-JIS/CP932)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Japońskie (SHIFT-JIS/CP932)</translation>
     </message>
     <message>
         <source>Simplified Chinese charset (CP936)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Chińskie uproszczone (CP936)</translation>
     </message>
     <message>
         <source>Traditional Chinese charset (BIG5)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Chińskie tradycyjne (BIG5)</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Domyślnie</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">U góry</translation>
     </message>
     <message>
         <source>Vertical center</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Środek w pionie</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">U dołu</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Z lewej</translation>
     </message>
     <message>
         <source>Horizontal center</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Środek w poziomie</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Z prawej</translation>
     </message>
 </context>
 <context>
     <name>TimeTexts</name>
     <message>
         <source>less than a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">została mniej niż minuta</translation>
     </message>
     <message numerus="yes">
         <source>%n min left</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>zostało %n min</numerusform>
+            <numerusform>zostało %n min</numerusform>
+            <numerusform>zostało %n min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n h left</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>zostało %n godz</numerusform>
+            <numerusform>zostało %n godz</numerusform>
+            <numerusform>zostało %n godz</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 h %n min left</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>zostało %1 godz %n min</numerusform>
+            <numerusform>zostało %1 godz %n min</numerusform>
+            <numerusform>zostało %1 godz %n min</numerusform>
         </translation>
     </message>
 </context>
@@ -1054,15 +1249,15 @@ It is built on Qt, FFmpeg and libass.</source>
     <name>TimeWords</name>
     <message>
         <source>%1 s left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">zostało %1 s</translation>
     </message>
     <message>
         <source>%1 min left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">zostało %1 min</translation>
     </message>
     <message>
         <source>%1 h %2 min left</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">zostało %1 godz %2 min</translation>
     </message>
 </context>
 </TS>
