@@ -318,54 +318,54 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     <name>Korvex::Desktop::ApplyToAll</name>
     <message>
         <source>&quot;%1&quot;: nothing changed, because the film cannot be read at the moment.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">„%1“: nichts geändert, weil der Film zurzeit nicht lesbar ist.</translation>
     </message>
     <message>
         <source>&quot;%1&quot;: nothing changed, because it has no track like %2 and no file of that name.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">„%1“: nichts geändert, weil es keine Spur wie %2 und keine Datei dieses Namens gibt.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::CommandLineText</name>
     <message>
         <source>A picture that cannot be copied is encoded with --crf %1 there and %2 here.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ein Bild, das sich nicht kopieren lässt, wird dort mit --crf %1 kodiert und hier mit %2.</translation>
     </message>
     <message>
         <source>The text cannot be moved by more than %1 lines.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Der Text lässt sich um höchstens %1 Zeilen verschieben.</translation>
     </message>
     <message>
         <source>The font size %1 is not a whole number up to %2: the nearest one stands for it.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die Schriftgröße %1 ist keine ganze Zahl bis %2: Die nächste steht dafür.</translation>
     </message>
     <message>
         <source>%1 keeps its own language, title and forced mark.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 behält Sprache, Titel und Erzwungen-Markierung.</translation>
     </message>
     <message>
         <source>%1 keeps the language, title and forced mark that its name states.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 behält Sprache, Titel und Erzwungen-Markierung, die der Name nennt.</translation>
     </message>
     <message>
         <source>%1 goes out without its mark for the hard of hearing.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 geht ohne die Markierung für Hörgeschädigte hinaus.</translation>
     </message>
     <message>
         <source>Which of the film&apos;s own tracks players show by themselves stays as in the film.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Welche der eigenen Spuren des Films Player von selbst zeigen, bleibt wie im Film.</translation>
     </message>
     <message>
         <source>The files have different encodings: all are read as they are detected.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die Dateien haben verschiedene Kodierungen: Alle werden so gelesen, wie sie erkannt werden.</translation>
     </message>
     <message>
         <source>The tracks are moved by different offsets: none is moved.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die Spuren sind verschieden weit verschoben: Keine wird verschoben.</translation>
     </message>
     <message>
         <source>Text cannot be moved by more than a day.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Text lässt sich um höchstens einen Tag verschieben.</translation>
     </message>
 </context>
 <context>
@@ -745,79 +745,79 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     <name>Korvex::Desktop::SaveTrack</name>
     <message>
         <source>SubRip (*.srt)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">SubRip (*.srt)</translation>
     </message>
     <message>
         <source>Advanced SubStation Alpha (*.ass)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Advanced SubStation Alpha (*.ass)</translation>
     </message>
     <message>
         <source>Blu-ray subtitles (*.sup)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Blu-ray-Untertitel (*.sup)</translation>
     </message>
     <message>
         <source>Matroska (*.mkv *.mks)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Matroska (*.mkv *.mks)</translation>
     </message>
     <message>
         <source>Save the track as</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Spur speichern als</translation>
     </message>
     <message numerus="yes">
         <source>&quot;%1&quot; was saved as %2 with %n cue(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>„%1“ wurde als %2 mit %n Untertitel gespeichert</numerusform>
+            <numerusform>„%1“ wurde als %2 mit %n Untertiteln gespeichert</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) could not be read as %1</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n Byte ließ sich nicht als %1 lesen</numerusform>
+            <numerusform>%n Bytes ließen sich nicht als %1 lesen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) without usable times were left out</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n Untertitel ohne brauchbare Zeiten wurde weggelassen</numerusform>
+            <numerusform>%n Untertitel ohne brauchbare Zeiten wurden weggelassen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of no duration were left out</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n Untertitel ohne Dauer wurde weggelassen</numerusform>
+            <numerusform>%n Untertitel ohne Dauer wurden weggelassen</numerusform>
         </translation>
     </message>
     <message>
         <source>%1.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1.</translation>
     </message>
     <message>
         <source>%1; %2.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1; %2.</translation>
     </message>
     <message>
         <source>The name &quot;%1&quot; does not tell how to save the track: let it end in .srt, .ass, .sup or .mkv.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Der Name „%1“ verrät nicht, wie die Spur zu speichern ist: Lassen Sie ihn auf .srt, .ass, .sup oder .mkv enden.</translation>
     </message>
     <message>
         <source>Track %1 of &quot;%2&quot; is %3, which no subtitle file can hold: draw it into the picture instead.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Spur %1 von „%2“ ist %3, was keine Untertiteldatei aufnehmen kann: Brennen Sie sie stattdessen ins Bild ein.</translation>
     </message>
     <message>
         <source>Saving &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">„%1“ wird gespeichert</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abbrechen</translation>
     </message>
     <message>
         <source>Save a track</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Spur speichern</translation>
     </message>
 </context>
 <context>
@@ -968,82 +968,82 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     <name>Korvex::Desktop::TrackMenu</name>
     <message>
         <source>&amp;Draw in</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ein&amp;brennen</translation>
     </message>
     <message>
         <source>&amp;Remove from the list</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aus der Liste &amp;entfernen</translation>
     </message>
     <message>
         <source>&amp;Leave out of the output</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aus der Ausgabe &amp;weglassen</translation>
     </message>
     <message>
         <source>Language, &amp;title and marks…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sprache, &amp;Titel und Markierungen …</translation>
     </message>
     <message>
         <source>&amp;Put back</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Zurückholen</translation>
     </message>
     <message>
         <source>&amp;Save as a file…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Als Datei &amp;speichern …</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::TrackPropertiesDialog</name>
     <message>
         <source>Subtitle track</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Untertitelspur</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Sprache:</translation>
     </message>
     <message>
         <source>Not stated</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nicht angegeben</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sprache</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Titel:</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Titel</translation>
     </message>
     <message>
         <source>On by &amp;default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Von &amp;selbst eingeschaltet</translation>
     </message>
     <message>
         <source>Players show this track unless another one is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Player zeigen diese Spur, solange keine andere gewählt ist</translation>
     </message>
     <message>
         <source>&amp;Forced</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Erzwungen</translation>
     </message>
     <message>
         <source>Only what has to be read in any case: signs and foreign speech</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nur was in jedem Fall zu lesen sein muss: Schilder und fremde Sprachen</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abbrechen</translation>
     </message>
     <message>
         <source>This language is not known: choose one from the list, or write its code, such as &quot;en&quot; or &quot;pt-br&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Diese Sprache ist nicht bekannt: Wählen Sie eine aus der Liste oder schreiben Sie ihren Kode, etwa „en“ oder „pt-br“.</translation>
     </message>
 </context>
 <context>

@@ -318,54 +318,54 @@ Se basa en Qt, FFmpeg y libass.</translation>
     <name>Korvex::Desktop::ApplyToAll</name>
     <message>
         <source>&quot;%1&quot;: nothing changed, because the film cannot be read at the moment.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">«%1»: nada cambió, porque la película no se puede leer en este momento.</translation>
     </message>
     <message>
         <source>&quot;%1&quot;: nothing changed, because it has no track like %2 and no file of that name.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">«%1»: nada cambió, porque no tiene una pista como %2 ni un archivo con ese nombre.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::CommandLineText</name>
     <message>
         <source>A picture that cannot be copied is encoded with --crf %1 there and %2 here.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Una imagen que no se puede copiar se codifica allí con --crf %1 y aquí con %2.</translation>
     </message>
     <message>
         <source>The text cannot be moved by more than %1 lines.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">El texto no se puede desplazar más de %1 líneas.</translation>
     </message>
     <message>
         <source>The font size %1 is not a whole number up to %2: the nearest one stands for it.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">El tamaño de letra %1 no es un número entero hasta %2: se usa el más cercano.</translation>
     </message>
     <message>
         <source>%1 keeps its own language, title and forced mark.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 conserva su idioma, su título y su marca de forzado.</translation>
     </message>
     <message>
         <source>%1 keeps the language, title and forced mark that its name states.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 conserva el idioma, el título y la marca de forzado que indica su nombre.</translation>
     </message>
     <message>
         <source>%1 goes out without its mark for the hard of hearing.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 sale sin su marca para personas con dificultades auditivas.</translation>
     </message>
     <message>
         <source>Which of the film&apos;s own tracks players show by themselves stays as in the film.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Qué pistas propias de la película muestran los reproductores por sí solos queda como en la película.</translation>
     </message>
     <message>
         <source>The files have different encodings: all are read as they are detected.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Los archivos tienen codificaciones distintas: todos se leen según se detecten.</translation>
     </message>
     <message>
         <source>The tracks are moved by different offsets: none is moved.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Las pistas tienen desfases distintos: no se desplaza ninguna.</translation>
     </message>
     <message>
         <source>Text cannot be moved by more than a day.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">El texto no se puede desplazar más de un día.</translation>
     </message>
 </context>
 <context>
@@ -745,79 +745,79 @@ Se basa en Qt, FFmpeg y libass.</translation>
     <name>Korvex::Desktop::SaveTrack</name>
     <message>
         <source>SubRip (*.srt)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">SubRip (*.srt)</translation>
     </message>
     <message>
         <source>Advanced SubStation Alpha (*.ass)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Advanced SubStation Alpha (*.ass)</translation>
     </message>
     <message>
         <source>Blu-ray subtitles (*.sup)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Subtítulos Blu-ray (*.sup)</translation>
     </message>
     <message>
         <source>Matroska (*.mkv *.mks)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Matroska (*.mkv *.mks)</translation>
     </message>
     <message>
         <source>Save the track as</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guardar la pista como</translation>
     </message>
     <message numerus="yes">
         <source>&quot;%1&quot; was saved as %2 with %n cue(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>«%1» se guardó como %2 con %n subtítulo</numerusform>
+            <numerusform>«%1» se guardó como %2 con %n subtítulos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) could not be read as %1</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n byte no se pudo leer como %1</numerusform>
+            <numerusform>%n bytes no se pudieron leer como %1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) without usable times were left out</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n subtítulo sin tiempos utilizables se dejó fuera</numerusform>
+            <numerusform>%n subtítulos sin tiempos utilizables se dejaron fuera</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of no duration were left out</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n subtítulo sin duración se dejó fuera</numerusform>
+            <numerusform>%n subtítulos sin duración se dejaron fuera</numerusform>
         </translation>
     </message>
     <message>
         <source>%1.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1.</translation>
     </message>
     <message>
         <source>%1; %2.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1; %2.</translation>
     </message>
     <message>
         <source>The name &quot;%1&quot; does not tell how to save the track: let it end in .srt, .ass, .sup or .mkv.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">El nombre «%1» no indica cómo guardar la pista: hágalo terminar en .srt, .ass, .sup o .mkv.</translation>
     </message>
     <message>
         <source>Track %1 of &quot;%2&quot; is %3, which no subtitle file can hold: draw it into the picture instead.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La pista %1 de «%2» es %3, que ningún archivo de subtítulos admite: incrústela en la imagen.</translation>
     </message>
     <message>
         <source>Saving &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guardando «%1»</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cancelar</translation>
     </message>
     <message>
         <source>Save a track</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guardar una pista</translation>
     </message>
 </context>
 <context>
@@ -968,82 +968,82 @@ Se basa en Qt, FFmpeg y libass.</translation>
     <name>Korvex::Desktop::TrackMenu</name>
     <message>
         <source>&amp;Draw in</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Incrustar</translation>
     </message>
     <message>
         <source>&amp;Remove from the list</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Quitar de la lista</translation>
     </message>
     <message>
         <source>&amp;Leave out of the output</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Dejar fuera de la salida</translation>
     </message>
     <message>
         <source>Language, &amp;title and marks…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Idioma, &amp;título y marcas…</translation>
     </message>
     <message>
         <source>&amp;Put back</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Recuperar</translation>
     </message>
     <message>
         <source>&amp;Save as a file…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Guardar como archivo…</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::TrackPropertiesDialog</name>
     <message>
         <source>Subtitle track</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pista de subtítulos</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Idioma:</translation>
     </message>
     <message>
         <source>Not stated</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sin indicar</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Idioma</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Título:</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Título</translation>
     </message>
     <message>
         <source>On by &amp;default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Activada por &amp;omisión</translation>
     </message>
     <message>
         <source>Players show this track unless another one is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Los reproductores muestran esta pista si no se elige otra</translation>
     </message>
     <message>
         <source>&amp;Forced</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Forzada</translation>
     </message>
     <message>
         <source>Only what has to be read in any case: signs and foreign speech</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Solo lo que hay que leer en cualquier caso: letreros y diálogos extranjeros</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cancelar</translation>
     </message>
     <message>
         <source>This language is not known: choose one from the list, or write its code, such as &quot;en&quot; or &quot;pt-br&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Este idioma no se conoce: elija uno de la lista o escriba su código, por ejemplo «en» o «pt-br».</translation>
     </message>
 </context>
 <context>

@@ -318,54 +318,54 @@ Il repose sur Qt, FFmpeg et libass.</translation>
     <name>Korvex::Desktop::ApplyToAll</name>
     <message>
         <source>&quot;%1&quot;: nothing changed, because the film cannot be read at the moment.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">«&#xa0;%1&#xa0;»&#xa0;: rien n&apos;a changé, car le film est illisible pour le moment.</translation>
     </message>
     <message>
         <source>&quot;%1&quot;: nothing changed, because it has no track like %2 and no file of that name.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">«&#xa0;%1&#xa0;»&#xa0;: rien n&apos;a changé, car il n&apos;y a ni piste comme %2 ni fichier de ce nom.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::CommandLineText</name>
     <message>
         <source>A picture that cannot be copied is encoded with --crf %1 there and %2 here.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Une image qui ne peut pas être copiée est encodée là-bas avec --crf %1 et ici avec %2.</translation>
     </message>
     <message>
         <source>The text cannot be moved by more than %1 lines.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Le texte ne peut pas être décalé de plus de %1 lignes.</translation>
     </message>
     <message>
         <source>The font size %1 is not a whole number up to %2: the nearest one stands for it.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La taille de police %1 n&apos;est pas un entier jusqu&apos;à %2&#xa0;: le plus proche la remplace.</translation>
     </message>
     <message>
         <source>%1 keeps its own language, title and forced mark.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 garde sa langue, son titre et sa marque «&#xa0;forcé&#xa0;».</translation>
     </message>
     <message>
         <source>%1 keeps the language, title and forced mark that its name states.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 garde la langue, le titre et la marque «&#xa0;forcé&#xa0;» indiqués par son nom.</translation>
     </message>
     <message>
         <source>%1 goes out without its mark for the hard of hearing.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 sort sans sa marque pour malentendants.</translation>
     </message>
     <message>
         <source>Which of the film&apos;s own tracks players show by themselves stays as in the film.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Les pistes du film que les lecteurs affichent d&apos;eux-mêmes restent celles du film.</translation>
     </message>
     <message>
         <source>The files have different encodings: all are read as they are detected.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Les fichiers ont des encodages différents&#xa0;: tous sont lus tels qu&apos;ils sont détectés.</translation>
     </message>
     <message>
         <source>The tracks are moved by different offsets: none is moved.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Les pistes ont des décalages différents&#xa0;: aucune n&apos;est décalée.</translation>
     </message>
     <message>
         <source>Text cannot be moved by more than a day.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Le texte ne peut pas être décalé de plus d&apos;un jour.</translation>
     </message>
 </context>
 <context>
@@ -745,79 +745,79 @@ Il repose sur Qt, FFmpeg et libass.</translation>
     <name>Korvex::Desktop::SaveTrack</name>
     <message>
         <source>SubRip (*.srt)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">SubRip (*.srt)</translation>
     </message>
     <message>
         <source>Advanced SubStation Alpha (*.ass)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Advanced SubStation Alpha (*.ass)</translation>
     </message>
     <message>
         <source>Blu-ray subtitles (*.sup)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sous-titres Blu-ray (*.sup)</translation>
     </message>
     <message>
         <source>Matroska (*.mkv *.mks)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Matroska (*.mkv *.mks)</translation>
     </message>
     <message>
         <source>Save the track as</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Enregistrer la piste sous</translation>
     </message>
     <message numerus="yes">
         <source>&quot;%1&quot; was saved as %2 with %n cue(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>«&#xa0;%1&#xa0;» a été enregistré en %2 avec %n sous-titre</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;» a été enregistré en %2 avec %n sous-titres</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) could not be read as %1</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n octet n&apos;a pas pu être lu en %1</numerusform>
+            <numerusform>%n octets n&apos;ont pas pu être lus en %1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) without usable times were left out</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n sous-titre sans horaires utilisables a été laissé de côté</numerusform>
+            <numerusform>%n sous-titres sans horaires utilisables ont été laissés de côté</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of no duration were left out</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n sous-titre sans durée a été laissé de côté</numerusform>
+            <numerusform>%n sous-titres sans durée ont été laissés de côté</numerusform>
         </translation>
     </message>
     <message>
         <source>%1.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1.</translation>
     </message>
     <message>
         <source>%1; %2.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1&#xa0;; %2.</translation>
     </message>
     <message>
         <source>The name &quot;%1&quot; does not tell how to save the track: let it end in .srt, .ass, .sup or .mkv.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Le nom «&#xa0;%1&#xa0;» n&apos;indique pas comment enregistrer la piste&#xa0;: terminez-le par .srt, .ass, .sup ou .mkv.</translation>
     </message>
     <message>
         <source>Track %1 of &quot;%2&quot; is %3, which no subtitle file can hold: draw it into the picture instead.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La piste %1 de «&#xa0;%2&#xa0;» est en %3, qu&apos;aucun fichier de sous-titres n&apos;accepte&#xa0;: incrustez-la plutôt dans l&apos;image.</translation>
     </message>
     <message>
         <source>Saving &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Enregistrement de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Annuler</translation>
     </message>
     <message>
         <source>Save a track</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Enregistrer une piste</translation>
     </message>
 </context>
 <context>
@@ -968,82 +968,82 @@ Il repose sur Qt, FFmpeg et libass.</translation>
     <name>Korvex::Desktop::TrackMenu</name>
     <message>
         <source>&amp;Draw in</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Incruster</translation>
     </message>
     <message>
         <source>&amp;Remove from the list</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Retirer de la liste</translation>
     </message>
     <message>
         <source>&amp;Leave out of the output</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Laisser de côté</translation>
     </message>
     <message>
         <source>Language, &amp;title and marks…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Langue, &amp;titre et marques…</translation>
     </message>
     <message>
         <source>&amp;Put back</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Remettre</translation>
     </message>
     <message>
         <source>&amp;Save as a file…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Enregistrer dans un fichier…</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::TrackPropertiesDialog</name>
     <message>
         <source>Subtitle track</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Piste de sous-titres</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Langue&#xa0;:</translation>
     </message>
     <message>
         <source>Not stated</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Non précisée</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Langue</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Titre&#xa0;:</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Titre</translation>
     </message>
     <message>
         <source>On by &amp;default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Activée par &amp;défaut</translation>
     </message>
     <message>
         <source>Players show this track unless another one is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Les lecteurs affichent cette piste si aucune autre n&apos;est choisie</translation>
     </message>
     <message>
         <source>&amp;Forced</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Forcée</translation>
     </message>
     <message>
         <source>Only what has to be read in any case: signs and foreign speech</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Seulement ce qui doit être lu dans tous les cas&#xa0;: panneaux et langues étrangères</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Annuler</translation>
     </message>
     <message>
         <source>This language is not known: choose one from the list, or write its code, such as &quot;en&quot; or &quot;pt-br&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cette langue est inconnue&#xa0;: choisissez-en une dans la liste ou écrivez son code, par exemple «&#xa0;en&#xa0;» ou «&#xa0;pt-br&#xa0;».</translation>
     </message>
 </context>
 <context>

@@ -314,54 +314,54 @@ Qt、FFmpeg、libass を利用しています。</translation>
     <name>Korvex::Desktop::ApplyToAll</name>
     <message>
         <source>&quot;%1&quot;: nothing changed, because the film cannot be read at the moment.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">「%1」: 現在この映画を読み込めないため、変更していません。</translation>
     </message>
     <message>
         <source>&quot;%1&quot;: nothing changed, because it has no track like %2 and no file of that name.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">「%1」: %2 のようなトラックもその名前のファイルもないため、変更していません。</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::CommandLineText</name>
     <message>
         <source>A picture that cannot be copied is encoded with --crf %1 there and %2 here.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">コピーできない映像は、そちらでは --crf %1、こちらでは %2 でエンコードされます。</translation>
     </message>
     <message>
         <source>The text cannot be moved by more than %1 lines.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">テキストを %1 行より多くずらすことはできません。</translation>
     </message>
     <message>
         <source>The font size %1 is not a whole number up to %2: the nearest one stands for it.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">フォントサイズ %1 は %2 までの整数ではないため、最も近い値を使います。</translation>
     </message>
     <message>
         <source>%1 keeps its own language, title and forced mark.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 は元の言語、タイトル、強制の印を保ちます。</translation>
     </message>
     <message>
         <source>%1 keeps the language, title and forced mark that its name states.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 は名前が示す言語、タイトル、強制の印を保ちます。</translation>
     </message>
     <message>
         <source>%1 goes out without its mark for the hard of hearing.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 は聴覚障害者向けの印なしで出力されます。</translation>
     </message>
     <message>
         <source>Which of the film&apos;s own tracks players show by themselves stays as in the film.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映画自体のどのトラックをプレーヤーが自動表示するかは、元の映画のままです。</translation>
     </message>
     <message>
         <source>The files have different encodings: all are read as they are detected.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ファイルの文字コードが異なるため、すべて検出どおりに読み込みます。</translation>
     </message>
     <message>
         <source>The tracks are moved by different offsets: none is moved.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">トラックごとにずれが異なるため、どれもずらしません。</translation>
     </message>
     <message>
         <source>Text cannot be moved by more than a day.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">テキストを 1 日より多くずらすことはできません。</translation>
     </message>
 </context>
 <context>
@@ -739,75 +739,75 @@ Qt、FFmpeg、libass を利用しています。</translation>
     <name>Korvex::Desktop::SaveTrack</name>
     <message>
         <source>SubRip (*.srt)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">SubRip (*.srt)</translation>
     </message>
     <message>
         <source>Advanced SubStation Alpha (*.ass)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Advanced SubStation Alpha (*.ass)</translation>
     </message>
     <message>
         <source>Blu-ray subtitles (*.sup)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Blu-ray 字幕 (*.sup)</translation>
     </message>
     <message>
         <source>Matroska (*.mkv *.mks)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Matroska (*.mkv *.mks)</translation>
     </message>
     <message>
         <source>Save the track as</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">トラックに名前を付けて保存</translation>
     </message>
     <message numerus="yes">
         <source>&quot;%1&quot; was saved as %2 with %n cue(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>「%1」を字幕 %n 件の %2 として保存しました</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) could not be read as %1</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n バイトを %1 として読み込めませんでした</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) without usable times were left out</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>有効な時刻のない字幕 %n 件を除外しました</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of no duration were left out</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>長さのない字幕 %n 件を除外しました</numerusform>
         </translation>
     </message>
     <message>
         <source>%1.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1。</translation>
     </message>
     <message>
         <source>%1; %2.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1、%2。</translation>
     </message>
     <message>
         <source>The name &quot;%1&quot; does not tell how to save the track: let it end in .srt, .ass, .sup or .mkv.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">名前「%1」ではトラックの保存形式が分かりません。末尾を .srt、.ass、.sup、.mkv のいずれかにしてください。</translation>
     </message>
     <message>
         <source>Track %1 of &quot;%2&quot; is %3, which no subtitle file can hold: draw it into the picture instead.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">「%2」のトラック %1 は %3 で、字幕ファイルには保存できません。代わりに映像に焼き込んでください。</translation>
     </message>
     <message>
         <source>Saving &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">「%1」を保存中</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">キャンセル</translation>
     </message>
     <message>
         <source>Save a track</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">トラックの保存</translation>
     </message>
 </context>
 <context>
@@ -955,82 +955,82 @@ Qt、FFmpeg、libass を利用しています。</translation>
     <name>Korvex::Desktop::TrackMenu</name>
     <message>
         <source>&amp;Draw in</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">焼き込む(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Remove from the list</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">一覧から削除(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Leave out of the output</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">出力から除外(&amp;L)</translation>
     </message>
     <message>
         <source>Language, &amp;title and marks…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">言語、タイトル、印(&amp;T)…</translation>
     </message>
     <message>
         <source>&amp;Put back</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">戻す(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Save as a file…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ファイルとして保存(&amp;S)…</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::TrackPropertiesDialog</name>
     <message>
         <source>Subtitle track</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">字幕トラック</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">言語(&amp;L):</translation>
     </message>
     <message>
         <source>Not stated</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">指定なし</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">言語</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">タイトル(&amp;T):</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">タイトル</translation>
     </message>
     <message>
         <source>On by &amp;default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">既定でオン(&amp;D)</translation>
     </message>
     <message>
         <source>Players show this track unless another one is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">別のトラックを選ばない限り、プレーヤーはこのトラックを表示します</translation>
     </message>
     <message>
         <source>&amp;Forced</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">強制(&amp;F)</translation>
     </message>
     <message>
         <source>Only what has to be read in any case: signs and foreign speech</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">必ず読む必要のあるものだけ: 看板や外国語の台詞</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">キャンセル</translation>
     </message>
     <message>
         <source>This language is not known: choose one from the list, or write its code, such as &quot;en&quot; or &quot;pt-br&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">不明な言語です。一覧から選ぶか、「en」や「pt-br」のようなコードを入力してください。</translation>
     </message>
 </context>
 <context>

@@ -322,54 +322,54 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
     <name>Korvex::Desktop::ApplyToAll</name>
     <message>
         <source>&quot;%1&quot;: nothing changed, because the film cannot be read at the moment.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">„%1”: bez zmian, bo filmu nie da się teraz odczytać.</translation>
     </message>
     <message>
         <source>&quot;%1&quot;: nothing changed, because it has no track like %2 and no file of that name.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">„%1”: bez zmian, bo nie ma tu ścieżki takiej jak %2 ani pliku o tej nazwie.</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::CommandLineText</name>
     <message>
         <source>A picture that cannot be copied is encoded with --crf %1 there and %2 here.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Obraz, którego nie da się skopiować, jest kodowany tam z --crf %1, a tutaj z %2.</translation>
     </message>
     <message>
         <source>The text cannot be moved by more than %1 lines.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tekstu nie da się przesunąć o więcej niż wiersze: %1.</translation>
     </message>
     <message>
         <source>The font size %1 is not a whole number up to %2: the nearest one stands for it.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Rozmiar czcionki %1 nie jest liczbą całkowitą do %2: zastępuje go najbliższa.</translation>
     </message>
     <message>
         <source>%1 keeps its own language, title and forced mark.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: zachowuje swój język, tytuł i oznaczenie wymuszenia.</translation>
     </message>
     <message>
         <source>%1 keeps the language, title and forced mark that its name states.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: zachowuje język, tytuł i oznaczenie wymuszenia podane w nazwie.</translation>
     </message>
     <message>
         <source>%1 goes out without its mark for the hard of hearing.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: zapisywane bez oznaczenia dla niesłyszących.</translation>
     </message>
     <message>
         <source>Which of the film&apos;s own tracks players show by themselves stays as in the film.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">To, które ścieżki filmu odtwarzacze pokazują same, pozostaje jak w filmie.</translation>
     </message>
     <message>
         <source>The files have different encodings: all are read as they are detected.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pliki mają różne kodowania: wszystkie są odczytywane zgodnie z wykryciem.</translation>
     </message>
     <message>
         <source>The tracks are moved by different offsets: none is moved.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ścieżki mają różne przesunięcia: żadna nie jest przesuwana.</translation>
     </message>
     <message>
         <source>Text cannot be moved by more than a day.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tekstu nie da się przesunąć o więcej niż dzień.</translation>
     </message>
 </context>
 <context>
@@ -751,83 +751,83 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
     <name>Korvex::Desktop::SaveTrack</name>
     <message>
         <source>SubRip (*.srt)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">SubRip (*.srt)</translation>
     </message>
     <message>
         <source>Advanced SubStation Alpha (*.ass)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Advanced SubStation Alpha (*.ass)</translation>
     </message>
     <message>
         <source>Blu-ray subtitles (*.sup)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Napisy Blu-ray (*.sup)</translation>
     </message>
     <message>
         <source>Matroska (*.mkv *.mks)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Matroska (*.mkv *.mks)</translation>
     </message>
     <message>
         <source>Save the track as</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zapisz ścieżkę jako</translation>
     </message>
     <message numerus="yes">
         <source>&quot;%1&quot; was saved as %2 with %n cue(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>„%1” zapisano jako %2: %n napis</numerusform>
+            <numerusform>„%1” zapisano jako %2: %n napisy</numerusform>
+            <numerusform>„%1” zapisano jako %2: %n napisów</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) could not be read as %1</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n bajtu nie dało się odczytać jako %1</numerusform>
+            <numerusform>%n bajtów nie dało się odczytać jako %1</numerusform>
+            <numerusform>%n bajtów nie dało się odczytać jako %1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) without usable times were left out</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>pominięto %n napis bez poprawnych czasów</numerusform>
+            <numerusform>pominięto %n napisy bez poprawnych czasów</numerusform>
+            <numerusform>pominięto %n napisów bez poprawnych czasów</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of no duration were left out</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>pominięto %n napis bez czasu trwania</numerusform>
+            <numerusform>pominięto %n napisy bez czasu trwania</numerusform>
+            <numerusform>pominięto %n napisów bez czasu trwania</numerusform>
         </translation>
     </message>
     <message>
         <source>%1.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1.</translation>
     </message>
     <message>
         <source>%1; %2.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1; %2.</translation>
     </message>
     <message>
         <source>The name &quot;%1&quot; does not tell how to save the track: let it end in .srt, .ass, .sup or .mkv.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nazwa „%1” nie mówi, jak zapisać ścieżkę: niech kończy się na .srt, .ass, .sup lub .mkv.</translation>
     </message>
     <message>
         <source>Track %1 of &quot;%2&quot; is %3, which no subtitle file can hold: draw it into the picture instead.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ścieżka %1 z „%2” to %3, czego nie pomieści żaden plik napisów: zamiast tego wtop ją w obraz.</translation>
     </message>
     <message>
         <source>Saving &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zapisywanie „%1”</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Anuluj</translation>
     </message>
     <message>
         <source>Save a track</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zapisz ścieżkę</translation>
     </message>
 </context>
 <context>
@@ -981,82 +981,82 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
     <name>Korvex::Desktop::TrackMenu</name>
     <message>
         <source>&amp;Draw in</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Wtop w obraz</translation>
     </message>
     <message>
         <source>&amp;Remove from the list</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Usuń z listy</translation>
     </message>
     <message>
         <source>&amp;Leave out of the output</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Pomiń w wyniku</translation>
     </message>
     <message>
         <source>Language, &amp;title and marks…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Język, &amp;tytuł i oznaczenia…</translation>
     </message>
     <message>
         <source>&amp;Put back</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Przywróć</translation>
     </message>
     <message>
         <source>&amp;Save as a file…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Zapisz jako plik…</translation>
     </message>
 </context>
 <context>
     <name>Korvex::Desktop::TrackPropertiesDialog</name>
     <message>
         <source>Subtitle track</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ścieżka napisów</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Język:</translation>
     </message>
     <message>
         <source>Not stated</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nie podano</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Język</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Tytuł:</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tytuł</translation>
     </message>
     <message>
         <source>On by &amp;default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Domyślnie włączona</translation>
     </message>
     <message>
         <source>Players show this track unless another one is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Odtwarzacze pokazują tę ścieżkę, jeśli nie wybrano innej</translation>
     </message>
     <message>
         <source>&amp;Forced</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Wymuszona</translation>
     </message>
     <message>
         <source>Only what has to be read in any case: signs and foreign speech</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tylko to, co zawsze trzeba przeczytać: napisy w obrazie i obce wypowiedzi</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Anuluj</translation>
     </message>
     <message>
         <source>This language is not known: choose one from the list, or write its code, such as &quot;en&quot; or &quot;pt-br&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ten język jest nieznany: wybierz jeden z listy lub wpisz jego kod, na przykład „en” albo „pt-br”.</translation>
     </message>
 </context>
 <context>
