@@ -315,6 +315,17 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     </message>
 </context>
 <context>
+    <name>Korvex::Desktop::ApplyReportDialog</name>
+    <message>
+        <source>Applied to all films</source>
+        <translation type="unfinished">Auf alle Filme angewandt</translation>
+    </message>
+    <message>
+        <source>Subtitles as in &quot;%1&quot;</source>
+        <translation type="unfinished">Untertitel wie in „%1“</translation>
+    </message>
+</context>
+<context>
     <name>Korvex::Desktop::ApplyToAll</name>
     <message>
         <source>&quot;%1&quot;: nothing changed, because the film cannot be read at the moment.</source>
@@ -475,6 +486,10 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     <message>
         <source>No file manager could be started: the film is &quot;%1&quot;.</source>
         <translation type="unfinished">Es ließ sich kein Dateimanager starten: Der Film ist „%1“.</translation>
+    </message>
+    <message>
+        <source>The command line is in the clipboard.</source>
+        <translation type="unfinished">Die Befehlszeile liegt in der Zwischenablage.</translation>
     </message>
 </context>
 <context>
@@ -739,6 +754,70 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     <message>
         <source>Output folder: %1</source>
         <translation type="unfinished">Ausgabeordner: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::PreviewPane</name>
+    <message>
+        <source>Drop films here.</source>
+        <translation type="unfinished">Filme hier ablegen.</translation>
+    </message>
+    <message>
+        <source>The film is being read.</source>
+        <translation type="unfinished">Der Film wird gelesen.</translation>
+    </message>
+    <message>
+        <source>“%1” has no picture, so there is nothing to see. Its sound can be converted.</source>
+        <translation type="unfinished">„%1“ hat kein Bild, daher gibt es nichts zu sehen. Der Ton lässt sich umwandeln.</translation>
+    </message>
+    <message>
+        <source>There are no subtitles. Add a subtitle file to see it drawn in.</source>
+        <translation type="unfinished">Es gibt keine Untertitel. Fügen Sie eine Untertiteldatei hinzu, um sie eingebrannt zu sehen.</translation>
+    </message>
+    <message>
+        <source>All tracks go out as switchable ones. Choose a track to see it drawn in.</source>
+        <translation type="unfinished">Alle Spuren gehen zuschaltbar hinaus. Wählen Sie eine Spur, um sie eingebrannt zu sehen.</translation>
+    </message>
+    <message>
+        <source>Choose a track to see it drawn in.</source>
+        <translation type="unfinished">Wählen Sie eine Spur, um sie eingebrannt zu sehen.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::PreviewStage</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>what a button does (its keys)</comment>
+        <translation type="unfinished">%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Previous cue</source>
+        <translation type="unfinished">Voriger Untertitel</translation>
+    </message>
+    <message>
+        <source>Next cue</source>
+        <translation type="unfinished">Nächster Untertitel</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation type="unfinished">Vorschau</translation>
+    </message>
+    <message>
+        <source>Position in the film</source>
+        <translation type="unfinished">Stelle im Film</translation>
+    </message>
+    <message>
+        <source>Where the cues are</source>
+        <translation type="unfinished">Wo die Untertitel sind</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>position / length</comment>
+        <translation type="unfinished">%1 / %2</translation>
+    </message>
+    <message>
+        <source>The subtitles are being read.</source>
+        <translation type="unfinished">Die Untertitel werden gelesen.</translation>
     </message>
 </context>
 <context>
@@ -1227,21 +1306,6 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
             <numerusform>noch %1 h %n min</numerusform>
             <numerusform>noch %1 h %n min</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>TimeWords</name>
-    <message>
-        <source>%1 s left</source>
-        <translation type="unfinished">noch %1 s</translation>
-    </message>
-    <message>
-        <source>%1 min left</source>
-        <translation type="unfinished">noch %1 min</translation>
-    </message>
-    <message>
-        <source>%1 h %2 min left</source>
-        <translation type="unfinished">noch %1 h %2 min</translation>
     </message>
 </context>
 </TS>

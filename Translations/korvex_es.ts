@@ -315,6 +315,17 @@ Se basa en Qt, FFmpeg y libass.</translation>
     </message>
 </context>
 <context>
+    <name>Korvex::Desktop::ApplyReportDialog</name>
+    <message>
+        <source>Applied to all films</source>
+        <translation type="unfinished">Aplicado a todas las películas</translation>
+    </message>
+    <message>
+        <source>Subtitles as in &quot;%1&quot;</source>
+        <translation type="unfinished">Subtítulos como en «%1»</translation>
+    </message>
+</context>
+<context>
     <name>Korvex::Desktop::ApplyToAll</name>
     <message>
         <source>&quot;%1&quot;: nothing changed, because the film cannot be read at the moment.</source>
@@ -475,6 +486,10 @@ Se basa en Qt, FFmpeg y libass.</translation>
     <message>
         <source>No file manager could be started: the film is &quot;%1&quot;.</source>
         <translation type="unfinished">No se pudo iniciar ningún gestor de archivos: la película es «%1».</translation>
+    </message>
+    <message>
+        <source>The command line is in the clipboard.</source>
+        <translation type="unfinished">La línea de órdenes está en el portapapeles.</translation>
     </message>
 </context>
 <context>
@@ -739,6 +754,70 @@ Se basa en Qt, FFmpeg y libass.</translation>
     <message>
         <source>Output folder: %1</source>
         <translation type="unfinished">Carpeta de salida: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::PreviewPane</name>
+    <message>
+        <source>Drop films here.</source>
+        <translation type="unfinished">Suelte películas aquí.</translation>
+    </message>
+    <message>
+        <source>The film is being read.</source>
+        <translation type="unfinished">La película se está leyendo.</translation>
+    </message>
+    <message>
+        <source>“%1” has no picture, so there is nothing to see. Its sound can be converted.</source>
+        <translation type="unfinished">«%1» no tiene imagen, así que no hay nada que ver. Su sonido se puede convertir.</translation>
+    </message>
+    <message>
+        <source>There are no subtitles. Add a subtitle file to see it drawn in.</source>
+        <translation type="unfinished">No hay subtítulos. Añada un archivo de subtítulos para verlo incrustado.</translation>
+    </message>
+    <message>
+        <source>All tracks go out as switchable ones. Choose a track to see it drawn in.</source>
+        <translation type="unfinished">Todas las pistas salen como activables. Elija una pista para verla incrustada.</translation>
+    </message>
+    <message>
+        <source>Choose a track to see it drawn in.</source>
+        <translation type="unfinished">Elija una pista para verla incrustada.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::PreviewStage</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>what a button does (its keys)</comment>
+        <translation type="unfinished">%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Previous cue</source>
+        <translation type="unfinished">Subtítulo anterior</translation>
+    </message>
+    <message>
+        <source>Next cue</source>
+        <translation type="unfinished">Subtítulo siguiente</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation type="unfinished">Vista previa</translation>
+    </message>
+    <message>
+        <source>Position in the film</source>
+        <translation type="unfinished">Posición en la película</translation>
+    </message>
+    <message>
+        <source>Where the cues are</source>
+        <translation type="unfinished">Dónde están los subtítulos</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>position / length</comment>
+        <translation type="unfinished">%1 / %2</translation>
+    </message>
+    <message>
+        <source>The subtitles are being read.</source>
+        <translation type="unfinished">Los subtítulos se están leyendo.</translation>
     </message>
 </context>
 <context>
@@ -1227,21 +1306,6 @@ Se basa en Qt, FFmpeg y libass.</translation>
             <numerusform>quedan %1 h %n min</numerusform>
             <numerusform>quedan %1 h %n min</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>TimeWords</name>
-    <message>
-        <source>%1 s left</source>
-        <translation type="unfinished">quedan %1 s</translation>
-    </message>
-    <message>
-        <source>%1 min left</source>
-        <translation type="unfinished">quedan %1 min</translation>
-    </message>
-    <message>
-        <source>%1 h %2 min left</source>
-        <translation type="unfinished">quedan %1 h %2 min</translation>
     </message>
 </context>
 </TS>

@@ -315,6 +315,17 @@ Il repose sur Qt, FFmpeg et libass.</translation>
     </message>
 </context>
 <context>
+    <name>Korvex::Desktop::ApplyReportDialog</name>
+    <message>
+        <source>Applied to all films</source>
+        <translation type="unfinished">Appliqué à tous les films</translation>
+    </message>
+    <message>
+        <source>Subtitles as in &quot;%1&quot;</source>
+        <translation type="unfinished">Sous-titres comme dans «&#xa0;%1&#xa0;»</translation>
+    </message>
+</context>
+<context>
     <name>Korvex::Desktop::ApplyToAll</name>
     <message>
         <source>&quot;%1&quot;: nothing changed, because the film cannot be read at the moment.</source>
@@ -475,6 +486,10 @@ Il repose sur Qt, FFmpeg et libass.</translation>
     <message>
         <source>No file manager could be started: the film is &quot;%1&quot;.</source>
         <translation type="unfinished">Aucun gestionnaire de fichiers n&apos;a pu être lancé&#xa0;: le film est «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The command line is in the clipboard.</source>
+        <translation type="unfinished">La ligne de commande est dans le presse-papiers.</translation>
     </message>
 </context>
 <context>
@@ -739,6 +754,70 @@ Il repose sur Qt, FFmpeg et libass.</translation>
     <message>
         <source>Output folder: %1</source>
         <translation type="unfinished">Dossier de sortie&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::PreviewPane</name>
+    <message>
+        <source>Drop films here.</source>
+        <translation type="unfinished">Déposez des films ici.</translation>
+    </message>
+    <message>
+        <source>The film is being read.</source>
+        <translation type="unfinished">Le film est en cours de lecture.</translation>
+    </message>
+    <message>
+        <source>“%1” has no picture, so there is nothing to see. Its sound can be converted.</source>
+        <translation type="unfinished">«&#xa0;%1&#xa0;» n&apos;a pas d&apos;image, il n&apos;y a donc rien à voir. Le son peut être converti.</translation>
+    </message>
+    <message>
+        <source>There are no subtitles. Add a subtitle file to see it drawn in.</source>
+        <translation type="unfinished">Il n&apos;y a pas de sous-titres. Ajoutez un fichier de sous-titres pour le voir incrusté.</translation>
+    </message>
+    <message>
+        <source>All tracks go out as switchable ones. Choose a track to see it drawn in.</source>
+        <translation type="unfinished">Toutes les pistes sortent activables. Choisissez une piste pour la voir incrustée.</translation>
+    </message>
+    <message>
+        <source>Choose a track to see it drawn in.</source>
+        <translation type="unfinished">Choisissez une piste pour la voir incrustée.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::PreviewStage</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>what a button does (its keys)</comment>
+        <translation type="unfinished">%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Previous cue</source>
+        <translation type="unfinished">Sous-titre précédent</translation>
+    </message>
+    <message>
+        <source>Next cue</source>
+        <translation type="unfinished">Sous-titre suivant</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation type="unfinished">Aperçu</translation>
+    </message>
+    <message>
+        <source>Position in the film</source>
+        <translation type="unfinished">Position dans le film</translation>
+    </message>
+    <message>
+        <source>Where the cues are</source>
+        <translation type="unfinished">Où sont les sous-titres</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>position / length</comment>
+        <translation type="unfinished">%1 / %2</translation>
+    </message>
+    <message>
+        <source>The subtitles are being read.</source>
+        <translation type="unfinished">Les sous-titres sont en cours de lecture.</translation>
     </message>
 </context>
 <context>
@@ -1227,21 +1306,6 @@ Il repose sur Qt, FFmpeg et libass.</translation>
             <numerusform>%1 h %n min restantes</numerusform>
             <numerusform>%1 h %n min restantes</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>TimeWords</name>
-    <message>
-        <source>%1 s left</source>
-        <translation type="unfinished">%1 s restantes</translation>
-    </message>
-    <message>
-        <source>%1 min left</source>
-        <translation type="unfinished">%1 min restantes</translation>
-    </message>
-    <message>
-        <source>%1 h %2 min left</source>
-        <translation type="unfinished">%1 h %2 min restantes</translation>
     </message>
 </context>
 </TS>

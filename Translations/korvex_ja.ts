@@ -311,6 +311,17 @@ Qt、FFmpeg、libass を利用しています。</translation>
     </message>
 </context>
 <context>
+    <name>Korvex::Desktop::ApplyReportDialog</name>
+    <message>
+        <source>Applied to all films</source>
+        <translation type="unfinished">すべての映画に適用しました</translation>
+    </message>
+    <message>
+        <source>Subtitles as in &quot;%1&quot;</source>
+        <translation type="unfinished">「%1」と同じ字幕</translation>
+    </message>
+</context>
+<context>
     <name>Korvex::Desktop::ApplyToAll</name>
     <message>
         <source>&quot;%1&quot;: nothing changed, because the film cannot be read at the moment.</source>
@@ -471,6 +482,10 @@ Qt、FFmpeg、libass を利用しています。</translation>
     <message>
         <source>No file manager could be started: the film is &quot;%1&quot;.</source>
         <translation type="unfinished">ファイルマネージャーを起動できませんでした。映画は「%1」です。</translation>
+    </message>
+    <message>
+        <source>The command line is in the clipboard.</source>
+        <translation type="unfinished">コマンドラインをクリップボードにコピーしました。</translation>
     </message>
 </context>
 <context>
@@ -733,6 +748,70 @@ Qt、FFmpeg、libass を利用しています。</translation>
     <message>
         <source>Output folder: %1</source>
         <translation type="unfinished">出力フォルダー: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::PreviewPane</name>
+    <message>
+        <source>Drop films here.</source>
+        <translation type="unfinished">映画をここにドロップしてください。</translation>
+    </message>
+    <message>
+        <source>The film is being read.</source>
+        <translation type="unfinished">映画を読み込んでいます。</translation>
+    </message>
+    <message>
+        <source>“%1” has no picture, so there is nothing to see. Its sound can be converted.</source>
+        <translation type="unfinished">「%1」には映像がないため、表示するものがありません。音声は変換できます。</translation>
+    </message>
+    <message>
+        <source>There are no subtitles. Add a subtitle file to see it drawn in.</source>
+        <translation type="unfinished">字幕がありません。焼き込みを見るには字幕ファイルを追加してください。</translation>
+    </message>
+    <message>
+        <source>All tracks go out as switchable ones. Choose a track to see it drawn in.</source>
+        <translation type="unfinished">すべてのトラックが切り替え可能な形で出力されます。焼き込みを見るにはトラックを選んでください。</translation>
+    </message>
+    <message>
+        <source>Choose a track to see it drawn in.</source>
+        <translation type="unfinished">焼き込みを見るにはトラックを選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::PreviewStage</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>what a button does (its keys)</comment>
+        <translation type="unfinished">%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Previous cue</source>
+        <translation type="unfinished">前の字幕</translation>
+    </message>
+    <message>
+        <source>Next cue</source>
+        <translation type="unfinished">次の字幕</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation type="unfinished">プレビュー</translation>
+    </message>
+    <message>
+        <source>Position in the film</source>
+        <translation type="unfinished">映画内の位置</translation>
+    </message>
+    <message>
+        <source>Where the cues are</source>
+        <translation type="unfinished">字幕の位置</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>position / length</comment>
+        <translation type="unfinished">%1 / %2</translation>
+    </message>
+    <message>
+        <source>The subtitles are being read.</source>
+        <translation type="unfinished">字幕を読み込んでいます。</translation>
     </message>
 </context>
 <context>
@@ -1211,21 +1290,6 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <translation type="unfinished">
             <numerusform>残り %1 時間 %n 分</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>TimeWords</name>
-    <message>
-        <source>%1 s left</source>
-        <translation type="unfinished">残り %1 秒</translation>
-    </message>
-    <message>
-        <source>%1 min left</source>
-        <translation type="unfinished">残り %1 分</translation>
-    </message>
-    <message>
-        <source>%1 h %2 min left</source>
-        <translation type="unfinished">残り %1 時間 %2 分</translation>
     </message>
 </context>
 </TS>

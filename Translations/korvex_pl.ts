@@ -319,6 +319,17 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
     </message>
 </context>
 <context>
+    <name>Korvex::Desktop::ApplyReportDialog</name>
+    <message>
+        <source>Applied to all films</source>
+        <translation type="unfinished">Zastosowano do wszystkich filmów</translation>
+    </message>
+    <message>
+        <source>Subtitles as in &quot;%1&quot;</source>
+        <translation type="unfinished">Napisy jak w „%1”</translation>
+    </message>
+</context>
+<context>
     <name>Korvex::Desktop::ApplyToAll</name>
     <message>
         <source>&quot;%1&quot;: nothing changed, because the film cannot be read at the moment.</source>
@@ -479,6 +490,10 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
     <message>
         <source>No file manager could be started: the film is &quot;%1&quot;.</source>
         <translation type="unfinished">Nie udało się uruchomić menedżera plików: film to „%1”.</translation>
+    </message>
+    <message>
+        <source>The command line is in the clipboard.</source>
+        <translation type="unfinished">Wiersz poleceń jest w schowku.</translation>
     </message>
 </context>
 <context>
@@ -745,6 +760,70 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
     <message>
         <source>Output folder: %1</source>
         <translation type="unfinished">Folder wyjściowy: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::PreviewPane</name>
+    <message>
+        <source>Drop films here.</source>
+        <translation type="unfinished">Upuść filmy tutaj.</translation>
+    </message>
+    <message>
+        <source>The film is being read.</source>
+        <translation type="unfinished">Trwa odczytywanie filmu.</translation>
+    </message>
+    <message>
+        <source>“%1” has no picture, so there is nothing to see. Its sound can be converted.</source>
+        <translation type="unfinished">„%1” nie ma obrazu, więc nie ma czego oglądać. Dźwięk można przekonwertować.</translation>
+    </message>
+    <message>
+        <source>There are no subtitles. Add a subtitle file to see it drawn in.</source>
+        <translation type="unfinished">Brak napisów. Dodaj plik z napisami, aby zobaczyć je wtopione.</translation>
+    </message>
+    <message>
+        <source>All tracks go out as switchable ones. Choose a track to see it drawn in.</source>
+        <translation type="unfinished">Wszystkie ścieżki zostaną zapisane jako przełączane. Wybierz ścieżkę, aby zobaczyć ją wtopioną.</translation>
+    </message>
+    <message>
+        <source>Choose a track to see it drawn in.</source>
+        <translation type="unfinished">Wybierz ścieżkę, aby zobaczyć ją wtopioną.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::PreviewStage</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>what a button does (its keys)</comment>
+        <translation type="unfinished">%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Previous cue</source>
+        <translation type="unfinished">Poprzedni napis</translation>
+    </message>
+    <message>
+        <source>Next cue</source>
+        <translation type="unfinished">Następny napis</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation type="unfinished">Podgląd</translation>
+    </message>
+    <message>
+        <source>Position in the film</source>
+        <translation type="unfinished">Położenie w filmie</translation>
+    </message>
+    <message>
+        <source>Where the cues are</source>
+        <translation type="unfinished">Gdzie są napisy</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>position / length</comment>
+        <translation type="unfinished">%1 / %2</translation>
+    </message>
+    <message>
+        <source>The subtitles are being read.</source>
+        <translation type="unfinished">Trwa odczytywanie napisów.</translation>
     </message>
 </context>
 <context>
@@ -1243,21 +1322,6 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
             <numerusform>zostało %1 godz %n min</numerusform>
             <numerusform>zostało %1 godz %n min</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>TimeWords</name>
-    <message>
-        <source>%1 s left</source>
-        <translation type="unfinished">zostało %1 s</translation>
-    </message>
-    <message>
-        <source>%1 min left</source>
-        <translation type="unfinished">zostało %1 min</translation>
-    </message>
-    <message>
-        <source>%1 h %2 min left</source>
-        <translation type="unfinished">zostało %1 godz %2 min</translation>
     </message>
 </context>
 </TS>

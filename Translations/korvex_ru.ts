@@ -319,6 +319,17 @@ It is built on Qt, FFmpeg and libass.</source>
     </message>
 </context>
 <context>
+    <name>Korvex::Desktop::ApplyReportDialog</name>
+    <message>
+        <source>Applied to all films</source>
+        <translation type="unfinished">Применено ко всем фильмам</translation>
+    </message>
+    <message>
+        <source>Subtitles as in &quot;%1&quot;</source>
+        <translation type="unfinished">Субтитры как в «%1»</translation>
+    </message>
+</context>
+<context>
     <name>Korvex::Desktop::ApplyToAll</name>
     <message>
         <source>&quot;%1&quot;: nothing changed, because the film cannot be read at the moment.</source>
@@ -479,6 +490,10 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>No file manager could be started: the film is &quot;%1&quot;.</source>
         <translation type="unfinished">Не удалось запустить файловый менеджер: фильм — «%1».</translation>
+    </message>
+    <message>
+        <source>The command line is in the clipboard.</source>
+        <translation type="unfinished">Командная строка скопирована в буфер обмена.</translation>
     </message>
 </context>
 <context>
@@ -745,6 +760,70 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>Output folder: %1</source>
         <translation type="unfinished">Папка вывода: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::PreviewPane</name>
+    <message>
+        <source>Drop films here.</source>
+        <translation type="unfinished">Перетащите фильмы сюда.</translation>
+    </message>
+    <message>
+        <source>The film is being read.</source>
+        <translation type="unfinished">Фильм читается.</translation>
+    </message>
+    <message>
+        <source>“%1” has no picture, so there is nothing to see. Its sound can be converted.</source>
+        <translation type="unfinished">В «%1» нет изображения, поэтому смотреть нечего. Звук можно преобразовать.</translation>
+    </message>
+    <message>
+        <source>There are no subtitles. Add a subtitle file to see it drawn in.</source>
+        <translation type="unfinished">Субтитров нет. Добавьте файл субтитров, чтобы увидеть их вшитыми.</translation>
+    </message>
+    <message>
+        <source>All tracks go out as switchable ones. Choose a track to see it drawn in.</source>
+        <translation type="unfinished">Все дорожки выводятся отключаемыми. Выберите дорожку, чтобы увидеть её вшитой.</translation>
+    </message>
+    <message>
+        <source>Choose a track to see it drawn in.</source>
+        <translation type="unfinished">Выберите дорожку, чтобы увидеть её вшитой.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::PreviewStage</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>what a button does (its keys)</comment>
+        <translation type="unfinished">%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Previous cue</source>
+        <translation type="unfinished">Предыдущий субтитр</translation>
+    </message>
+    <message>
+        <source>Next cue</source>
+        <translation type="unfinished">Следующий субтитр</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation type="unfinished">Предпросмотр</translation>
+    </message>
+    <message>
+        <source>Position in the film</source>
+        <translation type="unfinished">Место в фильме</translation>
+    </message>
+    <message>
+        <source>Where the cues are</source>
+        <translation type="unfinished">Где находятся субтитры</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>position / length</comment>
+        <translation type="unfinished">%1 / %2</translation>
+    </message>
+    <message>
+        <source>The subtitles are being read.</source>
+        <translation type="unfinished">Субтитры читаются.</translation>
     </message>
 </context>
 <context>
@@ -1243,21 +1322,6 @@ It is built on Qt, FFmpeg and libass.</source>
             <numerusform>осталось %1 ч %n мин</numerusform>
             <numerusform>осталось %1 ч %n мин</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>TimeWords</name>
-    <message>
-        <source>%1 s left</source>
-        <translation type="unfinished">осталось %1 с</translation>
-    </message>
-    <message>
-        <source>%1 min left</source>
-        <translation type="unfinished">осталось %1 мин</translation>
-    </message>
-    <message>
-        <source>%1 h %2 min left</source>
-        <translation type="unfinished">осталось %1 ч %2 мин</translation>
     </message>
 </context>
 </TS>

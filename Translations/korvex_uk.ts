@@ -319,6 +319,17 @@ It is built on Qt, FFmpeg and libass.</source>
     </message>
 </context>
 <context>
+    <name>Korvex::Desktop::ApplyReportDialog</name>
+    <message>
+        <source>Applied to all films</source>
+        <translation type="unfinished">Застосовано до всіх фільмів</translation>
+    </message>
+    <message>
+        <source>Subtitles as in &quot;%1&quot;</source>
+        <translation type="unfinished">Субтитри як у «%1»</translation>
+    </message>
+</context>
+<context>
     <name>Korvex::Desktop::ApplyToAll</name>
     <message>
         <source>&quot;%1&quot;: nothing changed, because the film cannot be read at the moment.</source>
@@ -479,6 +490,10 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>No file manager could be started: the film is &quot;%1&quot;.</source>
         <translation type="unfinished">Не вдалося запустити файловий менеджер: фільм — «%1».</translation>
+    </message>
+    <message>
+        <source>The command line is in the clipboard.</source>
+        <translation type="unfinished">Командний рядок скопійовано до буфера обміну.</translation>
     </message>
 </context>
 <context>
@@ -745,6 +760,70 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>Output folder: %1</source>
         <translation type="unfinished">Тека виводу: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::PreviewPane</name>
+    <message>
+        <source>Drop films here.</source>
+        <translation type="unfinished">Перетягніть фільми сюди.</translation>
+    </message>
+    <message>
+        <source>The film is being read.</source>
+        <translation type="unfinished">Фільм читається.</translation>
+    </message>
+    <message>
+        <source>“%1” has no picture, so there is nothing to see. Its sound can be converted.</source>
+        <translation type="unfinished">У «%1» немає зображення, тож дивитися нема на що. Звук можна перетворити.</translation>
+    </message>
+    <message>
+        <source>There are no subtitles. Add a subtitle file to see it drawn in.</source>
+        <translation type="unfinished">Субтитрів немає. Додайте файл субтитрів, щоб побачити їх вшитими.</translation>
+    </message>
+    <message>
+        <source>All tracks go out as switchable ones. Choose a track to see it drawn in.</source>
+        <translation type="unfinished">Усі доріжки виводяться вимиканими. Виберіть доріжку, щоб побачити її вшитою.</translation>
+    </message>
+    <message>
+        <source>Choose a track to see it drawn in.</source>
+        <translation type="unfinished">Виберіть доріжку, щоб побачити її вшитою.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::PreviewStage</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>what a button does (its keys)</comment>
+        <translation type="unfinished">%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Previous cue</source>
+        <translation type="unfinished">Попередній субтитр</translation>
+    </message>
+    <message>
+        <source>Next cue</source>
+        <translation type="unfinished">Наступний субтитр</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation type="unfinished">Попередній перегляд</translation>
+    </message>
+    <message>
+        <source>Position in the film</source>
+        <translation type="unfinished">Місце у фільмі</translation>
+    </message>
+    <message>
+        <source>Where the cues are</source>
+        <translation type="unfinished">Де розташовані субтитри</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>position / length</comment>
+        <translation type="unfinished">%1 / %2</translation>
+    </message>
+    <message>
+        <source>The subtitles are being read.</source>
+        <translation type="unfinished">Субтитри читаються.</translation>
     </message>
 </context>
 <context>
@@ -1243,21 +1322,6 @@ It is built on Qt, FFmpeg and libass.</source>
             <numerusform>залишилося %1 год %n хв</numerusform>
             <numerusform>залишилося %1 год %n хв</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>TimeWords</name>
-    <message>
-        <source>%1 s left</source>
-        <translation type="unfinished">залишилося %1 с</translation>
-    </message>
-    <message>
-        <source>%1 min left</source>
-        <translation type="unfinished">залишилося %1 хв</translation>
-    </message>
-    <message>
-        <source>%1 h %2 min left</source>
-        <translation type="unfinished">залишилося %1 год %2 хв</translation>
     </message>
 </context>
 </TS>

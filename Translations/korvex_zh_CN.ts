@@ -311,6 +311,17 @@ It is built on Qt, FFmpeg and libass.</source>
     </message>
 </context>
 <context>
+    <name>Korvex::Desktop::ApplyReportDialog</name>
+    <message>
+        <source>Applied to all films</source>
+        <translation type="unfinished">已应用到所有影片</translation>
+    </message>
+    <message>
+        <source>Subtitles as in &quot;%1&quot;</source>
+        <translation type="unfinished">字幕与“%1”相同</translation>
+    </message>
+</context>
+<context>
     <name>Korvex::Desktop::ApplyToAll</name>
     <message>
         <source>&quot;%1&quot;: nothing changed, because the film cannot be read at the moment.</source>
@@ -471,6 +482,10 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>No file manager could be started: the film is &quot;%1&quot;.</source>
         <translation type="unfinished">无法启动文件管理器：影片是“%1”。</translation>
+    </message>
+    <message>
+        <source>The command line is in the clipboard.</source>
+        <translation type="unfinished">命令行已复制到剪贴板。</translation>
     </message>
 </context>
 <context>
@@ -733,6 +748,70 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>Output folder: %1</source>
         <translation type="unfinished">输出文件夹：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::PreviewPane</name>
+    <message>
+        <source>Drop films here.</source>
+        <translation type="unfinished">将影片拖到此处。</translation>
+    </message>
+    <message>
+        <source>The film is being read.</source>
+        <translation type="unfinished">正在读取影片。</translation>
+    </message>
+    <message>
+        <source>“%1” has no picture, so there is nothing to see. Its sound can be converted.</source>
+        <translation type="unfinished">“%1”没有画面，因此无可显示。其声音可以转换。</translation>
+    </message>
+    <message>
+        <source>There are no subtitles. Add a subtitle file to see it drawn in.</source>
+        <translation type="unfinished">没有字幕。请添加字幕文件以查看嵌入效果。</translation>
+    </message>
+    <message>
+        <source>All tracks go out as switchable ones. Choose a track to see it drawn in.</source>
+        <translation type="unfinished">所有轨道都作为可切换轨道输出。请选择一条轨道以查看嵌入效果。</translation>
+    </message>
+    <message>
+        <source>Choose a track to see it drawn in.</source>
+        <translation type="unfinished">请选择一条轨道以查看嵌入效果。</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::PreviewStage</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>what a button does (its keys)</comment>
+        <translation type="unfinished">%1（%2）</translation>
+    </message>
+    <message>
+        <source>Previous cue</source>
+        <translation type="unfinished">上一条字幕</translation>
+    </message>
+    <message>
+        <source>Next cue</source>
+        <translation type="unfinished">下一条字幕</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation type="unfinished">预览</translation>
+    </message>
+    <message>
+        <source>Position in the film</source>
+        <translation type="unfinished">影片中的位置</translation>
+    </message>
+    <message>
+        <source>Where the cues are</source>
+        <translation type="unfinished">字幕所在位置</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>position / length</comment>
+        <translation type="unfinished">%1 / %2</translation>
+    </message>
+    <message>
+        <source>The subtitles are being read.</source>
+        <translation type="unfinished">正在读取字幕。</translation>
     </message>
 </context>
 <context>
@@ -1211,21 +1290,6 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">
             <numerusform>剩余 %1 小时 %n 分钟</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>TimeWords</name>
-    <message>
-        <source>%1 s left</source>
-        <translation type="unfinished">剩余 %1 秒</translation>
-    </message>
-    <message>
-        <source>%1 min left</source>
-        <translation type="unfinished">剩余 %1 分钟</translation>
-    </message>
-    <message>
-        <source>%1 h %2 min left</source>
-        <translation type="unfinished">剩余 %1 小时 %2 分钟</translation>
     </message>
 </context>
 </TS>

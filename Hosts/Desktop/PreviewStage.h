@@ -38,7 +38,7 @@ struct PreviewSubject
 {
     ioPath film; ///< empty: none
     std::chrono::microseconds duration{0};
-    std::chrono::microseconds frameLength{40'000};
+    std::chrono::microseconds frameLength{40000};
     std::shared_ptr<Proc::SettingsSubtitleMixer const> subtitles; ///< drawn in; null: none
     QString sentence; ///< shown in place of the picture, which is not looked for then
     QString hint;     ///< why nothing is drawn, or what can be done about it

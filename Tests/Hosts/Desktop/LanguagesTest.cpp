@@ -3,6 +3,7 @@
 #include "Desktop/ConversionQueue.h"
 #include "Desktop/Languages.h"
 #include "Desktop/MainWindow.h"
+#include "Desktop/SessionStore.h"
 #include "Support/WidgetSupport.h"
 
 #include <QAction>
@@ -87,7 +88,8 @@ TEST_F(LanguagesTest, EveryTextOfTheWindowFollowsASwitchToGerman)
     film.AddSubtitleFiles({added});
     film.ChooseTrack(Testing::SubtitleTrackID(added));
     SetFormat("mp4");
-    MainWindow window({m_services, m_list, queue});
+    SessionStore store(m_list, m_folder / "session.json");
+    MainWindow window({m_services, m_list, queue, store, Testing::GetLookAndFeel(), languages});
     window.resize(1200, 800);
     Testing::ShowAndWait(window);
     ASSERT_GT(recorder.GetRequests().size(), 50U);
