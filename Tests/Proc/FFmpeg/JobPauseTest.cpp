@@ -18,8 +18,8 @@ namespace
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-/// Long enough for everything that waits in the queues to run out.
-constexpr auto RUN_OUT = 600ms;
+/// A job that works says more often how far it is.
+constexpr auto SILENCE = 600ms;
 
 /// Pauses the job at its first progress.
 struct Listener final : ITranscodeObserver
@@ -83,10 +83,13 @@ protected:
         listener.job = job->get();
         (*job)->Start(listener);
         listener.paused.get_future().wait();
-        std::this_thread::sleep_for(RUN_OUT);
-        int const reports = listener.reportCount;
-        std::this_thread::sleep_for(RUN_OUT);
-        EXPECT_EQ(listener.reportCount, reports) << "something goes on while paused";
+        // What is in the queues runs out; a job that does not stand still comes to its end.
+        for (int heard = 0; heard != listener.reportCount;)
+        {
+            heard = listener.reportCount;
+            std::this_thread::sleep_for(SILENCE);
+        }
+        std::this_thread::sleep_for(SILENCE);
         EXPECT_FALSE(listener.hasFinished);
         return std::move(job).Value();
     }
@@ -99,18 +102,16 @@ TEST_F(JobPauseTest, APausedJobStandsStillAndGoesOnToTheSameOutput)
     ASSERT_TRUE(Testing::Convert(Settings("straight.mkv")).Succeeded());
 
     Listener listener;
+    auto const begin = Clock::now();
     auto const job = StartAndPause(listener, "paused.mkv");
-    Clock::duration const pause = Clock::now() - listener.pausedAt;
-    auto const begin = listener.pausedAt;
+    auto const pausedFor = Clock::now() - listener.pausedAt;
     job->SetPaused(false);
     job->Wait();
     ASSERT_FALSE(listener.report.error) << Core::ToSentence(*listener.report.error);
 
-    double const workedSeconds = std::chrono::duration<double>(listener.last.done).count() / listener.last.speed;
-    auto const before = std::chrono::duration<double>(200ms).count();
-    double const sincePause = std::chrono::duration<double>(listener.finishedAt - begin - pause).count();
-    EXPECT_GT(workedSeconds, before * 0.9);
-    EXPECT_LT(workedSeconds, sincePause + before + 0.5) << "the pause of 1.2 s counts as work";
+    double const worked = std::chrono::duration<double>(listener.last.done).count() / listener.last.speed;
+    double const wall = std::chrono::duration<double>(listener.finishedAt - begin - pausedFor).count();
+    EXPECT_LT(worked, wall + 0.1) << "the pause counts as work";
 
     auto const straight = Testing::ReadFilm(m_folder / "straight.mkv");
     auto const paused = Testing::ReadFilm(m_folder / "paused.mkv");
@@ -149,7 +150,7 @@ TEST_F(JobPauseTest, APausedJobCanBeCancelledAndDropped)
     ASSERT_TRUE(made);
     (*made)->SetPaused(true);
     (*made)->Start(unstarted);
-    std::this_thread::sleep_for(RUN_OUT);
+    std::this_thread::sleep_for(SILENCE);
     EXPECT_EQ(unstarted.reportCount, 0);
     EXPECT_FALSE(unstarted.hasFinished);
 }
