@@ -9,11 +9,13 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QImage>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QTest>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -226,6 +228,30 @@ TEST(LookTest, LabelsAndBoxesGetNarrowWithoutLosingTheirText)
     QCoreApplication::processEvents();
     EXPECT_GE(box->view()->viewport()->width(), box->fontMetrics().horizontalAdvance(text));
     box->hidePopup();
+}
+
+TEST(LookTest, NoLeastSizeOfTheStyleSheetLetsLayoutsCutTexts)
+{
+    QWidget window;
+    auto* const row = new QHBoxLayout(&window);
+    auto* const tool = new QToolButton;
+    tool->setText(QStringLiteral("DejaVu Sans, 20"));
+    std::vector<QWidget*> const widgets = {new QPushButton(QStringLiteral("Convert all")),
+                                           tool,
+                                           new QLineEdit,
+                                           new QSpinBox,
+                                           new QLabel(QStringLiteral("Label")),
+                                           MakeComboBox()};
+    for (QWidget* const widget : widgets)
+        row->addWidget(widget);
+    ShowAndWait(window);
+    window.resize(1, 1);
+    QCoreApplication::processEvents();
+    for (QWidget* const widget : widgets)
+    {
+        EXPECT_GE(widget->width(), widget->minimumSizeHint().width()) << widget->metaObject()->className();
+        EXPECT_GE(widget->height(), widget->minimumSizeHint().height()) << widget->metaObject()->className();
+    }
 }
 
 TEST(LookTest, AWheelOverABoxWithoutFocusLeavesItAlone)
