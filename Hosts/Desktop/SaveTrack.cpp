@@ -12,8 +12,10 @@
 
 #include "Core/Error.h"
 #include "Core/FileSystem.h"
+#include "Gui/Style.h"
 #include "Proc/SubtitleExport.h"
 
+#include <QApplication>
 #include <QPointer>
 #include <QProgressDialog>
 #include <QTimer>
@@ -37,10 +39,17 @@ namespace
 
 /// Shorter work shows no window.
 constexpr int PROGRESS_DELAY_MS = 500;
+constexpr int LONGEST_NAME_PIXELS = 400;
 
 QString ToText(std::string const& utf8)
 {
     return QString::fromStdString(utf8);
+}
+
+/// So that a long name does not make a wide window.
+QString Shorten(QString const& name)
+{
+    return GUI::ElideText(LONGEST_NAME_PIXELS, name, QApplication::font(), Qt::ElideMiddle);
 }
 
 std::optional<SubtitleTrack> FindTrack(Film const& film, SubtitleTrackID const& id)
@@ -174,8 +183,9 @@ private:
 
     QProgressDialog* MakeProgress(ioPath const& target, std::shared_ptr<std::atomic<bool>> const& isCancelled)
     {
-        auto* const progress = new QProgressDialog(SaveTrack::tr("Saving \"%1\"").arg(ToText(target.FileName())),
-                                                   SaveTrack::tr("Cancel"), 0, 0, m_window);
+        auto* const progress =
+            new QProgressDialog(SaveTrack::tr("Saving \"%1\"").arg(Shorten(ToText(target.FileName()))),
+                                SaveTrack::tr("Cancel"), 0, 0, m_window);
         progress->setObjectName(QStringLiteral("saveTrackProgress"));
         progress->setWindowTitle(SaveTrack::tr("Save a track"));
         connect(progress, &QProgressDialog::canceled, &m_owner, [isCancelled] { *isCancelled = true; });

@@ -220,6 +220,14 @@ public:
             AddFiles({file});
     }
 
+    /// Without this the button "Find file" would do nothing where no service is set up, and not say why.
+    void OnOperationFailed(Entities::SubtitleCollectionID collection, IOnlineSearchController::Status /*status*/,
+                           QString const& message) override
+    {
+        if (collection == m_collection->collectionId && !message.isEmpty())
+            m_messages->ShowWarning(message.toStdString());
+    }
+
     void OnSettingsRefreshed() override
     {
         m_controller->SetSubtitleCollection(m_collection);

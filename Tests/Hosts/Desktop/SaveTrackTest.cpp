@@ -74,16 +74,13 @@ protected:
         return bytes ? *bytes : "cannot be read: " + name;
     }
 
-    /// Half a minute of sound, which takes a moment to read.
-    ioPath MakeLongFilm()
+    /// So many cues that reading them takes longer than anything else here.
+    ioPath WriteLongFile()
     {
-        MadeMedia media;
-        media.audios.resize(1);
-        media.audios[0].duration = std::chrono::seconds(30);
-        media.audios[0].sampleRate = 8000;
-        media.subtitles.push_back(MakeSubtitle("subrip", "eng"));
-        MakeMedia(m_folder / "long.mkv", media);
-        return m_folder / "long.mkv";
+        std::string text;
+        for (int number = 1; number <= 8'000; ++number)
+            text += std::to_string(number) + "\n01:00:00,000 --> 01:00:01,000\nOne of very many lines\n\n";
+        return WriteText("long.srt", text);
     }
 
     /// Presses the button of the window that belongs to the newest save.
@@ -142,17 +139,19 @@ TEST_F(SaveTrackTest, ReplacesAFileOnlyByAWholeOneAndNeverASource)
 
 TEST_F(SaveTrackTest, CancelledSavesLeaveNothingAndSayNothing)
 {
-    Film& film = Open(MakeLongFilm());
+    Film& film = Open(MakeFilm("film.mkv", {}));
+    SubtitleTrackID const track(WriteLongFile());
+    film.AddSubtitleFiles({m_folder / "long.srt"});
     for (int number = 1; number <= 3; ++number)
-        m_saving->Save(film, SubtitleTrackID(1U));
+        m_saving->Save(film, track);
     EXPECT_TRUE(m_questions.empty()) << "no dialog inside the call";
     m_answer = "#.srt";
     m_cancelledQuestion = 3;
     WaitUntil([&] { return m_said.size() == 2 && !m_saving->IsActive(); });
-    EXPECT_EQ(Core::ListFolder(m_folder.Path()), (std::vector<std::string>{"1.srt", "2.srt", "long.mkv"}));
+    EXPECT_EQ(Core::ListFolder(m_folder.Path()), (std::vector<std::string>{"1.srt", "2.srt", "film.mkv", "long.srt"}));
     EXPECT_TRUE(m_window.findChildren<QProgressDialog*>().isEmpty());
 
-    m_saving->Save(film, SubtitleTrackID(1U));
+    m_saving->Save(film, track);
     QCoreApplication::processEvents();
     EXPECT_EQ(m_questions.size(), 4U);
     m_saving.reset();

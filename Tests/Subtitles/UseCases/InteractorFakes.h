@@ -111,6 +111,11 @@ public:
     {
         m_observers.Notify([&](auto* observer) { observer->OnSubtitlesDownloaded(collection, file); });
     }
+    void Fail(Entities::SubtitleCollectionID collection, QString const& message)
+    {
+        m_observers.Notify([&](auto* observer)
+                           { observer->OnOperationFailed(collection, Status::UnsupportedSearch, message); });
+    }
 
 private:
     Core::EventHandlerList<Observer> m_observers;

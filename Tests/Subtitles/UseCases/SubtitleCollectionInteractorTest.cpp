@@ -234,6 +234,11 @@ TEST_F(SubtitleCollectionInteractorTest, TakesDownloadsForItsOwnCollection)
     EXPECT_TRUE(m_interactor.GetSubtitleCollection().tracks.empty());
     m_downloader->Deliver(given.collectionId, "mine.srt");
     EXPECT_EQ(m_interactor.GetSubtitleCollection().currentTrack, SubtitleTrackID(ioPath("mine.srt")));
+
+    m_downloader->Fail(Entities::SubtitleCollectionID(), "another film's");
+    m_downloader->Fail(given.collectionId, QString());
+    m_downloader->Fail(given.collectionId, "No service is set up.");
+    EXPECT_EQ(m_messages->sentences, Calls{"No service is set up."});
 }
 
 /// Subtitle files beside a film.
