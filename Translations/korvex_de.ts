@@ -231,11 +231,11 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     <name>Korvex::Desktop::Actions</name>
     <message>
         <source>&amp;Add films...</source>
-        <translation type="unfinished">Filme &amp;hinzufügen …</translation>
+        <translation type="unfinished">Filme &amp;hinzufügen...</translation>
     </message>
     <message>
         <source>Add &amp;subtitles...</source>
-        <translation type="unfinished">&amp;Untertitel hinzufügen …</translation>
+        <translation type="unfinished">&amp;Untertitel hinzufügen...</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -243,7 +243,7 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     </message>
     <message>
         <source>&amp;Subtitles...</source>
-        <translation type="unfinished">&amp;Untertitel …</translation>
+        <translation type="unfinished">&amp;Untertitel...</translation>
     </message>
     <message>
         <source>Apply these subtitles to &amp;all</source>
@@ -462,7 +462,7 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     </message>
     <message>
         <source>Locate...</source>
-        <translation type="unfinished">Suchen …</translation>
+        <translation type="unfinished">Suchen...</translation>
     </message>
 </context>
 <context>
@@ -717,7 +717,7 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     </message>
     <message>
         <source>Choose a folder...</source>
-        <translation type="unfinished">Ordner wählen …</translation>
+        <translation type="unfinished">Ordner wählen...</translation>
     </message>
     <message>
         <source>&amp;Convert all</source>

@@ -77,17 +77,18 @@ QStringList FindAll(QString const& text, char const* pattern)
     return found;
 }
 
-/// What a text ends in, alike for all scripts: a full stop, a colon, an ellipsis; else nothing.
-QChar EndOf(QString text)
+/// What a text ends in, alike for all scripts: a full stop, a colon, an ellipsis; else nothing. Of the two ways to
+/// write an ellipsis the toolkit takes just one away where a text becomes that of a button.
+QString EndOf(QString text)
 {
-    static QMap<QChar, QChar> const SIGNS = {
-        {'.', '.'},       {u'\u3002', '.'}, {':', ':'},       {u'\uFF1A', ':'},       {'?', '?'},
-        {u'\uFF1F', '?'}, {'!', '!'},       {u'\uFF01', '!'}, {u'\u2026', u'\u2026'},
+    static QMap<QChar, QString> const SIGNS = {
+        {'.', "."},       {u'\u3002', "."}, {':', ":"},       {u'\uFF1A', ":"},      {'?', "?"},
+        {u'\uFF1F', "?"}, {'!', "!"},       {u'\uFF01', "!"}, {u'\u2026', "\u2026"},
     };
     text = text.trimmed();
     if (text.endsWith(QLatin1String("...")))
-        return u'\u2026';
-    return text.isEmpty() ? QChar() : SIGNS.value(text.back(), QChar());
+        return "...";
+    return text.isEmpty() ? QString() : SIGNS.value(text.back());
 }
 
 /// What is wrong with one translation; empty when nothing is.

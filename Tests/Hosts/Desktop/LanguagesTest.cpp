@@ -110,6 +110,12 @@ TEST_F(LanguagesTest, EveryTextOfTheWindowFollowsASwitchToGerman)
     EXPECT_EQ(QLocale().toString(1.5), "1,5");
     EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
 
+    for (Language const& language : Languages::List())
+    {
+        languages.Switch(language.code);
+        QTest::qWait(100);
+        Testing::SaveScreenshot(window, "window-" + language.code);
+    }
     languages.Switch("no such language");
     EXPECT_EQ(languages.GetCurrent(), "en");
 }
