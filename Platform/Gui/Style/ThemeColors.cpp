@@ -43,7 +43,7 @@ constexpr ColorEntry COLORS[] = {
     {ColorRole::Error, "Error", 0xffb3261e, 0xffff8e85},
     {ColorRole::ErrorFill, "ErrorFill", 0xfffde9e7, 0xff401f1d},
     {ColorRole::Success, "Success", 0xff1b6e3d, 0xff72d09a},
-    {ColorRole::Veil, "Veil", 0x4d141c20, 0x8c000000},
+    {ColorRole::Veil, "Veil", 0x4d141c20, 0x73000000},
 };
 
 App::Theme presentTheme = App::Theme::Light;
