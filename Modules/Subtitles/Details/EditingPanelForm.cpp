@@ -159,19 +159,6 @@ void EditingPanel::Form::Arrange()
     MakeCaption(*encodingLabel, *encodingComboBox);
     MakeCaption(*alignLabel, *alignComboBox);
     MakeCaption(*syncLabel, *syncSpinBox);
-    SetTabOrder();
-}
-
-void EditingPanel::Form::SetTabOrder()
-{
-    QWidget* previous = outputSubsInfoButton;
-    for (QWidget* widget : std::initializer_list<QWidget*>{
-             addSubtitlesButton, selectSubtitlesTrackButton, selectFontButton, textColorPicker, outlineColorPicker,
-             encodingComboBox, alignComboBox, alignSlider, alignSpinBox, syncSpinBox})
-    {
-        QWidget::setTabOrder(previous, widget);
-        previous = widget;
-    }
 }
 
 void EditingPanel::Form::Retranslate()

@@ -88,7 +88,6 @@ public:
 private:
     void SetRanges();
     void Describe();
-    void SetTabOrder();
 };
 
 } // namespace Korvex::Converter::Subtitles::Details

@@ -19,7 +19,7 @@ using Entities::SubtitleTrackID;
 class SubtitleCollection::Impl
 {
 public:
-    explicit Impl(SubtitleCollection& owner) : m_owner(owner), view(new TrackListView(model))
+    explicit Impl(SubtitleCollection& owner) : view(new TrackListView(model)), m_owner(owner)
     {
         QObject::connect(view, &TrackListView::RowChosen, view, [this](int row) { Choose(row); });
         QObject::connect(view, &TrackListView::ExtractionRequested, view,
@@ -35,6 +35,10 @@ public:
                                  menuHandler(*id, position);
                          });
     }
+
+    TrackListModel model;
+    TrackListView* view; ///< a child of the list
+    TrackMenuHandler menuHandler;
 
 private:
     /// Whoever hears of the choice may refill the list, or take it away altogether.
@@ -52,16 +56,11 @@ private:
         if (!owner)
             return;
         // As a drop-down the list has done its work; where it stands in a panel it stays.
-        if (auto* const popup = qobject_cast<GUI::ModalPopup*>(m_owner.parentWidget()))
+        if (auto* const popup = qobject_cast<GUI::ModalPopup*>(owner->parentWidget()))
             popup->hide();
     }
 
     SubtitleCollection& m_owner;
-
-public:
-    TrackListModel model;
-    TrackListView* view; ///< a child of the list
-    TrackMenuHandler menuHandler;
 };
 
 SubtitleCollection::SubtitleCollection(QWidget* parent) : QFrame(parent), m_impl(std::make_unique<Impl>(*this))

@@ -56,8 +56,12 @@ int TrackListDelegate::GetTextWidth(QStyleOptionViewItem const& row, QModelIndex
 {
     QStyle const& style = GetStyle(row);
     int const margin = 2 * (style.pixelMetric(QStyle::PM_FocusFrameHMargin, &row, row.widget) + 1);
-    int const width = style.subElementRect(QStyle::SE_ItemViewItemText, &row, row.widget).width() - margin;
-    return m_model.GetTrackAt(index.row()) ? width - BUTTON_SIZE - BUTTON_MARGIN : width;
+    QRect const place = style.subElementRect(QStyle::SE_ItemViewItemText, &row, row.widget);
+    if (!m_model.GetTrackAt(index.row()))
+        return place.width() - margin;
+    bool const isMirrored = row.direction == Qt::RightToLeft;
+    int const padding = isMirrored ? place.left() - row.rect.left() : row.rect.right() - place.right();
+    return place.width() - margin - qMax(0, BUTTON_SIZE + BUTTON_MARGIN - padding);
 }
 
 void TrackListDelegate::paint(QPainter* painter, QStyleOptionViewItem const& option, QModelIndex const& index) const

@@ -334,9 +334,12 @@ TEST_F(EditingPanelTest, OpensOneDropDownAtATimeUnderItsButton)
     EXPECT_TRUE(select.IsOpen());
     ASSERT_NE(selector, nullptr) << "a content outlives its popup";
     EXPECT_EQ(selector->parent(), nullptr);
+    auto const* const list = panel->findChild<QWidget*>("subtitleCollection");
+    ASSERT_NE(list, nullptr);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     EXPECT_EQ(Popup(), nullptr);
     EXPECT_FALSE(select.IsOpen());
+    EXPECT_EQ(list->parent(), nullptr);
 
     Click("addSubtitlesButton");
     EXPECT_EQ(panel->findChild<QWidget*>("selectSubtitleFileMenu"), selector);
