@@ -1,6 +1,6 @@
 #include "Desktop/TrackPropertiesDialog.h"
 
-#include "Subtitles/Entities/Language.h"
+#include "Desktop/LanguageNames.h"
 
 #include "Gui/KComboBox.h"
 #include "Gui/KLabel.h"
@@ -12,135 +12,18 @@
 #include <QEvent>
 #include <QFormLayout>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include <algorithm>
-#include <vector>
-
 namespace Korvex::Desktop
 {
-
-namespace Language = Converter::Subtitles::Entities::Language;
-
-using Language::LanguageID;
 
 namespace
 {
 
 constexpr int WIDTH = 420;
 
-/// How a language is shown and found.
-struct Names
-{
-    LanguageID id = LanguageID::None;
-    QString english;
-    QString own;  ///< what its speakers call it; empty where that is the same, or Qt does not know
-    QString both; ///< "German – Deutsch"
-    std::string shortName;
-};
-
-/// The shortest name that the language has anywhere: Qt's name of a country's kind of it may name the country too.
-QString FindOwnName(std::string const& localeName)
-{
-    QLocale const locale(QString::fromStdString(localeName));
-    if (locale.language() == QLocale::C)
-        return {};
-    QString name = locale.nativeLanguageName();
-    for (QLocale const& other : QLocale::matchingLocales(locale.language(), locale.script(), QLocale::AnyCountry))
-    {
-        QString const otherName = other.nativeLanguageName();
-        if (!otherName.isEmpty() && otherName.size() < name.size())
-            name = otherName;
-    }
-    return name;
-}
-
-Names MakeNames(LanguageID id)
-{
-    Language::LanguageData const& language = Language::GetLanguageData(id);
-    Names names{id, QString::fromStdString(language.displayName), FindOwnName(language.locale), {}, {}};
-    names.shortName = language.shortNames.front();
-    if (names.own.compare(names.english, Qt::CaseInsensitive) == 0)
-        names.own.clear();
-    names.both = names.own.isEmpty() ? names.english : QStringLiteral("%1 \u2013 %2").arg(names.english, names.own);
-    return names;
-}
-
-/// In the order of the identifiers.
-std::vector<Names> const& ListNames()
-{
-    static std::vector<Names> const LIST = []
-    {
-        std::vector<Names> list;
-        for (LanguageID const id : Language::GetAllLanguages())
-            list.push_back(MakeNames(id));
-        return list;
-    }();
-    return LIST;
-}
-
-std::vector<Names> SortByEnglishName(std::vector<Names> list)
-{
-    std::sort(list.begin(), list.end(), [](Names const& a, Names const& b) { return a.english < b.english; });
-    return list;
-}
-
-/// Null for `None`.
-Names const* FindNames(LanguageID id)
-{
-    auto const& list = ListNames();
-    auto const found = std::find_if(list.begin(), list.end(), [id](Names const& names) { return names.id == id; });
-    return found == list.end() ? nullptr : &*found;
-}
-
-/// The languages that the user has set up for the system, the preferred one first.
-std::vector<LanguageID> ListUsersLanguages()
-{
-    std::vector<LanguageID> languages;
-    for (QString const& name : QLocale::system().uiLanguages())
-    {
-        LanguageID const id = Language::GetLanguageFromShortName(name.toStdString());
-        if (id != LanguageID::None && std::find(languages.begin(), languages.end(), id) == languages.end())
-            languages.push_back(id);
-    }
-    return languages;
-}
-
-bool IsThreeLetters(QString const& text)
-{
-    return text.size() == 3 && std::all_of(text.begin(), text.end(),
-                                           [](QChar c) { return c >= QLatin1Char('a') && c <= QLatin1Char('z'); });
-}
-
-QString DescribeLanguage(std::string const& shortName)
-{
-    Names const* const names = FindNames(Language::GetLanguageFromShortName(shortName));
-    return names == nullptr ? QString::fromStdString(shortName) : names->both;
-}
-
 } // namespace
-
-std::optional<std::string> FindLanguage(QString const& written)
-{
-    QString const text = written.simplified();
-    if (text.isEmpty())
-        return std::string();
-    // Kinds of one language share their speakers' name for it: the first counts.
-    for (QString Names::*const name : {&Names::both, &Names::english, &Names::own})
-    {
-        for (Names const& names : ListNames())
-        {
-            if (text.compare(names.*name, Qt::CaseInsensitive) == 0)
-                return names.shortName;
-        }
-    }
-    QString const shortName = text.toLower();
-    if (Names const* const names = FindNames(Language::GetLanguageFromShortName(shortName.toStdString())))
-        return names->shortName;
-    return IsThreeLetters(shortName) ? std::optional(shortName.toStdString()) : std::nullopt;
-}
 
 class TrackPropertiesDialog::Form
 {
@@ -234,13 +117,11 @@ private:
         m_language->completer()->setFilterMode(Qt::MatchContains);
         m_language->completer()->setCaseSensitivity(Qt::CaseInsensitive);
         m_language->addItem(QString());
-        std::vector<LanguageID> const own = ListUsersLanguages();
-        for (LanguageID const id : own)
-            m_language->addItem(FindNames(id)->both);
-        if (!own.empty())
+        QStringList const own = ListUsersLanguages();
+        m_language->addItems(own);
+        if (!own.isEmpty())
             m_language->insertSeparator(m_language->count());
-        for (Names const& names : SortByEnglishName(ListNames()))
-            m_language->addItem(names.both);
+        m_language->addItems(ListAllLanguages());
         GUI::FixComboBox(m_language);
     }
 

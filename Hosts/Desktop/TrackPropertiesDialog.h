@@ -5,7 +5,6 @@
 #include <QDialog>
 
 #include <memory>
-#include <optional>
 
 namespace Korvex::Desktop
 {
@@ -29,9 +28,5 @@ private:
     class Form;
     std::unique_ptr<Form> m_form;
 };
-
-/// The short name of the language that the user wrote: its name in English or in the language itself, or a short name;
-/// empty for an empty text. Not set when there is none. Any three letters are a short name.
-[[nodiscard]] std::optional<std::string> FindLanguage(QString const& written);
 
 } // namespace Korvex::Desktop

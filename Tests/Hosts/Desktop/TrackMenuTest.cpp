@@ -2,6 +2,7 @@
 
 #include "Support/WidgetSupport.h"
 
+#include "Desktop/LanguageNames.h"
 #include "Desktop/SaveTrack.h"
 #include "Desktop/TrackMenu.h"
 #include "Desktop/TrackPropertiesDialog.h"
@@ -140,7 +141,7 @@ TEST_F(TrackMenuTest, ItsDialogGoesWithTheFilm)
     WaitUntil([&] { return !dialog; });
 }
 
-TEST(TrackPropertiesDialogTest, FindsALanguageByAnyOfItsNames)
+TEST(LanguageNamesTest, FindsALanguageByAnyOfItsNames)
 {
     std::vector<std::pair<char const*, std::optional<std::string>>> const table = {
         {"", ""},           {"  ", ""},
