@@ -37,7 +37,7 @@ ioPath MakeAbsolute(ioPath const& path)
 
 bool IsSubtitleFileName(ioPath const& path)
 {
-    static std::set<std::string> const EXTENSIONS{"ass", "smi", "srt", "ssa", "sup", "vtt"};
+    static std::set<std::string> const EXTENSIONS{"ass", "sami", "smi", "srt", "ssa", "sub", "sup", "vtt"};
     return EXTENSIONS.count(LowerExtension(path)) > 0;
 }
 

@@ -6,6 +6,7 @@
 
 #include "Core/FileSystem.h"
 
+#include <QGuiApplication>
 #include <QStringList>
 
 #include <algorithm>
@@ -168,6 +169,12 @@ FilmList::FilmList(Hosts::HostServices& services, QObject* parent)
     : QAbstractListModel(parent),
       m_impl(std::make_unique<Impl>(*this, services))
 {
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
+            [this](Qt::ApplicationState state)
+            {
+                if (state == Qt::ApplicationActive)
+                    CheckFiles();
+            });
 }
 
 FilmList::~FilmList() = default;

@@ -12,7 +12,7 @@ namespace Korvex::Desktop
 {
 
 /// All films, in the order in which they were added. Reads them one after the other on a thread of its own: headers
-/// first, then a thumbnail. GUI thread.
+/// first, then a thumbnail. GUI thread; a QGuiApplication has to exist.
 class FilmList final : public QAbstractListModel
 {
     Q_OBJECT
@@ -34,7 +34,8 @@ public:
     void Remove(FilmId id);
     /// The film is at another place now: it is read there, and its choices are made again.
     void Locate(FilmId id, ioPath const& path);
-    /// Looks which films are gone or there again. The answer comes as their changes.
+    /// Looks which films are gone or there again; the answer comes as their changes. Done by itself whenever the
+    /// program comes to the front.
     void CheckFiles();
     [[nodiscard]] Film* Find(FilmId id) const;
     [[nodiscard]] std::vector<Film*> GetFilms() const;

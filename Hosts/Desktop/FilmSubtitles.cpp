@@ -48,6 +48,12 @@ void SetForced(bool isForced, SubtitleTrack& track)
     track.detail = Entities::DescribeMarks(marks);
 }
 
+/// But for the default mark, which belongs to the collection.
+TrackProperties ReadProperties(SubtitleTrack const& track)
+{
+    return {track.language, HasProperTitle(track) ? track.title : std::string(), false, track.isForced};
+}
+
 void SetNames(TrackProperties const& properties, SubtitleTrack& track)
 {
     track.language = properties.language;
@@ -113,17 +119,18 @@ void FilmSubtitles::Open(Proc::MediaInfo const& media, FilmChoice const& choice)
     Put(std::move(collection));
 }
 
-void FilmSubtitles::RestoreTracks(FilmChoice const& choice, SubtitleCollection& collection) const
+void FilmSubtitles::RestoreTracks(FilmChoice const& choice, SubtitleCollection& collection)
 {
     for (auto const& [id, chosen] : choice.tracks)
-    {
-        auto const found = collection.tracks.find(id);
-        if (found == collection.tracks.end())
-            continue;
-        SetNames(chosen.properties, found->second);
-        found->second.encoding = chosen.encoding;
-        found->second.synchronizationOffset = chosen.offsetSeconds;
-    }
+        for (auto* tracks : {&collection.tracks, &m_leftOut})
+        {
+            auto const found = tracks->find(id);
+            if (found == tracks->end())
+                continue;
+            SetNames(chosen.properties, found->second);
+            found->second.encoding = chosen.encoding;
+            found->second.synchronizationOffset = chosen.offsetSeconds;
+        }
     bool const isTrackGone = choice.mode == SubtitleCollectionMode::SelectedTrack && !choice.isWithoutSubtitles &&
                              collection.tracks.count(choice.currentTrack) == 0;
     collection.mode = isTrackGone ? SubtitleCollectionMode::ModeNone : choice.mode;
@@ -174,19 +181,29 @@ FilmChoice FilmSubtitles::GetChoice() const
     choice.defaultTracks = m_defaultTracks;
     choice.look = collection.textSettings;
     for (auto const& [id, track] : m_leftOut)
+    {
         choice.leftOut.insert(id);
+        NoteTrack(track, choice);
+    }
     for (auto const& [id, track] : collection.tracks)
     {
         if (track.isExternal)
             choice.files.push_back(track.path);
-        auto const own = m_ownTracks.find(id);
-        bool const isAsInFilm = own != m_ownTracks.end() && own->second.language == track.language &&
-                                own->second.title == track.title && own->second.isForced == track.isForced &&
-                                track.synchronizationOffset == 0.0;
-        if (!isAsInFilm)
-            choice.tracks.emplace(id, TrackChoice{GetProperties(id), track.encoding, track.synchronizationOffset});
+        NoteTrack(track, choice);
     }
     return choice;
+}
+
+/// A track that is as the film has it needs no words.
+void FilmSubtitles::NoteTrack(SubtitleTrack const& track, FilmChoice& choice) const
+{
+    auto const own = m_ownTracks.find(track.id);
+    bool const isAsInFilm = own != m_ownTracks.end() && own->second.language == track.language &&
+                            own->second.title == track.title && own->second.isForced == track.isForced &&
+                            track.synchronizationOffset == 0.0;
+    if (!isAsInFilm)
+        choice.tracks.emplace(track.id,
+                              TrackChoice{ReadProperties(track), track.encoding, track.synchronizationOffset});
 }
 
 std::vector<SubtitleTrack> FilmSubtitles::ListLeftOut() const
@@ -203,9 +220,9 @@ TrackProperties FilmSubtitles::GetProperties(SubtitleTrackID const& id) const
     auto const found = collection.tracks.find(id);
     if (found == collection.tracks.end())
         return {};
-    SubtitleTrack const& track = found->second;
-    bool const isDefault = collection.defaultTracks && collection.defaultTracks->count(id) > 0;
-    return {track.language, HasProperTitle(track) ? track.title : std::string(), isDefault, track.isForced};
+    TrackProperties properties = ReadProperties(found->second);
+    properties.isDefault = collection.defaultTracks && collection.defaultTracks->count(id) > 0;
+    return properties;
 }
 
 void FilmSubtitles::AddFiles(std::vector<ioPath> const& paths)

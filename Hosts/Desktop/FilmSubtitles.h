@@ -95,7 +95,8 @@ private:
     void MarkDefaults(Collection& collection) const;
     [[nodiscard]] std::string FindOutputCodec(Track const& track) const;
     [[nodiscard]] bool IsListed(ioPath const& path) const;
-    void RestoreTracks(FilmChoice const& choice, Collection& collection) const;
+    void NoteTrack(Track const& track, FilmChoice& choice) const;
+    void RestoreTracks(FilmChoice const& choice, Collection& collection);
     void ChooseWithout(TrackID const& id, Collection& collection) const;
     void Put(Collection collection);
     template <typename Change>

@@ -1,12 +1,15 @@
 #include "Hosts/Desktop/FilmFixture.h"
 
 #include "Desktop/ConversionJob.h"
+#include "Desktop/ModulePanels.h"
 
+#include "Subtitles/Details/EditingPanel.h"
 #include "Subtitles/Subtitles.h"
 
 #include "Proc/Settings.h"
 
 #include <QSignalSpy>
+#include <QSlider>
 
 #include <gmock/gmock.h>
 
@@ -179,6 +182,35 @@ TEST_F(FilmTest, AnOffsetThatABitmapCannotCarryIsSaidAndTakenBack)
     ASSERT_TRUE(reset);
     film.Apply(*reset);
     EXPECT_TRUE(film.IsConvertible());
+}
+
+TEST_F(FilmTest, ThePanelsEditTheFilmThatTheyShowAndNoOther)
+{
+    Film& first = Open(MakeFilm("first.mkv", {MakeSubtitle("subrip", "ger")}));
+    Film& second = Open(MakeFilm("second.mkv", {MakeSubtitle("subrip", "eng")}));
+    Desktop::ModulePanels const panels(m_services);
+    auto* const shift = panels.GetEditingPanel().findChild<QSlider*>();
+    ASSERT_NE(shift, nullptr);
+    auto const shiftOf = [](Film const& film) { return film.GetCollection().textSettings.positionShift; };
+    first.ChooseTrack(SubtitleTrackID(2U));
+    second.ChooseTrack(SubtitleTrackID(2U));
+    first.ShowInPanels();
+    shift->setValue(10);
+    second.ShowInPanels();
+    EXPECT_EQ(shift->value(), 0);
+    SetFormat("mp4");
+    first.SetOffset(SubtitleTrackID(2U), 1.0);
+    shift->setValue(20);
+    EXPECT_EQ(shiftOf(first), 10) << "the change of a film that is not shown does not take the panel";
+    EXPECT_EQ(shiftOf(second), 20);
+    QSignalSpy changed(&second, &Film::Changed);
+    EXPECT_TRUE(changed.wait());
+
+    // A film that goes lets go of the panels, and the next one takes them.
+    m_list.Remove(second.GetId());
+    shift->setValue(30);
+    first.ShowInPanels();
+    EXPECT_EQ(shift->value(), 10);
 }
 
 } // namespace
