@@ -227,6 +227,24 @@ std::vector<Packet> EncodePgs(MadeSubtitle const& subtitle)
     return packets;
 }
 
+/// Each time `length` later than the last.
+void Repeat(std::vector<Packet>& packets, std::int64_t length, int repetitions)
+{
+    std::size_t const count = packets.size();
+    for (int repetition = 1; repetition < repetitions; ++repetition)
+    {
+        for (std::size_t i = 0; i < count; ++i)
+        {
+            Packet copy(av_packet_clone(packets[i].get()));
+            if (!copy)
+                throw std::bad_alloc();
+            copy->pts += repetition * length;
+            copy->dts += repetition * length;
+            packets.push_back(std::move(copy));
+        }
+    }
+}
+
 } // namespace
 
 void Check(int result, char const* function)
@@ -264,6 +282,7 @@ std::vector<Packet> EncodeVideo(MadeVideo const& video, AVStream& stream, bool h
     Drain(*encoder, nullptr, packets);
     for (Packet& packet : packets)
         packet->duration = durations[packet->pts];
+    Repeat(packets, av_rescale_q(count, encoder->time_base, PACKET_TIME_BASE), video.repetitions);
     Check(avcodec_parameters_from_context(stream.codecpar, encoder.get()), "avcodec_parameters_from_context");
     stream.time_base = PACKET_TIME_BASE;
     stream.sample_aspect_ratio = encoder->sample_aspect_ratio;

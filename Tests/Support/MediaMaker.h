@@ -36,6 +36,7 @@ struct MadeVideo
     int width = 320;
     int height = 180;
     int frameCount = 50;
+    int repetitions = 1; ///< of these frames, one behind the other: hours of film that cost seconds to make
     int framesPerSecond = 25;
     /// When each frame begins, one more entry than frames for the end of the last; empty: evenly by `framesPerSecond`.
     std::vector<std::chrono::milliseconds> frameTimes;
