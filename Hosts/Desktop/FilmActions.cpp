@@ -111,6 +111,7 @@ void FilmActions::RemoveSelected()
         m_parts.control.Cancel(id);
         m_parts.films.Remove(id);
     }
+    m_parts.pane.MoveSelection(0); // the view makes a neighbour the current film, but does not select it
     UpdateEnabled();
 }
 

@@ -119,6 +119,7 @@ void MainWindow::LayOut()
     auto* emptyPage = new EmptyPage(this);
     connect(emptyPage, &QAbstractButton::clicked, m_fileActions, &FileActions::ChooseFilms);
     m_pages = new QStackedWidget(this);
+    m_pages->setObjectName(QStringLiteral("pages"));
     m_pages->addWidget(emptyPage);
     m_pages->addWidget(m_splitter);
     auto* whole = new QWidget(this);

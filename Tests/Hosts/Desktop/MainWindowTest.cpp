@@ -1,0 +1,223 @@
+#include "Hosts/Desktop/WindowFixture.h"
+#include "Subtitles/Fakes/TrackListClicks.h"
+#include "Support/WidgetSupport.h"
+
+#include "Proc/MediaInfo.h"
+#include "Proc/Settings.h"
+
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QColor>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QLabel>
+#include <QListView>
+#include <QLocale>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QtTest/QTest>
+
+#include <algorithm>
+
+namespace Korvex::Testing
+{
+
+using Converter::Subtitles::Testing::ClickTrackRow;
+using Desktop::ConversionState;
+using Desktop::Film;
+using testing::HasSubstr;
+
+namespace
+{
+
+class MainWindowTest : public WindowFixture
+{
+protected:
+    /// In the editing panel: opens the track list and clicks a row of it.
+    void ChooseInPanel(int row)
+    {
+        Click("selectSubtitlesTrackButton");
+        ClickTrackRow(Get<QWidget>("subtitleCollection"), row);
+    }
+
+    void TypeInto(char const* spinBox, QString const& text)
+    {
+        auto& box = Get<QAbstractSpinBox>(spinBox);
+        box.setFocus();
+        box.selectAll();
+        QTest::keyClicks(&box, text);
+        QTest::keyClick(&box, Qt::Key_Return);
+    }
+
+    static void PickColor(QColor const& color)
+    {
+        QColorDialog* dialog = nullptr;
+        WaitUntil(
+            [&dialog]
+            {
+                dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+                return dialog != nullptr;
+            });
+        ASSERT_NE(dialog, nullptr);
+        dialog->setCurrentColor(color);
+        QTest::keyClick(dialog, Qt::Key_Return);
+    }
+
+    /// With the keyboard, as a person does who knows what it is called.
+    void ChooseFormat(QString const& name)
+    {
+        auto& box = Get<QComboBox>("formatCombo");
+        box.setFocus();
+        QTest::keyClicks(&box, name);
+        ASSERT_EQ(box.currentText(), name);
+    }
+
+    [[nodiscard]] QStringList ListNoticeButtons()
+    {
+        QStringList labels;
+        for (QPushButton const* button : GetWindow().findChildren<QPushButton*>(QStringLiteral("noticeButton")))
+            if (button->isVisible())
+                labels << button->text();
+        return labels;
+    }
+
+    void PressNoticeButton(QString const& label)
+    {
+        for (QPushButton* button : GetWindow().findChildren<QPushButton*>(QStringLiteral("noticeButton")))
+            if (button->isVisible() && button->text() == label)
+                return QTest::mouseClick(button, Qt::LeftButton);
+        FAIL() << "no button " << qPrintable(label);
+    }
+};
+
+} // namespace
+
+TEST_F(MainWindowTest, FromDropToConvertedFilm)
+{
+    ioPath const path = MakeFilm("Voyage.mkv", {MakeSubtitle("subrip", "en")});
+    ioPath const russian = WriteText("elsewhere.srt", RUSSIAN_SRT);
+    EXPECT_EQ(Get<QStackedWidget>("pages").currentIndex(), 0);
+
+    Drop({path});
+    Film& film = WaitForFilm(path);
+    EXPECT_EQ(Get<QStackedWidget>("pages").currentIndex(), 1);
+    Drop({russian}); // goes to the film that is shown
+    WaitUntil([&film] { return film.GetCollection().tracks.size() == 2; });
+
+    ChooseInPanel(3); // after "no subtitles", "all tracks" and the film's own
+    WaitUntil([&film] { return film.GetMixerSettings() != nullptr; });
+    Click("textColorPicker");
+    PickColor(QColor(0xFF, 0xCC, 0x00));
+    TypeInto("alignSpinBox", QStringLiteral("40"));
+    TypeInto("syncSpinBox", QLocale().toString(1.5));
+
+    auto const settings = film.GetMixerSettings();
+    ASSERT_NE(settings, nullptr);
+    EXPECT_EQ(settings->GetFilename(), russian);
+    Proc::SettingsSubtitleDrawer const& drawer = settings->GetDrawerSettings();
+    Proc::RgbColor const color = drawer.GetAssRendererSettings().GetPrimaryColour();
+    EXPECT_EQ(QColor(color.red, color.green, color.blue), QColor(0xFF, 0xCC, 0x00));
+    EXPECT_EQ(drawer.GetMoveUp(), 40);
+    EXPECT_EQ(drawer.GetTimeShift(), 1'500'000);
+
+    Click("convertAllButton");
+    WaitUntil([this, &film] { return GetState(film) == ConversionState::Done; });
+    ioPath const output = GetQueue().FindStatus(film.GetId())->output;
+    auto const converted = Proc::ProbeMedia(output);
+    ASSERT_TRUE(converted) << output.utf8string();
+    EXPECT_NE(output, path);
+    EXPECT_NE(converted->FindMainVideo(), nullptr);
+}
+
+TEST_F(MainWindowTest, NoticeOffersWaysOutThatWork)
+{
+    Film& first = AddFilm(MakeFilm("First.mkv", {MakeSubtitle("hdmv_pgs_subtitle", "en")}));
+    Film& second = AddFilm(MakeFilm("Second.mkv", {MakeSubtitle("hdmv_pgs_subtitle", "de")}));
+    Film& fine = AddFilm(MakeFilm("Fine.mkv"));
+    Show(fine);
+    auto& notice = Get<QWidget>("noticeBar");
+    EXPECT_FALSE(notice.isVisible());
+
+    ChooseFormat(QStringLiteral("MP4"));
+    Click("convertAllButton");
+    WaitUntil([this, &fine] { return GetState(fine) == ConversionState::Done; });
+    // What can be converted is, the first one that cannot is shown.
+    EXPECT_EQ(GetState(first), std::nullopt);
+    EXPECT_EQ(GetState(second), std::nullopt);
+    WaitUntil([&notice] { return notice.isVisible(); });
+    EXPECT_THAT(Get<QLabel>("noticeSentence").text().toStdString(), HasSubstr("PGS"));
+    EXPECT_EQ(ListNoticeButtons().size(), 3);
+
+    PressNoticeButton(QStringLiteral("Draw it in"));
+    WaitUntil([&notice] { return !notice.isVisible(); });
+    EXPECT_NE(first.GetMixerSettings(), nullptr);
+    EXPECT_TRUE(first.IsConvertible());
+
+    Show(second);
+    PressNoticeButton(QStringLiteral("Choose Matroska"));
+    WaitUntil([&second] { return second.IsConvertible(); });
+    EXPECT_EQ(Get<QComboBox>("formatCombo").currentText(), QStringLiteral("Matroska"));
+    EXPECT_EQ(second.GetMixerSettings(), nullptr);
+}
+
+TEST_F(MainWindowTest, FilmsObeyTheKeyboard)
+{
+    Film& first = AddFilm(MakeFilm("First.mkv", {MakeSubtitle("subrip", "en")}));
+    Film& second = AddFilm(MakeFilm("Second.mkv", {MakeSubtitle("subrip", "en")}));
+    auto& list = Get<QListView>("filmListView");
+    Show(first);
+    list.setFocus();
+
+    QTest::keyClick(&list, Qt::Key_Return);
+    auto* popup = GetWindow().findChild<QWidget*>(QStringLiteral("subtitlesPopup"));
+    ASSERT_NE(popup, nullptr);
+    ClickTrackRow(Get<QWidget>("itemPanel"), 2);
+    WaitUntil([&first] { return first.GetMixerSettings() != nullptr; });
+    EXPECT_EQ(second.GetMixerSettings(), nullptr);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    WaitUntil([this] { return GetWindow().findChild<QWidget*>(QStringLiteral("subtitlesPopup")) == nullptr; });
+    EXPECT_TRUE(list.hasFocus());
+
+    // The panel follows the list, so the second film is edited now.
+    QTest::keyClick(&list, Qt::Key_Down);
+    ChooseInPanel(0);
+    WaitUntil([&second] { return second.GetCollection().withoutSubtitles != 0; });
+    EXPECT_NE(first.GetMixerSettings(), nullptr);
+
+    // In a field of the panel the key belongs to the field.
+    QTest::keyClick(&Get<QComboBox>("formatCombo"), Qt::Key_Delete);
+    EXPECT_EQ(m_list.rowCount(), 2);
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_Delete);
+    EXPECT_EQ(m_list.rowCount(), 1);
+    EXPECT_EQ(m_list.GetFilms().front(), &first);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    EXPECT_EQ(m_list.rowCount(), 0);
+    EXPECT_EQ(Get<QStackedWidget>("pages").currentIndex(), 0);
+}
+
+TEST_F(MainWindowTest, RestartBringsBackListChoiceThemeAndLanguage)
+{
+    ioPath const path = MakeFilm("Voyage.mkv", {MakeSubtitle("subrip", "en"), MakeSubtitle("subrip", "de")});
+    Film& film = AddFilm(path);
+    Show(film);
+    ChooseInPanel(3);
+    WaitUntil([&film] { return film.GetMixerSettings() != nullptr; });
+    Trigger("themeDarkAction");
+    Trigger("language_de");
+    EXPECT_EQ(GetLookAndFeel().GetTheme(), App::Theme::Dark);
+    GetWindow().resize(1000, 700);
+    GetWindow().close();
+
+    GetLookAndFeel().SetTheme(App::Theme::Light);
+    Restart();
+    EXPECT_EQ(GetLookAndFeel().GetTheme(), App::Theme::Dark);
+    EXPECT_EQ(GetLanguage(), QStringLiteral("de"));
+    EXPECT_EQ(GetWindow().size(), QSize(1000, 700));
+    Film& again = WaitForFilm(path);
+    WaitUntil([&again] { return again.GetMixerSettings() != nullptr; });
+    EXPECT_EQ(again.GetMixerSettings()->GetSubtitleStreamIndex(), 3U);
+    Trigger("themeLightAction");
+}
+
+} // namespace Korvex::Testing

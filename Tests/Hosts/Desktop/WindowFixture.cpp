@@ -1,0 +1,139 @@
+#include "Hosts/Desktop/WindowFixture.h"
+
+#include "Support/WidgetSupport.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QDropEvent>
+#include <QLabel>
+#include <QListView>
+#include <QMenu>
+#include <QMimeData>
+#include <QRegularExpression>
+#include <QUrl>
+
+#include <set>
+
+namespace Korvex::Testing
+{
+
+using Desktop::Film;
+
+WindowFixture::WindowFixture()
+{
+    Start();
+}
+
+WindowFixture::~WindowFixture()
+{
+    m_languages.Switch(QStringLiteral("en"));
+}
+
+void WindowFixture::Start()
+{
+    m_queue = std::make_unique<Desktop::ConversionQueue>(m_services);
+    m_store = std::make_unique<Desktop::SessionStore>(m_list, m_folder / "session.json");
+    EXPECT_EQ(m_store->Restore(), QString());
+    if (m_store->GetExtra("language").isEmpty())
+        m_store->SetExtra("language", "en");
+    m_window = std::make_unique<Desktop::MainWindow>(
+        Desktop::Program{m_services, m_list, *m_queue, *m_store, GetLookAndFeel(), m_languages});
+    ShowAndWait(*m_window);
+}
+
+void WindowFixture::Restart()
+{
+    m_window.reset();
+    m_store.reset();
+    m_queue.reset();
+    while (m_list.rowCount() > 0)
+        m_list.removeRows(0, 1);
+    m_languages.Switch(QStringLiteral("en"));
+    Start();
+}
+
+std::optional<Desktop::ConversionState> WindowFixture::GetState(Film const& film) const
+{
+    auto const status = m_queue->FindStatus(film.GetId());
+    return status ? std::optional(status->state) : std::nullopt;
+}
+
+void WindowFixture::Click(char const* button)
+{
+    auto& widget = Get<QAbstractButton>(button);
+    WaitUntil([&widget] { return widget.isVisible() && widget.isEnabled(); });
+    QTest::mouseClick(&widget, Qt::LeftButton);
+}
+
+void WindowFixture::Trigger(char const* action)
+{
+    Get<QAction>(action).trigger();
+}
+
+void WindowFixture::Drop(std::vector<ioPath> const& paths)
+{
+    QList<QUrl> urls;
+    for (ioPath const& path : paths)
+        urls << QUrl::fromLocalFile(QString::fromStdString(path.utf8string()));
+    QMimeData data;
+    data.setUrls(urls);
+    QPoint const place = m_window->rect().center();
+    QDragEnterEvent enter(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_window.get(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    auto& light = Get<QWidget>("dropHighlight");
+    EXPECT_TRUE(light.isVisible());
+    QDropEvent drop(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_window.get(), &drop);
+    EXPECT_EQ(drop.dropAction(), Qt::CopyAction); // a move would take the files away
+    EXPECT_FALSE(light.isVisible());
+}
+
+Film& WindowFixture::AddFilm(ioPath const& path)
+{
+    m_window->AddFiles({path});
+    return WaitForFilm(path);
+}
+
+Film& WindowFixture::WaitForFilm(ioPath const& path)
+{
+    Film* film = m_list.Add({path}).front();
+    WaitUntil([film] { return film->GetState() == Desktop::FilmState::Ready; });
+    return *film;
+}
+
+void WindowFixture::Show(Film const& film)
+{
+    auto& list = Get<QListView>("filmListView");
+    list.setCurrentIndex(m_list.index(m_list.FindRow(film.GetId())));
+    QCoreApplication::processEvents();
+}
+
+std::vector<QString> WindowFixture::ListCaptions()
+{
+    QStringList texts;
+    for (QAction const* action : m_window->findChildren<QAction*>())
+        if (!action->objectName().startsWith(QLatin1String("language_")))
+            texts << action->text() << action->toolTip();
+    for (QMenu const* menu : m_window->findChildren<QMenu*>())
+        texts << menu->title();
+    for (QWidget const* widget : m_window->findChildren<QWidget*>())
+    {
+        texts << widget->toolTip() << widget->accessibleName() << widget->accessibleDescription();
+        if (auto const* label = qobject_cast<QLabel const*>(widget))
+            texts << label->text();
+        if (auto const* button = qobject_cast<QAbstractButton const*>(widget))
+            texts << button->text();
+    }
+    QRegularExpression const word(QStringLiteral("\\p{L}{2,}"));
+    std::set<QString> captions;
+    for (QString text : texts)
+    {
+        text.remove(QLatin1Char('&'));
+        if (text.contains(word) && !text.contains(QString::fromStdString(m_folder.Path().utf8string())))
+            captions.insert(text);
+    }
+    return {captions.begin(), captions.end()};
+}
+
+} // namespace Korvex::Testing
