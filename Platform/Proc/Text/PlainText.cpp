@@ -4,6 +4,7 @@
 #include "Proc/Text/TextSubtitles.h"
 #include "Proc/Text/Utf8.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 namespace Korvex::Proc::Text
@@ -12,6 +13,8 @@ namespace Korvex::Proc::Text
 namespace
 {
 
+/// Begin of a block, an escape or a joiner.
+constexpr std::string_view SPECIAL_BYTES = "{\\\xE2";
 constexpr std::string_view NO_BREAK_SPACE_UTF8 = "\xC2\xA0";
 
 /// Whether what follows an override block is a drawing; as before where the block says nothing about it.
@@ -91,11 +94,7 @@ std::vector<std::string> ListPlainLines(std::string_view text, TextMarkup markup
             isDrawing = ReadDrawingMode(source.substr(position, closing - position), isDrawing);
             position = closing + 1;
         }
-        else if (isDrawing)
-        {
-            ++position;
-        }
-        else if (rest[0] == '\\')
+        else if (rest[0] == '\\' && !isDrawing)
         {
             position += TakeEscape(rest, lines);
         }
@@ -105,8 +104,12 @@ std::vector<std::string> ListPlainLines(std::string_view text, TextMarkup markup
         }
         else
         {
-            lines.Append(rest.substr(0, 1));
-            ++position;
+            std::size_t const end = std::min(source.find_first_of(SPECIAL_BYTES, position + 1), source.size());
+            if (!isDrawing)
+            {
+                lines.Append(source.substr(position, end - position));
+            }
+            position = end;
         }
     }
     return lines.Take();
