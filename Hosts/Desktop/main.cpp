@@ -1,14 +1,7 @@
-#include "Desktop/ConversionQueue.h"
-#include "Desktop/FilmList.h"
-#include "Desktop/Languages.h"
 #include "Desktop/MainWindow.h"
-#include "Desktop/SessionStore.h"
+#include "Desktop/RunningProgram.h"
 
-#include "Common/HostServices.h"
 #include "Common/Logging.h"
-
-#include "App/Configuration.h"
-#include "Gui/LookAndFeelManager.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -67,18 +60,8 @@ bool ReadFiles(QStringList const& arguments, std::vector<ioPath>& files)
 
 int RunWindow(std::vector<ioPath> const& files)
 {
-    GUI::LookAndFeelManager lookAndFeel(GUI::FindSystemTheme());
-    Hosts::HostServices services(
-        App::LoadConfiguration(App::FindConfigurationFile(&App::LookUpEnvironment), &App::LookUpEnvironment));
-    Desktop::Languages languages;
-    languages.Switch(Desktop::Languages::FindSystemLanguage());
-    Desktop::FilmList films(services);
-    Desktop::ConversionQueue queue(services);
-    Desktop::SessionStore store(films, Desktop::FindSessionFile());
-    QString const failure = store.Restore();
-    Desktop::MainWindow window({services, films, queue, store, lookAndFeel, languages});
-    if (!failure.isEmpty())
-        window.ShowWarning(failure);
+    Desktop::RunningProgram program;
+    Desktop::MainWindow& window = program.GetWindow();
     window.show();
     if (!files.empty())
         window.AddFiles(files);
@@ -101,14 +84,7 @@ int main(int argumentCount, char** arguments)
         return OK;
     }
 
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    QCoreApplication::setOrganizationName(QStringLiteral("Korvex"));
-    QCoreApplication::setApplicationName(QStringLiteral("korvex-desktop"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(KORVEX_VERSION));
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Korvex Subtitles"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("korvex-desktop"));
+    Desktop::PrepareToolkit();
     Hosts::LogErrorsToStandardError(arguments[0]);
     QApplication const application(argumentCount, arguments);
 
