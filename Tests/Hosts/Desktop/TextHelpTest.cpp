@@ -1,7 +1,9 @@
 #include "Desktop/TextHelp.h"
+
 #include "Hosts/Desktop/FilmFixture.h"
 
 #include "Desktop/AlternativeButton.h"
+#include "Desktop/Languages.h"
 #include "Desktop/TextHelpPane.h"
 #include "Desktop/TextHelpView.h"
 
@@ -179,23 +181,31 @@ TEST_F(TextHelpTest, FitsIntoANarrowPane)
         {"bytes", Read({russian, std::nullopt, "UTF-8", "Noto Sans Hebrew"})},
         {"right-to-left", Read({hebrew, std::nullopt, "", "Noto Sans"})},
     };
+    static constexpr int NARROWEST = 280;
+    auto const check = [](TextHelp const& help, QString const& name)
+    {
+        TextHelpView view;
+        view.Show(help);
+        view.resize(NARROWEST, view.heightForWidth(NARROWEST));
+        Testing::ShowAndWait(view);
+        EXPECT_LE(view.minimumSizeHint().width(), NARROWEST);
+        ExpectNothingClipped(view);
+        Testing::SaveScreenshot(view, "text-help-" + name);
+    };
     Testing::ForEachTheme(
         [&](QString const& theme)
         {
             for (auto const& [name, help] : cases)
-            {
-                for (int const width : {280, 360})
-                {
-                    TextHelpView view;
-                    view.Show(help);
-                    view.resize(width, view.heightForWidth(width));
-                    Testing::ShowAndWait(view);
-                    EXPECT_LE(view.minimumSizeHint().width(), 280);
-                    ExpectNothingClipped(view);
-                    Testing::SaveScreenshot(view, "text-help-" + name + '-' + QString::number(width) + '-' + theme);
-                }
-            }
+                check(help, name + '-' + theme);
         });
+    Languages languages;
+    for (Language const& language : Languages::List())
+    {
+        languages.Switch(language.code);
+        for (auto const& [name, help] : cases)
+            check(help, name + '-' + language.code);
+    }
+    QLocale::setDefault(QLocale::c());
 }
 
 class TextHelpPaneTest : public Testing::FilmFixture
