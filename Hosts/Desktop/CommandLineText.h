@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Desktop/ShellQuoting.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -22,17 +24,5 @@ struct CommandLineText
 /// The conversion as it stands now. Looks at the disk for a free name of the output. GUI thread; for a film that was
 /// read.
 [[nodiscard]] CommandLineText MakeCommandLine(Film const& film, OutputSettings const& settings);
-
-enum class Shell
-{
-    Posix,
-    WindowsCommand,
-};
-
-/// The one of this system.
-[[nodiscard]] Shell GetUsualShell();
-
-/// One line that the shell takes apart into these words.
-[[nodiscard]] std::string QuoteWords(std::vector<std::string> const& words, Shell shell);
 
 } // namespace Korvex::Desktop

@@ -1,7 +1,7 @@
 #include "Desktop/Film.h"
 
 #include "Common/SoftPlan.h"
-#include "Common/SubtitleFiles.h"
+#include "Desktop/AddedFiles.h"
 #include "Desktop/ConversionJob.h"
 #include "Desktop/FileKinds.h"
 #include "Desktop/FileThread.h"
@@ -16,11 +16,8 @@
 #include "Proc/MediaInfo.h"
 #include "Proc/Settings.h"
 
-#include <QPointer>
-
 #include <algorithm>
 #include <iterator>
-#include <set>
 #include <utility>
 
 namespace Korvex::Desktop
@@ -32,33 +29,6 @@ using Entities::SubtitleCollectionMode;
 using Entities::SubtitleTrack;
 using Entities::SubtitleTrackID;
 
-namespace
-{
-
-/// What was found out about added files by reading them.
-struct FilesRead
-{
-    std::map<SubtitleTrackID, std::string> encodings;
-    std::map<SubtitleTrackID, QString> reasons; ///< why a file holds no subtitles
-};
-
-/// On the reading thread.
-FilesRead ReadFiles(SubtitleCollection files)
-{
-    FilesRead read;
-    Converter::Subtitles::NoteDetectedEncodings(files);
-    for (auto const& [id, track] : files.tracks)
-    {
-        if (track.codecId.empty())
-            read.reasons.emplace(id, QString::fromStdString(ToSentence(Hosts::ExplainUnreadable(track.path))));
-        else
-            read.encodings.emplace(id, track.extra);
-    }
-    return read;
-}
-
-} // namespace
-
 class Film::Impl final : public Entities::ISubtitleCollectionInteractorEventObserver
 {
 public:
@@ -69,7 +39,8 @@ public:
           subtitles(services),
           m_owner(owner),
           m_services(services),
-          m_fileThread(fileThread ? std::move(fileThread) : std::make_shared<FileThread>()),
+          m_addedFiles(fileThread ? std::move(fileThread) : std::make_shared<FileThread>(),
+                       [this](AddedFiles::Encodings const& encodings) { NoteEncodings(encodings); }),
           m_observation(subtitles.GetInteractor(), *this)
     {
         SetOutput({});
@@ -89,8 +60,7 @@ public:
         state = FilmState::Ready;
         stateSentence.clear();
         m_wasRead = true;
-        m_files.clear();
-        m_reasons.clear();
+        m_addedFiles.Forget();
         subtitles.Open(media, choice);
         if (!m_waitingFiles.empty())
             subtitles.AddFiles(std::exchange(m_waitingFiles, {}));
@@ -157,7 +127,7 @@ public:
             return {};
         SubtitleCollection const collection = subtitles.GetCollection();
         return FilmWords::ListProblems(collection, Hosts::MakeSoftPlan(m_services, media, collection, m_formatId),
-                                       m_reasons);
+                                       m_addedFiles.GetReasons());
     }
 
     void NoteChange()
@@ -197,54 +167,27 @@ private:
         if (m_wasRead)
         {
             subtitles.Settle();
-            ReadNewFiles();
+            m_addedFiles.Read(subtitles.GetCollection());
         }
         // What settling changed is told along.
         m_isChangeNoted = false;
         Q_EMIT m_owner.Changed();
     }
 
-    /// Files that came in since: their encodings, and why they hold no subtitles where they do not.
-    void ReadNewFiles()
+    void NoteEncodings(AddedFiles::Encodings const& encodings)
     {
-        SubtitleCollection fresh;
-        for (auto const& [trackId, track] : subtitles.GetCollection().tracks)
-        {
-            bool const isUnknown = track.codecId.empty() || (track.encodingEditable && track.extra.empty());
-            if (track.isExternal && isUnknown && m_files.insert(trackId).second)
-                fresh.tracks.emplace(trackId, track);
-        }
-        if (fresh.tracks.empty())
-            return;
-        m_fileThread->Add(FileThread::Urgency::Soon,
-                          [film = QPointer<Film>(&m_owner), fresh]() -> FileThread::Delivery
-                          {
-                              return [film, read = ReadFiles(fresh)]
-                              {
-                                  if (film)
-                                      film->m_impl->NoteRead(read);
-                              };
-                          });
-    }
-
-    void NoteRead(FilesRead const& read)
-    {
-        for (auto const& [trackId, reason] : read.reasons)
-            m_reasons[trackId] = reason;
-        subtitles.NoteEncodings(read.encodings);
+        subtitles.NoteEncodings(encodings);
         NoteChange();
     }
 
     Film& m_owner;
     Hosts::HostServices& m_services;
-    std::shared_ptr<FileThread> m_fileThread;
     std::string m_formatId;
     bool m_wasRead = false;
     bool m_isChangeNoted = false;
     FilmChoice m_waitingChoice; ///< until the film has been read
     std::vector<ioPath> m_waitingFiles;
-    std::set<SubtitleTrackID> m_files; ///< those that were read or are being read
-    std::map<SubtitleTrackID, QString> m_reasons;
+    AddedFiles m_addedFiles;
     Core::ScopedObservation<Entities::ISubtitleCollectionInteractorEventObserver> m_observation;
 };
 

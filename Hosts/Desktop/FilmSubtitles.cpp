@@ -1,7 +1,6 @@
 #include "Desktop/FilmSubtitles.h"
 
 #include "Common/HostServices.h"
-#include "Common/SoftPlan.h"
 
 #include "Subtitles/Entities/TrackMarks.h"
 #include "Subtitles/Entities/TrackOrder.h"
@@ -88,7 +87,7 @@ Entities::ISubtitleCollectionInteractor& FilmSubtitles::GetInteractor() const
 void FilmSubtitles::Open(Proc::MediaInfo const& media, FilmChoice const& choice)
 {
     m_media = media;
-    m_sourceCodecs.clear();
+    m_codecs.Clear();
     m_leftOut.clear();
     m_choiceBefore.clear();
     m_removedFiles = choice.removedFiles;
@@ -145,7 +144,7 @@ void FilmSubtitles::SetPreset(Preset const& preset)
         return;
     m_formatId = preset.formatId;
     auto const allowed = m_services.GetAllowedSoftCodecIds(m_formatId);
-    m_allowedCodecIds.assign(allowed.begin(), allowed.end());
+    m_codecs.SetAllowed({allowed.begin(), allowed.end()});
     Put(m_interactor->GetSubtitleCollection());
 }
 
@@ -163,9 +162,7 @@ void FilmSubtitles::Settle()
 SubtitleCollection FilmSubtitles::GetCollection() const
 {
     SubtitleCollection collection = m_interactor->GetSubtitleCollection();
-    for (auto& [id, track] : collection.tracks)
-        if (auto const source = m_sourceCodecs.find(id); source != m_sourceCodecs.end())
-            track.codecId = source->second;
+    m_codecs.ShowSources(collection);
     return collection;
 }
 
@@ -269,7 +266,7 @@ void FilmSubtitles::LeaveOut(SubtitleTrackID const& id)
     if (track.isExternal)
     {
         m_removedFiles.insert(id);
-        m_sourceCodecs.erase(id);
+        m_codecs.Forget(id);
         m_choiceBefore.erase(id);
     }
     else
@@ -392,7 +389,7 @@ void FilmSubtitles::Make(Choice const& choice, SubtitleCollection& collection)
     collection.currentTrack = choice.currentTrack;
 }
 
-/// The codec that a track comes in with is its source's. Edits without a track leave an entry that is none.
+/// Edits without a track leave an entry that is none.
 void FilmSubtitles::LearnSources(SubtitleCollection& collection)
 {
     for (auto entry = collection.tracks.begin(); entry != collection.tracks.end();)
@@ -403,7 +400,7 @@ void FilmSubtitles::LearnSources(SubtitleCollection& collection)
             entry = collection.tracks.erase(entry);
             continue;
         }
-        if (m_sourceCodecs.emplace(id, track.codecId).second && track.isExternal)
+        if (m_codecs.Learn(track) && track.isExternal)
         {
             m_removedFiles.erase(id);
             m_choiceBefore.emplace(id, m_settled);
@@ -415,13 +412,7 @@ void FilmSubtitles::LearnSources(SubtitleCollection& collection)
 void FilmSubtitles::Normalise(SubtitleCollection& collection) const
 {
     MarkDefaults(collection);
-    bool isSoftPossible = !collection.tracks.empty();
-    for (auto& [id, track] : collection.tracks)
-    {
-        track.codecId = FindOutputCodec(track);
-        isSoftPossible = isSoftPossible && std::find(m_allowedCodecIds.begin(), m_allowedCodecIds.end(),
-                                                     track.codecId) != m_allowedCodecIds.end();
-    }
+    bool const isSoftPossible = m_codecs.ShowOutputs(m_media, collection);
     if (collection.mode == SubtitleCollectionMode::ModeNone && !collection.tracks.empty())
         collection.mode = SubtitleCollectionMode::AllSoftSubtitles;
     if (collection.mode == SubtitleCollectionMode::AllSoftSubtitles)
@@ -439,17 +430,6 @@ void FilmSubtitles::MarkDefaults(SubtitleCollection& collection) const
         if (m_defaultTracks ? m_defaultTracks->count(id) > 0 : isMarkedInFilm)
             collection.defaultTracks->insert(id);
     }
-}
-
-std::string FilmSubtitles::FindOutputCodec(SubtitleTrack const& track) const
-{
-    auto const known = m_sourceCodecs.find(track.id);
-    std::string const& source = known == m_sourceCodecs.end() ? track.codecId : known->second;
-    SubtitleTrack asInSource = track;
-    asInSource.codecId = source;
-    std::string const goesOutAs =
-        Hosts::FindOutputCodec(source, Hosts::IsTextTrack(m_media, asInSource), m_allowedCodecIds);
-    return goesOutAs.empty() ? source : goesOutAs;
 }
 
 bool FilmSubtitles::IsListed(ioPath const& path) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Desktop/FilmChoice.h"
+#include "Desktop/TrackCodecs.h"
 
 #include "Subtitles/Entities/SubtitleCollection.h"
 
@@ -33,9 +34,8 @@ namespace Korvex::Desktop
 
 /// The subtitles of one film as the module's interactor edits them, and what has to be kept beside it.
 ///
-/// The module tells by a track's codec whether the container can carry it. Text is written anew where that helps, so
-/// the interactor is given the codecs that tracks will go out as; the codecs of the sources are kept here. That all
-/// tracks were wanted shows in the mode, which the module leaves alone when it falls back to no subtitles. GUI thread.
+/// The interactor is given the codecs that tracks will go out as. That all tracks were wanted shows in the mode, which
+/// the module leaves alone when it falls back to no subtitles. GUI thread.
 class FilmSubtitles
 {
 public:
@@ -93,7 +93,6 @@ private:
     void LearnSources(Collection& collection);
     void Normalise(Collection& collection) const;
     void MarkDefaults(Collection& collection) const;
-    [[nodiscard]] std::string FindOutputCodec(Track const& track) const;
     [[nodiscard]] bool IsListed(ioPath const& path) const;
     void NoteTrack(Track const& track, FilmChoice& choice) const;
     void RestoreTracks(FilmChoice const& choice, Collection& collection);
@@ -106,8 +105,7 @@ private:
     std::shared_ptr<Converter::Subtitles::Entities::ISubtitleCollectionInteractor> m_interactor;
     Proc::MediaInfo m_media;
     std::string m_formatId;
-    std::vector<std::string> m_allowedCodecIds;
-    std::map<TrackID, std::string> m_sourceCodecs;
+    TrackCodecs m_codecs;
     std::map<TrackID, Track> m_ownTracks; ///< as the film has them
     std::map<TrackID, Track> m_foundBeside;
     std::map<TrackID, Track> m_leftOut;
