@@ -1,7 +1,5 @@
 #include "Desktop/ShellQuoting.h"
 
-#include <QtGlobal>
-
 #include <algorithm>
 
 namespace Korvex::Desktop
@@ -56,7 +54,7 @@ std::string QuoteForWindows(std::string const& word)
 
 Shell GetUsualShell()
 {
-#ifdef Q_OS_WIN
+#ifdef _WIN32
     return Shell::WindowsCommand;
 #else
     return Shell::Posix;
