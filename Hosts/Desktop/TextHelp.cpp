@@ -17,7 +17,7 @@ namespace
 /// What has to be read anew when it changes.
 auto DocumentKey(TextHelpRequest const& request)
 {
-    return std::make_tuple(request.path.utf8string(), request.stream, request.encoding);
+    return std::make_tuple(request.path.utf8string(), request.stream, request.encoding, request.hasEncoding);
 }
 
 /// Answers requests one after the other. The text that was read last is kept, because fonts are tried out on it. The
@@ -64,7 +64,7 @@ private:
     {
         m_sample.reset();
         m_document = {};
-        if (!request.stream)
+        if (!request.stream && request.hasEncoding)
         {
             Core::Result<Proc::TextSample> sample = Proc::ReadTextSample(request.path, request.encoding);
             if (!sample)

@@ -18,9 +18,10 @@ namespace Korvex::Desktop
 struct TextHelpRequest
 {
     ioPath path;                         ///< the added text file, or the film that holds the stream
-    std::optional<std::uint32_t> stream; ///< not set: `path` is a text file, which shows how it reads
+    std::optional<std::uint32_t> stream; ///< not set: `path` is a subtitle file
     std::string encoding;                ///< of a text file: the core's name; empty: detect
     std::string fontFamily;              ///< what it is drawn with; empty: it has a look of its own
+    bool hasEncoding = true;             ///< of a subtitle file: it is a text, which shows how it reads
 };
 
 [[nodiscard]] bool operator==(TextHelpRequest const& a, TextHelpRequest const& b);

@@ -33,6 +33,7 @@ std::optional<TextHelpRequest> MakeRequest(Film const& film, SubtitleTrack const
     {
         request.path = track.path;
         request.encoding = EncodingToCoreString(track.encoding);
+        request.hasEncoding = track.encodingEditable;
     }
     else
     {

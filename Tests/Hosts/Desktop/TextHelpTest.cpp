@@ -237,6 +237,15 @@ TEST_F(TextHelpPaneTest, FollowsTheDrawnTrackAndSetsItsEncoding)
     auto const* const sample = pane.findChild<QFrame*>("textSample");
     film.ChooseTrack(Testing::SubtitleTrackID(2));
     WaitUntil([&] { return !sample->isVisible(); });
+    // Nor has a container an encoding to choose, whatever it holds.
+    ioPath const other = MakeFilm("other.mks", {MakeSubtitle("subrip", "fre")});
+    film.AddSubtitleFiles({other});
+    film.ChooseTrack(Testing::SubtitleTrackID(other));
+    WaitUntil([&] { return film.GetDrawnTrack() && film.GetDrawnTrack()->path.utf8string() == other.utf8string(); });
+    QTest::qWait(300);
+    EXPECT_FALSE(sample->isVisible());
+    EXPECT_FALSE(pane.findChild<QLabel*>("failureLabel")->isVisible());
+
     film.ChooseNone();
     WaitUntil([&] { return !pane.isVisible(); });
     film.ChooseTrack(added);
