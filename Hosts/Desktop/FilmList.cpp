@@ -7,6 +7,7 @@
 #include "Core/FileSystem.h"
 
 #include <QGuiApplication>
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -22,14 +23,22 @@ using Delivery = FileThread::Delivery;
 namespace
 {
 
-/// "Film.srt", "Film.en.srt", "Film - forced.srt" are of "Film.mkv"; the longest name that fits has the best claim.
-std::size_t MatchName(ioPath const& film, ioPath const& subtitles)
+/// What may stand between a film's name and the rest of a subtitle file's: "Film.en.srt", "Film_forced.srt",
+/// "Film - German.srt", but neither "Film 2.srt" nor "Film.2.srt" nor "Film Returns.srt".
+bool IsAddition(QString const& rest)
+{
+    static QRegularExpression const ADDITION(QStringLiteral("^([._-]| -| [\\[(])\\W*+\\D"),
+                                             QRegularExpression::UseUnicodePropertiesOption);
+    return rest.isEmpty() || ADDITION.match(rest).hasMatch();
+}
+
+/// How much of the subtitle file's name is the film's: the longest has the best claim. 0: it is not the film's.
+int MatchName(ioPath const& film, ioPath const& subtitles)
 {
     QString const filmName = QString::fromStdString(film.Stem()).toCaseFolded();
     QString const name = QString::fromStdString(subtitles.Stem()).toCaseFolded();
-    bool const isWhole = name.size() == filmName.size() ||
-                         (name.size() > filmName.size() && !name.at(filmName.size()).isLetterOrNumber());
-    return isWhole && name.startsWith(filmName) ? static_cast<std::size_t>(filmName.size()) : 0;
+    bool const isOf = name.startsWith(filmName) && IsAddition(name.mid(filmName.size()));
+    return isOf ? filmName.size() : 0;
 }
 
 } // namespace
@@ -88,10 +97,10 @@ public:
     [[nodiscard]] Film* FindByName(ioPath const& subtitles) const
     {
         Film* best = nullptr;
-        std::size_t bestLength = 0;
+        int bestLength = 0;
         for (auto const& film : films)
         {
-            std::size_t const length = MatchName(film->GetPath(), subtitles);
+            int const length = MatchName(film->GetPath(), subtitles);
             if (length <= bestLength)
                 continue;
             best = film.get();

@@ -74,10 +74,13 @@ TEST_F(FilmListTest, DroppedSubtitlesGoToTheFilmOfTheirNameElseToTheCurrentOne)
     // The films are still being read when their files come.
     auto const films = m_list.Add({m_folder / "film.mkv", m_folder / "film two.mkv"});
     EXPECT_THAT(m_list.AddDropped({named, other}, films.front()), testing::IsEmpty());
-    EXPECT_THAT(m_list.AddDropped({other}, nullptr), ElementsAre(other));
+    ioPath const sequel = WriteText("elsewhere/film 2.srt", HELLO_SRT);
+    ioPath const part = WriteText("elsewhere/film - 2.srt", HELLO_SRT);
+    EXPECT_THAT(m_list.AddDropped({other, sequel, part}, nullptr), ElementsAre(other, sequel, part));
+    EXPECT_THAT(m_list.AddDropped({WriteText("elsewhere/FILM - my [own].ass", "")}, nullptr), testing::IsEmpty());
     WaitUntil([&] { return films.back()->GetState() == FilmState::Ready; });
-    ASSERT_TRUE(films.front()->GetDrawnTrack());
-    EXPECT_EQ(films.front()->GetDrawnTrack()->path, other);
+    EXPECT_EQ(films.front()->GetCollection().tracks.count(SubtitleTrackID(other)), 1U);
+    EXPECT_EQ(films.front()->GetCollection().tracks.size(), 2U);
     ASSERT_TRUE(films.back()->GetDrawnTrack());
     EXPECT_EQ(films.back()->GetDrawnTrack()->path, named);
 }
