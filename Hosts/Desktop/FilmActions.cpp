@@ -168,7 +168,14 @@ void FilmActions::FillPutBackMenu(QMenu& menu)
 {
     auto const refill = [this, &menu] { RefillPutBackMenu(menu); };
     connect(&m_parts.pane, &FilmListPane::CurrentFilmChanged, &menu, refill);
-    connect(&m_parts.films, &FilmList::FilmChanged, &menu, refill);
+    connect(&menu, &QMenu::aboutToShow, &menu, refill); // in the language of the moment
+    connect(&m_parts.films, &FilmList::FilmChanged, &menu,
+            [this, refill](FilmId id)
+            {
+                Film const* film = m_parts.pane.GetCurrentFilm();
+                if (film != nullptr && film->GetId() == id)
+                    refill();
+            });
     refill();
 }
 

@@ -295,6 +295,13 @@ QVariant FilmList::data(QModelIndex const& index, int role) const
             lines << problem.sentence;
         return lines.join(QLatin1Char('\n'));
     }
+    case Qt::AccessibleDescriptionRole:
+    {
+        QStringList sentences{film.DescribeChoice()};
+        for (FilmProblem const& problem : film.ListProblems())
+            sentences << problem.sentence;
+        return sentences.join(QLatin1Char('\n'));
+    }
     case FilmRole:
         return QVariant::fromValue(&film);
     default:

@@ -46,7 +46,8 @@ public:
     void SetOutput(OutputSettings const& settings);
 
     [[nodiscard]] int rowCount(QModelIndex const& parent = {}) const override;
-    /// Display: the file name; Decoration: the thumbnail; ToolTip: path and problems; FilmRole.
+    /// Display: the file name; Decoration: the thumbnail; ToolTip: path and problems;
+    /// AccessibleDescription: choice and problems; FilmRole.
     [[nodiscard]] QVariant data(QModelIndex const& index, int role) const override;
     bool removeRows(int row, int count, QModelIndex const& parent = {}) override;
 

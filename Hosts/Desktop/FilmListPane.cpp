@@ -64,9 +64,14 @@ FilmListPane::FilmListPane(FilmList& films, ConversionQueue const& queue, QActio
     connect(&films, &QAbstractItemModel::rowsRemoved, this, &FilmListPane::NoteCurrentFilm, Qt::QueuedConnection);
     for (auto const signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
         connect(&films, signal, this, &FilmListPane::UpdateTitle);
-    for (auto const signal : {&ConversionQueue::TotalChanged, &ConversionQueue::Finished})
-        connect(&queue, signal, m_view, &FilmListView::UpdateRows);
-    connect(&queue, &ConversionQueue::StatusChanged, m_view, &FilmListView::UpdateRows);
+    connect(&queue, &ConversionQueue::StatusChanged, this,
+            [this](FilmId id)
+            {
+                if (QModelIndex const index = m_films.index(m_films.FindRow(id)); index.isValid())
+                    m_view->UpdateRows(index, index);
+            });
+    // Pausing concerns all rows.
+    connect(&queue, &ConversionQueue::TotalChanged, m_view->viewport(), qOverload<>(&QWidget::update));
     Retranslate();
 }
 

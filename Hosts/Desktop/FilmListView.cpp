@@ -45,11 +45,18 @@ void FilmListView::setModel(QAbstractItemModel* model)
     connect(model, &QAbstractItemModel::dataChanged, this, &FilmListView::UpdateRows);
 }
 
-void FilmListView::UpdateRows()
+void FilmListView::UpdateRows(QModelIndex const& first, QModelIndex const& last)
 {
-    // The view asks for heights only when it is told to.
-    scheduleDelayedItemsLayout();
-    viewport()->update();
+    // The view asks for heights only when it is told to, and then for all of them.
+    for (int row = first.row(); row <= last.row(); ++row)
+    {
+        QModelIndex const index = model()->index(row, 0);
+        QStyleOptionViewItem const option = MakeOption(index);
+        if (option.rect.height() == m_delegate->sizeHint(option, index).height())
+            viewport()->update(option.rect);
+        else
+            scheduleDelayedItemsLayout();
+    }
 }
 
 QStyleOptionViewItem FilmListView::MakeOption(QModelIndex const& index) const

@@ -17,8 +17,8 @@ public:
     explicit FilmListView(ConversionQueue const& queue, QWidget* parent = nullptr);
     ~FilmListView() override;
 
-    /// Rows have something else to say, which may need another height.
-    void UpdateRows();
+    /// The rows have something else to say, which may need another height.
+    void UpdateRows(QModelIndex const& first, QModelIndex const& last);
     /// Brings the current row into view and presses its button.
     void PressSubtitlesButton();
 

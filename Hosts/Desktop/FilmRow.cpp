@@ -38,7 +38,7 @@ QString DescribeFacts(Film const& film)
     Proc::MediaInfo const& media = film.GetMedia();
     QString facts = FormatDuration(media.duration);
     if (Proc::StreamInfo const* video = media.FindMainVideo())
-        facts += QStringLiteral("  \u00B7  %1 \u00D7 %2").arg(video->width).arg(video->height);
+        facts += QStringLiteral(" \u00B7 %1\u2009\u00D7\u2009%2").arg(video->width).arg(video->height);
     return facts;
 }
 

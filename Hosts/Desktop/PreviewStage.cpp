@@ -80,7 +80,7 @@ void PreviewStage::Build()
     m_times->setObjectName(QStringLiteral("previewTimes"));
     m_hint = new QLabel(this);
     m_hint->setObjectName(QStringLiteral("previewHint"));
-    m_hint->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_hint->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_hint->setTextFormat(Qt::PlainText);
     m_hint->setWordWrap(true);
     // Room for two lines, so that the picture stays when a longer hint comes.
@@ -93,8 +93,7 @@ void PreviewStage::Build()
     row->addWidget(m_next);
     row->addSpacing(6);
     row->addWidget(m_times);
-    row->addSpacing(12);
-    row->addWidget(m_hint, 1);
+    row->addStretch(1);
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(6);
@@ -102,6 +101,7 @@ void PreviewStage::Build()
     column->addWidget(m_slider);
     column->addWidget(m_strip);
     column->addLayout(row);
+    column->addWidget(m_hint); // a row of its own: beside the times a narrow window would make it a tower of words
 }
 
 void PreviewStage::ConnectCueButton(QToolButton& button, QShortcut& keys, CueDirection direction)

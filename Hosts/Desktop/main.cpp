@@ -3,8 +3,12 @@
 
 #include "Common/Logging.h"
 
+#include "Gui/Icons.h"
+#include "Gui/LookAndFeelManager.h"
+
 #include <QApplication>
 #include <QFileInfo>
+#include <QIcon>
 
 #include <cstring>
 #include <exception>
@@ -62,6 +66,7 @@ int RunWindow(std::vector<ioPath> const& files)
 {
     Desktop::RunningProgram program;
     Desktop::MainWindow& window = program.GetWindow();
+    QApplication::setWindowIcon(GUI::MakeIcon(GUI::IconKind::Subtitle, GUI::ColorRole::Accent));
     window.show();
     if (!files.empty())
         window.AddFiles(files);
