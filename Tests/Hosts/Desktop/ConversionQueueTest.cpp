@@ -195,23 +195,21 @@ TEST_F(ConversionQueueTest, AFilmIsCancelledInWhateverStateAndLeavesNothing)
     OutputSettings mp4;
     mp4.formatId = "mp4";
     mp4.quality = Quality::High;
-    auto const add = [&](FilmId id, std::string const& name)
-    { m_queue->Add(MakeJob(id, MakeFilm(name, 20, {"subrip"}), mp4, SubtitleCollectionMode::AllSoftSubtitles)); };
-    add(1, "preparing.mkv");
-    add(2, "waiting.mkv");
-    add(3, "running.mkv");
-    add(4, "last.mkv");
+    ioPath const film = MakeFilm("long.mkv", 20, {"subrip"});
+    auto const add = [&](FilmId id) { m_queue->Add(MakeJob(id, film, mp4, SubtitleCollectionMode::AllSoftSubtitles)); };
+    for (FilmId id = 1; id <= 4; ++id)
+        add(id);
     m_queue->Add(MakeJob(5, MakeFilm("short.mkv", 1, {}), {}, SubtitleCollectionMode::ModeNone));
-    m_onStatus = [&](FilmId film, ConversionStatus const& status)
+    m_onStatus = [&](FilmId id, ConversionStatus const& status)
     {
-        if (film == 1 && status.state == ConversionState::Preparing)
+        if (id == 1 && status.state == ConversionState::Preparing)
         {
             m_queue->Cancel(2);
             m_queue->Cancel(1);
         }
-        if (film == 3 && status.fraction.value_or(0.0) > 0.0)
+        if (id == 3 && status.fraction.value_or(0.0) > 0.0)
             m_queue->Cancel(3);
-        if (film == 4 && status.fraction.value_or(0.0) > 0.0)
+        if (id == 4 && status.fraction.value_or(0.0) > 0.0)
             m_queue->Cancel(4);
     };
     ASSERT_TRUE(RunToEnd());
@@ -226,8 +224,8 @@ TEST_F(ConversionQueueTest, AFilmIsCancelledInWhateverStateAndLeavesNothing)
 
     // Once more, and everything at once.
     m_onStatus = {};
-    add(2, "waiting.mkv");
-    add(3, "running.mkv");
+    add(2);
+    add(3);
     ASSERT_TRUE(QTest::qWaitFor([this] { return m_queue->FindStatus(2)->fraction.has_value(); }, LONGEST_MS));
     m_queue->CancelAll();
     EXPECT_EQ(StateOf(3), ConversionState::Cancelled);
