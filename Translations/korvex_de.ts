@@ -313,6 +313,10 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <source>Remove</source>
         <translation type="unfinished">Entfernen</translation>
     </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished">Hinzufügen</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>

@@ -313,6 +313,10 @@ Se basa en Qt, FFmpeg y libass.</translation>
         <source>Remove</source>
         <translation type="unfinished">Quitar</translation>
     </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished">Añadir</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>

@@ -313,6 +313,10 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <source>Remove</source>
         <translation type="unfinished">Retirer</translation>
     </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished">Ajouter</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>

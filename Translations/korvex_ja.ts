@@ -309,6 +309,10 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <source>Remove</source>
         <translation type="unfinished">削除</translation>
     </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished">追加</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>

@@ -317,6 +317,10 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <source>Remove</source>
         <translation type="unfinished">Usuń</translation>
     </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished">Dodaj</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>

@@ -317,6 +317,10 @@ It is built on Qt, FFmpeg and libass.</source>
         <source>Remove</source>
         <translation type="unfinished">Убрать</translation>
     </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished">Добавить</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>

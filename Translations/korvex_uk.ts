@@ -317,6 +317,10 @@ It is built on Qt, FFmpeg and libass.</source>
         <source>Remove</source>
         <translation type="unfinished">Прибрати</translation>
     </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished">Додати</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>

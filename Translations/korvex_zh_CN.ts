@@ -309,6 +309,10 @@ It is built on Qt, FFmpeg and libass.</source>
         <source>Remove</source>
         <translation type="unfinished">移除</translation>
     </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished">添加</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>

@@ -99,6 +99,7 @@ void Actions::Retranslate()
 {
     for (Entry const& entry : ENTRIES)
         Get(entry.id)->setText(QCoreApplication::translate(CONTEXT, entry.text));
+    Get(ActionId::AddFilms)->setIconText(tr("Add"));
     Get(ActionId::RemoveFilms)->setIconText(tr("Remove"));
 }
 

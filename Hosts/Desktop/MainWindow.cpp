@@ -87,6 +87,7 @@ void MainWindow::MakeParts()
     m_trackActions = new TrackActions(*m_panels, *m_notices, *this);
     m_textHelp = new TextHelpPane(this);
     m_preview = new PreviewPane(this);
+    m_preview->setObjectName(QStringLiteral("previewPane"));
     m_outputBar = new OutputBar(this);
     new OutputControl({films, *m_filmPane, queue, *m_control, *m_actions, *m_outputBar}, this);
     new ViewSettings(store, look, languages, *m_actions, *m_menu->GetLanguageMenu(), this);

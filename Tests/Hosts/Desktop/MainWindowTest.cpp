@@ -2,6 +2,8 @@
 #include "Subtitles/Fakes/TrackListClicks.h"
 #include "Support/WidgetSupport.h"
 
+#include "Desktop/PreviewPane.h"
+
 #include "Proc/MediaInfo.h"
 #include "Proc/Settings.h"
 
@@ -218,6 +220,31 @@ TEST_F(MainWindowTest, RestartBringsBackListChoiceThemeAndLanguage)
     WaitUntil([&again] { return again.GetMixerSettings() != nullptr; });
     EXPECT_EQ(again.GetMixerSettings()->GetSubtitleStreamIndex(), 3U);
     Trigger("themeLightAction");
+}
+
+TEST_F(MainWindowTest, NothingStaysEnglishInGerman)
+{
+    Film& film = AddFilm(MakeFilm("Voyage.mkv", {MakeSubtitle("hdmv_pgs_subtitle", "en")}));
+    WriteText("Voyage.ru.srt", RUSSIAN_SRT);
+    ChooseFormat(QStringLiteral("MP4"));
+    Show(film);
+    auto const& preview = Get<Desktop::PreviewPane>("previewPane");
+    WaitUntil([&preview] { return !preview.GetPicture().isNull(); });
+    std::vector<QString> const english = ListCaptions();
+    EXPECT_GT(english.size(), 60U); // menus, panel, list, notice, output
+
+    Trigger("language_de");
+    auto const& sentence = Get<QLabel>("noticeSentence");
+    WaitUntil([&sentence, before = sentence.text()] { return sentence.text() != before; });
+    // Names, and words that both languages share.
+    QStringList const same{QStringLiteral("Film"), QStringLiteral("Format"), QStringLiteral("Verdana")};
+    for (QString const& caption : ListCaptions())
+    {
+        bool const isKnown = std::find(english.begin(), english.end(), caption) != english.end();
+        EXPECT_TRUE(!isKnown || same.contains(caption)) << qPrintable(caption);
+    }
+    QTest::qWait(100); // layouts that follow the texts
+    ForEachTheme([this](QString const& theme) { SaveScreenshot(GetWindow(), QStringLiteral("window-de-") + theme); });
 }
 
 } // namespace Korvex::Testing

@@ -119,13 +119,15 @@ std::vector<QString> WindowFixture::ListCaptions()
         texts << menu->title();
     for (QWidget const* widget : m_window->findChildren<QWidget*>())
     {
+        if (!widget->isVisible())
+            continue;
         texts << widget->toolTip() << widget->accessibleName() << widget->accessibleDescription();
         if (auto const* label = qobject_cast<QLabel const*>(widget))
             texts << label->text();
         if (auto const* button = qobject_cast<QAbstractButton const*>(widget))
             texts << button->text();
     }
-    QRegularExpression const word(QStringLiteral("\\p{L}{2,}"));
+    QRegularExpression const word(QStringLiteral("(?<!#)\\b\\p{L}{2,}"));
     std::set<QString> captions;
     for (QString text : texts)
     {
