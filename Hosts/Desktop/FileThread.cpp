@@ -44,6 +44,11 @@ void FileThread::Add(Urgency urgency, Task task)
 
 bool FileThread::event(QEvent* event)
 {
+    {
+        // Events are posted under this mutex. Qt's own queue orders the hand-over as well, but unseen by tools that
+        // know only what was compiled with them.
+        std::lock_guard const lock(m_mutex);
+    }
     if (event->type() != WakeType())
         return QObject::event(event);
     Deliver();
