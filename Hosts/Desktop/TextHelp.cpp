@@ -2,11 +2,15 @@
 
 #include "Proc/SubtitleLoader.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+
 #include <atomic>
 #include <condition_variable>
 #include <mutex>
 #include <thread>
 #include <tuple>
+#include <utility>
 
 namespace Korvex::Desktop
 {
@@ -117,8 +121,16 @@ public:
         // A text that is being read is finished when only the font has changed.
         m_cancelled = !request || !m_reading || DocumentKey(*request) != DocumentKey(*m_reading);
         m_next = std::move(request);
+        m_answer.reset();
         ++m_number;
         m_wake.notify_one();
+    }
+
+    /// To the newest request; empty when it came too late.
+    std::optional<TextHelp> TakeAnswer()
+    {
+        std::lock_guard const lock(m_mutex);
+        return std::exchange(m_answer, std::nullopt);
     }
 
 private:
@@ -145,20 +157,13 @@ private:
 
     void Report(TextHelp help, std::uint64_t number)
     {
-        QMetaObject::invokeMethod(
-            &m_owner,
-            [this, number, answer = std::move(help)]
-            {
-                if (IsNewest(number))
-                    Q_EMIT m_owner.Finished(answer);
-            },
-            Qt::QueuedConnection);
-    }
-
-    bool IsNewest(std::uint64_t number)
-    {
-        std::lock_guard const lock(m_mutex);
-        return number == m_number;
+        {
+            std::lock_guard const lock(m_mutex);
+            if (number != m_number)
+                return;
+            m_answer = std::move(help);
+        }
+        QCoreApplication::postEvent(&m_owner, new QEvent(QEvent::User));
     }
 
     TextHelpReader& m_owner;
@@ -166,7 +171,8 @@ private:
     std::condition_variable m_wake;
     std::optional<TextHelpRequest> m_next;
     std::optional<TextHelpRequest> m_reading;
-    std::uint64_t m_number = 0; ///< of the newest request
+    std::optional<TextHelp> m_answer; ///< to the newest request, until it is told
+    std::uint64_t m_number = 0;       ///< of the newest request
     bool m_isStopping = false;
     std::atomic<bool> m_cancelled{false};
     std::thread m_thread; ///< last: it uses all the others
@@ -184,6 +190,15 @@ void TextHelpReader::Request(TextHelpRequest request)
 void TextHelpReader::Drop()
 {
     m_impl->Ask(std::nullopt);
+}
+
+bool TextHelpReader::event(QEvent* event)
+{
+    if (event->type() != QEvent::User)
+        return QObject::event(event);
+    if (std::optional<TextHelp> const answer = m_impl->TakeAnswer())
+        Q_EMIT Finished(*answer);
+    return true;
 }
 
 } // namespace Korvex::Desktop

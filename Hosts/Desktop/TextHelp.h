@@ -50,6 +50,8 @@ public:
     /// Nothing is asked for any more.
     void Drop();
 
+    bool event(QEvent* event) override;
+
 Q_SIGNALS:
     /// The newest request is answered.
     void Finished(Korvex::Desktop::TextHelp const& help);
