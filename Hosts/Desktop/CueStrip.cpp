@@ -7,6 +7,7 @@
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QToolTip>
 
 #include <algorithm>
@@ -125,7 +126,8 @@ std::vector<double> CueStrip::MeasureColumns(int count) const
     double const scale = count / static_cast<double>(m_duration.count());
     for (Proc::CueSpan const& cue : *m_cues)
     {
-        double const begin = std::max(0.0, static_cast<double>(cue.start.count()) * scale);
+        double const begin =
+            std::clamp(static_cast<double>(cue.start.count()) * scale, 0.0, static_cast<double>(count));
         double const end = std::min(static_cast<double>(count), static_cast<double>(cue.end.count()) * scale);
         for (auto column = static_cast<int>(begin); column < end; ++column)
             covered[static_cast<std::size_t>(column)] +=
@@ -142,9 +144,10 @@ QPixmap CueStrip::MakePixmap() const
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(GUI::GetColor(GUI::ColorRole::Border));
-    painter.drawRoundedRect(QRectF(m_inset, 2, width() - 2 * m_inset, height() - 4), RADIUS, RADIUS);
+    QPainterPath field;
+    field.addRoundedRect(QRectF(m_inset, 2, width() - 2 * m_inset, height() - 4), RADIUS, RADIUS);
+    painter.fillPath(field, GUI::GetColor(GUI::ColorRole::Border));
+    painter.setClipPath(field);
     painter.setRenderHint(QPainter::Antialiasing, false);
     int const count = std::max(1, static_cast<int>((width() - 2 * m_inset) * ratio));
     std::vector<double> const covered = MeasureColumns(count);

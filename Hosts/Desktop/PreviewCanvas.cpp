@@ -3,7 +3,6 @@
 #include "Gui/LookAndFeelManager.h"
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QResizeEvent>
 
 namespace Korvex::Desktop

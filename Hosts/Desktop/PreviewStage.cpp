@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <tuple>
 #include <utility>
 
 namespace Korvex::Desktop
@@ -194,6 +195,11 @@ void PreviewStage::Request()
         m_canvas->ShowSentence(m_subject.sentence);
         return;
     }
+    // Films change in many ways that do not show here: a thumbnail, a note.
+    auto const wanted = std::tuple(m_subject.film.utf8string(), m_subject.subtitles, m_time, m_canvas->GetRoom());
+    if (m_newest != 0 && wanted == m_wanted)
+        return;
+    m_wanted = wanted;
     PreviewRequest request;
     request.film = m_subject.film;
     request.subtitles = m_subject.subtitles;

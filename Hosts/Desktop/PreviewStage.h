@@ -4,6 +4,7 @@
 #include "Proc/SubtitleContent.h"
 
 #include <QImage>
+#include <QSize>
 #include <QString>
 #include <QWidget>
 
@@ -12,6 +13,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <tuple>
 #include <vector>
 
 class QLabel;
@@ -80,6 +82,9 @@ private:
     std::chrono::microseconds m_time{0};
     std::map<std::string, std::chrono::microseconds> m_timesLeft; ///< of films shown before, by path
     std::shared_ptr<std::vector<Proc::CueSpan> const> m_cues;
+    /// What the newest request asks for: film, subtitles, time and room.
+    std::tuple<std::string, std::shared_ptr<Proc::SettingsSubtitleMixer const>, std::chrono::microseconds, QSize>
+        m_wanted;
     std::uint64_t m_newest = 0; ///< number of the newest request; 0: nothing is wanted
     bool m_isReadingTrack = false;
 

@@ -37,8 +37,8 @@ protected:
     {
         MadeMedia film;
         film.video.emplace();
-        film.video->width = 640;
-        film.video->height = 360;
+        film.video->width = 480;
+        film.video->height = 270;
         film.video->frameCount = frames;
         film.video->keyFrameInterval = frames;
         film.video->sample = [frames](int frame, int component, int x, int y)
