@@ -3,10 +3,10 @@
 #include "Desktop/ConversionQueue.h"
 #include "Desktop/FilmList.h"
 #include "Desktop/FilmListView.h"
+#include "Desktop/FlowLayout.h"
 
 #include <QAction>
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QToolButton>
@@ -27,7 +27,6 @@ QToolButton* MakeButton(QAction* action, char const* name, QWidget* parent)
     button->setDefaultAction(action);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setFocusPolicy(Qt::StrongFocus);
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     return button;
 }
 
@@ -47,7 +46,7 @@ FilmListPane::FilmListPane(FilmList& films, ConversionQueue const& queue, QActio
     remove->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     addAction(remove);
 
-    auto* buttons = new QHBoxLayout;
+    auto* buttons = new FlowLayout;
     buttons->addWidget(MakeButton(add, "addFilmsButton", this));
     buttons->addWidget(MakeButton(remove, "removeFilmButton", this));
     auto* layout = new QVBoxLayout(this);

@@ -26,7 +26,7 @@ constexpr int LINE_GAP = 3;
 constexpr QSize THUMBNAIL_SIZE(96, 54);
 constexpr int BAR_HEIGHT = 4;
 constexpr int CHOICE_PADDING = 3;
-constexpr int MAX_SENTENCE_LINES = 4;
+constexpr int MAX_SENTENCE_LINES = 6;
 
 QString Translate(char const* text)
 {

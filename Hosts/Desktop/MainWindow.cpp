@@ -100,7 +100,9 @@ void MainWindow::LayOut()
     constexpr QSize FIRST_SIZE(1280, 800);
     constexpr int MARGIN = 8;
 
+    constexpr int MINIMUM_CENTER_WIDTH = 320;
     auto* center = new QWidget(this);
+    center->setMinimumWidth(MINIMUM_CENTER_WIDTH);
     auto* centerLayout = new QVBoxLayout(center);
     centerLayout->setContentsMargins(0, 0, 0, 0);
     centerLayout->addWidget(m_noticeBar);

@@ -81,7 +81,6 @@ NoticeBar::NoticeBar(QWidget* parent)
     auto* head = new QHBoxLayout;
     head->addWidget(m_mark, 0, Qt::AlignTop);
     head->addWidget(m_sentence, 1);
-    head->addWidget(m_pager, 0, Qt::AlignTop);
     head->addWidget(m_close, 0, Qt::AlignTop);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(head);
@@ -96,6 +95,7 @@ NoticeBar::NoticeBar(QWidget* parent)
                 if (auto const close = GetCurrent().close)
                     close();
             });
+    m_buttons->addWidget(m_pager);
     Retranslate();
     hide();
 }
@@ -156,8 +156,11 @@ void NoticeBar::FillButtons()
     while (QLayoutItem* item = m_buttons->takeAt(0))
     {
         // Later: it may be the one whose click brought this about.
-        item->widget()->hide();
-        item->widget()->deleteLater();
+        if (QWidget* widget = item->widget(); widget != m_pager)
+        {
+            widget->hide();
+            widget->deleteLater();
+        }
         delete item;
     }
     for (std::size_t index = 0; index < notice.buttons.size(); ++index)
@@ -167,6 +170,7 @@ void NoticeBar::FillButtons()
         connect(button, &QPushButton::clicked, this, [this, index] { Press(index); });
         m_buttons->addWidget(button);
     }
+    m_buttons->addWidget(m_pager);
 }
 
 void NoticeBar::Press(std::size_t button)

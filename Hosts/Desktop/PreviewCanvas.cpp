@@ -18,7 +18,7 @@ constexpr int TEXT_MARGIN = 24;
 
 PreviewCanvas::PreviewCanvas(QWidget* parent) : QWidget(parent)
 {
-    setMinimumSize(240, 135);
+    setMinimumSize(240, 72);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
