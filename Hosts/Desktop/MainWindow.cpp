@@ -66,6 +66,7 @@ MainWindow::MainWindow(Program const& program)
     Retranslate();
     RestorePlaces();
     ShowFilm(nullptr);
+    m_filmPane->MoveSelection(0); // to the first film of last time
 }
 
 MainWindow::~MainWindow() = default;
@@ -85,10 +86,11 @@ void MainWindow::MakeParts()
     m_filmActions = new FilmActions({films, *m_filmPane, queue, *m_control, *m_notices, *m_actions, *this});
     m_filmActions->FillPutBackMenu(*m_menu->GetPutBackMenu());
     m_trackActions = new TrackActions(*m_panels, *m_notices, *this);
-    m_textHelp = new TextHelpPane(this);
+    // Without a parent until they are laid out, so that the tabulator comes to them in that order.
+    m_textHelp = new TextHelpPane;
     m_preview = new PreviewPane(this);
     m_preview->setObjectName(QStringLiteral("previewPane"));
-    m_outputBar = new OutputBar(this);
+    m_outputBar = new OutputBar;
     new OutputControl({films, *m_filmPane, queue, *m_control, *m_actions, *m_outputBar}, this);
     new ViewSettings(store, look, languages, *m_actions, *m_menu->GetLanguageMenu(), this);
     m_popup = new SubtitlesPopup(m_panels->GetItemPanel(), *this);
@@ -223,6 +225,9 @@ void MainWindow::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange)
         Retranslate();
+    // Films may have gone or come back while the user was elsewhere.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        m_program.films.CheckFiles();
     QMainWindow::changeEvent(event);
 }
 

@@ -15,8 +15,10 @@
 #include <QLabel>
 #include <QListView>
 #include <QLocale>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QtTest/QTest>
 
 #include <algorithm>
@@ -63,6 +65,21 @@ protected:
         ASSERT_NE(dialog, nullptr);
         dialog->setCurrentColor(color);
         QTest::keyClick(dialog, Qt::Key_Return);
+    }
+
+    /// Presses the button of that role once a question stands.
+    void AnswerNextQuestion(QMessageBox::ButtonRole role)
+    {
+        QTimer::singleShot(0, &GetWindow(),
+                           [role]
+                           {
+                               auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                               ASSERT_NE(box, nullptr);
+                               for (QAbstractButton* button : box->buttons())
+                                   if (box->buttonRole(button) == role)
+                                       return QTest::mouseClick(button, Qt::LeftButton);
+                               FAIL() << "the question has no such answer";
+                           });
     }
 
     /// With the keyboard, as a person does who knows what it is called.
@@ -219,7 +236,22 @@ TEST_F(MainWindowTest, RestartBringsBackListChoiceThemeAndLanguage)
     Film& again = WaitForFilm(path);
     WaitUntil([&again] { return again.GetMixerSettings() != nullptr; });
     EXPECT_EQ(again.GetMixerSettings()->GetSubtitleStreamIndex(), 3U);
+    WaitUntil([this] { return Get<QWidget>("selectSubtitlesTrackButton").isEnabled(); }); // it is shown, too
     Trigger("themeLightAction");
+}
+
+TEST_F(MainWindowTest, ClosingAsksWhileFilmsAreConverted)
+{
+    AddFilm(MakeFilm("Voyage.mkv"));
+    Trigger("convertAllAction");
+    Trigger("pauseAction");
+    ASSERT_TRUE(GetQueue().IsActive());
+
+    AnswerNextQuestion(QMessageBox::RejectRole);
+    EXPECT_FALSE(GetWindow().close());
+    EXPECT_TRUE(GetWindow().isVisible());
+    AnswerNextQuestion(QMessageBox::DestructiveRole);
+    EXPECT_TRUE(GetWindow().close());
 }
 
 TEST_F(MainWindowTest, NothingStaysEnglishInGerman)
