@@ -28,6 +28,7 @@ SubtitlesSide::SubtitlesSide(QWidget& editingPanel, QWidget& textHelp, QWidget* 
 
     m_scroll->setObjectName(QStringLiteral("subtitlesScroll"));
     m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scroll->setWidgetResizable(true);
     m_scroll->setWidget(column);
