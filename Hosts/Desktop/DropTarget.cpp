@@ -51,10 +51,10 @@ bool DropTarget::eventFilter(QObject* watched, QEvent* event)
         return false;
     }
     auto const* widget = qobject_cast<QWidget*>(watched);
-    return widget != nullptr && widget->window() == m_window && HandleDrag(event);
+    return widget != nullptr && widget->window() == m_window && HandleDrag(*widget, event);
 }
 
-bool DropTarget::HandleDrag(QEvent* event)
+bool DropTarget::HandleDrag(QWidget const& widget, QEvent* event)
 {
     if (event->type() == QEvent::DragLeave)
     {
@@ -69,17 +69,17 @@ bool DropTarget::HandleDrag(QEvent* event)
     drop.accept();
     m_leaving.stop();
     if (event->type() == QEvent::Drop)
-        Drop(drop);
+        Drop(widget, drop);
     else
         m_highlight->Show();
     return true;
 }
 
-void DropTarget::Drop(QDropEvent& event)
+void DropTarget::Drop(QWidget const& widget, QDropEvent& event)
 {
     m_highlight->hide();
     m_window->activateWindow();
-    Q_EMIT Dropped(ListFiles(event.mimeData()));
+    Q_EMIT Dropped(ListFiles(event.mimeData()), widget.mapToGlobal(event.pos()));
 }
 
 } // namespace Korvex::Desktop

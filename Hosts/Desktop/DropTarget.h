@@ -29,11 +29,12 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    void Dropped(std::vector<Korvex::ioPath> const& paths);
+    /// The place is on the screen.
+    void Dropped(std::vector<Korvex::ioPath> const& paths, QPoint const& place);
 
 private:
-    bool HandleDrag(QEvent* event);
-    void Drop(QDropEvent& event);
+    bool HandleDrag(QWidget const& widget, QEvent* event);
+    void Drop(QWidget const& widget, QDropEvent& event);
 
     QWidget* m_window;
     DropHighlight* m_highlight;

@@ -57,14 +57,17 @@ FileActions::FileActions(FilmList& films, FilmListPane& pane, Notices& notices, 
 
 FileActions::~FileActions() = default;
 
-void FileActions::Take(std::vector<ioPath> const& paths)
+void FileActions::Take(std::vector<ioPath> const& paths, Film* target)
 {
     int const before = m_films.rowCount();
-    std::vector<ioPath> const homeless = m_films.AddDropped(paths, m_pane.GetCurrentFilm());
+    std::vector<ioPath> const homeless =
+        m_films.AddDropped(paths, target != nullptr ? target : m_pane.GetCurrentFilm());
     if (m_films.rowCount() > before)
         m_pane.SelectFilm(m_films.GetFilms().at(static_cast<std::size_t>(before))->GetId());
     else
         NoteEmptyFolders(paths);
+    if (m_films.rowCount() == before && target != nullptr)
+        m_pane.SelectFilm(target->GetId());
     for (ioPath const& file : homeless)
         m_notices.AddNews(
             Mark::Warning,

@@ -29,8 +29,8 @@ public:
     ~FileActions() override;
 
     /// Whatever was dropped or named: the first new film is shown, subtitle files without a film of their name go to
-    /// the film that is shown.
-    void Take(std::vector<ioPath> const& paths);
+    /// `target`; null: to the film that is shown.
+    void Take(std::vector<ioPath> const& paths, Film* target = nullptr);
     void ChooseFilms();
     void ChooseSubtitles();
     /// Lets the user show where a film is now.

@@ -91,6 +91,14 @@ std::vector<Film*> FilmListPane::GetSelectedFilms() const
     return films;
 }
 
+Film* FilmListPane::FindFilmAt(QPoint const& globalPosition) const
+{
+    QWidget const& viewport = *m_view->viewport();
+    QPoint const place = viewport.mapFromGlobal(globalPosition);
+    bool const isInside = viewport.isVisible() && viewport.rect().contains(place);
+    return isInside ? m_view->indexAt(place).data(FilmList::FilmRole).value<Film*>() : nullptr;
+}
+
 void FilmListPane::SelectFilm(FilmId id)
 {
     for (int row = 0; row < m_films.rowCount(); ++row)

@@ -30,6 +30,8 @@ public:
     [[nodiscard]] Film* GetCurrentFilm() const;
     /// In the order of the list.
     [[nodiscard]] std::vector<Film*> GetSelectedFilms() const;
+    /// The film whose row is at this place of the screen; null where there is none.
+    [[nodiscard]] Film* FindFilmAt(QPoint const& globalPosition) const;
     void SelectFilm(FilmId id);
     /// By that many rows; stops at the ends.
     void MoveSelection(int rows);

@@ -156,7 +156,9 @@ void MainWindow::ConnectFilms()
                 if (Film* film = m_program.films.Find(id))
                     m_control->Convert({film});
             });
-    connect(new DropTarget(this), &DropTarget::Dropped, this, &MainWindow::AddFiles);
+    connect(new DropTarget(this), &DropTarget::Dropped, this,
+            [this](std::vector<ioPath> const& paths, QPoint const& place)
+            { m_fileActions->Take(paths, m_filmPane->FindFilmAt(place)); });
 }
 
 void MainWindow::ConnectHelp()

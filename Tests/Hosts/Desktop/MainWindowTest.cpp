@@ -13,6 +13,7 @@
 #include <QColorDialog>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QLocale>
 #include <QMessageBox>
@@ -117,11 +118,17 @@ TEST_F(MainWindowTest, FromDropToConvertedFilm)
     ioPath const russian = WriteText("elsewhere.srt", RUSSIAN_SRT);
     EXPECT_EQ(Get<QStackedWidget>("pages").currentIndex(), 0);
 
-    Drop({path});
+    Drop({path}, GetWindow());
     Film& film = WaitForFilm(path);
     EXPECT_EQ(Get<QStackedWidget>("pages").currentIndex(), 1);
-    Drop({russian}); // goes to the film that is shown
+    // A field would take the name as text; the film that is shown gets the file.
+    Drop({russian}, *Get<QAbstractSpinBox>("syncSpinBox").findChild<QLineEdit*>());
     WaitUntil([&film] { return film.GetCollection().tracks.size() == 2; });
+    Film& other = AddFilm(MakeFilm("Other.mkv"));
+    Show(film);
+    DropOntoFilm({russian}, other);
+    WaitUntil([&other] { return other.GetCollection().tracks.size() == 1; });
+    Show(film);
 
     ChooseInPanel(3); // after "no subtitles", "all tracks" and the film's own
     WaitUntil([&film] { return film.GetMixerSettings() != nullptr; });

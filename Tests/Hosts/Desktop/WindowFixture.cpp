@@ -70,21 +70,31 @@ void WindowFixture::Trigger(char const* action)
     Get<QAction>(action).trigger();
 }
 
-void WindowFixture::Drop(std::vector<ioPath> const& paths)
+void WindowFixture::Drop(std::vector<ioPath> const& paths, QWidget& onto)
+{
+    DropAt(paths, onto, onto.rect().center());
+}
+
+void WindowFixture::DropOntoFilm(std::vector<ioPath> const& paths, Film const& film)
+{
+    auto& list = Get<QListView>("filmListView");
+    DropAt(paths, *list.viewport(), list.visualRect(m_list.index(m_list.FindRow(film.GetId()))).center());
+}
+
+void WindowFixture::DropAt(std::vector<ioPath> const& paths, QWidget& onto, QPoint const& place)
 {
     QList<QUrl> urls;
     for (ioPath const& path : paths)
         urls << QUrl::fromLocalFile(QString::fromStdString(path.utf8string()));
     QMimeData data;
     data.setUrls(urls);
-    QPoint const place = m_window->rect().center();
     QDragEnterEvent enter(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(m_window.get(), &enter);
+    QApplication::sendEvent(&onto, &enter);
     EXPECT_TRUE(enter.isAccepted());
     auto& light = Get<QWidget>("dropHighlight");
     EXPECT_TRUE(light.isVisible());
     QDropEvent drop(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(m_window.get(), &drop);
+    QApplication::sendEvent(&onto, &drop);
     EXPECT_EQ(drop.dropAction(), Qt::CopyAction); // a move would take the files away
     EXPECT_FALSE(light.isVisible());
 }

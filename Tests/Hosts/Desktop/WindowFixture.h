@@ -45,8 +45,10 @@ protected:
 
     void Click(char const* button);
     void Trigger(char const* action);
-    /// As a file manager drops them, in the middle of the window.
-    void Drop(std::vector<ioPath> const& paths);
+    /// As a file manager drops them, in the middle of the widget: the window or a part of it.
+    void Drop(std::vector<ioPath> const& paths, QWidget& onto);
+    /// In the middle of its row.
+    void DropOntoFilm(std::vector<ioPath> const& paths, Desktop::Film const& film);
     /// Adds the film and waits until it was read.
     Desktop::Film& AddFilm(ioPath const& path);
     Desktop::Film& WaitForFilm(ioPath const& path);
@@ -57,6 +59,7 @@ protected:
 
 private:
     void Start();
+    void DropAt(std::vector<ioPath> const& paths, QWidget& onto, QPoint const& place);
 
     std::unique_ptr<Desktop::ConversionQueue> m_queue;
     std::unique_ptr<Desktop::SessionStore> m_store;
