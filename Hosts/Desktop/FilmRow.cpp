@@ -2,8 +2,8 @@
 
 #include "Desktop/ConversionQueue.h"
 #include "Desktop/Film.h"
+#include "Desktop/PreviewTimes.h"
 #include "Desktop/TimeTexts.h"
-#include "Desktop/TimeWords.h"
 
 #include "Proc/MediaInfo.h"
 
@@ -36,7 +36,7 @@ QString Translate(char const* text)
 QString DescribeFacts(Film const& film)
 {
     Proc::MediaInfo const& media = film.GetMedia();
-    QString facts = FormatDuration(media.duration);
+    QString facts = FormatTime(media.duration, media.duration);
     if (Proc::StreamInfo const* video = media.FindMainVideo())
         facts += QStringLiteral(" \u00B7 %1\u2009\u00D7\u2009%2").arg(video->width).arg(video->height);
     return facts;
