@@ -1,18 +1,19 @@
 #include "Support/DisplayPerson.h"
 
+#include "Support/GuiThread.h"
+
 #include <QDir>
 #include <QGuiApplication>
 #include <QHash>
 #include <QPixmap>
 #include <QScreen>
 #include <QStringList>
-#include <QTest>
-#include <QWidget>
 
-#include <gtest/gtest.h>
-
+#include <algorithm>
+#include <chrono>
+#include <iostream>
 #include <stdexcept>
-#include <string>
+#include <thread>
 #include <vector>
 
 // Last: its macros have the names of other people's enumerators.
@@ -26,13 +27,22 @@ namespace Korvex::Testing
 namespace
 {
 
+using std::chrono::milliseconds;
+
 constexpr int LEFT_BUTTON = 1;
-constexpr int RIGHT_BUTTON = 3;
 /// Long enough for the program to hear of one event before the next.
-constexpr std::chrono::milliseconds REACTION(30);
+constexpr milliseconds REACTION(30);
+/// A slow machine that builds something else meanwhile.
+constexpr std::chrono::seconds PATIENCE(60);
 
 QHash<QString, KeySym> const MODIFIERS{
     {QStringLiteral("ctrl"), XK_Control_L}, {QStringLiteral("alt"), XK_Alt_L}, {QStringLiteral("shift"), XK_Shift_L}};
+
+/// A window may be gone by the time it gets the keyboard; then the next one gets it.
+int IgnoreError(Display* /*display*/, XErrorEvent* /*error*/)
+{
+    return 0;
+}
 
 } // namespace
 
@@ -44,6 +54,9 @@ public:
         int unused = 0;
         if (m_display == nullptr || !XTestQueryExtension(m_display, &unused, &unused, &unused, &unused))
             throw std::runtime_error("The display cannot be driven: no X server with the XTEST extension");
+        XSetErrorHandler(&IgnoreError);
+        XSelectInput(m_display, DefaultRootWindow(m_display), SubstructureNotifyMask);
+        XSync(m_display, False);
     }
     ~Impl() { XCloseDisplay(m_display); }
     Impl(Impl const&) = delete;
@@ -51,7 +64,8 @@ public:
 
     void Move(QPoint const& place)
     {
-        XTestFakeMotionEvent(m_display, -1, place.x(), place.y(), CurrentTime);
+        QPoint const pixel = (QPointF(place) * m_pixelRatio).toPoint();
+        XTestFakeMotionEvent(m_display, -1, pixel.x(), pixel.y(), CurrentTime);
         Settle();
     }
 
@@ -74,7 +88,7 @@ public:
     void Stroke(KeySym symbol)
     {
         KeyCode const code = XKeysymToKeycode(m_display, symbol);
-        bool const isShifted = XKeycodeToKeysymOfLevel(code, 0) != symbol && XKeycodeToKeysymOfLevel(code, 1) == symbol;
+        bool const isShifted = FindSymbol(code, 0) != symbol && FindSymbol(code, 1) == symbol;
         if (isShifted)
             Key(XK_Shift_L, true);
         Key(symbol, true);
@@ -87,11 +101,34 @@ public:
     void Settle()
     {
         XSync(m_display, False);
-        Wait(REACTION);
+        std::this_thread::sleep_for(REACTION);
+        TendFocus();
+    }
+
+    /// Gives the keyboard to the newest window that is there.
+    void TendFocus()
+    {
+        bool isOther = false;
+        while (XPending(m_display) > 0)
+        {
+            XEvent event;
+            XNextEvent(m_display, &event);
+            if (event.type == UnmapNotify)
+                m_windows.erase(std::remove(m_windows.begin(), m_windows.end(), event.xunmap.window), m_windows.end());
+            else if (event.type == MapNotify && event.xmap.override_redirect == False)
+                m_windows.push_back(event.xmap.window);
+            else
+                continue;
+            isOther = true;
+        }
+        if (!isOther || m_windows.empty())
+            return;
+        XSetInputFocus(m_display, m_windows.back(), RevertToParent, CurrentTime);
+        XSync(m_display, False);
     }
 
 private:
-    KeySym XKeycodeToKeysymOfLevel(KeyCode code, int level) const
+    KeySym FindSymbol(KeyCode code, int level) const
     {
         int symbolsOfKey = 0;
         KeySym* const symbols = XGetKeyboardMapping(m_display, code, 1, &symbolsOfKey);
@@ -101,7 +138,14 @@ private:
     }
 
     Display* const m_display;
+    qreal const m_pixelRatio = OnGui([] { return QGuiApplication::primaryScreen()->devicePixelRatio(); });
+    std::vector<Window> m_windows; ///< those that a window manager would care for, the newest last
 };
+
+void DisplayPerson::ShareDisplay()
+{
+    XInitThreads();
+}
 
 DisplayPerson::DisplayPerson() : m_impl(std::make_unique<Impl>()) {}
 
@@ -118,41 +162,22 @@ void DisplayPerson::Click(QPoint const& screenPosition)
     Release();
 }
 
-void DisplayPerson::RightClick(QPoint const& screenPosition)
-{
-    m_impl->Move(screenPosition);
-    m_impl->Button(RIGHT_BUTTON, true);
-    m_impl->Button(RIGHT_BUTTON, false);
-}
-
-void DisplayPerson::Click(QWidget const& widget)
-{
-    Click(widget, widget.rect().center());
-}
-
-void DisplayPerson::Click(QWidget const& widget, QPoint const& position)
-{
-    Click(widget.mapToGlobal(position));
-}
-
 void DisplayPerson::Press(QPoint const& screenPosition)
 {
     m_impl->Move(screenPosition);
     m_impl->Button(LEFT_BUTTON, true);
 }
 
+void DisplayPerson::Glide(QPoint const& from, QPoint const& to)
+{
+    constexpr int STEPS = 12;
+    for (int step = 1; step <= STEPS; ++step)
+        m_impl->Move(from + (to - from) * step / STEPS);
+}
+
 void DisplayPerson::Release()
 {
     m_impl->Button(LEFT_BUTTON, false);
-}
-
-void DisplayPerson::Drag(QPoint const& from, QPoint const& to)
-{
-    constexpr int steps = 20;
-    Press(from);
-    for (int step = 1; step <= steps; ++step)
-        m_impl->Move(from + (to - from) * step / steps);
-    Release();
 }
 
 void DisplayPerson::Type(QString const& text)
@@ -180,14 +205,18 @@ void DisplayPerson::PressKey(QString const& keys)
     m_impl->Settle();
 }
 
-bool DisplayPerson::WaitFor(std::function<bool()> const& condition, std::chrono::milliseconds limit)
+void DisplayPerson::WaitFor(std::string const& what, std::function<bool()> const& condition)
 {
-    return QTest::qWaitFor(condition, static_cast<int>(limit.count()));
-}
-
-void DisplayPerson::Wait(std::chrono::milliseconds time)
-{
-    QTest::qWait(static_cast<int>(time.count()));
+    auto const end = std::chrono::steady_clock::now() + PATIENCE;
+    while (!OnGui(condition))
+    {
+        if (std::chrono::steady_clock::now() > end)
+        {
+            Photograph(QStringLiteral("in-vain"));
+            throw std::runtime_error("Waited in vain for " + what);
+        }
+        m_impl->Settle();
+    }
 }
 
 void DisplayPerson::Photograph(QString const& name)
@@ -195,10 +224,13 @@ void DisplayPerson::Photograph(QString const& name)
     QString const folder = qEnvironmentVariable("KORVEX_SCREENSHOTS");
     if (folder.isEmpty())
         return;
-    Wait(std::chrono::milliseconds(200));
+    m_impl->Settle();
     QString const path = QDir(folder).filePath(name + QStringLiteral(".png"));
-    EXPECT_TRUE(QDir().mkpath(folder) && QGuiApplication::primaryScreen()->grabWindow(0).save(path))
-        << "Cannot write " << qPrintable(path);
+    bool const isSaved =
+        QDir().mkpath(folder) && OnGui([&path] { return QGuiApplication::primaryScreen()->grabWindow(0).save(path); });
+    if (!isSaved)
+        throw std::runtime_error("Cannot write " + path.toStdString());
+    std::cout << "Photograph: " << path.toStdString() << std::endl;
 }
 
 } // namespace Korvex::Testing

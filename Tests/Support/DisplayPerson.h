@@ -1,24 +1,26 @@
 #pragma once
 
 #include <QPoint>
-#include <QRect>
 #include <QString>
 
-#include <chrono>
 #include <functional>
 #include <memory>
-
-class QWidget;
+#include <string>
 
 namespace Korvex::Testing
 {
 
 /// A person at the mouse and keyboard of an X display: every event goes through the X server, as from real devices, and
-/// what is seen is what the server shows. Runs the event loop while waiting. Throws std::runtime_error when the display
-/// cannot be driven.
+/// what is seen is what the server shows. It lives on a thread of its own beside the GUI thread (`RunBesideGui`), so
+/// that a dialog that waits for an answer can be given one. The display has no window manager: whenever the person acts
+/// or waits, the newest window gets the keyboard, as a window manager would give it. Throws std::runtime_error when the
+/// display cannot be driven or something does not come to pass.
 class DisplayPerson
 {
 public:
+    /// Before the application object: two threads are going to talk to the display.
+    static void ShareDisplay();
+
     DisplayPerson();
     ~DisplayPerson();
     DisplayPerson(DisplayPerson const&) = delete;
@@ -27,13 +29,9 @@ public:
     void MoveTo(QPoint const& screenPosition);
     /// A click of the left button.
     void Click(QPoint const& screenPosition);
-    void RightClick(QPoint const& screenPosition);
-    /// In the middle of the widget, or at a place in it.
-    void Click(QWidget const& widget);
-    void Click(QWidget const& widget, QPoint const& position);
-    /// Presses at one place, moves to the other in steps and releases there.
-    void Drag(QPoint const& from, QPoint const& to);
     void Press(QPoint const& screenPosition);
+    /// Moves in steps with the button as it is.
+    void Glide(QPoint const& from, QPoint const& to);
     void Release();
 
     /// Latin letters, digits and the punctuation of paths.
@@ -41,13 +39,13 @@ public:
     /// "Return", "ctrl+a", "alt+F4", "shift+Tab": names of X key symbols after modifiers.
     void PressKey(QString const& keys);
 
-    /// Lets the program run until the condition holds; false when it does not within the time.
-    [[nodiscard]] static bool WaitFor(std::function<bool()> const& condition,
-                                      std::chrono::milliseconds limit = std::chrono::seconds(10));
-    static void Wait(std::chrono::milliseconds time);
+    /// Until the condition, which is asked on the GUI thread, holds. `what` completes the sentence of the failure:
+    /// "Waited in vain for the film to be read".
+    void WaitFor(std::string const& what, std::function<bool()> const& condition);
 
-    /// Saves what the display shows as `name`.png into the folder that KORVEX_SCREENSHOTS names; nothing without it.
-    static void Photograph(QString const& name);
+    /// Saves what the display shows as `name`.png into the folder that KORVEX_SCREENSHOTS names and prints its path;
+    /// nothing without it.
+    void Photograph(QString const& name);
 
 private:
     class Impl;
