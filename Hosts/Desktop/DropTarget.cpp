@@ -2,7 +2,6 @@
 
 #include "Desktop/DropHighlight.h"
 
-#include <QApplication>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QUrl>
@@ -32,8 +31,7 @@ DropTarget::DropTarget(QWidget* window) : QObject(window), m_window(window), m_h
     m_leaving.setInterval(LEAVE_MS);
     connect(&m_leaving, &QTimer::timeout, m_highlight, &QWidget::hide);
     window->setAcceptDrops(true);
-    // The application's, because a child that takes drops of its own would get them before the window.
-    qApp->installEventFilter(this);
+    window->installEventFilter(this);
 }
 
 DropTarget::~DropTarget() = default;
@@ -50,11 +48,10 @@ bool DropTarget::eventFilter(QObject* watched, QEvent* event)
     default:
         return false;
     }
-    auto const* widget = qobject_cast<QWidget*>(watched);
-    return widget != nullptr && widget->window() == m_window && HandleDrag(*widget, event);
+    return watched == m_window && HandleDrag(event);
 }
 
-bool DropTarget::HandleDrag(QWidget const& widget, QEvent* event)
+bool DropTarget::HandleDrag(QEvent* event)
 {
     if (event->type() == QEvent::DragLeave)
     {
@@ -69,17 +66,17 @@ bool DropTarget::HandleDrag(QWidget const& widget, QEvent* event)
     drop.accept();
     m_leaving.stop();
     if (event->type() == QEvent::Drop)
-        Drop(widget, drop);
+        Drop(drop);
     else
         m_highlight->Show();
     return true;
 }
 
-void DropTarget::Drop(QWidget const& widget, QDropEvent& event)
+void DropTarget::Drop(QDropEvent& event)
 {
     m_highlight->hide();
     m_window->activateWindow();
-    Q_EMIT Dropped(ListFiles(event.mimeData()), widget.mapToGlobal(event.pos()));
+    Q_EMIT Dropped(ListFiles(event.mimeData()), m_window->mapToGlobal(event.pos()));
 }
 
 } // namespace Korvex::Desktop

@@ -16,8 +16,8 @@ namespace Korvex::Desktop
 
 class DropHighlight;
 
-/// Lets files be dropped anywhere on a window, also on fields that would take their names as text, and lights the
-/// window up while they hover. GUI thread.
+/// Lets files be dropped anywhere on a window whose parts take no drops of their own, and lights it up while they
+/// hover. GUI thread.
 class DropTarget final : public QObject
 {
     Q_OBJECT
@@ -33,8 +33,8 @@ Q_SIGNALS:
     void Dropped(std::vector<Korvex::ioPath> const& paths, QPoint const& place);
 
 private:
-    bool HandleDrag(QWidget const& widget, QEvent* event);
-    void Drop(QWidget const& widget, QDropEvent& event);
+    bool HandleDrag(QEvent* event);
+    void Drop(QDropEvent& event);
 
     QWidget* m_window;
     DropHighlight* m_highlight;

@@ -121,7 +121,8 @@ TEST_F(MainWindowTest, FromDropToConvertedFilm)
     Drop({path}, GetWindow());
     Film& film = WaitForFilm(path);
     EXPECT_EQ(Get<QStackedWidget>("pages").currentIndex(), 1);
-    // A field would take the name as text; the film that is shown gets the file.
+    for (QWidget const* part : GetWindow().findChildren<QWidget*>())
+        EXPECT_FALSE(part->acceptDrops()) << qPrintable(part->objectName()) << " would take the file's name as text";
     Drop({russian}, *Get<QAbstractSpinBox>("syncSpinBox").findChild<QLineEdit*>());
     WaitUntil([&film] { return film.GetCollection().tracks.size() == 2; });
     Film& other = AddFilm(MakeFilm("Other.mkv"));
@@ -243,7 +244,8 @@ TEST_F(MainWindowTest, RestartBringsBackListChoiceThemeAndLanguage)
     Film& again = WaitForFilm(path);
     WaitUntil([&again] { return again.GetMixerSettings() != nullptr; });
     EXPECT_EQ(again.GetMixerSettings()->GetSubtitleStreamIndex(), 3U);
-    WaitUntil([this] { return Get<QWidget>("selectSubtitlesTrackButton").isEnabled(); }); // it is shown, too
+    WaitUntil([this] { return Get<QWidget>("selectSubtitlesTrackButton").isEnabled(); });
+    EXPECT_TRUE(Get<QAction>("removeFilmsAction").isEnabled()); // it is shown and selected, too
     Trigger("themeLightAction");
 }
 
