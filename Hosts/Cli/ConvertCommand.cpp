@@ -165,8 +165,8 @@ void Convert(Plan const& plan, Plan::Job const& job, Services& services, Reporte
     request.overwrite = plan.overwrite;
     Proc::TranscodeReport const report =
         ConversionRun(services.GetTranscoder(), reporter).Run(request, console.isInterrupted);
-    for (std::string const& warning : report.warnings)
-        reporter.Note(warning);
+    for (Proc::Warning const& warning : report.warnings)
+        reporter.Note(Proc::ToSentence(warning));
     if (report.error && report.error->code == Core::ErrorCode::Cancelled)
         throw Interrupted();
     if (report.error)

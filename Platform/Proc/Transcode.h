@@ -3,6 +3,7 @@
 #include "Core/Export.h"
 #include "Core/RefCounted.h"
 #include "Core/Result.h"
+#include "Proc/Warning.h"
 
 #include <chrono>
 #include <memory>
@@ -42,8 +43,8 @@ struct TranscodeProgress
 /// How a job ended.
 struct TranscodeReport
 {
-    std::optional<Core::Error> error;  ///< ErrorCode::Cancelled after a cancel
-    std::vector<std::string> warnings; ///< sentences for the user about what is in the output but not as expected
+    std::optional<Core::Error> error; ///< ErrorCode::Cancelled after a cancel
+    std::vector<Warning> warnings;    ///< about what is in the output but not as expected
     ioPath output;
     std::chrono::microseconds duration{0};
 };

@@ -3,12 +3,12 @@
 #include "Proc/FFmpeg/PauseGate.h"
 
 #include "Core/Error.h"
+#include "Proc/Warning.h"
 
 #include <atomic>
 #include <functional>
 #include <mutex>
 #include <optional>
-#include <string>
 #include <utility>
 #include <vector>
 
@@ -54,10 +54,10 @@ public:
         return !m_isStopped;
     }
 
-    void Warn(std::string sentence)
+    void Warn(Warning warning)
     {
         std::lock_guard const lock(m_mutex);
-        m_warnings.push_back(std::move(sentence));
+        m_warnings.push_back(std::move(warning));
     }
 
     [[nodiscard]] PauseGate& Gate() { return m_gate; }
@@ -71,7 +71,7 @@ public:
         std::lock_guard const lock(m_mutex);
         return m_error;
     }
-    [[nodiscard]] std::vector<std::string> TakeWarnings()
+    [[nodiscard]] std::vector<Warning> TakeWarnings()
     {
         std::lock_guard const lock(m_mutex);
         return std::move(m_warnings);
@@ -82,7 +82,7 @@ private:
     std::atomic<bool> m_isStopped{false};
     bool m_isFinished = false;
     std::optional<Core::Error> m_error;
-    std::vector<std::string> m_warnings;
+    std::vector<Warning> m_warnings;
     std::vector<std::function<void()>> m_wakes;
     PauseGate m_gate;
 };

@@ -19,11 +19,6 @@ namespace
 
 using Source = OutputStream::Source;
 
-std::string Quoted(ioPath const& path)
-{
-    return "\"" + path.utf8string() + "\"";
-}
-
 /// Tags that describe the old coding and would be wrong of the new one.
 bool DescribesOldCoding(std::string const& key)
 {
@@ -95,8 +90,7 @@ private:
         if (!avcodec_find_decoder(stream.codecpar->codec_id))
             return NoDecoder(stream);
         if (wantsCopy)
-            m_map.warnings.push_back("The picture of " + Quoted(m_settings.input) + " is encoded anew, because " +
-                                     m_rule.displayName + " cannot carry it as it is.");
+            Warn(WarningCode::PictureEncodedAnew);
         OutputStream& output = Add(stream, Source::Encoded);
         output.parameters->codec_id = AV_CODEC_ID_H264;
         output.keepsDisplayMatrix = false;
@@ -108,7 +102,7 @@ private:
         if (CanCopy(stream) && !m_rule.carriesOneStreamPerKind)
             Add(stream, Source::Copied);
         else
-            LeaveOut(stream, "a second picture");
+            LeaveOut(stream, WarningCode::SecondPictureLeftOut);
     }
 
     void PlanCover(AVStream const& stream)
@@ -116,7 +110,7 @@ private:
         if (m_rule.carriesCoverPictures && stream.attached_pic.size > 0 && CanCarry(m_rule, *stream.codecpar))
             AddCover(stream);
         else
-            LeaveOut(stream, "a cover picture");
+            LeaveOut(stream, WarningCode::CoverPictureLeftOut);
     }
 
     /// Matroska keeps covers as attached files; elsewhere a cover is a stream of one packet.
@@ -155,12 +149,12 @@ private:
     {
         if (stream.codecpar->sample_rate <= 0 || stream.codecpar->ch_layout.nb_channels <= 0)
         {
-            LeaveOut(stream, "a sound track", "nothing in it can be read");
+            LeaveOut(stream, WarningCode::UnreadableSoundLeftOut);
             return Core::SUCCESS;
         }
         if (m_rule.carriesOneStreamPerKind && HasStreamOf(AVMEDIA_TYPE_AUDIO))
         {
-            LeaveOut(stream, "a further sound track");
+            LeaveOut(stream, WarningCode::FurtherSoundLeftOut);
             return Core::SUCCESS;
         }
         if (m_settings.audioCodecId.empty() && CanCarry(m_rule, *stream.codecpar))
@@ -189,9 +183,7 @@ private:
                 isMissed = isMissed || hasTracks || !IsFont(stream);
         }
         if (isMissed)
-            m_map.warnings.push_back(std::string("Files attached to ") + Quoted(m_settings.input) +
-                                     " (fonts, for example) are not in the output, because " + m_rule.displayName +
-                                     " cannot carry them.");
+            Warn(WarningCode::AttachmentsLeftOut);
     }
 
     [[nodiscard]] bool CanCopy(AVStream const& stream) const
@@ -239,13 +231,20 @@ private:
         return language.empty() ? tag.value : language;
     }
 
-    void LeaveOut(AVStream const& stream, char const* what, std::string reason = {})
+    Warning& Warn(WarningCode code)
     {
-        if (reason.empty())
-            reason = std::string(m_rule.displayName) + " cannot carry it";
-        m_map.warnings.push_back("Track " + std::to_string(stream.index) + " of " + Quoted(m_settings.input) + ", " +
-                                 what + " (" + CodecDisplayName(stream.codecpar->codec_id) +
-                                 "), is not in the output, because " + reason + ".");
+        Warning& warning = m_map.warnings.emplace_back();
+        warning.code = code;
+        warning.file = m_settings.input;
+        warning.container = m_rule.displayName;
+        return warning;
+    }
+
+    void LeaveOut(AVStream const& stream, WarningCode code)
+    {
+        Warning& warning = Warn(code);
+        warning.track = std::to_string(stream.index);
+        warning.codec = CodecDisplayName(stream.codecpar->codec_id);
     }
 
     [[nodiscard]] Core::Error NoDecoder(AVStream const& stream) const

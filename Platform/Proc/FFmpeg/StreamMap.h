@@ -43,7 +43,7 @@ struct StreamMap
 {
     ContainerRule const* rule = nullptr;
     std::vector<OutputStream> streams;
-    std::vector<std::string> warnings; ///< sentences about what is left out
+    std::vector<Warning> warnings; ///< about what is left out
     /// The picture that subtitles are drawn into, empty in a file without one.
     std::optional<std::uint32_t> mainVideo;
 };

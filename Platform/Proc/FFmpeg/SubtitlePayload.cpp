@@ -66,20 +66,22 @@ bool HasNoDuration(TextCue const& cue)
     return cue.end <= cue.start;
 }
 
-void AddReadingWarnings(TextDocument const& document, ioPath const& path, std::vector<std::string>& warnings)
+void AddReadingWarnings(TextDocument const& document, ioPath const& path, std::vector<Warning>& warnings)
 {
-    std::string const file = "\"" + path.utf8string() + "\"";
-    auto counted = [&](std::size_t count, char const* noun)
-    { return std::to_string(count) + " " + noun + (count == 1 ? " of " : "s of ") + file; };
-    auto leftOut = [](std::size_t count) { return count == 1 ? " and was left out." : " and were left out."; };
-    if (std::size_t const bytes = document.decoding.replacedBytes; bytes > 0)
-        warnings.push_back(counted(bytes, "byte") + " did not decode as " + document.decoding.encoding +
-                           " and show as \"\xEF\xBF\xBD\"; check the encoding.");
-    if (std::size_t const cues = document.skippedCues; cues > 0)
-        warnings.push_back(counted(cues, "cue") + " had no usable times" + leftOut(cues));
+    auto add = [&](WarningCode code, std::size_t count)
+    {
+        if (count == 0)
+            return;
+        Warning& warning = warnings.emplace_back();
+        warning.code = code;
+        warning.file = path;
+        warning.count = count;
+        warning.encoding = document.decoding.encoding;
+    };
+    add(WarningCode::BytesNotDecoded, document.decoding.replacedBytes);
+    add(WarningCode::CuesWithoutTimes, document.skippedCues);
     auto const moments = std::count_if(document.cues.begin(), document.cues.end(), HasNoDuration);
-    if (auto const cues = static_cast<std::size_t>(moments); cues > 0)
-        warnings.push_back(counted(cues, "cue") + " had no duration" + leftOut(cues));
+    add(WarningCode::CuesWithoutDuration, static_cast<std::size_t>(moments));
 }
 
 /// The document's cues as packets of one of the two codecs that Matroska has for text.

@@ -4,6 +4,7 @@
 
 #include "Core/Result.h"
 #include "Proc/SubtitleContent.h"
+#include "Proc/Warning.h"
 
 #include <string>
 #include <vector>
@@ -21,7 +22,7 @@ struct SubtitlePayload
     std::string title;
     int disposition = 0; ///< AV_DISPOSITION_ flags
     std::vector<FontAttachment> fonts;
-    std::vector<std::string> warnings;
+    std::vector<Warning> warnings;
 };
 
 /// Reads a subtitle file whole. Text becomes UTF-8, SSA of any version becomes ASS; the packets of a media file (an MP4

@@ -87,7 +87,7 @@ bool NeedsDecoding(InputFile const& input, AVStream const& stream)
 
 /// Reads the stream as one would a file of its own.
 Core::Status PreloadInputStream(InputFile const& input, std::uint32_t index, OutputStream& output,
-                                std::vector<std::string>& warnings)
+                                std::vector<Warning>& warnings)
 {
     Core::Result<InputFile> const file = InputFile::Open(input.Path(), {StreamAnalysis::Quick});
     if (!file)
@@ -188,9 +188,10 @@ Core::Status AddSoftSubtitles(SettingsTranscode const& settings, InputFile const
     {
         if (track.kind == Kind::File && track.path.empty())
         {
-            map.warnings.push_back("A subtitle track without a file" +
-                                   (track.title.empty() ? std::string() : " (\"" + track.title + "\")") +
-                                   " is not in the output.");
+            Warning warning;
+            warning.code = WarningCode::SubtitlesWithoutFile;
+            warning.title = track.title;
+            map.warnings.push_back(std::move(warning));
             continue;
         }
         Core::Status failed = track.kind == Kind::Stream ? AddInputStream(track, input, map) : AddFile(track, map);

@@ -211,7 +211,7 @@ private:
         }
         m_input.reset();
         report.warnings = m_plan.warnings;
-        for (std::string& warning : control.TakeWarnings())
+        for (Warning& warning : control.TakeWarnings())
             report.warnings.push_back(std::move(warning));
         if (!report.error && !isEstimate)
             WarnOfEarlyEnd(meter, report);
@@ -226,10 +226,12 @@ private:
         std::chrono::microseconds const missing = meter.Total() - meter.Done();
         if (missing < std::chrono::seconds(2) || missing < meter.Total() / 10)
             return;
-        auto seconds = [](std::chrono::microseconds time)
-        { return std::to_string(std::chrono::duration_cast<std::chrono::seconds>(time).count()); };
-        report.warnings.push_back("\"" + m_settings.input.utf8string() + "\" ends after " + seconds(meter.Done()) +
-                                  " of " + seconds(meter.Total()) + " seconds, and so does the output.");
+        Warning warning;
+        warning.code = WarningCode::EndsEarly;
+        warning.file = m_settings.input;
+        warning.done = std::chrono::duration_cast<std::chrono::seconds>(meter.Done());
+        warning.total = std::chrono::duration_cast<std::chrono::seconds>(meter.Total());
+        report.warnings.push_back(std::move(warning));
     }
 
     SettingsTranscode const m_settings;

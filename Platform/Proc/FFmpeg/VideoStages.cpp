@@ -54,8 +54,12 @@ void VideoStages::RunDecoder()
         PassOnLast();
     m_decoded.Close();
     if (m_damaged > 0 && !m_control.IsStopped())
-        m_control.Warn("Some pictures of \"" + m_input.utf8string() +
-                       "\" are damaged and may be missing or look wrong in the output.");
+    {
+        Warning warning;
+        warning.code = WarningCode::PicturesDamaged;
+        warning.file = m_input;
+        m_control.Warn(std::move(warning));
+    }
 }
 
 bool VideoStages::PassOn(Frame frame)

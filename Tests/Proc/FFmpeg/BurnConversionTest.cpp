@@ -334,7 +334,7 @@ TEST(BurnConversionTest, SubtitlesStayWithThePictureWhereTheClockJumps)
     settings.mixer = std::make_shared<Proc::SettingsSubtitleMixer>(mixer);
     Conversion const done = Convert(settings);
     ASSERT_TRUE(done.Succeeded()) << done.Words();
-    EXPECT_TRUE(done.report.warnings.empty()) << done.report.warnings.front();
+    EXPECT_TRUE(done.report.warnings.empty()) << Proc::ToSentence(done.report.warnings.front());
     for (auto const& picture : DecodePictures(folder / "out.mp4"))
     {
         auto const time = milliseconds(picture->pts / 1000) % milliseconds(2000);
