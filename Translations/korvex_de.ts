@@ -117,6 +117,282 @@
     </message>
 </context>
 <context>
+    <name>ErrorClauses</name>
+    <message>
+        <source>it is a folder</source>
+        <translation type="unfinished">es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation type="unfinished">es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation type="unfinished">sie ist größer als %1 Bytes</translation>
+    </message>
+    <message>
+        <source>its header cannot be read</source>
+        <translation type="unfinished">ihr Kopf ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>nothing in it can be read</source>
+        <translation type="unfinished">nichts darin ist lesbar</translation>
+    </message>
+    <message>
+        <source>it holds no subtitles</source>
+        <translation type="unfinished">sie enthält keine Untertitel</translation>
+    </message>
+    <message>
+        <source>it does not hold exactly one subtitle track</source>
+        <translation type="unfinished">sie enthält nicht genau eine Untertitelspur</translation>
+    </message>
+    <message>
+        <source>it has no picture</source>
+        <translation type="unfinished">sie hat kein Bild</translation>
+    </message>
+    <message>
+        <source>it has no picture that subtitles could be drawn into</source>
+        <translation type="unfinished">sie hat kein Bild, in das sich Untertitel einbrennen ließen</translation>
+    </message>
+    <message>
+        <source>the size of its picture is not known</source>
+        <translation type="unfinished">die Größe ihres Bildes ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>the picture has no usable size</source>
+        <translation type="unfinished">das Bild hat keine brauchbare Größe</translation>
+    </message>
+    <message>
+        <source>none of its pictures can be decoded</source>
+        <translation type="unfinished">keines ihrer Bilder lässt sich decodieren</translation>
+    </message>
+    <message>
+        <source>there is no decoder for it</source>
+        <translation type="unfinished">es gibt keinen Decoder dafür</translation>
+    </message>
+    <message>
+        <source>there is no decoder for track %1</source>
+        <translation type="unfinished">für Spur %1 gibt es keinen Decoder</translation>
+    </message>
+    <message>
+        <source>its decoder refuses the stream: %1</source>
+        <translation type="unfinished">sein Decoder nimmt den Datenstrom nicht an: %1</translation>
+    </message>
+    <message>
+        <source>its decoder does not know the options %1</source>
+        <translation type="unfinished">sein Decoder kennt die Optionen %1 nicht</translation>
+    </message>
+    <message>
+        <source>its encoder refuses the sound: %1</source>
+        <translation type="unfinished">sein Encoder nimmt den Ton nicht an: %1</translation>
+    </message>
+    <message>
+        <source>its encoder refuses the picture (%1): %2</source>
+        <translation type="unfinished">sein Encoder nimmt das Bild nicht an (%1): %2</translation>
+    </message>
+    <message>
+        <source>the encoder here is %1</source>
+        <translation type="unfinished">der Encoder hier ist %1</translation>
+    </message>
+    <message>
+        <source>there is no encoder preset &quot;%1&quot;</source>
+        <translation type="unfinished">es gibt keine Encoder-Vorgabe „%1“</translation>
+    </message>
+    <message>
+        <source>the text encoding &quot;%1&quot; is not known</source>
+        <translation type="unfinished">die Textkodierung „%1“ ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>the text renderer could not be set up</source>
+        <translation type="unfinished">der Textzeichner ließ sich nicht einrichten</translation>
+    </message>
+    <message>
+        <source>it names a folder</source>
+        <translation type="unfinished">das ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>it is a device or a pipe, not a file</source>
+        <translation type="unfinished">das ist ein Gerät oder eine Pipe, keine Datei</translation>
+    </message>
+    <message>
+        <source>a .%1 file</source>
+        <translation type="unfinished">eine .%1-Datei</translation>
+    </message>
+    <message>
+        <source>save it as .%1 instead</source>
+        <translation type="unfinished">Speichern Sie sie stattdessen als .%1</translation>
+    </message>
+    <message>
+        <source>it consists of pictures, so save it as .%1</source>
+        <translation type="unfinished">Sie besteht aus Bildern, speichern Sie sie also als .%1</translation>
+    </message>
+    <message>
+        <source>the encoder libx264 is missing</source>
+        <translation type="unfinished">der Encoder libx264 fehlt</translation>
+    </message>
+    <message>
+        <source>subtitles can be switchable or drawn in, not both</source>
+        <translation type="unfinished">Untertitel können zuschaltbar oder eingebrannt sein, nicht beides</translation>
+    </message>
+    <message>
+        <source>the quality goes from 0 to 51</source>
+        <translation type="unfinished">die Qualität reicht von 0 bis 51</translation>
+    </message>
+    <message>
+        <source>the chosen format</source>
+        <translation type="unfinished">das gewählte Format</translation>
+    </message>
+    <message>
+        <source>draw it in</source>
+        <translation type="unfinished">Brennen Sie die Spur ein</translation>
+    </message>
+    <message>
+        <source>choose Matroska or draw it in</source>
+        <translation type="unfinished">Wählen Sie Matroska, oder brennen Sie die Spur ein</translation>
+    </message>
+    <message>
+        <source>draw it in or leave it out</source>
+        <translation type="unfinished">Brennen Sie die Spur ein, oder lassen Sie sie weg</translation>
+    </message>
+    <message>
+        <source>you may not do this</source>
+        <translation type="unfinished">Sie dürfen das nicht</translation>
+    </message>
+    <message>
+        <source>the disk is read-only</source>
+        <translation type="unfinished">der Datenträger ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>the disk could not be read or written</source>
+        <translation type="unfinished">der Datenträger ließ sich nicht lesen oder beschreiben</translation>
+    </message>
+    <message>
+        <source>there is no such file or folder</source>
+        <translation type="unfinished">es gibt keine solche Datei und keinen solchen Ordner</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation type="unfinished">ihr Name ist zu lang</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation type="unfinished">der Arbeitsspeicher reicht nicht</translation>
+    </message>
+    <message>
+        <source>it holds data that make no sense</source>
+        <translation type="unfinished">sie enthält sinnlose Daten</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorWords</name>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation type="unfinished">„%1“</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot;</source>
+        <translation type="unfinished">Spur %1 von „%2“</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has no track %2: choose another track.</source>
+        <translation type="unfinished">Die Datei „%1“ hat keine Spur %2: Wählen Sie eine andere Spur.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has no subtitle track: choose another file.</source>
+        <translation type="unfinished">Die Datei „%1“ hat keine Untertitelspur: Wählen Sie eine andere Datei.</translation>
+    </message>
+    <message>
+        <source>choose another format, draw it in or leave it out</source>
+        <translation type="unfinished">Wählen Sie ein anderes Format, brennen Sie die Untertitel ein oder lassen Sie sie weg</translation>
+    </message>
+    <message>
+        <source>%1 is %2, which %3 cannot hold: %4.</source>
+        <extracomment>%1: a track or a file, %2: its codec, %3: a format or a kind of file, %4: what to do</extracomment>
+        <translation type="unfinished">%1 ist %2, was %3 nicht aufnehmen kann: %4.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read%2: choose another one, or check that you may open it.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Die Datei „%1“ ist nicht lesbar%2: Wählen Sie eine andere, oder prüfen Sie, ob Sie sie öffnen dürfen.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is of no kind that can be used here%2: choose another one.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Die Datei „%1“ ist von keiner Art, die sich hier verwenden lässt%2: Wählen Sie eine andere.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged%2: try to get a complete copy.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Die Datei „%1“ ist beschädigt%2: Versuchen Sie, eine vollständige Kopie zu bekommen.</translation>
+    </message>
+    <message>
+        <source>The text of &quot;%1&quot; cannot be drawn, because no usable font is installed%2: install one, for example DejaVu Sans.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Der Text von „%1“ lässt sich nicht zeichnen, weil keine brauchbare Schrift installiert ist%2: Installieren Sie eine, zum Beispiel DejaVu Sans.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written%2: choose another folder, or check that you may write to this one.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Die Datei „%1“ lässt sich nicht schreiben%2: Wählen Sie einen anderen Ordner, oder prüfen Sie, ob Sie in diesen schreiben dürfen.</translation>
+    </message>
+    <message>
+        <source>A setting for &quot;%1&quot; is not valid%2: correct it and try again.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Eine Einstellung für „%1“ ist ungültig%2: Berichtigen Sie sie, und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>Work on &quot;%1&quot; failed%2: try again, and report it if it fails again.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Die Arbeit an „%1“ ist gescheitert%2: Versuchen Sie es erneut, und melden Sie es, wenn es wieder scheitert.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not exist any more: choose another one.</source>
+        <translation type="unfinished">Die Datei „%1“ gibt es nicht mehr: Wählen Sie eine andere.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty: choose another one.</source>
+        <translation type="unfinished">Die Datei „%1“ ist leer: Wählen Sie eine andere.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; is not a subtitle track: choose another one.</source>
+        <translation type="unfinished">Spur %1 von „%2“ ist keine Untertitelspur: Wählen Sie eine andere.</translation>
+    </message>
+    <message>
+        <source>The codec of &quot;%1&quot;, %2, cannot be used here%3: choose another file or another format.</source>
+        <extracomment>%2: a codec, %3: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Der Codec von „%1“, %2, ist hier nicht verwendbar%3: Wählen Sie eine andere Datei oder ein anderes Format.</translation>
+    </message>
+    <message>
+        <source>The format of &quot;%1&quot; is not known%2: choose another one.</source>
+        <extracomment>%2: what was asked for, in brackets, or nothing</extracomment>
+        <translation type="unfinished">Das Format von „%1“ ist nicht bekannt%2: Wählen Sie ein anderes.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has neither picture nor sound: choose another one.</source>
+        <translation type="unfinished">Die Datei „%1“ hat weder Bild noch Ton: Wählen Sie eine andere.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; exists already: choose another name.</source>
+        <translation type="unfinished">Die Datei „%1“ gibt es schon: Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is being read, so it cannot be written: choose another name.</source>
+        <translation type="unfinished">Die Datei „%1“ wird gelesen, kann also nicht geschrieben werden: Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>The folder of &quot;%1&quot; does not exist: create it, or choose another one.</source>
+        <translation type="unfinished">Den Ordner von „%1“ gibt es nicht: Legen Sie ihn an, oder wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The disk is full, so &quot;%1&quot; was not written: free some space, or choose another folder.</source>
+        <translation type="unfinished">Der Datenträger ist voll, deshalb wurde „%1“ nicht geschrieben: Schaffen Sie Platz, oder wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>Work on &quot;%1&quot; was cancelled: start it again if you want it.</source>
+        <translation type="unfinished">Die Arbeit an „%1“ wurde abgebrochen: Starten Sie sie erneut, wenn Sie sie möchten.</translation>
+    </message>
+</context>
+<context>
     <name>ExternalSubtitlesDialog</name>
     <message>
         <source>Choose subtitles</source>
@@ -1310,6 +1586,70 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
             <numerusform>noch %1 h %n min</numerusform>
             <numerusform>noch %1 h %n min</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>WarningWords</name>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a second picture, %3) was left out, because %4 cannot hold it.</source>
+        <translation type="unfinished">Spur %1 von „%2“ (ein zweites Bild, %3) wurde weggelassen, weil %4 sie nicht aufnehmen kann.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a cover picture, %3) was left out, because %4 cannot hold it.</source>
+        <translation type="unfinished">Spur %1 von „%2“ (ein Titelbild, %3) wurde weggelassen, weil %4 sie nicht aufnehmen kann.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a further sound track, %3) was left out, because %4 cannot hold it.</source>
+        <translation type="unfinished">Spur %1 von „%2“ (eine weitere Tonspur, %3) wurde weggelassen, weil %4 sie nicht aufnehmen kann.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a sound track, %3) was left out, because nothing in it can be read.</source>
+        <translation type="unfinished">Spur %1 von „%2“ (eine Tonspur, %3) wurde weggelassen, weil nichts darin lesbar ist.</translation>
+    </message>
+    <message>
+        <source>The picture of &quot;%1&quot; was encoded anew, because %2 cannot hold it as it is.</source>
+        <translation type="unfinished">Das Bild von „%1“ wurde neu codiert, weil %2 es so, wie es ist, nicht aufnehmen kann.</translation>
+    </message>
+    <message>
+        <source>Files attached to &quot;%1&quot;, for example fonts, were left out, because %2 cannot hold them.</source>
+        <translation type="unfinished">Dateien, die „%1“ beigelegt sind, zum Beispiel Schriften, wurden weggelassen, weil %2 sie nicht aufnehmen kann.</translation>
+    </message>
+    <message>
+        <source>A subtitle track was left out, because its file is missing.</source>
+        <translation type="unfinished">Eine Untertitelspur wurde weggelassen, weil ihre Datei fehlt.</translation>
+    </message>
+    <message>
+        <source>The subtitle track &quot;%1&quot; was left out, because its file is missing.</source>
+        <translation type="unfinished">Die Untertitelspur „%1“ wurde weggelassen, weil ihre Datei fehlt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s) of &quot;%1&quot; could not be read as %2 and show as &quot;%3&quot;: check the encoding.</source>
+        <translation type="unfinished">
+            <numerusform>%n Byte aus „%1“ ließ sich nicht als %2 lesen und erscheint als „%3“: Prüfen Sie die Kodierung.</numerusform>
+            <numerusform>%n Bytes aus „%1“ ließen sich nicht als %2 lesen und erscheinen als „%3“: Prüfen Sie die Kodierung.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of &quot;%1&quot; without usable times were left out.</source>
+        <translation type="unfinished">
+            <numerusform>%n Untertitel aus „%1“ ohne brauchbare Zeiten wurde weggelassen.</numerusform>
+            <numerusform>%n Untertitel aus „%1“ ohne brauchbare Zeiten wurden weggelassen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of &quot;%1&quot; of no duration were left out.</source>
+        <translation type="unfinished">
+            <numerusform>%n Untertitel aus „%1“ ohne Dauer wurde weggelassen.</numerusform>
+            <numerusform>%n Untertitel aus „%1“ ohne Dauer wurden weggelassen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Some pictures of &quot;%1&quot; are damaged; they may be missing or look wrong.</source>
+        <translation type="unfinished">Einige Bilder von „%1“ sind beschädigt; sie können fehlen oder falsch aussehen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; breaks off after %2 of %3, and so does the new film.</source>
+        <translation type="unfinished">„%1“ bricht nach %2 von %3 ab, der neue Film also auch.</translation>
     </message>
 </context>
 </TS>

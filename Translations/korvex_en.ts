@@ -134,4 +134,28 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>WarningWords</name>
+    <message numerus="yes">
+        <source>%n byte(s) of &quot;%1&quot; could not be read as %2 and show as &quot;%3&quot;: check the encoding.</source>
+        <translation type="unfinished">
+            <numerusform>%n byte of &quot;%1&quot; could not be read as %2 and show as &quot;%3&quot;: check the encoding.</numerusform>
+            <numerusform>%n bytes of &quot;%1&quot; could not be read as %2 and show as &quot;%3&quot;: check the encoding.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of &quot;%1&quot; without usable times were left out.</source>
+        <translation type="unfinished">
+            <numerusform>%n cue of &quot;%1&quot; without usable times were left out.</numerusform>
+            <numerusform>%n cues of &quot;%1&quot; without usable times were left out.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of &quot;%1&quot; of no duration were left out.</source>
+        <translation type="unfinished">
+            <numerusform>%n cue of &quot;%1&quot; of no duration were left out.</numerusform>
+            <numerusform>%n cues of &quot;%1&quot; of no duration were left out.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

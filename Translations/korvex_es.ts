@@ -117,6 +117,282 @@
     </message>
 </context>
 <context>
+    <name>ErrorClauses</name>
+    <message>
+        <source>it is a folder</source>
+        <translation type="unfinished">es una carpeta</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation type="unfinished">no es un archivo</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation type="unfinished">ocupa más de %1 bytes</translation>
+    </message>
+    <message>
+        <source>its header cannot be read</source>
+        <translation type="unfinished">no se puede leer su cabecera</translation>
+    </message>
+    <message>
+        <source>nothing in it can be read</source>
+        <translation type="unfinished">no se puede leer nada de él</translation>
+    </message>
+    <message>
+        <source>it holds no subtitles</source>
+        <translation type="unfinished">no contiene subtítulos</translation>
+    </message>
+    <message>
+        <source>it does not hold exactly one subtitle track</source>
+        <translation type="unfinished">no contiene exactamente una pista de subtítulos</translation>
+    </message>
+    <message>
+        <source>it has no picture</source>
+        <translation type="unfinished">no tiene imagen</translation>
+    </message>
+    <message>
+        <source>it has no picture that subtitles could be drawn into</source>
+        <translation type="unfinished">no tiene imagen en la que incrustar subtítulos</translation>
+    </message>
+    <message>
+        <source>the size of its picture is not known</source>
+        <translation type="unfinished">no se conoce el tamaño de su imagen</translation>
+    </message>
+    <message>
+        <source>the picture has no usable size</source>
+        <translation type="unfinished">la imagen no tiene un tamaño utilizable</translation>
+    </message>
+    <message>
+        <source>none of its pictures can be decoded</source>
+        <translation type="unfinished">no se puede decodificar ninguna de sus imágenes</translation>
+    </message>
+    <message>
+        <source>there is no decoder for it</source>
+        <translation type="unfinished">no hay decodificador para él</translation>
+    </message>
+    <message>
+        <source>there is no decoder for track %1</source>
+        <translation type="unfinished">no hay decodificador para la pista %1</translation>
+    </message>
+    <message>
+        <source>its decoder refuses the stream: %1</source>
+        <translation type="unfinished">su decodificador rechaza el flujo: %1</translation>
+    </message>
+    <message>
+        <source>its decoder does not know the options %1</source>
+        <translation type="unfinished">su decodificador no conoce las opciones %1</translation>
+    </message>
+    <message>
+        <source>its encoder refuses the sound: %1</source>
+        <translation type="unfinished">su codificador rechaza el sonido: %1</translation>
+    </message>
+    <message>
+        <source>its encoder refuses the picture (%1): %2</source>
+        <translation type="unfinished">su codificador rechaza la imagen (%1): %2</translation>
+    </message>
+    <message>
+        <source>the encoder here is %1</source>
+        <translation type="unfinished">aquí el codificador es %1</translation>
+    </message>
+    <message>
+        <source>there is no encoder preset &quot;%1&quot;</source>
+        <translation type="unfinished">no existe el ajuste de codificador «%1»</translation>
+    </message>
+    <message>
+        <source>the text encoding &quot;%1&quot; is not known</source>
+        <translation type="unfinished">no se conoce la codificación de texto «%1»</translation>
+    </message>
+    <message>
+        <source>the text renderer could not be set up</source>
+        <translation type="unfinished">no se pudo preparar el motor de dibujo de texto</translation>
+    </message>
+    <message>
+        <source>it names a folder</source>
+        <translation type="unfinished">es una carpeta</translation>
+    </message>
+    <message>
+        <source>it is a device or a pipe, not a file</source>
+        <translation type="unfinished">es un dispositivo o una tubería, no un archivo</translation>
+    </message>
+    <message>
+        <source>a .%1 file</source>
+        <translation type="unfinished">un archivo .%1</translation>
+    </message>
+    <message>
+        <source>save it as .%1 instead</source>
+        <translation type="unfinished">guárdelo como .%1</translation>
+    </message>
+    <message>
+        <source>it consists of pictures, so save it as .%1</source>
+        <translation type="unfinished">se compone de imágenes, así que guárdelo como .%1</translation>
+    </message>
+    <message>
+        <source>the encoder libx264 is missing</source>
+        <translation type="unfinished">falta el codificador libx264</translation>
+    </message>
+    <message>
+        <source>subtitles can be switchable or drawn in, not both</source>
+        <translation type="unfinished">los subtítulos pueden ser activables o incrustados, no ambas cosas</translation>
+    </message>
+    <message>
+        <source>the quality goes from 0 to 51</source>
+        <translation type="unfinished">la calidad va de 0 a 51</translation>
+    </message>
+    <message>
+        <source>the chosen format</source>
+        <translation type="unfinished">el formato elegido</translation>
+    </message>
+    <message>
+        <source>draw it in</source>
+        <translation type="unfinished">incrústela en la imagen</translation>
+    </message>
+    <message>
+        <source>choose Matroska or draw it in</source>
+        <translation type="unfinished">elija Matroska o incrústela en la imagen</translation>
+    </message>
+    <message>
+        <source>draw it in or leave it out</source>
+        <translation type="unfinished">incrústela en la imagen o déjela fuera</translation>
+    </message>
+    <message>
+        <source>you may not do this</source>
+        <translation type="unfinished">no tiene permiso</translation>
+    </message>
+    <message>
+        <source>the disk is read-only</source>
+        <translation type="unfinished">el disco es de solo lectura</translation>
+    </message>
+    <message>
+        <source>the disk could not be read or written</source>
+        <translation type="unfinished">no se pudo leer o escribir en el disco</translation>
+    </message>
+    <message>
+        <source>there is no such file or folder</source>
+        <translation type="unfinished">no existe tal archivo o carpeta</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation type="unfinished">su nombre es demasiado largo</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation type="unfinished">no hay memoria suficiente</translation>
+    </message>
+    <message>
+        <source>it holds data that make no sense</source>
+        <translation type="unfinished">contiene datos sin sentido</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorWords</name>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation type="unfinished">«%1»</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot;</source>
+        <translation type="unfinished">La pista %1 de «%2»</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has no track %2: choose another track.</source>
+        <translation type="unfinished">El archivo «%1» no tiene la pista %2: elija otra pista.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has no subtitle track: choose another file.</source>
+        <translation type="unfinished">El archivo «%1» no tiene ninguna pista de subtítulos: elija otro archivo.</translation>
+    </message>
+    <message>
+        <source>choose another format, draw it in or leave it out</source>
+        <translation type="unfinished">elija otro formato, incruste los subtítulos en la imagen o déjelos fuera</translation>
+    </message>
+    <message>
+        <source>%1 is %2, which %3 cannot hold: %4.</source>
+        <extracomment>%1: a track or a file, %2: its codec, %3: a format or a kind of file, %4: what to do</extracomment>
+        <translation type="unfinished">%1 es %2, que no cabe en %3: %4.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read%2: choose another one, or check that you may open it.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">El archivo «%1» no se puede leer%2: elija otro o compruebe que tiene permiso para abrirlo.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is of no kind that can be used here%2: choose another one.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">El archivo «%1» no es de ningún tipo que se pueda usar aquí%2: elija otro.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged%2: try to get a complete copy.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">El archivo «%1» está dañado%2: intente conseguir una copia completa.</translation>
+    </message>
+    <message>
+        <source>The text of &quot;%1&quot; cannot be drawn, because no usable font is installed%2: install one, for example DejaVu Sans.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">El texto de «%1» no se puede dibujar porque no hay ninguna fuente utilizable instalada%2: instale una, por ejemplo DejaVu Sans.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written%2: choose another folder, or check that you may write to this one.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">El archivo «%1» no se puede escribir%2: elija otra carpeta o compruebe que tiene permiso para escribir en esta.</translation>
+    </message>
+    <message>
+        <source>A setting for &quot;%1&quot; is not valid%2: correct it and try again.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Un ajuste de «%1» no es válido%2: corríjalo e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>Work on &quot;%1&quot; failed%2: try again, and report it if it fails again.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Falló el trabajo con «%1»%2: inténtelo de nuevo y avise si vuelve a fallar.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not exist any more: choose another one.</source>
+        <translation type="unfinished">El archivo «%1» ya no existe: elija otro.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty: choose another one.</source>
+        <translation type="unfinished">El archivo «%1» está vacío: elija otro.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; is not a subtitle track: choose another one.</source>
+        <translation type="unfinished">La pista %1 de «%2» no es de subtítulos: elija otra.</translation>
+    </message>
+    <message>
+        <source>The codec of &quot;%1&quot;, %2, cannot be used here%3: choose another file or another format.</source>
+        <extracomment>%2: a codec, %3: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">El códec de «%1», %2, no se puede usar aquí%3: elija otro archivo u otro formato.</translation>
+    </message>
+    <message>
+        <source>The format of &quot;%1&quot; is not known%2: choose another one.</source>
+        <extracomment>%2: what was asked for, in brackets, or nothing</extracomment>
+        <translation type="unfinished">El formato de «%1» no se conoce%2: elija otro.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has neither picture nor sound: choose another one.</source>
+        <translation type="unfinished">El archivo «%1» no tiene ni imagen ni sonido: elija otro.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; exists already: choose another name.</source>
+        <translation type="unfinished">El archivo «%1» ya existe: elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is being read, so it cannot be written: choose another name.</source>
+        <translation type="unfinished">El archivo «%1» se está leyendo, así que no se puede escribir: elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>The folder of &quot;%1&quot; does not exist: create it, or choose another one.</source>
+        <translation type="unfinished">La carpeta de «%1» no existe: créela o elija otra.</translation>
+    </message>
+    <message>
+        <source>The disk is full, so &quot;%1&quot; was not written: free some space, or choose another folder.</source>
+        <translation type="unfinished">El disco está lleno, así que «%1» no se escribió: libere espacio o elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>Work on &quot;%1&quot; was cancelled: start it again if you want it.</source>
+        <translation type="unfinished">Se canceló el trabajo con «%1»: inícielo de nuevo si lo desea.</translation>
+    </message>
+</context>
+<context>
     <name>ExternalSubtitlesDialog</name>
     <message>
         <source>Choose subtitles</source>
@@ -1310,6 +1586,70 @@ Se basa en Qt, FFmpeg y libass.</translation>
             <numerusform>quedan %1 h %n min</numerusform>
             <numerusform>quedan %1 h %n min</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>WarningWords</name>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a second picture, %3) was left out, because %4 cannot hold it.</source>
+        <translation type="unfinished">La pista %1 de «%2» (una segunda imagen, %3) se dejó fuera porque no cabe en %4.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a cover picture, %3) was left out, because %4 cannot hold it.</source>
+        <translation type="unfinished">La pista %1 de «%2» (una carátula, %3) se dejó fuera porque no cabe en %4.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a further sound track, %3) was left out, because %4 cannot hold it.</source>
+        <translation type="unfinished">La pista %1 de «%2» (otra pista de sonido, %3) se dejó fuera porque no cabe en %4.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a sound track, %3) was left out, because nothing in it can be read.</source>
+        <translation type="unfinished">La pista %1 de «%2» (una pista de sonido, %3) se dejó fuera porque no se puede leer nada de ella.</translation>
+    </message>
+    <message>
+        <source>The picture of &quot;%1&quot; was encoded anew, because %2 cannot hold it as it is.</source>
+        <translation type="unfinished">La imagen de «%1» se codificó de nuevo porque tal como está no cabe en %2.</translation>
+    </message>
+    <message>
+        <source>Files attached to &quot;%1&quot;, for example fonts, were left out, because %2 cannot hold them.</source>
+        <translation type="unfinished">Los archivos adjuntos a «%1», por ejemplo las fuentes, se dejaron fuera porque no caben en %2.</translation>
+    </message>
+    <message>
+        <source>A subtitle track was left out, because its file is missing.</source>
+        <translation type="unfinished">Una pista de subtítulos se dejó fuera porque falta su archivo.</translation>
+    </message>
+    <message>
+        <source>The subtitle track &quot;%1&quot; was left out, because its file is missing.</source>
+        <translation type="unfinished">La pista de subtítulos «%1» se dejó fuera porque falta su archivo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s) of &quot;%1&quot; could not be read as %2 and show as &quot;%3&quot;: check the encoding.</source>
+        <translation type="unfinished">
+            <numerusform>%n byte de «%1» no se pudo leer como %2 y aparece como «%3»: compruebe la codificación.</numerusform>
+            <numerusform>%n bytes de «%1» no se pudieron leer como %2 y aparecen como «%3»: compruebe la codificación.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of &quot;%1&quot; without usable times were left out.</source>
+        <translation type="unfinished">
+            <numerusform>Se dejó fuera %n subtítulo de «%1» sin tiempos utilizables.</numerusform>
+            <numerusform>Se dejaron fuera %n subtítulos de «%1» sin tiempos utilizables.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of &quot;%1&quot; of no duration were left out.</source>
+        <translation type="unfinished">
+            <numerusform>Se dejó fuera %n subtítulo de «%1» sin duración.</numerusform>
+            <numerusform>Se dejaron fuera %n subtítulos de «%1» sin duración.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Some pictures of &quot;%1&quot; are damaged; they may be missing or look wrong.</source>
+        <translation type="unfinished">Algunas imágenes de «%1» están dañadas; pueden faltar o verse mal.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; breaks off after %2 of %3, and so does the new film.</source>
+        <translation type="unfinished">«%1» se corta a los %2 de %3, y la película nueva también.</translation>
     </message>
 </context>
 </TS>

@@ -114,6 +114,282 @@
     </message>
 </context>
 <context>
+    <name>ErrorClauses</name>
+    <message>
+        <source>it is a folder</source>
+        <translation type="unfinished">フォルダーです</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation type="unfinished">ファイルではありません</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation type="unfinished">%1 バイトより大きいです</translation>
+    </message>
+    <message>
+        <source>its header cannot be read</source>
+        <translation type="unfinished">ヘッダーを読み込めません</translation>
+    </message>
+    <message>
+        <source>nothing in it can be read</source>
+        <translation type="unfinished">読み込める内容がありません</translation>
+    </message>
+    <message>
+        <source>it holds no subtitles</source>
+        <translation type="unfinished">字幕が含まれていません</translation>
+    </message>
+    <message>
+        <source>it does not hold exactly one subtitle track</source>
+        <translation type="unfinished">字幕トラックがちょうど 1 つではありません</translation>
+    </message>
+    <message>
+        <source>it has no picture</source>
+        <translation type="unfinished">映像がありません</translation>
+    </message>
+    <message>
+        <source>it has no picture that subtitles could be drawn into</source>
+        <translation type="unfinished">字幕を焼き込む映像がありません</translation>
+    </message>
+    <message>
+        <source>the size of its picture is not known</source>
+        <translation type="unfinished">映像の大きさが分かりません</translation>
+    </message>
+    <message>
+        <source>the picture has no usable size</source>
+        <translation type="unfinished">映像の大きさが使えません</translation>
+    </message>
+    <message>
+        <source>none of its pictures can be decoded</source>
+        <translation type="unfinished">どの画像もデコードできません</translation>
+    </message>
+    <message>
+        <source>there is no decoder for it</source>
+        <translation type="unfinished">デコーダーがありません</translation>
+    </message>
+    <message>
+        <source>there is no decoder for track %1</source>
+        <translation type="unfinished">トラック %1 のデコーダーがありません</translation>
+    </message>
+    <message>
+        <source>its decoder refuses the stream: %1</source>
+        <translation type="unfinished">デコーダーがストリームを受け付けません: %1</translation>
+    </message>
+    <message>
+        <source>its decoder does not know the options %1</source>
+        <translation type="unfinished">デコーダーがオプション %1 を認識しません</translation>
+    </message>
+    <message>
+        <source>its encoder refuses the sound: %1</source>
+        <translation type="unfinished">エンコーダーが音声を受け付けません: %1</translation>
+    </message>
+    <message>
+        <source>its encoder refuses the picture (%1): %2</source>
+        <translation type="unfinished">エンコーダーが映像を受け付けません (%1): %2</translation>
+    </message>
+    <message>
+        <source>the encoder here is %1</source>
+        <translation type="unfinished">ここでのエンコーダーは %1 です</translation>
+    </message>
+    <message>
+        <source>there is no encoder preset &quot;%1&quot;</source>
+        <translation type="unfinished">エンコーダーのプリセット「%1」はありません</translation>
+    </message>
+    <message>
+        <source>the text encoding &quot;%1&quot; is not known</source>
+        <translation type="unfinished">文字コード「%1」は認識されません</translation>
+    </message>
+    <message>
+        <source>the text renderer could not be set up</source>
+        <translation type="unfinished">文字の描画機能を準備できませんでした</translation>
+    </message>
+    <message>
+        <source>it names a folder</source>
+        <translation type="unfinished">フォルダーを指しています</translation>
+    </message>
+    <message>
+        <source>it is a device or a pipe, not a file</source>
+        <translation type="unfinished">ファイルではなく、デバイスかパイプです</translation>
+    </message>
+    <message>
+        <source>a .%1 file</source>
+        <translation type="unfinished">.%1 ファイル</translation>
+    </message>
+    <message>
+        <source>save it as .%1 instead</source>
+        <translation type="unfinished">代わりに .%1 として保存してください</translation>
+    </message>
+    <message>
+        <source>it consists of pictures, so save it as .%1</source>
+        <translation type="unfinished">画像でできているため、.%1 として保存してください</translation>
+    </message>
+    <message>
+        <source>the encoder libx264 is missing</source>
+        <translation type="unfinished">エンコーダー libx264 がありません</translation>
+    </message>
+    <message>
+        <source>subtitles can be switchable or drawn in, not both</source>
+        <translation type="unfinished">字幕は切り替え可能か焼き込みのどちらか一方だけです</translation>
+    </message>
+    <message>
+        <source>the quality goes from 0 to 51</source>
+        <translation type="unfinished">品質は 0 から 51 までです</translation>
+    </message>
+    <message>
+        <source>the chosen format</source>
+        <translation type="unfinished">選んだ形式</translation>
+    </message>
+    <message>
+        <source>draw it in</source>
+        <translation type="unfinished">映像に焼き込んでください</translation>
+    </message>
+    <message>
+        <source>choose Matroska or draw it in</source>
+        <translation type="unfinished">Matroska を選ぶか、映像に焼き込んでください</translation>
+    </message>
+    <message>
+        <source>draw it in or leave it out</source>
+        <translation type="unfinished">映像に焼き込むか、除外してください</translation>
+    </message>
+    <message>
+        <source>you may not do this</source>
+        <translation type="unfinished">権限がありません</translation>
+    </message>
+    <message>
+        <source>the disk is read-only</source>
+        <translation type="unfinished">ディスクは読み取り専用です</translation>
+    </message>
+    <message>
+        <source>the disk could not be read or written</source>
+        <translation type="unfinished">ディスクの読み書きに失敗しました</translation>
+    </message>
+    <message>
+        <source>there is no such file or folder</source>
+        <translation type="unfinished">そのようなファイルやフォルダーはありません</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation type="unfinished">名前が長すぎます</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation type="unfinished">メモリが足りません</translation>
+    </message>
+    <message>
+        <source>it holds data that make no sense</source>
+        <translation type="unfinished">意味をなさないデータが含まれています</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorWords</name>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation type="unfinished">「%1」</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot;</source>
+        <translation type="unfinished">「%2」のトラック %1</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has no track %2: choose another track.</source>
+        <translation type="unfinished">ファイル「%1」にトラック %2 はありません。別のトラックを選んでください。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has no subtitle track: choose another file.</source>
+        <translation type="unfinished">ファイル「%1」に字幕トラックはありません。別のファイルを選んでください。</translation>
+    </message>
+    <message>
+        <source>choose another format, draw it in or leave it out</source>
+        <translation type="unfinished">別の形式を選ぶか、字幕を映像に焼き込むか、除外してください</translation>
+    </message>
+    <message>
+        <source>%1 is %2, which %3 cannot hold: %4.</source>
+        <extracomment>%1: a track or a file, %2: its codec, %3: a format or a kind of file, %4: what to do</extracomment>
+        <translation type="unfinished">%1 は %2 で、%3 には入れられません。%4。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read%2: choose another one, or check that you may open it.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">ファイル「%1」を読み込めません%2。別のファイルを選ぶか、開く権限があるか確認してください。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is of no kind that can be used here%2: choose another one.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">ファイル「%1」は、ここで使える種類ではありません%2。別のファイルを選んでください。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged%2: try to get a complete copy.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">ファイル「%1」は壊れています%2。完全なコピーを入手してください。</translation>
+    </message>
+    <message>
+        <source>The text of &quot;%1&quot; cannot be drawn, because no usable font is installed%2: install one, for example DejaVu Sans.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">使えるフォントがインストールされていないため、「%1」の文字を描けません%2。DejaVu Sans などのフォントをインストールしてください。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written%2: choose another folder, or check that you may write to this one.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">ファイル「%1」に書き込めません%2。別のフォルダーを選ぶか、このフォルダーに書き込む権限があるか確認してください。</translation>
+    </message>
+    <message>
+        <source>A setting for &quot;%1&quot; is not valid%2: correct it and try again.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">「%1」の設定が正しくありません%2。直してからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Work on &quot;%1&quot; failed%2: try again, and report it if it fails again.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">「%1」の処理に失敗しました%2。もう一度試し、再び失敗する場合は報告してください。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not exist any more: choose another one.</source>
+        <translation type="unfinished">ファイル「%1」はもう存在しません。別のファイルを選んでください。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty: choose another one.</source>
+        <translation type="unfinished">ファイル「%1」は空です。別のファイルを選んでください。</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; is not a subtitle track: choose another one.</source>
+        <translation type="unfinished">「%2」のトラック %1 は字幕トラックではありません。別のトラックを選んでください。</translation>
+    </message>
+    <message>
+        <source>The codec of &quot;%1&quot;, %2, cannot be used here%3: choose another file or another format.</source>
+        <extracomment>%2: a codec, %3: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">「%1」のコーデック %2 はここでは使えません%3。別のファイルか別の形式を選んでください。</translation>
+    </message>
+    <message>
+        <source>The format of &quot;%1&quot; is not known%2: choose another one.</source>
+        <extracomment>%2: what was asked for, in brackets, or nothing</extracomment>
+        <translation type="unfinished">「%1」の形式が分かりません%2。別の形式を選んでください。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has neither picture nor sound: choose another one.</source>
+        <translation type="unfinished">ファイル「%1」には映像も音声もありません。別のファイルを選んでください。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; exists already: choose another name.</source>
+        <translation type="unfinished">ファイル「%1」はすでに存在します。別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is being read, so it cannot be written: choose another name.</source>
+        <translation type="unfinished">ファイル「%1」は読み込み中のため書き込めません。別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>The folder of &quot;%1&quot; does not exist: create it, or choose another one.</source>
+        <translation type="unfinished">「%1」のフォルダーが存在しません。作成するか、別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>The disk is full, so &quot;%1&quot; was not written: free some space, or choose another folder.</source>
+        <translation type="unfinished">ディスクがいっぱいのため、「%1」を書き込めませんでした。空き容量を増やすか、別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>Work on &quot;%1&quot; was cancelled: start it again if you want it.</source>
+        <translation type="unfinished">「%1」の処理は中止されました。必要ならもう一度開始してください。</translation>
+    </message>
+</context>
+<context>
     <name>ExternalSubtitlesDialog</name>
     <message>
         <source>Choose subtitles</source>
@@ -1294,6 +1570,67 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <translation type="unfinished">
             <numerusform>残り %1 時間 %n 分</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>WarningWords</name>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a second picture, %3) was left out, because %4 cannot hold it.</source>
+        <translation type="unfinished">「%2」のトラック %1（2 つ目の映像、%3）は、%4 に入れられないため除外しました。</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a cover picture, %3) was left out, because %4 cannot hold it.</source>
+        <translation type="unfinished">「%2」のトラック %1（カバー画像、%3）は、%4 に入れられないため除外しました。</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a further sound track, %3) was left out, because %4 cannot hold it.</source>
+        <translation type="unfinished">「%2」のトラック %1（別の音声トラック、%3）は、%4 に入れられないため除外しました。</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a sound track, %3) was left out, because nothing in it can be read.</source>
+        <translation type="unfinished">「%2」のトラック %1（音声トラック、%3）は、読み込める内容がないため除外しました。</translation>
+    </message>
+    <message>
+        <source>The picture of &quot;%1&quot; was encoded anew, because %2 cannot hold it as it is.</source>
+        <translation type="unfinished">「%1」の映像は、そのままでは %2 に入れられないため再エンコードしました。</translation>
+    </message>
+    <message>
+        <source>Files attached to &quot;%1&quot;, for example fonts, were left out, because %2 cannot hold them.</source>
+        <translation type="unfinished">「%1」に添付されたファイル（フォントなど）は、%2 に入れられないため除外しました。</translation>
+    </message>
+    <message>
+        <source>A subtitle track was left out, because its file is missing.</source>
+        <translation type="unfinished">ファイルがないため、字幕トラックを 1 つ除外しました。</translation>
+    </message>
+    <message>
+        <source>The subtitle track &quot;%1&quot; was left out, because its file is missing.</source>
+        <translation type="unfinished">ファイルがないため、字幕トラック「%1」を除外しました。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s) of &quot;%1&quot; could not be read as %2 and show as &quot;%3&quot;: check the encoding.</source>
+        <translation type="unfinished">
+            <numerusform>「%1」の %n バイトは %2 として読めず、「%3」と表示されます。文字コードを確認してください。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of &quot;%1&quot; without usable times were left out.</source>
+        <translation type="unfinished">
+            <numerusform>「%1」の時間が使えない字幕 %n 個を除外しました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of &quot;%1&quot; of no duration were left out.</source>
+        <translation type="unfinished">
+            <numerusform>「%1」の長さのない字幕 %n 個を除外しました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Some pictures of &quot;%1&quot; are damaged; they may be missing or look wrong.</source>
+        <translation type="unfinished">「%1」の一部の画像が壊れています。欠けたり、正しく表示されないことがあります。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; breaks off after %2 of %3, and so does the new film.</source>
+        <translation type="unfinished">「%1」は %3 のうち %2 で途切れているため、新しい映画もそこで終わります。</translation>
     </message>
 </context>
 </TS>

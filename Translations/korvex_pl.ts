@@ -120,6 +120,282 @@
     </message>
 </context>
 <context>
+    <name>ErrorClauses</name>
+    <message>
+        <source>it is a folder</source>
+        <translation type="unfinished">to jest folder</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation type="unfinished">to nie jest plik</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation type="unfinished">jest większy niż %1 bajtów</translation>
+    </message>
+    <message>
+        <source>its header cannot be read</source>
+        <translation type="unfinished">nie można odczytać jego nagłówka</translation>
+    </message>
+    <message>
+        <source>nothing in it can be read</source>
+        <translation type="unfinished">nie można w nim nic odczytać</translation>
+    </message>
+    <message>
+        <source>it holds no subtitles</source>
+        <translation type="unfinished">nie zawiera napisów</translation>
+    </message>
+    <message>
+        <source>it does not hold exactly one subtitle track</source>
+        <translation type="unfinished">nie zawiera dokładnie jednej ścieżki napisów</translation>
+    </message>
+    <message>
+        <source>it has no picture</source>
+        <translation type="unfinished">nie ma obrazu</translation>
+    </message>
+    <message>
+        <source>it has no picture that subtitles could be drawn into</source>
+        <translation type="unfinished">nie ma obrazu, w który można wtopić napisy</translation>
+    </message>
+    <message>
+        <source>the size of its picture is not known</source>
+        <translation type="unfinished">nie wiadomo, jaki jest rozmiar jego obrazu</translation>
+    </message>
+    <message>
+        <source>the picture has no usable size</source>
+        <translation type="unfinished">obraz nie ma użytecznego rozmiaru</translation>
+    </message>
+    <message>
+        <source>none of its pictures can be decoded</source>
+        <translation type="unfinished">nie można zdekodować żadnego z jego obrazów</translation>
+    </message>
+    <message>
+        <source>there is no decoder for it</source>
+        <translation type="unfinished">nie ma dla niego dekodera</translation>
+    </message>
+    <message>
+        <source>there is no decoder for track %1</source>
+        <translation type="unfinished">nie ma dekodera dla ścieżki %1</translation>
+    </message>
+    <message>
+        <source>its decoder refuses the stream: %1</source>
+        <translation type="unfinished">jego dekoder odrzuca strumień: %1</translation>
+    </message>
+    <message>
+        <source>its decoder does not know the options %1</source>
+        <translation type="unfinished">jego dekoder nie zna opcji %1</translation>
+    </message>
+    <message>
+        <source>its encoder refuses the sound: %1</source>
+        <translation type="unfinished">jego koder odrzuca dźwięk: %1</translation>
+    </message>
+    <message>
+        <source>its encoder refuses the picture (%1): %2</source>
+        <translation type="unfinished">jego koder odrzuca obraz (%1): %2</translation>
+    </message>
+    <message>
+        <source>the encoder here is %1</source>
+        <translation type="unfinished">tutaj koderem jest %1</translation>
+    </message>
+    <message>
+        <source>there is no encoder preset &quot;%1&quot;</source>
+        <translation type="unfinished">nie ma ustawienia kodera „%1”</translation>
+    </message>
+    <message>
+        <source>the text encoding &quot;%1&quot; is not known</source>
+        <translation type="unfinished">kodowanie tekstu „%1” jest nieznane</translation>
+    </message>
+    <message>
+        <source>the text renderer could not be set up</source>
+        <translation type="unfinished">nie udało się przygotować rysowania tekstu</translation>
+    </message>
+    <message>
+        <source>it names a folder</source>
+        <translation type="unfinished">to jest folder</translation>
+    </message>
+    <message>
+        <source>it is a device or a pipe, not a file</source>
+        <translation type="unfinished">to urządzenie lub potok, a nie plik</translation>
+    </message>
+    <message>
+        <source>a .%1 file</source>
+        <translation type="unfinished">plik .%1</translation>
+    </message>
+    <message>
+        <source>save it as .%1 instead</source>
+        <translation type="unfinished">zapisz to jako .%1</translation>
+    </message>
+    <message>
+        <source>it consists of pictures, so save it as .%1</source>
+        <translation type="unfinished">składa się z obrazów, więc zapisz ją jako .%1</translation>
+    </message>
+    <message>
+        <source>the encoder libx264 is missing</source>
+        <translation type="unfinished">brakuje kodera libx264</translation>
+    </message>
+    <message>
+        <source>subtitles can be switchable or drawn in, not both</source>
+        <translation type="unfinished">napisy mogą być przełączane albo wtopione, nie jedno i drugie</translation>
+    </message>
+    <message>
+        <source>the quality goes from 0 to 51</source>
+        <translation type="unfinished">jakość może wynosić od 0 do 51</translation>
+    </message>
+    <message>
+        <source>the chosen format</source>
+        <translation type="unfinished">wybrany format</translation>
+    </message>
+    <message>
+        <source>draw it in</source>
+        <translation type="unfinished">wtop ją w obraz</translation>
+    </message>
+    <message>
+        <source>choose Matroska or draw it in</source>
+        <translation type="unfinished">wybierz Matroska lub wtop ją w obraz</translation>
+    </message>
+    <message>
+        <source>draw it in or leave it out</source>
+        <translation type="unfinished">wtop ją w obraz lub pomiń</translation>
+    </message>
+    <message>
+        <source>you may not do this</source>
+        <translation type="unfinished">brak uprawnień</translation>
+    </message>
+    <message>
+        <source>the disk is read-only</source>
+        <translation type="unfinished">dysk jest tylko do odczytu</translation>
+    </message>
+    <message>
+        <source>the disk could not be read or written</source>
+        <translation type="unfinished">nie można było czytać z dysku lub zapisywać na nim</translation>
+    </message>
+    <message>
+        <source>there is no such file or folder</source>
+        <translation type="unfinished">nie ma takiego pliku ani folderu</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation type="unfinished">jego nazwa jest za długa</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation type="unfinished">brakuje pamięci</translation>
+    </message>
+    <message>
+        <source>it holds data that make no sense</source>
+        <translation type="unfinished">zawiera dane bez sensu</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorWords</name>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation type="unfinished">„%1”</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot;</source>
+        <translation type="unfinished">Ścieżka %1 z „%2”</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has no track %2: choose another track.</source>
+        <translation type="unfinished">Plik „%1” nie ma ścieżki %2: wybierz inną ścieżkę.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has no subtitle track: choose another file.</source>
+        <translation type="unfinished">Plik „%1” nie ma ścieżki napisów: wybierz inny plik.</translation>
+    </message>
+    <message>
+        <source>choose another format, draw it in or leave it out</source>
+        <translation type="unfinished">wybierz inny format, wtop napisy w obraz lub pomiń je</translation>
+    </message>
+    <message>
+        <source>%1 is %2, which %3 cannot hold: %4.</source>
+        <extracomment>%1: a track or a file, %2: its codec, %3: a format or a kind of file, %4: what to do</extracomment>
+        <translation type="unfinished">%1 ma format %2, którego nie może zawierać %3: %4.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read%2: choose another one, or check that you may open it.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Nie można odczytać pliku „%1”%2: wybierz inny lub sprawdź, czy wolno ci go otworzyć.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is of no kind that can be used here%2: choose another one.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Pliku „%1” nie można tu użyć ze względu na jego rodzaj%2: wybierz inny.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged%2: try to get a complete copy.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Plik „%1” jest uszkodzony%2: spróbuj zdobyć pełną kopię.</translation>
+    </message>
+    <message>
+        <source>The text of &quot;%1&quot; cannot be drawn, because no usable font is installed%2: install one, for example DejaVu Sans.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Nie można narysować tekstu z „%1”, bo nie zainstalowano żadnej odpowiedniej czcionki%2: zainstaluj jakąś, na przykład DejaVu Sans.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written%2: choose another folder, or check that you may write to this one.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Nie można zapisać pliku „%1”%2: wybierz inny folder lub sprawdź, czy wolno ci zapisywać w tym.</translation>
+    </message>
+    <message>
+        <source>A setting for &quot;%1&quot; is not valid%2: correct it and try again.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Ustawienie dla „%1” jest nieprawidłowe%2: popraw je i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>Work on &quot;%1&quot; failed%2: try again, and report it if it fails again.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Praca nad „%1” nie powiodła się%2: spróbuj ponownie, a jeśli to się powtórzy, zgłoś to.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not exist any more: choose another one.</source>
+        <translation type="unfinished">Plik „%1” już nie istnieje: wybierz inny.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty: choose another one.</source>
+        <translation type="unfinished">Plik „%1” jest pusty: wybierz inny.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; is not a subtitle track: choose another one.</source>
+        <translation type="unfinished">Ścieżka %1 z „%2” nie jest ścieżką napisów: wybierz inną.</translation>
+    </message>
+    <message>
+        <source>The codec of &quot;%1&quot;, %2, cannot be used here%3: choose another file or another format.</source>
+        <extracomment>%2: a codec, %3: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Kodeka pliku „%1”, %2, nie można tu użyć%3: wybierz inny plik lub inny format.</translation>
+    </message>
+    <message>
+        <source>The format of &quot;%1&quot; is not known%2: choose another one.</source>
+        <extracomment>%2: what was asked for, in brackets, or nothing</extracomment>
+        <translation type="unfinished">Format pliku „%1” jest nieznany%2: wybierz inny.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has neither picture nor sound: choose another one.</source>
+        <translation type="unfinished">Plik „%1” nie ma ani obrazu, ani dźwięku: wybierz inny.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; exists already: choose another name.</source>
+        <translation type="unfinished">Plik „%1” już istnieje: wybierz inną nazwę.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is being read, so it cannot be written: choose another name.</source>
+        <translation type="unfinished">Plik „%1” jest właśnie odczytywany, więc nie można go zapisać: wybierz inną nazwę.</translation>
+    </message>
+    <message>
+        <source>The folder of &quot;%1&quot; does not exist: create it, or choose another one.</source>
+        <translation type="unfinished">Folder pliku „%1” nie istnieje: utwórz go lub wybierz inny.</translation>
+    </message>
+    <message>
+        <source>The disk is full, so &quot;%1&quot; was not written: free some space, or choose another folder.</source>
+        <translation type="unfinished">Dysk jest pełny, więc nie zapisano „%1”: zwolnij miejsce lub wybierz inny folder.</translation>
+    </message>
+    <message>
+        <source>Work on &quot;%1&quot; was cancelled: start it again if you want it.</source>
+        <translation type="unfinished">Pracę nad „%1” anulowano: rozpocznij ją ponownie, jeśli chcesz.</translation>
+    </message>
+</context>
+<context>
     <name>ExternalSubtitlesDialog</name>
     <message>
         <source>Choose subtitles</source>
@@ -1326,6 +1602,73 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
             <numerusform>zostało %1 godz %n min</numerusform>
             <numerusform>zostało %1 godz %n min</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>WarningWords</name>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a second picture, %3) was left out, because %4 cannot hold it.</source>
+        <translation type="unfinished">Ścieżkę %1 z „%2” (drugi obraz, %3) pominięto, bo %4 nie może jej zawierać.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a cover picture, %3) was left out, because %4 cannot hold it.</source>
+        <translation type="unfinished">Ścieżkę %1 z „%2” (okładka, %3) pominięto, bo %4 nie może jej zawierać.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a further sound track, %3) was left out, because %4 cannot hold it.</source>
+        <translation type="unfinished">Ścieżkę %1 z „%2” (kolejna ścieżka dźwiękowa, %3) pominięto, bo %4 nie może jej zawierać.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a sound track, %3) was left out, because nothing in it can be read.</source>
+        <translation type="unfinished">Ścieżkę %1 z „%2” (ścieżka dźwiękowa, %3) pominięto, bo nie można w niej nic odczytać.</translation>
+    </message>
+    <message>
+        <source>The picture of &quot;%1&quot; was encoded anew, because %2 cannot hold it as it is.</source>
+        <translation type="unfinished">Obraz z „%1” zakodowano na nowo, bo %2 nie może go zawierać w obecnej postaci.</translation>
+    </message>
+    <message>
+        <source>Files attached to &quot;%1&quot;, for example fonts, were left out, because %2 cannot hold them.</source>
+        <translation type="unfinished">Pliki dołączone do „%1”, na przykład czcionki, pominięto, bo %2 nie może ich zawierać.</translation>
+    </message>
+    <message>
+        <source>A subtitle track was left out, because its file is missing.</source>
+        <translation type="unfinished">Pominięto ścieżkę napisów, bo brakuje jej pliku.</translation>
+    </message>
+    <message>
+        <source>The subtitle track &quot;%1&quot; was left out, because its file is missing.</source>
+        <translation type="unfinished">Pominięto ścieżkę napisów „%1”, bo brakuje jej pliku.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s) of &quot;%1&quot; could not be read as %2 and show as &quot;%3&quot;: check the encoding.</source>
+        <translation type="unfinished">
+            <numerusform>%n bajtu z „%1” nie udało się odczytać jako %2 i widnieje on jako „%3”: sprawdź kodowanie.</numerusform>
+            <numerusform>%n bajtów z „%1” nie udało się odczytać jako %2 i widnieją one jako „%3”: sprawdź kodowanie.</numerusform>
+            <numerusform>%n bajtów z „%1” nie udało się odczytać jako %2 i widnieją one jako „%3”: sprawdź kodowanie.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of &quot;%1&quot; without usable times were left out.</source>
+        <translation type="unfinished">
+            <numerusform>Pominięto %n napis z „%1” bez użytecznych czasów.</numerusform>
+            <numerusform>Pominięto %n napisy z „%1” bez użytecznych czasów.</numerusform>
+            <numerusform>Pominięto %n napisów z „%1” bez użytecznych czasów.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of &quot;%1&quot; of no duration were left out.</source>
+        <translation type="unfinished">
+            <numerusform>Pominięto %n napis z „%1” bez czasu trwania.</numerusform>
+            <numerusform>Pominięto %n napisy z „%1” bez czasu trwania.</numerusform>
+            <numerusform>Pominięto %n napisów z „%1” bez czasu trwania.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Some pictures of &quot;%1&quot; are damaged; they may be missing or look wrong.</source>
+        <translation type="unfinished">Niektóre obrazy z „%1” są uszkodzone; może ich brakować lub mogą wyglądać źle.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; breaks off after %2 of %3, and so does the new film.</source>
+        <translation type="unfinished">„%1” urywa się po %2 z %3, a nowy film tak samo.</translation>
     </message>
 </context>
 </TS>

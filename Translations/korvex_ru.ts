@@ -120,6 +120,282 @@
     </message>
 </context>
 <context>
+    <name>ErrorClauses</name>
+    <message>
+        <source>it is a folder</source>
+        <translation type="unfinished">это папка</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation type="unfinished">это не файл</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation type="unfinished">его размер больше %1 байт</translation>
+    </message>
+    <message>
+        <source>its header cannot be read</source>
+        <translation type="unfinished">его заголовок не читается</translation>
+    </message>
+    <message>
+        <source>nothing in it can be read</source>
+        <translation type="unfinished">в нём ничего нельзя прочитать</translation>
+    </message>
+    <message>
+        <source>it holds no subtitles</source>
+        <translation type="unfinished">в нём нет субтитров</translation>
+    </message>
+    <message>
+        <source>it does not hold exactly one subtitle track</source>
+        <translation type="unfinished">в нём не ровно одна дорожка субтитров</translation>
+    </message>
+    <message>
+        <source>it has no picture</source>
+        <translation type="unfinished">в нём нет изображения</translation>
+    </message>
+    <message>
+        <source>it has no picture that subtitles could be drawn into</source>
+        <translation type="unfinished">в нём нет изображения, в которое можно вшить субтитры</translation>
+    </message>
+    <message>
+        <source>the size of its picture is not known</source>
+        <translation type="unfinished">размер его изображения неизвестен</translation>
+    </message>
+    <message>
+        <source>the picture has no usable size</source>
+        <translation type="unfinished">размер изображения непригоден</translation>
+    </message>
+    <message>
+        <source>none of its pictures can be decoded</source>
+        <translation type="unfinished">ни один кадр не удаётся декодировать</translation>
+    </message>
+    <message>
+        <source>there is no decoder for it</source>
+        <translation type="unfinished">для него нет декодера</translation>
+    </message>
+    <message>
+        <source>there is no decoder for track %1</source>
+        <translation type="unfinished">для дорожки %1 нет декодера</translation>
+    </message>
+    <message>
+        <source>its decoder refuses the stream: %1</source>
+        <translation type="unfinished">его декодер не принимает поток: %1</translation>
+    </message>
+    <message>
+        <source>its decoder does not know the options %1</source>
+        <translation type="unfinished">его декодер не знает параметров %1</translation>
+    </message>
+    <message>
+        <source>its encoder refuses the sound: %1</source>
+        <translation type="unfinished">его кодировщик не принимает звук: %1</translation>
+    </message>
+    <message>
+        <source>its encoder refuses the picture (%1): %2</source>
+        <translation type="unfinished">его кодировщик не принимает изображение (%1): %2</translation>
+    </message>
+    <message>
+        <source>the encoder here is %1</source>
+        <translation type="unfinished">здесь кодировщик — %1</translation>
+    </message>
+    <message>
+        <source>there is no encoder preset &quot;%1&quot;</source>
+        <translation type="unfinished">нет набора настроек кодировщика «%1»</translation>
+    </message>
+    <message>
+        <source>the text encoding &quot;%1&quot; is not known</source>
+        <translation type="unfinished">кодировка текста «%1» неизвестна</translation>
+    </message>
+    <message>
+        <source>the text renderer could not be set up</source>
+        <translation type="unfinished">не удалось подготовить рисование текста</translation>
+    </message>
+    <message>
+        <source>it names a folder</source>
+        <translation type="unfinished">это папка</translation>
+    </message>
+    <message>
+        <source>it is a device or a pipe, not a file</source>
+        <translation type="unfinished">это устройство или канал, а не файл</translation>
+    </message>
+    <message>
+        <source>a .%1 file</source>
+        <translation type="unfinished">файл .%1</translation>
+    </message>
+    <message>
+        <source>save it as .%1 instead</source>
+        <translation type="unfinished">сохраните как .%1</translation>
+    </message>
+    <message>
+        <source>it consists of pictures, so save it as .%1</source>
+        <translation type="unfinished">она состоит из картинок, поэтому сохраните её как .%1</translation>
+    </message>
+    <message>
+        <source>the encoder libx264 is missing</source>
+        <translation type="unfinished">нет кодировщика libx264</translation>
+    </message>
+    <message>
+        <source>subtitles can be switchable or drawn in, not both</source>
+        <translation type="unfinished">субтитры могут быть отключаемыми или вшитыми, но не тем и другим сразу</translation>
+    </message>
+    <message>
+        <source>the quality goes from 0 to 51</source>
+        <translation type="unfinished">качество — от 0 до 51</translation>
+    </message>
+    <message>
+        <source>the chosen format</source>
+        <translation type="unfinished">выбранный формат</translation>
+    </message>
+    <message>
+        <source>draw it in</source>
+        <translation type="unfinished">вшейте её в изображение</translation>
+    </message>
+    <message>
+        <source>choose Matroska or draw it in</source>
+        <translation type="unfinished">выберите Matroska или вшейте её в изображение</translation>
+    </message>
+    <message>
+        <source>draw it in or leave it out</source>
+        <translation type="unfinished">вшейте её в изображение или исключите</translation>
+    </message>
+    <message>
+        <source>you may not do this</source>
+        <translation type="unfinished">нет прав доступа</translation>
+    </message>
+    <message>
+        <source>the disk is read-only</source>
+        <translation type="unfinished">диск доступен только для чтения</translation>
+    </message>
+    <message>
+        <source>the disk could not be read or written</source>
+        <translation type="unfinished">не удалось прочитать или записать данные на диск</translation>
+    </message>
+    <message>
+        <source>there is no such file or folder</source>
+        <translation type="unfinished">такого файла или папки нет</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation type="unfinished">его имя слишком длинное</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation type="unfinished">не хватает памяти</translation>
+    </message>
+    <message>
+        <source>it holds data that make no sense</source>
+        <translation type="unfinished">в нём бессмысленные данные</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorWords</name>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation type="unfinished">«%1»</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot;</source>
+        <translation type="unfinished">Дорожка %1 из «%2»</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has no track %2: choose another track.</source>
+        <translation type="unfinished">В файле «%1» нет дорожки %2: выберите другую дорожку.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has no subtitle track: choose another file.</source>
+        <translation type="unfinished">В файле «%1» нет дорожки субтитров: выберите другой файл.</translation>
+    </message>
+    <message>
+        <source>choose another format, draw it in or leave it out</source>
+        <translation type="unfinished">выберите другой формат, вшейте субтитры в изображение или исключите их</translation>
+    </message>
+    <message>
+        <source>%1 is %2, which %3 cannot hold: %4.</source>
+        <extracomment>%1: a track or a file, %2: its codec, %3: a format or a kind of file, %4: what to do</extracomment>
+        <translation type="unfinished">%1 — это %2, а такое не может содержать %3: %4.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read%2: choose another one, or check that you may open it.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Файл «%1» не читается%2: выберите другой или проверьте, есть ли у вас право его открывать.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is of no kind that can be used here%2: choose another one.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Файл «%1» не того вида, который можно здесь использовать%2: выберите другой.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged%2: try to get a complete copy.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Файл «%1» повреждён%2: попробуйте получить целую копию.</translation>
+    </message>
+    <message>
+        <source>The text of &quot;%1&quot; cannot be drawn, because no usable font is installed%2: install one, for example DejaVu Sans.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Текст из «%1» нельзя нарисовать, потому что не установлено ни одного подходящего шрифта%2: установите какой-нибудь, например DejaVu Sans.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written%2: choose another folder, or check that you may write to this one.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Файл «%1» нельзя записать%2: выберите другую папку или проверьте, есть ли у вас право записи в эту.</translation>
+    </message>
+    <message>
+        <source>A setting for &quot;%1&quot; is not valid%2: correct it and try again.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Недопустимая настройка для «%1»%2: исправьте её и попробуйте ещё раз.</translation>
+    </message>
+    <message>
+        <source>Work on &quot;%1&quot; failed%2: try again, and report it if it fails again.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Не удалось обработать «%1»%2: попробуйте ещё раз и сообщите, если ошибка повторится.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not exist any more: choose another one.</source>
+        <translation type="unfinished">Файла «%1» больше нет: выберите другой.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty: choose another one.</source>
+        <translation type="unfinished">Файл «%1» пуст: выберите другой.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; is not a subtitle track: choose another one.</source>
+        <translation type="unfinished">Дорожка %1 из «%2» — не дорожка субтитров: выберите другую.</translation>
+    </message>
+    <message>
+        <source>The codec of &quot;%1&quot;, %2, cannot be used here%3: choose another file or another format.</source>
+        <extracomment>%2: a codec, %3: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Кодек файла «%1», %2, здесь использовать нельзя%3: выберите другой файл или другой формат.</translation>
+    </message>
+    <message>
+        <source>The format of &quot;%1&quot; is not known%2: choose another one.</source>
+        <extracomment>%2: what was asked for, in brackets, or nothing</extracomment>
+        <translation type="unfinished">Формат файла «%1» неизвестен%2: выберите другой.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has neither picture nor sound: choose another one.</source>
+        <translation type="unfinished">В файле «%1» нет ни изображения, ни звука: выберите другой.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; exists already: choose another name.</source>
+        <translation type="unfinished">Файл «%1» уже существует: выберите другое имя.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is being read, so it cannot be written: choose another name.</source>
+        <translation type="unfinished">Файл «%1» сейчас читается, поэтому записать его нельзя: выберите другое имя.</translation>
+    </message>
+    <message>
+        <source>The folder of &quot;%1&quot; does not exist: create it, or choose another one.</source>
+        <translation type="unfinished">Папки для «%1» не существует: создайте её или выберите другую.</translation>
+    </message>
+    <message>
+        <source>The disk is full, so &quot;%1&quot; was not written: free some space, or choose another folder.</source>
+        <translation type="unfinished">Диск заполнен, поэтому «%1» не записан: освободите место или выберите другую папку.</translation>
+    </message>
+    <message>
+        <source>Work on &quot;%1&quot; was cancelled: start it again if you want it.</source>
+        <translation type="unfinished">Обработка «%1» отменена: запустите её снова, если нужно.</translation>
+    </message>
+</context>
+<context>
     <name>ExternalSubtitlesDialog</name>
     <message>
         <source>Choose subtitles</source>
@@ -1326,6 +1602,73 @@ It is built on Qt, FFmpeg and libass.</source>
             <numerusform>осталось %1 ч %n мин</numerusform>
             <numerusform>осталось %1 ч %n мин</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>WarningWords</name>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a second picture, %3) was left out, because %4 cannot hold it.</source>
+        <translation type="unfinished">Дорожка %1 из «%2» (второе изображение, %3) исключена, потому что %4 не может её содержать.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a cover picture, %3) was left out, because %4 cannot hold it.</source>
+        <translation type="unfinished">Дорожка %1 из «%2» (обложка, %3) исключена, потому что %4 не может её содержать.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a further sound track, %3) was left out, because %4 cannot hold it.</source>
+        <translation type="unfinished">Дорожка %1 из «%2» (ещё одна звуковая, %3) исключена, потому что %4 не может её содержать.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a sound track, %3) was left out, because nothing in it can be read.</source>
+        <translation type="unfinished">Дорожка %1 из «%2» (звуковая, %3) исключена, потому что в ней ничего нельзя прочитать.</translation>
+    </message>
+    <message>
+        <source>The picture of &quot;%1&quot; was encoded anew, because %2 cannot hold it as it is.</source>
+        <translation type="unfinished">Изображение из «%1» перекодировано, потому что %2 не может содержать его как есть.</translation>
+    </message>
+    <message>
+        <source>Files attached to &quot;%1&quot;, for example fonts, were left out, because %2 cannot hold them.</source>
+        <translation type="unfinished">Файлы, вложенные в «%1», например шрифты, исключены, потому что %2 не может их содержать.</translation>
+    </message>
+    <message>
+        <source>A subtitle track was left out, because its file is missing.</source>
+        <translation type="unfinished">Дорожка субтитров исключена, потому что её файла нет.</translation>
+    </message>
+    <message>
+        <source>The subtitle track &quot;%1&quot; was left out, because its file is missing.</source>
+        <translation type="unfinished">Дорожка субтитров «%1» исключена, потому что её файла нет.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s) of &quot;%1&quot; could not be read as %2 and show as &quot;%3&quot;: check the encoding.</source>
+        <translation type="unfinished">
+            <numerusform>%n байт из «%1» не читается как %2 и показан как «%3»: проверьте кодировку.</numerusform>
+            <numerusform>%n байта из «%1» не читаются как %2 и показаны как «%3»: проверьте кодировку.</numerusform>
+            <numerusform>%n байт из «%1» не читаются как %2 и показаны как «%3»: проверьте кодировку.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of &quot;%1&quot; without usable times were left out.</source>
+        <translation type="unfinished">
+            <numerusform>Исключена %n реплика из «%1» без пригодных времён.</numerusform>
+            <numerusform>Исключены %n реплики из «%1» без пригодных времён.</numerusform>
+            <numerusform>Исключено %n реплик из «%1» без пригодных времён.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of &quot;%1&quot; of no duration were left out.</source>
+        <translation type="unfinished">
+            <numerusform>Исключена %n реплика из «%1» нулевой длительности.</numerusform>
+            <numerusform>Исключены %n реплики из «%1» нулевой длительности.</numerusform>
+            <numerusform>Исключено %n реплик из «%1» нулевой длительности.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Some pictures of &quot;%1&quot; are damaged; they may be missing or look wrong.</source>
+        <translation type="unfinished">Некоторые кадры из «%1» повреждены: они могут отсутствовать или выглядеть неправильно.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; breaks off after %2 of %3, and so does the new film.</source>
+        <translation type="unfinished">«%1» обрывается через %2 из %3, и новый фильм тоже.</translation>
     </message>
 </context>
 </TS>

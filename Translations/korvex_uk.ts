@@ -120,6 +120,282 @@
     </message>
 </context>
 <context>
+    <name>ErrorClauses</name>
+    <message>
+        <source>it is a folder</source>
+        <translation type="unfinished">це тека</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation type="unfinished">це не файл</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation type="unfinished">його розмір більший за %1 байтів</translation>
+    </message>
+    <message>
+        <source>its header cannot be read</source>
+        <translation type="unfinished">його заголовок не читається</translation>
+    </message>
+    <message>
+        <source>nothing in it can be read</source>
+        <translation type="unfinished">у ньому нічого не можна прочитати</translation>
+    </message>
+    <message>
+        <source>it holds no subtitles</source>
+        <translation type="unfinished">у ньому немає субтитрів</translation>
+    </message>
+    <message>
+        <source>it does not hold exactly one subtitle track</source>
+        <translation type="unfinished">у ньому не рівно одна доріжка субтитрів</translation>
+    </message>
+    <message>
+        <source>it has no picture</source>
+        <translation type="unfinished">у ньому немає зображення</translation>
+    </message>
+    <message>
+        <source>it has no picture that subtitles could be drawn into</source>
+        <translation type="unfinished">у ньому немає зображення, у яке можна вшити субтитри</translation>
+    </message>
+    <message>
+        <source>the size of its picture is not known</source>
+        <translation type="unfinished">розмір його зображення невідомий</translation>
+    </message>
+    <message>
+        <source>the picture has no usable size</source>
+        <translation type="unfinished">розмір зображення непридатний</translation>
+    </message>
+    <message>
+        <source>none of its pictures can be decoded</source>
+        <translation type="unfinished">жодного кадру не вдається декодувати</translation>
+    </message>
+    <message>
+        <source>there is no decoder for it</source>
+        <translation type="unfinished">для нього немає декодера</translation>
+    </message>
+    <message>
+        <source>there is no decoder for track %1</source>
+        <translation type="unfinished">для доріжки %1 немає декодера</translation>
+    </message>
+    <message>
+        <source>its decoder refuses the stream: %1</source>
+        <translation type="unfinished">його декодер не приймає потік: %1</translation>
+    </message>
+    <message>
+        <source>its decoder does not know the options %1</source>
+        <translation type="unfinished">його декодер не знає параметрів %1</translation>
+    </message>
+    <message>
+        <source>its encoder refuses the sound: %1</source>
+        <translation type="unfinished">його кодувальник не приймає звук: %1</translation>
+    </message>
+    <message>
+        <source>its encoder refuses the picture (%1): %2</source>
+        <translation type="unfinished">його кодувальник не приймає зображення (%1): %2</translation>
+    </message>
+    <message>
+        <source>the encoder here is %1</source>
+        <translation type="unfinished">тут кодувальник — %1</translation>
+    </message>
+    <message>
+        <source>there is no encoder preset &quot;%1&quot;</source>
+        <translation type="unfinished">немає набору налаштувань кодувальника «%1»</translation>
+    </message>
+    <message>
+        <source>the text encoding &quot;%1&quot; is not known</source>
+        <translation type="unfinished">кодування тексту «%1» невідоме</translation>
+    </message>
+    <message>
+        <source>the text renderer could not be set up</source>
+        <translation type="unfinished">не вдалося підготувати малювання тексту</translation>
+    </message>
+    <message>
+        <source>it names a folder</source>
+        <translation type="unfinished">це тека</translation>
+    </message>
+    <message>
+        <source>it is a device or a pipe, not a file</source>
+        <translation type="unfinished">це пристрій або канал, а не файл</translation>
+    </message>
+    <message>
+        <source>a .%1 file</source>
+        <translation type="unfinished">файл .%1</translation>
+    </message>
+    <message>
+        <source>save it as .%1 instead</source>
+        <translation type="unfinished">збережіть як .%1</translation>
+    </message>
+    <message>
+        <source>it consists of pictures, so save it as .%1</source>
+        <translation type="unfinished">вона складається з картинок, тому збережіть її як .%1</translation>
+    </message>
+    <message>
+        <source>the encoder libx264 is missing</source>
+        <translation type="unfinished">немає кодувальника libx264</translation>
+    </message>
+    <message>
+        <source>subtitles can be switchable or drawn in, not both</source>
+        <translation type="unfinished">субтитри можуть бути вимиканими або вшитими, але не тим і тим одразу</translation>
+    </message>
+    <message>
+        <source>the quality goes from 0 to 51</source>
+        <translation type="unfinished">якість — від 0 до 51</translation>
+    </message>
+    <message>
+        <source>the chosen format</source>
+        <translation type="unfinished">вибраний формат</translation>
+    </message>
+    <message>
+        <source>draw it in</source>
+        <translation type="unfinished">вшийте її в зображення</translation>
+    </message>
+    <message>
+        <source>choose Matroska or draw it in</source>
+        <translation type="unfinished">виберіть Matroska або вшийте її в зображення</translation>
+    </message>
+    <message>
+        <source>draw it in or leave it out</source>
+        <translation type="unfinished">вшийте її в зображення або вилучіть</translation>
+    </message>
+    <message>
+        <source>you may not do this</source>
+        <translation type="unfinished">немає прав доступу</translation>
+    </message>
+    <message>
+        <source>the disk is read-only</source>
+        <translation type="unfinished">диск доступний лише для читання</translation>
+    </message>
+    <message>
+        <source>the disk could not be read or written</source>
+        <translation type="unfinished">не вдалося прочитати або записати дані на диск</translation>
+    </message>
+    <message>
+        <source>there is no such file or folder</source>
+        <translation type="unfinished">такого файлу або теки немає</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation type="unfinished">його назва задовга</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation type="unfinished">бракує пам&apos;яті</translation>
+    </message>
+    <message>
+        <source>it holds data that make no sense</source>
+        <translation type="unfinished">у ньому безглузді дані</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorWords</name>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation type="unfinished">«%1»</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot;</source>
+        <translation type="unfinished">Доріжка %1 з «%2»</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has no track %2: choose another track.</source>
+        <translation type="unfinished">У файлі «%1» немає доріжки %2: виберіть іншу доріжку.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has no subtitle track: choose another file.</source>
+        <translation type="unfinished">У файлі «%1» немає доріжки субтитрів: виберіть інший файл.</translation>
+    </message>
+    <message>
+        <source>choose another format, draw it in or leave it out</source>
+        <translation type="unfinished">виберіть інший формат, вшийте субтитри в зображення або вилучіть їх</translation>
+    </message>
+    <message>
+        <source>%1 is %2, which %3 cannot hold: %4.</source>
+        <extracomment>%1: a track or a file, %2: its codec, %3: a format or a kind of file, %4: what to do</extracomment>
+        <translation type="unfinished">%1 — це %2, а таке не може містити %3: %4.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read%2: choose another one, or check that you may open it.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Файл «%1» не читається%2: виберіть інший або перевірте, чи маєте право його відкривати.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is of no kind that can be used here%2: choose another one.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Файл «%1» не того виду, який можна тут використати%2: виберіть інший.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged%2: try to get a complete copy.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Файл «%1» пошкоджено%2: спробуйте дістати цілу копію.</translation>
+    </message>
+    <message>
+        <source>The text of &quot;%1&quot; cannot be drawn, because no usable font is installed%2: install one, for example DejaVu Sans.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Текст із «%1» не можна намалювати, бо не встановлено жодного придатного шрифту%2: установіть якийсь, наприклад DejaVu Sans.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written%2: choose another folder, or check that you may write to this one.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Файл «%1» не можна записати%2: виберіть іншу теку або перевірте, чи маєте право запису в цю.</translation>
+    </message>
+    <message>
+        <source>A setting for &quot;%1&quot; is not valid%2: correct it and try again.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Неприпустиме налаштування для «%1»%2: виправте його і спробуйте ще раз.</translation>
+    </message>
+    <message>
+        <source>Work on &quot;%1&quot; failed%2: try again, and report it if it fails again.</source>
+        <extracomment>%2: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Не вдалося обробити «%1»%2: спробуйте ще раз і повідомте, якщо помилка повториться.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not exist any more: choose another one.</source>
+        <translation type="unfinished">Файлу «%1» більше немає: виберіть інший.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty: choose another one.</source>
+        <translation type="unfinished">Файл «%1» порожній: виберіть інший.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; is not a subtitle track: choose another one.</source>
+        <translation type="unfinished">Доріжка %1 з «%2» — не доріжка субтитрів: виберіть іншу.</translation>
+    </message>
+    <message>
+        <source>The codec of &quot;%1&quot;, %2, cannot be used here%3: choose another file or another format.</source>
+        <extracomment>%2: a codec, %3: a reason in brackets or nothing</extracomment>
+        <translation type="unfinished">Кодек файлу «%1», %2, тут використати не можна%3: виберіть інший файл або інший формат.</translation>
+    </message>
+    <message>
+        <source>The format of &quot;%1&quot; is not known%2: choose another one.</source>
+        <extracomment>%2: what was asked for, in brackets, or nothing</extracomment>
+        <translation type="unfinished">Формат файлу «%1» невідомий%2: виберіть інший.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has neither picture nor sound: choose another one.</source>
+        <translation type="unfinished">У файлі «%1» немає ні зображення, ні звуку: виберіть інший.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; exists already: choose another name.</source>
+        <translation type="unfinished">Файл «%1» уже існує: виберіть іншу назву.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is being read, so it cannot be written: choose another name.</source>
+        <translation type="unfinished">Файл «%1» саме читається, тому записати його не можна: виберіть іншу назву.</translation>
+    </message>
+    <message>
+        <source>The folder of &quot;%1&quot; does not exist: create it, or choose another one.</source>
+        <translation type="unfinished">Теки для «%1» не існує: створіть її або виберіть іншу.</translation>
+    </message>
+    <message>
+        <source>The disk is full, so &quot;%1&quot; was not written: free some space, or choose another folder.</source>
+        <translation type="unfinished">Диск заповнено, тому «%1» не записано: звільніть місце або виберіть іншу теку.</translation>
+    </message>
+    <message>
+        <source>Work on &quot;%1&quot; was cancelled: start it again if you want it.</source>
+        <translation type="unfinished">Обробку «%1» скасовано: запустіть її знову, якщо потрібно.</translation>
+    </message>
+</context>
+<context>
     <name>ExternalSubtitlesDialog</name>
     <message>
         <source>Choose subtitles</source>
@@ -1326,6 +1602,73 @@ It is built on Qt, FFmpeg and libass.</source>
             <numerusform>залишилося %1 год %n хв</numerusform>
             <numerusform>залишилося %1 год %n хв</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>WarningWords</name>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a second picture, %3) was left out, because %4 cannot hold it.</source>
+        <translation type="unfinished">Доріжку %1 з «%2» (друге зображення, %3) вилучено, бо %4 не може її містити.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a cover picture, %3) was left out, because %4 cannot hold it.</source>
+        <translation type="unfinished">Доріжку %1 з «%2» (обкладинка, %3) вилучено, бо %4 не може її містити.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a further sound track, %3) was left out, because %4 cannot hold it.</source>
+        <translation type="unfinished">Доріжку %1 з «%2» (ще одна звукова, %3) вилучено, бо %4 не може її містити.</translation>
+    </message>
+    <message>
+        <source>Track %1 of &quot;%2&quot; (a sound track, %3) was left out, because nothing in it can be read.</source>
+        <translation type="unfinished">Доріжку %1 з «%2» (звукова, %3) вилучено, бо в ній нічого не можна прочитати.</translation>
+    </message>
+    <message>
+        <source>The picture of &quot;%1&quot; was encoded anew, because %2 cannot hold it as it is.</source>
+        <translation type="unfinished">Зображення з «%1» перекодовано, бо %2 не може містити його як є.</translation>
+    </message>
+    <message>
+        <source>Files attached to &quot;%1&quot;, for example fonts, were left out, because %2 cannot hold them.</source>
+        <translation type="unfinished">Файли, вкладені в «%1», наприклад шрифти, вилучено, бо %2 не може їх містити.</translation>
+    </message>
+    <message>
+        <source>A subtitle track was left out, because its file is missing.</source>
+        <translation type="unfinished">Доріжку субтитрів вилучено, бо її файлу немає.</translation>
+    </message>
+    <message>
+        <source>The subtitle track &quot;%1&quot; was left out, because its file is missing.</source>
+        <translation type="unfinished">Доріжку субтитрів «%1» вилучено, бо її файлу немає.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s) of &quot;%1&quot; could not be read as %2 and show as &quot;%3&quot;: check the encoding.</source>
+        <translation type="unfinished">
+            <numerusform>%n байт із «%1» не читається як %2 і показаний як «%3»: перевірте кодування.</numerusform>
+            <numerusform>%n байти з «%1» не читаються як %2 і показані як «%3»: перевірте кодування.</numerusform>
+            <numerusform>%n байтів із «%1» не читаються як %2 і показані як «%3»: перевірте кодування.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of &quot;%1&quot; without usable times were left out.</source>
+        <translation type="unfinished">
+            <numerusform>Вилучено %n репліку з «%1» без придатних часів.</numerusform>
+            <numerusform>Вилучено %n репліки з «%1» без придатних часів.</numerusform>
+            <numerusform>Вилучено %n реплік із «%1» без придатних часів.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cue(s) of &quot;%1&quot; of no duration were left out.</source>
+        <translation type="unfinished">
+            <numerusform>Вилучено %n репліку з «%1» нульової тривалості.</numerusform>
+            <numerusform>Вилучено %n репліки з «%1» нульової тривалості.</numerusform>
+            <numerusform>Вилучено %n реплік із «%1» нульової тривалості.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Some pictures of &quot;%1&quot; are damaged; they may be missing or look wrong.</source>
+        <translation type="unfinished">Деякі кадри з «%1» пошкоджено: вони можуть бути відсутні або мати неправильний вигляд.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; breaks off after %2 of %3, and so does the new film.</source>
+        <translation type="unfinished">«%1» уривається через %2 з %3, і новий фільм теж.</translation>
     </message>
 </context>
 </TS>

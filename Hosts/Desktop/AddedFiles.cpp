@@ -5,8 +5,6 @@
 
 #include "Subtitles/Subtitles.h"
 
-#include "Core/Error.h"
-
 #include <utility>
 
 namespace Korvex::Desktop
@@ -15,7 +13,7 @@ namespace Korvex::Desktop
 struct AddedFiles::Found
 {
     Encodings encodings;
-    std::map<TrackID, QString> reasons;
+    std::map<TrackID, Core::Error> reasons;
 
     /// On the other thread.
     explicit Found(Collection files)
@@ -24,7 +22,7 @@ struct AddedFiles::Found
         for (auto const& [id, track] : files.tracks)
         {
             if (track.codecId.empty())
-                reasons.emplace(id, QString::fromStdString(ToSentence(Hosts::ExplainUnreadable(track.path))));
+                reasons.emplace(id, Hosts::ExplainUnreadable(track.path));
             else
                 encodings.emplace(id, track.extra);
         }

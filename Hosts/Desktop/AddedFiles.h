@@ -2,7 +2,7 @@
 
 #include "Subtitles/Entities/SubtitleTrackID.h"
 
-#include <QString>
+#include "Core/Error.h"
 
 #include <functional>
 #include <map>
@@ -41,7 +41,7 @@ public:
     void Forget();
 
     /// Why files hold no subtitles, by track; those that were not read yet are missing.
-    [[nodiscard]] std::map<TrackID, QString> const& GetReasons() const { return m_reasons; }
+    [[nodiscard]] std::map<TrackID, Core::Error> const& GetReasons() const { return m_reasons; }
 
 private:
     struct Found;
@@ -49,7 +49,7 @@ private:
     std::shared_ptr<FileThread> m_thread;
     std::function<void(Encodings const&)> m_note;
     std::set<TrackID> m_known; ///< read or being read
-    std::map<TrackID, QString> m_reasons;
+    std::map<TrackID, Core::Error> m_reasons;
     std::shared_ptr<AddedFiles*> m_self; ///< answers that come late find nobody here
 };
 

@@ -4,8 +4,10 @@
 #include "Desktop/ConversionSetup.h"
 #include "Desktop/ConversionTexts.h"
 #include "Desktop/ConversionTotals.h"
+#include "Desktop/ErrorWords.h"
 #include "Desktop/FilmWords.h"
 #include "Desktop/TrackPreparation.h"
+#include "Desktop/WarningWords.h"
 
 #include "Common/HostServices.h"
 
@@ -200,7 +202,7 @@ private:
         job.output = FindFreeOutput(job);
         item.status.output = job.output;
         if (Core::Status const refused = CheckOutput(job))
-            return ToText(Core::ToSentence(*refused));
+            return Describe(*refused);
         if (!AsksForAllSoft(job))
             return Convert(item);
 
@@ -235,7 +237,7 @@ private:
             refusal = Convert(item);
         }
         else
-            refusal = ToText(Core::ToSentence(prepared->GetError()));
+            refusal = Describe(prepared->GetError());
         if (refusal)
             EndCurrent(ConversionState::Failed, *refusal);
         else
@@ -251,7 +253,7 @@ private:
                 .arg(ToText(job.media.path.FileName()));
         auto const id = m_services.GetTranscoder().StartConversion(*request, *this);
         if (!id)
-            return ToText(Core::ToSentence(id.GetError()));
+            return Describe(id.GetError());
         m_conversion = *id;
         if (m_isPaused)
             m_services.GetTranscoder().SetConversionPaused(*id, true);
@@ -284,14 +286,14 @@ private:
     void OnConversionFinished(ConversionId, Proc::TranscodeReport const& report) override
     {
         m_conversion.reset();
-        for (std::string const& warning : report.warnings)
-            m_items.at(*m_current).status.notes.append(ToText(warning));
+        for (Proc::Warning const& warning : report.warnings)
+            m_items.at(*m_current).status.notes.append(Describe(warning));
         if (!report.error)
             EndCurrent(ConversionState::Done, {});
         else if (report.error->code == Core::ErrorCode::Cancelled)
             EndCurrent(ConversionState::Cancelled, {});
         else
-            EndCurrent(ConversionState::Failed, ToText(Core::ToSentence(*report.error)));
+            EndCurrent(ConversionState::Failed, Describe(*report.error));
     }
 
     void EndCurrent(ConversionState state, QString const& sentence)

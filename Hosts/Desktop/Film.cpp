@@ -3,6 +3,7 @@
 #include "Common/SoftPlan.h"
 #include "Desktop/AddedFiles.h"
 #include "Desktop/ConversionJob.h"
+#include "Desktop/ErrorWords.h"
 #include "Desktop/FileKinds.h"
 #include "Desktop/FileThread.h"
 #include "Desktop/FilmSubtitles.h"
@@ -58,7 +59,6 @@ public:
         FilmChoice const choice = m_wasRead ? subtitles.GetChoice() : m_waitingChoice;
         media = read;
         state = FilmState::Ready;
-        stateSentence.clear();
         m_wasRead = true;
         m_addedFiles.Forget();
         subtitles.Open(media, choice);
@@ -69,20 +69,23 @@ public:
 
     void SetFailure(Core::Error const& error)
     {
-        bool const isMissing = error.code == Core::ErrorCode::FileNotFound;
-        state = isMissing ? FilmState::Missing : FilmState::Unreadable;
-        stateSentence = isMissing ? tr("The film \"%1\" is not there any more: show where it is now, or remove it from "
-                                       "the list.")
-                                        .arg(QString::fromStdString(path.utf8string()))
-                                  : QString::fromStdString(ToSentence(error));
+        state = error.code == Core::ErrorCode::FileNotFound ? FilmState::Missing : FilmState::Unreadable;
+        m_failure = error;
         NoteChange();
+    }
+
+    [[nodiscard]] QString GetStateSentence() const
+    {
+        if (state == FilmState::Missing)
+            return tr("The film \"%1\" is not there any more: show where it is now, or remove it from the list.")
+                .arg(QString::fromStdString(path.utf8string()));
+        return state == FilmState::Unreadable ? Describe(m_failure) : QString();
     }
 
     void SetReading(ioPath const& newPath)
     {
         path = newPath;
         state = FilmState::Reading;
-        stateSentence.clear();
         NoteChange();
     }
 
@@ -120,9 +123,9 @@ public:
     [[nodiscard]] std::vector<FilmProblem> ListProblems() const
     {
         if (state == FilmState::Missing)
-            return {{stateSentence, {{Remedy::Kind::Locate, tr("Locate..."), {}, {}}}}};
+            return {{GetStateSentence(), {{Remedy::Kind::Locate, tr("Locate..."), {}, {}}}}};
         if (state == FilmState::Unreadable)
-            return {{stateSentence, {}}};
+            return {{GetStateSentence(), {}}};
         if (state == FilmState::Reading)
             return {};
         SubtitleCollection const collection = subtitles.GetCollection();
@@ -156,7 +159,6 @@ public:
     FilmId const id;
     ioPath path;
     FilmState state = FilmState::Reading;
-    QString stateSentence;
     Proc::MediaInfo media;
     QImage thumbnail;
     FilmSubtitles subtitles;
@@ -185,6 +187,7 @@ private:
     std::string m_formatId;
     bool m_wasRead = false;
     bool m_isChangeNoted = false;
+    Core::Error m_failure;      ///< why the film cannot be used
     FilmChoice m_waitingChoice; ///< until the film has been read
     std::vector<ioPath> m_waitingFiles;
     AddedFiles m_addedFiles;
@@ -215,7 +218,7 @@ FilmState Film::GetState() const
 
 QString Film::GetStateSentence() const
 {
-    return m_impl->stateSentence;
+    return m_impl->GetStateSentence();
 }
 
 Proc::MediaInfo const& Film::GetMedia() const

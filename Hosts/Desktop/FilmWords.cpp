@@ -1,10 +1,14 @@
 #include "Desktop/FilmWords.h"
 
+#include "Desktop/ErrorWords.h"
+
 #include "Common/Sentences.h"
 #include "Common/SoftPlan.h"
 
 #include "Subtitles/Entities/Language.h"
 #include "Subtitles/Entities/SubtitleCollection.h"
+
+#include "Core/Error.h"
 
 #include <QStringList>
 
@@ -70,7 +74,7 @@ class ProblemWriter
 {
     Q_DECLARE_TR_FUNCTIONS(Korvex::Desktop::FilmWords)
 public:
-    ProblemWriter(Hosts::SoftPlan const& plan, std::map<FilmWords::TrackID, QString> const& reasons)
+    ProblemWriter(Hosts::SoftPlan const& plan, std::map<FilmWords::TrackID, Core::Error> const& reasons)
         : m_plan(plan),
           m_reasons(reasons)
     {
@@ -90,7 +94,7 @@ public:
         FilmProblem written;
         written.sentence = reason == m_reasons.end()
                                ? tr("The file \"%1\" holds no subtitles that can be read: remove it.").arg(file)
-                               : reason->second;
+                               : Describe(reason->second);
         written.remedies.push_back({Remedy::Kind::LeaveOut, tr("Remove the file"), {}, track.id});
         return written;
     }
@@ -146,13 +150,13 @@ private:
     }
 
     Hosts::SoftPlan const& m_plan;
-    std::map<FilmWords::TrackID, QString> const& m_reasons;
+    std::map<FilmWords::TrackID, Core::Error> const& m_reasons;
 };
 
 } // namespace
 
 std::vector<FilmProblem> FilmWords::ListProblems(SubtitleCollection const& collection, Hosts::SoftPlan const& plan,
-                                                 std::map<TrackID, QString> const& reasons)
+                                                 std::map<TrackID, Core::Error> const& reasons)
 {
     ProblemWriter const writer(plan, reasons);
     std::vector<FilmProblem> problems;

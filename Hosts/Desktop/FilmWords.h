@@ -10,6 +10,11 @@
 #include <map>
 #include <vector>
 
+namespace Korvex::Core
+{
+struct Error;
+} // namespace Korvex::Core
+
 namespace Korvex::Hosts
 {
 struct SoftPlan;
@@ -37,8 +42,9 @@ public:
     [[nodiscard]] static QString NameTrack(Track const& track);
     [[nodiscard]] static QString DescribeChoice(Collection const& collection);
     /// What stands in the way of the choice. `reasons`: why files cannot be read, where that is known yet.
-    [[nodiscard]] static std::vector<FilmProblem>
-    ListProblems(Collection const& collection, Hosts::SoftPlan const& plan, std::map<TrackID, QString> const& reasons);
+    [[nodiscard]] static std::vector<FilmProblem> ListProblems(Collection const& collection,
+                                                               Hosts::SoftPlan const& plan,
+                                                               std::map<TrackID, Core::Error> const& reasons);
 };
 
 } // namespace Korvex::Desktop

@@ -1,10 +1,11 @@
 #include "Desktop/Languages.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
+#include <QWidget>
 
 #include <algorithm>
 
@@ -28,6 +29,14 @@ QLocale ChooseLocale(QString const& code)
     QLocale const wanted(code);
     QLocale const system = QLocale::system();
     return system.language() == wanted.language() && system.script() == wanted.script() ? system : wanted;
+}
+
+/// Widgets ask only when they are made how numbers are written.
+void UseLocale(QLocale const& locale)
+{
+    QLocale::setDefault(locale);
+    for (QWidget* window : QApplication::topLevelWidgets())
+        window->setLocale(locale);
 }
 
 } // namespace
@@ -65,6 +74,7 @@ private:
 Languages::Languages() : m_translator(std::make_unique<Translator>())
 {
     LoadResources();
+    UseLocale(ChooseLocale(QLatin1String(ENGLISH)));
     m_translator->Load(QLatin1String(ENGLISH));
     QCoreApplication::installTranslator(m_translator.get());
 }
@@ -112,7 +122,7 @@ void Languages::Switch(QString const& code)
     QString const chosen = isListed ? code : QString(QLatin1String(ENGLISH));
     if (chosen == GetCurrent())
         return;
-    QLocale::setDefault(ChooseLocale(chosen));
+    UseLocale(ChooseLocale(chosen));
     m_translator->Load(chosen);
     QEvent event(QEvent::LanguageChange);
     QCoreApplication::sendEvent(QCoreApplication::instance(), &event);

@@ -1,6 +1,7 @@
 #include "Desktop/PreviewStage.h"
 
 #include "Desktop/CueStrip.h"
+#include "Desktop/ErrorWords.h"
 #include "Desktop/PreviewCanvas.h"
 #include "Desktop/PreviewThread.h"
 #include "Desktop/PreviewTimes.h"
@@ -124,6 +125,8 @@ void PreviewStage::Retranslate()
     m_canvas->setAccessibleName(tr("Preview"));
     m_slider->setAccessibleName(tr("Position in the film"));
     m_strip->setAccessibleName(tr("Where the cues are"));
+    if (m_newest != 0 && m_failure)
+        m_canvas->ShowSentence(Describe(*m_failure));
     ShowHint();
 }
 
@@ -150,6 +153,7 @@ void PreviewStage::Show(PreviewSubject const& subject)
         m_timesLeft[m_subject.film.utf8string()] = m_time;
         auto const left = m_timesLeft.find(subject.film.utf8string());
         m_time = left == m_timesLeft.end() ? microseconds(0) : left->second;
+        m_failure.reset();
         m_canvas->ShowSentence({});
     }
     m_subject = subject;
@@ -219,13 +223,14 @@ void PreviewStage::Take(PreviewAnswer const& answer)
         m_strip->SetCues(m_cues);
     }
     m_isReadingTrack = !answer.isComplete;
-    if (answer.sentence.isEmpty())
-        m_canvas->ShowPicture(answer.picture, answer.shownSize, answer.scaled);
+    m_failure = answer.failure;
+    if (m_failure)
+        m_canvas->ShowSentence(Describe(*m_failure));
     else
-        m_canvas->ShowSentence(answer.sentence);
+        m_canvas->ShowPicture(answer.picture, answer.shownSize, answer.scaled);
     ShowTime();
     ShowHint();
-    if (answer.isComplete && answer.request.number == m_newest && answer.sentence.isEmpty())
+    if (answer.isComplete && answer.request.number == m_newest && !m_failure)
         Q_EMIT PictureShown();
 }
 

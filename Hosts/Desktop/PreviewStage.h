@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Core/Error.h"
 #include "Core/ioPath.h"
 #include "Proc/SubtitleContent.h"
 
@@ -12,6 +13,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -82,6 +84,7 @@ private:
     std::chrono::microseconds m_time{0};
     std::map<std::string, std::chrono::microseconds> m_timesLeft; ///< of films shown before, by path
     std::shared_ptr<std::vector<Proc::CueSpan> const> m_cues;
+    std::optional<Core::Error> m_failure; ///< why there is no picture of the film
     /// What the newest request asks for: film, subtitles, time and room.
     std::tuple<std::string, std::shared_ptr<Proc::SettingsSubtitleMixer const>, std::chrono::microseconds, QSize>
         m_wanted;

@@ -89,7 +89,7 @@ public:
             return answer;
         if (failed->code == Core::ErrorCode::Cancelled)
             return std::nullopt;
-        answer.sentence = QString::fromStdString(Core::ToSentence(*failed));
+        answer.failure = failed;
         return answer;
     }
 

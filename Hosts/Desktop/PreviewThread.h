@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Core/Error.h"
 #include "Core/ioPath.h"
 #include "Proc/Preview.h"
 #include "Proc/SubtitleContent.h"
@@ -7,7 +8,6 @@
 #include <QImage>
 #include <QObject>
 #include <QSize>
-#include <QString>
 
 #include <chrono>
 #include <condition_variable>
@@ -50,8 +50,8 @@ struct PreviewAnswer
     std::chrono::microseconds time; ///< at which the picture begins
     /// Of the track that is drawn; the same object while they stay the same. Null without one.
     std::shared_ptr<CueSpans const> cues;
-    QString sentence;       ///< why there is no picture; names the file
-    bool isComplete = true; ///< false: the track is still being read, another answer follows
+    std::optional<Core::Error> failure; ///< why there is no picture
+    bool isComplete = true;             ///< false: the track is still being read, another answer follows
 };
 
 /// Decodes and draws on a thread of its own; keeps the film of the last request open. The newest request wins: those

@@ -1,5 +1,6 @@
 #include "Desktop/SaveTrack.h"
 
+#include "Desktop/ErrorWords.h"
 #include "Desktop/FileThread.h"
 #include "Desktop/SaveDialog.h"
 
@@ -101,7 +102,7 @@ QString DescribeWritten(Proc::ExportedSubtitle const& written)
 QString DescribeFailure(Core::Error const& error)
 {
     if (error.code != Core::ErrorCode::ContainerUnknown)
-        return ToText(Core::ToSentence(error));
+        return Describe(error);
     return SaveTrack::tr("The name \"%1\" does not tell how to save the track: let it end in .srt, .ass, .sup or .mkv.")
         .arg(ToText(error.file.FileName()));
 }

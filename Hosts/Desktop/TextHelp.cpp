@@ -39,7 +39,7 @@ public:
         if (status)
         {
             help = {};
-            help.failure = Core::ToSentence(*status);
+            help.failure = *status;
         }
         return help;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Core/Error.h"
 #include "Core/ioPath.h"
 #include "Proc/Fonts.h"
 #include "Proc/TextSample.h"
@@ -33,7 +34,7 @@ struct TextHelp
     std::string fontFamily;                 ///< as asked for
     std::string fontStandIn;                ///< drawn with instead, because `fontFamily` is not installed
     Proc::FontCoverage fonts;
-    std::string failure; ///< why the text cannot be read, a sentence; everything else is empty then
+    std::optional<Core::Error> failure; ///< why the text cannot be read; everything else is empty then
 };
 
 /// Reads texts on a thread of its own. GUI thread; nothing in here blocks it, the destructor waits for a read that is

@@ -1,6 +1,7 @@
 #include "Desktop/TextHelpView.h"
 
 #include "Desktop/AlternativeButton.h"
+#include "Desktop/ErrorWords.h"
 #include "Desktop/TextHelpTexts.h"
 
 #include "Gui/KLabel.h"
@@ -152,7 +153,7 @@ void TextHelpView::Show(TextHelp const& help)
     Proc::TextSample const sample = help.sample.value_or(Proc::TextSample());
     m_impl->ShowSample(sample);
     m_impl->ShowFonts(help);
-    ShowNote(*m_impl->failure, QString::fromStdString(help.failure));
+    ShowNote(*m_impl->failure, help.failure ? Describe(*help.failure) : QString());
     ShowNote(*m_impl->alternativesTitle, sample.alternatives.empty() ? QString() : tr("It could also read:"));
     m_impl->sample->setAccessibleName(tr("First lines of the text"));
     m_impl->sample->setVisible(help.sample.has_value());
@@ -168,7 +169,7 @@ void TextHelpView::Clear()
 bool TextHelpView::IsEmpty() const
 {
     TextHelp const& help = m_impl->help;
-    return !help.sample && help.failure.empty() && help.fontStandIn.empty() && help.fonts.standIns.empty() &&
+    return !help.sample && !help.failure && help.fontStandIn.empty() && help.fonts.standIns.empty() &&
            help.fonts.unavailable.empty();
 }
 

@@ -129,7 +129,7 @@ TEST_F(FilmTest, AFileWithoutSubtitlesIsAProblemAndItsRemovalBringsTheChoiceBack
     QSignalSpy changed(&film, &Film::Changed);
     film.AddSubtitleFiles({WriteText("broken.srt", std::string(200, '\x01'))});
     EXPECT_FALSE(film.IsConvertible());
-    WaitUntil([&] { return ListSentences(film).front().find("broken.srt\" is in no format") != std::string::npos; });
+    WaitUntil([&] { return ListSentences(film).front().find("broken.srt\" is of no kind") != std::string::npos; });
     EXPECT_GE(changed.count(), 1);
     film.ChooseAllSoft();
     EXPECT_THAT(ListSentences(film), ElementsAre(HasSubstr("broken.srt")));

@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
@@ -108,6 +109,7 @@ TEST_F(LanguagesTest, EveryTextOfTheWindowFollowsASwitchToGerman)
             << '"' << source << "\" of " << context << " stays as it is";
     }
     EXPECT_EQ(QLocale().toString(1.5), "1,5");
+    EXPECT_EQ(window.findChild<QDoubleSpinBox*>("syncSpinBox")->text(), "0,00");
     EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
 
     for (Language const& language : Languages::List())

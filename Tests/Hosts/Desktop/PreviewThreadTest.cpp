@@ -121,12 +121,13 @@ TEST_F(PreviewThreadTest, AnswersAreAboutTheFilmThatIsWantedHoweverQuicklyItChan
         QTest::qWait(i % 5);
     }
     ASSERT_TRUE(WaitFor(newest));
-    EXPECT_EQ(m_answers.back().sentence.toStdString(), "");
+    EXPECT_FALSE(m_answers.back().failure);
     EXPECT_EQ(m_answers.back().time, milliseconds(49 * 40));
 
     wanted = m_folder / "gone.mkv";
     ASSERT_TRUE(WaitFor(Ask(wanted, milliseconds(0))));
-    EXPECT_THAT(m_answers.back().sentence.toStdString(), testing::HasSubstr("gone.mkv"));
+    ASSERT_TRUE(m_answers.back().failure);
+    EXPECT_EQ(m_answers.back().failure->file.FileName(), "gone.mkv");
     EXPECT_TRUE(m_answers.back().picture.isNull());
 
     m_answers.clear();
@@ -159,7 +160,8 @@ TEST_F(PreviewThreadTest, ATrackOfTheFilmIsReadBehindTheFirstPictureAndEditsKeep
     auto missing = std::make_shared<Proc::SettingsSubtitleMixer>();
     missing->SetFilename(m_folder / "none.srt");
     ASSERT_TRUE(WaitFor(Ask(film, milliseconds(720), missing)));
-    EXPECT_THAT(m_answers.back().sentence.toStdString(), testing::HasSubstr("none.srt"));
+    ASSERT_TRUE(m_answers.back().failure);
+    EXPECT_EQ(m_answers.back().failure->file.FileName(), "none.srt");
     ASSERT_TRUE(WaitFor(Ask(film, milliseconds(720), mixer)));
     EXPECT_EQ(m_answers.back().picture, first);
 }
