@@ -176,7 +176,7 @@
     </message>
     <message>
         <source>its decoder refuses the stream: %1</source>
-        <translation type="unfinished">son décodeur refuse le flux : %1</translation>
+        <translation type="unfinished">son décodeur refuse le flux&#xa0;: %1</translation>
     </message>
     <message>
         <source>its decoder does not know the options %1</source>
@@ -184,11 +184,11 @@
     </message>
     <message>
         <source>its encoder refuses the sound: %1</source>
-        <translation type="unfinished">son encodeur refuse le son : %1</translation>
+        <translation type="unfinished">son encodeur refuse le son&#xa0;: %1</translation>
     </message>
     <message>
         <source>its encoder refuses the picture (%1): %2</source>
-        <translation type="unfinished">son encodeur refuse l&apos;image (%1) : %2</translation>
+        <translation type="unfinished">son encodeur refuse l&apos;image (%1)&#xa0;: %2</translation>
     </message>
     <message>
         <source>the encoder here is %1</source>
@@ -196,11 +196,11 @@
     </message>
     <message>
         <source>there is no encoder preset &quot;%1&quot;</source>
-        <translation type="unfinished">il n&apos;existe pas de préréglage d&apos;encodeur « %1 »</translation>
+        <translation type="unfinished">il n&apos;existe pas de préréglage d&apos;encodeur «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>the text encoding &quot;%1&quot; is not known</source>
-        <translation type="unfinished">l&apos;encodage de texte « %1 » n&apos;est pas connu</translation>
+        <translation type="unfinished">l&apos;encodage de texte «&#xa0;%1&#xa0;» n&apos;est pas connu</translation>
     </message>
     <message>
         <source>the text renderer could not be set up</source>
@@ -287,19 +287,19 @@
     <name>ErrorWords</name>
     <message>
         <source>&quot;%1&quot;</source>
-        <translation type="unfinished">« %1 »</translation>
+        <translation type="unfinished">«&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Track %1 of &quot;%2&quot;</source>
-        <translation type="unfinished">La piste %1 de « %2 »</translation>
+        <translation type="unfinished">La piste %1 de «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; has no track %2: choose another track.</source>
-        <translation type="unfinished">Le fichier « %1 » n&apos;a pas de piste %2 : choisissez une autre piste.</translation>
+        <translation type="unfinished">Le fichier «&#xa0;%1&#xa0;» n&apos;a pas de piste %2&#xa0;: choisissez une autre piste.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; has no subtitle track: choose another file.</source>
-        <translation type="unfinished">Le fichier « %1 » n&apos;a pas de piste de sous-titres : choisissez un autre fichier.</translation>
+        <translation type="unfinished">Le fichier «&#xa0;%1&#xa0;» n&apos;a pas de piste de sous-titres&#xa0;: choisissez un autre fichier.</translation>
     </message>
     <message>
         <source>choose another format, draw it in or leave it out</source>
@@ -308,88 +308,88 @@
     <message>
         <source>%1 is %2, which %3 cannot hold: %4.</source>
         <extracomment>%1: a track or a file, %2: its codec, %3: a format or a kind of file, %4: what to do</extracomment>
-        <translation type="unfinished">%1 est en %2, ce que ne peut contenir %3 : %4.</translation>
+        <translation type="unfinished">%1 est en %2, ce que ne peut contenir %3&#xa0;: %4.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; cannot be read%2: choose another one, or check that you may open it.</source>
         <extracomment>%2: a reason in brackets or nothing</extracomment>
-        <translation type="unfinished">Le fichier « %1 » ne peut pas être lu%2 : choisissez-en un autre ou vérifiez que vous avez le droit de l&apos;ouvrir.</translation>
+        <translation type="unfinished">Le fichier «&#xa0;%1&#xa0;» ne peut pas être lu%2&#xa0;: choisissez-en un autre ou vérifiez que vous avez le droit de l&apos;ouvrir.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; is of no kind that can be used here%2: choose another one.</source>
         <extracomment>%2: a reason in brackets or nothing</extracomment>
-        <translation type="unfinished">Le fichier « %1 » n&apos;est d&apos;aucun type utilisable ici%2 : choisissez-en un autre.</translation>
+        <translation type="unfinished">Le fichier «&#xa0;%1&#xa0;» n&apos;est d&apos;aucun type utilisable ici%2&#xa0;: choisissez-en un autre.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; is damaged%2: try to get a complete copy.</source>
         <extracomment>%2: a reason in brackets or nothing</extracomment>
-        <translation type="unfinished">Le fichier « %1 » est endommagé%2 : essayez d&apos;en obtenir une copie complète.</translation>
+        <translation type="unfinished">Le fichier «&#xa0;%1&#xa0;» est endommagé%2&#xa0;: essayez d&apos;en obtenir une copie complète.</translation>
     </message>
     <message>
         <source>The text of &quot;%1&quot; cannot be drawn, because no usable font is installed%2: install one, for example DejaVu Sans.</source>
         <extracomment>%2: a reason in brackets or nothing</extracomment>
-        <translation type="unfinished">Le texte de « %1 » ne peut pas être dessiné, car aucune police utilisable n&apos;est installée%2 : installez-en une, par exemple DejaVu Sans.</translation>
+        <translation type="unfinished">Le texte de «&#xa0;%1&#xa0;» ne peut pas être dessiné, car aucune police utilisable n&apos;est installée%2&#xa0;: installez-en une, par exemple DejaVu Sans.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; cannot be written%2: choose another folder, or check that you may write to this one.</source>
         <extracomment>%2: a reason in brackets or nothing</extracomment>
-        <translation type="unfinished">Le fichier « %1 » ne peut pas être écrit%2 : choisissez un autre dossier ou vérifiez que vous avez le droit d&apos;écrire dans celui-ci.</translation>
+        <translation type="unfinished">Le fichier «&#xa0;%1&#xa0;» ne peut pas être écrit%2&#xa0;: choisissez un autre dossier ou vérifiez que vous avez le droit d&apos;écrire dans celui-ci.</translation>
     </message>
     <message>
         <source>A setting for &quot;%1&quot; is not valid%2: correct it and try again.</source>
         <extracomment>%2: a reason in brackets or nothing</extracomment>
-        <translation type="unfinished">Un réglage de « %1 » n&apos;est pas valable%2 : corrigez-le et réessayez.</translation>
+        <translation type="unfinished">Un réglage de «&#xa0;%1&#xa0;» n&apos;est pas valable%2&#xa0;: corrigez-le et réessayez.</translation>
     </message>
     <message>
         <source>Work on &quot;%1&quot; failed%2: try again, and report it if it fails again.</source>
         <extracomment>%2: a reason in brackets or nothing</extracomment>
-        <translation type="unfinished">Le traitement de « %1 » a échoué%2 : réessayez et signalez-le si l&apos;échec se répète.</translation>
+        <translation type="unfinished">Le traitement de «&#xa0;%1&#xa0;» a échoué%2&#xa0;: réessayez et signalez-le si l&apos;échec se répète.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; does not exist any more: choose another one.</source>
-        <translation type="unfinished">Le fichier « %1 » n&apos;existe plus : choisissez-en un autre.</translation>
+        <translation type="unfinished">Le fichier «&#xa0;%1&#xa0;» n&apos;existe plus&#xa0;: choisissez-en un autre.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; is empty: choose another one.</source>
-        <translation type="unfinished">Le fichier « %1 » est vide : choisissez-en un autre.</translation>
+        <translation type="unfinished">Le fichier «&#xa0;%1&#xa0;» est vide&#xa0;: choisissez-en un autre.</translation>
     </message>
     <message>
         <source>Track %1 of &quot;%2&quot; is not a subtitle track: choose another one.</source>
-        <translation type="unfinished">La piste %1 de « %2 » n&apos;est pas une piste de sous-titres : choisissez-en une autre.</translation>
+        <translation type="unfinished">La piste %1 de «&#xa0;%2&#xa0;» n&apos;est pas une piste de sous-titres&#xa0;: choisissez-en une autre.</translation>
     </message>
     <message>
         <source>The codec of &quot;%1&quot;, %2, cannot be used here%3: choose another file or another format.</source>
         <extracomment>%2: a codec, %3: a reason in brackets or nothing</extracomment>
-        <translation type="unfinished">Le codec de « %1 », %2, n&apos;est pas utilisable ici%3 : choisissez un autre fichier ou un autre format.</translation>
+        <translation type="unfinished">Le codec de «&#xa0;%1&#xa0;», %2, n&apos;est pas utilisable ici%3&#xa0;: choisissez un autre fichier ou un autre format.</translation>
     </message>
     <message>
         <source>The format of &quot;%1&quot; is not known%2: choose another one.</source>
         <extracomment>%2: what was asked for, in brackets, or nothing</extracomment>
-        <translation type="unfinished">Le format de « %1 » n&apos;est pas connu%2 : choisissez-en un autre.</translation>
+        <translation type="unfinished">Le format de «&#xa0;%1&#xa0;» n&apos;est pas connu%2&#xa0;: choisissez-en un autre.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; has neither picture nor sound: choose another one.</source>
-        <translation type="unfinished">Le fichier « %1 » n&apos;a ni image ni son : choisissez-en un autre.</translation>
+        <translation type="unfinished">Le fichier «&#xa0;%1&#xa0;» n&apos;a ni image ni son&#xa0;: choisissez-en un autre.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; exists already: choose another name.</source>
-        <translation type="unfinished">Le fichier « %1 » existe déjà : choisissez un autre nom.</translation>
+        <translation type="unfinished">Le fichier «&#xa0;%1&#xa0;» existe déjà&#xa0;: choisissez un autre nom.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; is being read, so it cannot be written: choose another name.</source>
-        <translation type="unfinished">Le fichier « %1 » est en cours de lecture et ne peut donc pas être écrit : choisissez un autre nom.</translation>
+        <translation type="unfinished">Le fichier «&#xa0;%1&#xa0;» est en cours de lecture et ne peut donc pas être écrit&#xa0;: choisissez un autre nom.</translation>
     </message>
     <message>
         <source>The folder of &quot;%1&quot; does not exist: create it, or choose another one.</source>
-        <translation type="unfinished">Le dossier de « %1 » n&apos;existe pas : créez-le ou choisissez-en un autre.</translation>
+        <translation type="unfinished">Le dossier de «&#xa0;%1&#xa0;» n&apos;existe pas&#xa0;: créez-le ou choisissez-en un autre.</translation>
     </message>
     <message>
         <source>The disk is full, so &quot;%1&quot; was not written: free some space, or choose another folder.</source>
-        <translation type="unfinished">Le disque est plein, « %1 » n&apos;a donc pas été écrit : libérez de l&apos;espace ou choisissez un autre dossier.</translation>
+        <translation type="unfinished">Le disque est plein, «&#xa0;%1&#xa0;» n&apos;a donc pas été écrit&#xa0;: libérez de l&apos;espace ou choisissez un autre dossier.</translation>
     </message>
     <message>
         <source>Work on &quot;%1&quot; was cancelled: start it again if you want it.</source>
-        <translation type="unfinished">Le traitement de « %1 » a été annulé : relancez-le si vous le souhaitez.</translation>
+        <translation type="unfinished">Le traitement de «&#xa0;%1&#xa0;» a été annulé&#xa0;: relancez-le si vous le souhaitez.</translation>
     </message>
 </context>
 <context>
@@ -1592,27 +1592,27 @@ Il repose sur Qt, FFmpeg et libass.</translation>
     <name>WarningWords</name>
     <message>
         <source>Track %1 of &quot;%2&quot; (a second picture, %3) was left out, because %4 cannot hold it.</source>
-        <translation type="unfinished">La piste %1 de « %2 » (une deuxième image, %3) a été laissée de côté, car %4 ne peut pas la contenir.</translation>
+        <translation type="unfinished">La piste %1 de «&#xa0;%2&#xa0;» (une deuxième image, %3) a été laissée de côté, car %4 ne peut pas la contenir.</translation>
     </message>
     <message>
         <source>Track %1 of &quot;%2&quot; (a cover picture, %3) was left out, because %4 cannot hold it.</source>
-        <translation type="unfinished">La piste %1 de « %2 » (une image de couverture, %3) a été laissée de côté, car %4 ne peut pas la contenir.</translation>
+        <translation type="unfinished">La piste %1 de «&#xa0;%2&#xa0;» (une image de couverture, %3) a été laissée de côté, car %4 ne peut pas la contenir.</translation>
     </message>
     <message>
         <source>Track %1 of &quot;%2&quot; (a further sound track, %3) was left out, because %4 cannot hold it.</source>
-        <translation type="unfinished">La piste %1 de « %2 » (une autre piste audio, %3) a été laissée de côté, car %4 ne peut pas la contenir.</translation>
+        <translation type="unfinished">La piste %1 de «&#xa0;%2&#xa0;» (une autre piste audio, %3) a été laissée de côté, car %4 ne peut pas la contenir.</translation>
     </message>
     <message>
         <source>Track %1 of &quot;%2&quot; (a sound track, %3) was left out, because nothing in it can be read.</source>
-        <translation type="unfinished">La piste %1 de « %2 » (une piste audio, %3) a été laissée de côté, car rien n&apos;y est lisible.</translation>
+        <translation type="unfinished">La piste %1 de «&#xa0;%2&#xa0;» (une piste audio, %3) a été laissée de côté, car rien n&apos;y est lisible.</translation>
     </message>
     <message>
         <source>The picture of &quot;%1&quot; was encoded anew, because %2 cannot hold it as it is.</source>
-        <translation type="unfinished">L&apos;image de « %1 » a été réencodée, car %2 ne peut pas la contenir telle quelle.</translation>
+        <translation type="unfinished">L&apos;image de «&#xa0;%1&#xa0;» a été réencodée, car %2 ne peut pas la contenir telle quelle.</translation>
     </message>
     <message>
         <source>Files attached to &quot;%1&quot;, for example fonts, were left out, because %2 cannot hold them.</source>
-        <translation type="unfinished">Les fichiers joints à « %1 », des polices par exemple, ont été laissés de côté, car %2 ne peut pas les contenir.</translation>
+        <translation type="unfinished">Les fichiers joints à «&#xa0;%1&#xa0;», des polices par exemple, ont été laissés de côté, car %2 ne peut pas les contenir.</translation>
     </message>
     <message>
         <source>A subtitle track was left out, because its file is missing.</source>
@@ -1620,36 +1620,36 @@ Il repose sur Qt, FFmpeg et libass.</translation>
     </message>
     <message>
         <source>The subtitle track &quot;%1&quot; was left out, because its file is missing.</source>
-        <translation type="unfinished">La piste de sous-titres « %1 » a été laissée de côté, car son fichier manque.</translation>
+        <translation type="unfinished">La piste de sous-titres «&#xa0;%1&#xa0;» a été laissée de côté, car son fichier manque.</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) of &quot;%1&quot; could not be read as %2 and show as &quot;%3&quot;: check the encoding.</source>
         <translation type="unfinished">
-            <numerusform>%n octet de « %1 » n&apos;a pas pu être lu comme %2 et apparaît comme « %3 » : vérifiez l&apos;encodage.</numerusform>
-            <numerusform>%n octets de « %1 » n&apos;ont pas pu être lus comme %2 et apparaissent comme « %3 » : vérifiez l&apos;encodage.</numerusform>
+            <numerusform>%n octet de «&#xa0;%1&#xa0;» n&apos;a pas pu être lu comme %2 et apparaît comme «&#xa0;%3&#xa0;»&#xa0;: vérifiez l&apos;encodage.</numerusform>
+            <numerusform>%n octets de «&#xa0;%1&#xa0;» n&apos;ont pas pu être lus comme %2 et apparaissent comme «&#xa0;%3&#xa0;»&#xa0;: vérifiez l&apos;encodage.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of &quot;%1&quot; without usable times were left out.</source>
         <translation type="unfinished">
-            <numerusform>%n sous-titre de « %1 » sans temps utilisables a été laissé de côté.</numerusform>
-            <numerusform>%n sous-titres de « %1 » sans temps utilisables ont été laissés de côté.</numerusform>
+            <numerusform>%n sous-titre de «&#xa0;%1&#xa0;» sans temps utilisables a été laissé de côté.</numerusform>
+            <numerusform>%n sous-titres de «&#xa0;%1&#xa0;» sans temps utilisables ont été laissés de côté.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of &quot;%1&quot; of no duration were left out.</source>
         <translation type="unfinished">
-            <numerusform>%n sous-titre de « %1 » sans durée a été laissé de côté.</numerusform>
-            <numerusform>%n sous-titres de « %1 » sans durée ont été laissés de côté.</numerusform>
+            <numerusform>%n sous-titre de «&#xa0;%1&#xa0;» sans durée a été laissé de côté.</numerusform>
+            <numerusform>%n sous-titres de «&#xa0;%1&#xa0;» sans durée ont été laissés de côté.</numerusform>
         </translation>
     </message>
     <message>
         <source>Some pictures of &quot;%1&quot; are damaged; they may be missing or look wrong.</source>
-        <translation type="unfinished">Certaines images de « %1 » sont endommagées ; elles peuvent manquer ou s&apos;afficher mal.</translation>
+        <translation type="unfinished">Certaines images de «&#xa0;%1&#xa0;» sont endommagées&#xa0;; elles peuvent manquer ou s&apos;afficher mal.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; breaks off after %2 of %3, and so does the new film.</source>
-        <translation type="unfinished">« %1 » s&apos;interrompt après %2 sur %3, et le nouveau film aussi.</translation>
+        <translation type="unfinished">«&#xa0;%1&#xa0;» s&apos;interrompt après %2 sur %3, et le nouveau film aussi.</translation>
     </message>
 </context>
 </TS>

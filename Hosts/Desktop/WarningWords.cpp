@@ -1,6 +1,6 @@
 #include "Desktop/WarningWords.h"
 
-#include "Desktop/TimeWords.h"
+#include "Desktop/PreviewTimes.h"
 
 #include "Proc/Warning.h"
 
@@ -79,7 +79,7 @@ QString Describe(Proc::Warning const& warning)
         break;
     }
     return Texts::tr("\"%1\" breaks off after %2 of %3, and so does the new film.")
-        .arg(file, FormatDuration(warning.done), FormatDuration(warning.total));
+        .arg(file, FormatTime(warning.done, warning.total), FormatTime(warning.total, warning.total));
 }
 
 } // namespace Korvex::Desktop
