@@ -1,12 +1,12 @@
 #include "Support/MediaMaker.h"
 
 #include "Common/HostServices.h"
-#include "Desktop/ConversionQueue.h"
-#include "Desktop/FilmList.h"
-#include "Desktop/Languages.h"
-#include "Desktop/MainWindow.h"
-#include "Desktop/PreviewPane.h"
-#include "Desktop/SessionStore.h"
+#include "Desktop/Conversion/ConversionQueue.h"
+#include "Desktop/Films/FilmList.h"
+#include "Desktop/Films/SessionStore.h"
+#include "Desktop/Preview/PreviewPane.h"
+#include "Desktop/Window/MainWindow.h"
+#include "Desktop/Words/Languages.h"
 
 #include "App/Configuration.h"
 #include "Core/FileSystem.h"

@@ -1,5 +1,5 @@
-#include "Desktop/MainWindow.h"
-#include "Desktop/RunningProgram.h"
+#include "Desktop/Window/MainWindow.h"
+#include "Desktop/Window/RunningProgram.h"
 
 #include "Common/Logging.h"
 

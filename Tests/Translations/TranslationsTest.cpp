@@ -1,4 +1,4 @@
-#include "Desktop/Languages.h"
+#include "Desktop/Words/Languages.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "Hosts/Desktop/FilmFixture.h"
 
-#include "Desktop/ApplyToAll.h"
+#include "Desktop/Films/ApplyToAll.h"
 
 #include "Core/FileSystem.h"
 

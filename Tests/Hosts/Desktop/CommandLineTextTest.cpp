@@ -7,9 +7,9 @@
 #include "Common/MediaItemSession.h"
 #include "Common/SoftPlan.h"
 #include "Common/WorkFolder.h"
-#include "Desktop/CommandLineText.h"
-#include "Desktop/ConversionJob.h"
-#include "Desktop/ConversionSetup.h"
+#include "Desktop/Conversion/ConversionSetup.h"
+#include "Desktop/Films/CommandLineText.h"
+#include "Desktop/Films/ConversionJob.h"
 
 #include "Core/FileSystem.h"
 #include "Proc/Settings.h"

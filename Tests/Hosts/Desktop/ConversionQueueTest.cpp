@@ -1,8 +1,8 @@
-#include "Desktop/ConversionQueue.h"
+#include "Desktop/Conversion/ConversionQueue.h"
 
-#include "Desktop/ConversionJob.h"
-#include "Desktop/ConversionTotals.h"
-#include "Desktop/OutputSettings.h"
+#include "Desktop/Conversion/ConversionTotals.h"
+#include "Desktop/Films/ConversionJob.h"
+#include "Desktop/Films/OutputSettings.h"
 
 #include "Common/HostServices.h"
 #include "Subtitles/Subtitles.h"

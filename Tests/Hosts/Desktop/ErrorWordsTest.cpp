@@ -1,8 +1,8 @@
-#include "Desktop/ErrorWords.h"
+#include "Desktop/Words/ErrorWords.h"
 
 #include "Core/Error.h"
 #include "Core/FileSystem.h"
-#include "Desktop/Languages.h"
+#include "Desktop/Words/Languages.h"
 #include "Proc/SubtitleExport.h"
 #include "Proc/TextSample.h"
 #include "Support/MediaMaker.h"

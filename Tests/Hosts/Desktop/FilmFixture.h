@@ -3,8 +3,8 @@
 #include "Support/MediaMaker.h"
 
 #include "Common/HostServices.h"
-#include "Desktop/Film.h"
-#include "Desktop/FilmList.h"
+#include "Desktop/Films/Film.h"
+#include "Desktop/Films/FilmList.h"
 
 #include <gtest/gtest.h>
 

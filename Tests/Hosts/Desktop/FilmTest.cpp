@@ -1,7 +1,7 @@
 #include "Hosts/Desktop/FilmFixture.h"
 
-#include "Desktop/ConversionJob.h"
-#include "Desktop/ModulePanels.h"
+#include "Desktop/Films/ConversionJob.h"
+#include "Desktop/Window/ModulePanels.h"
 
 #include "Subtitles/Details/EditingPanel.h"
 #include "Subtitles/Subtitles.h"

@@ -1,9 +1,9 @@
 #include "Hosts/Desktop/FilmFixture.h"
 
-#include "Desktop/ConversionQueue.h"
-#include "Desktop/Languages.h"
-#include "Desktop/MainWindow.h"
-#include "Desktop/SessionStore.h"
+#include "Desktop/Conversion/ConversionQueue.h"
+#include "Desktop/Films/SessionStore.h"
+#include "Desktop/Window/MainWindow.h"
+#include "Desktop/Words/Languages.h"
 #include "Support/WidgetSupport.h"
 
 #include <QAction>

@@ -2,7 +2,7 @@
 #include "Subtitles/Fakes/TrackListClicks.h"
 #include "Support/WidgetSupport.h"
 
-#include "Desktop/PreviewPane.h"
+#include "Desktop/Preview/PreviewPane.h"
 
 #include "Proc/MediaInfo.h"
 #include "Proc/Settings.h"

@@ -1,5 +1,5 @@
-#include "Desktop/OutputBar.h"
-#include "Desktop/TimeTexts.h"
+#include "Desktop/Window/OutputBar.h"
+#include "Desktop/Words/TimeTexts.h"
 
 #include "Support/WidgetSupport.h"
 

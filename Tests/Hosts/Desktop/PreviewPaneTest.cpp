@@ -2,13 +2,13 @@
 
 #include "Support/WidgetSupport.h"
 
-#include "Desktop/ConversionJob.h"
-#include "Desktop/ConversionQueue.h"
-#include "Desktop/CueStrip.h"
-#include "Desktop/OutputSettings.h"
-#include "Desktop/PreviewPane.h"
-#include "Desktop/PreviewTimes.h"
-#include "Desktop/TimeSlider.h"
+#include "Desktop/Conversion/ConversionQueue.h"
+#include "Desktop/Films/ConversionJob.h"
+#include "Desktop/Films/OutputSettings.h"
+#include "Desktop/Preview/CueStrip.h"
+#include "Desktop/Preview/PreviewPane.h"
+#include "Desktop/Preview/PreviewTimes.h"
+#include "Desktop/Preview/TimeSlider.h"
 
 #include "Proc/Preview.h"
 #include "Subtitles/Entities/SubtitleTextSettings.h"

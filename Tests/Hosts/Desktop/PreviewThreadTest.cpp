@@ -1,4 +1,4 @@
-#include "Desktop/PreviewThread.h"
+#include "Desktop/Preview/PreviewThread.h"
 
 #include "Support/MediaMaker.h"
 

@@ -1,7 +1,7 @@
 #include "Hosts/Desktop/FilmFixture.h"
 
-#include "Desktop/SaveDialog.h"
-#include "Desktop/SaveTrack.h"
+#include "Desktop/Window/SaveDialog.h"
+#include "Desktop/Window/SaveTrack.h"
 
 #include "Subtitles/Entities/SubtitleCollection.h"
 

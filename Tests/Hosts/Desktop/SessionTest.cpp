@@ -1,7 +1,7 @@
 #include "Hosts/Desktop/FilmFixture.h"
 
-#include "Desktop/Session.h"
-#include "Desktop/SessionStore.h"
+#include "Desktop/Films/Session.h"
+#include "Desktop/Films/SessionStore.h"
 
 #include "Core/FileSystem.h"
 

@@ -1,11 +1,11 @@
-#include "Desktop/TextHelp.h"
+#include "Desktop/TextHelp/TextHelp.h"
 
 #include "Hosts/Desktop/FilmFixture.h"
 
-#include "Desktop/AlternativeButton.h"
-#include "Desktop/Languages.h"
-#include "Desktop/TextHelpPane.h"
-#include "Desktop/TextHelpView.h"
+#include "Desktop/TextHelp/AlternativeButton.h"
+#include "Desktop/TextHelp/TextHelpPane.h"
+#include "Desktop/TextHelp/TextHelpView.h"
+#include "Desktop/Words/Languages.h"
 
 #include "Subtitles/Entities/SubtitleCollection.h"
 

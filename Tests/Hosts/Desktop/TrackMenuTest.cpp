@@ -2,10 +2,10 @@
 
 #include "Support/WidgetSupport.h"
 
-#include "Desktop/LanguageNames.h"
-#include "Desktop/SaveTrack.h"
-#include "Desktop/TrackMenu.h"
-#include "Desktop/TrackPropertiesDialog.h"
+#include "Desktop/Window/SaveTrack.h"
+#include "Desktop/Window/TrackMenu.h"
+#include "Desktop/Window/TrackPropertiesDialog.h"
+#include "Desktop/Words/LanguageNames.h"
 
 #include "Subtitles/Entities/SubtitleCollection.h"
 #include "Subtitles/Entities/SubtitleTrack.h"

@@ -2,10 +2,10 @@
 
 #include "Hosts/Desktop/FilmFixture.h"
 
-#include "Desktop/ConversionQueue.h"
-#include "Desktop/Languages.h"
-#include "Desktop/MainWindow.h"
-#include "Desktop/SessionStore.h"
+#include "Desktop/Conversion/ConversionQueue.h"
+#include "Desktop/Films/SessionStore.h"
+#include "Desktop/Window/MainWindow.h"
+#include "Desktop/Words/Languages.h"
 
 #include <QAction>
 #include <QTest>

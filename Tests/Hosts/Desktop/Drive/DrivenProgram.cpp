@@ -2,8 +2,8 @@
 
 #include "Hosts/Desktop/Drive/DragSource.h"
 
-#include "Desktop/FilmList.h"
-#include "Desktop/MainWindow.h"
+#include "Desktop/Films/FilmList.h"
+#include "Desktop/Window/MainWindow.h"
 
 #include <QAbstractButton>
 #include <QApplication>

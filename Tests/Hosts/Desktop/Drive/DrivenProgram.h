@@ -4,9 +4,9 @@
 #include "Support/GuiThread.h"
 #include "Support/MediaMaker.h"
 
-#include "Desktop/Film.h"
-#include "Desktop/PreviewPane.h"
-#include "Desktop/RunningProgram.h"
+#include "Desktop/Films/Film.h"
+#include "Desktop/Preview/PreviewPane.h"
+#include "Desktop/Window/RunningProgram.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>

@@ -3,7 +3,7 @@
 #include "Support/GuiThread.h"
 #include "Support/MediaMaker.h"
 
-#include "Desktop/RunningProgram.h"
+#include "Desktop/Window/RunningProgram.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,0 +1,90 @@
+#include "Desktop/Conversion/ConversionSetup.h"
+
+#include "Desktop/Films/ConversionJob.h"
+#include "Desktop/Films/OutputSettings.h"
+
+#include "Common/HostServices.h"
+#include "Subtitles/Subtitles.h"
+
+#include "Core/FileSystem.h"
+
+#include <QFileInfo>
+
+#include <vector>
+
+namespace Korvex::Desktop
+{
+
+namespace Subtitles = Converter::Subtitles;
+using Converter::Transcoder::Entities::ConversionRequest;
+using Subtitles::Entities::SubtitleCollection;
+using Subtitles::Entities::SubtitleCollectionID;
+using Subtitles::Entities::SubtitleCollectionMode;
+
+bool AsksForAllSoft(ConversionJob const& job)
+{
+    return job.collection.mode == SubtitleCollectionMode::AllSoftSubtitles && !job.collection.tracks.empty();
+}
+
+ioPath FindFreeOutput(ConversionJob const& job)
+{
+    if (!Core::PathExists(job.output))
+        return job.output;
+    OutputSettings settings;
+    settings.formatId = job.preset.formatId;
+    settings.folder = job.output.Parent();
+    return MakeOutputPath(job.media.path, settings);
+}
+
+Core::Status CheckOutput(ConversionJob const& job)
+{
+    std::vector<ioPath> inputs{job.media.path};
+    for (auto const& [id, track] : job.collection.tracks)
+        if (track.isExternal)
+            inputs.push_back(track.path);
+    if (Core::Status refused = Core::CheckOutput(job.output, inputs, false))
+        return refused;
+    ioPath const folder = job.output.Parent();
+    QString const place = folder.empty() ? QStringLiteral(".") : QString::fromStdString(folder.utf8string());
+    if (QFileInfo(place).isWritable())
+        return Core::SUCCESS;
+    Core::Error error;
+    error.code = Core::ErrorCode::OutputNotWritable;
+    error.file = job.output;
+    return error;
+}
+
+std::optional<ConversionRequest> MakeConversionRequest(Hosts::HostServices& services, ConversionJob const& job)
+{
+    SubtitleCollection collection = job.collection;
+    collection.collectionId = SubtitleCollectionID();
+    collection.impl.reset();
+    collection.implCollection = 0;
+    if (collection.tracks.empty())
+    {
+        collection.mode = SubtitleCollectionMode::ModeNone;
+        collection.withoutSubtitles = 1;
+        collection.currentTrack.Clear();
+    }
+    bool const isDrawn = collection.mode == SubtitleCollectionMode::SelectedTrack && collection.withoutSubtitles == 0 &&
+                         !collection.currentTrack.IsEmpty();
+
+    auto const interactor = services.GetPool().GetInteractor();
+    interactor->SetPresenterSettings({});
+    interactor->SetPreset(job.preset);
+    interactor->SetSubtitleCollection(collection, true);
+    Subtitles::CoreSettings const settings = Subtitles::ReadCoreSettings(interactor->GetSubtitleCollection());
+    interactor->ClearSubtitleCollection();
+
+    if (AsksForAllSoft(job) != (settings.soft != nullptr) || isDrawn != (settings.mixer != nullptr))
+        return std::nullopt;
+    ConversionRequest request;
+    request.item.path = job.media.path;
+    request.output = job.output;
+    request.preset = job.preset;
+    request.soft = settings.soft;
+    request.mixer = settings.mixer;
+    return request;
+}
+
+} // namespace Korvex::Desktop

@@ -1,0 +1,118 @@
+#include "Desktop/Window/FileActions.h"
+
+#include "Desktop/Films/FilmList.h"
+#include "Desktop/Window/Actions.h"
+#include "Desktop/Window/FilmListPane.h"
+#include "Desktop/Window/Notices.h"
+
+#include "Core/FileSystem.h"
+
+#include <QAction>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPointer>
+#include <QStandardPaths>
+#include <QStringList>
+
+#include <algorithm>
+#include <iterator>
+
+namespace Korvex::Desktop
+{
+
+namespace
+{
+
+ioPath ToPath(QString const& text)
+{
+    return ioPath(text.toStdString());
+}
+
+QString ToText(ioPath const& path)
+{
+    return QString::fromStdString(path.utf8string());
+}
+
+std::vector<ioPath> ToPaths(QStringList const& names)
+{
+    std::vector<ioPath> paths;
+    std::transform(names.begin(), names.end(), std::back_inserter(paths), &ToPath);
+    return paths;
+}
+
+} // namespace
+
+FileActions::FileActions(FilmList& films, FilmListPane& pane, Notices& notices, Actions const& actions, QWidget& window)
+    : QObject(&window),
+      m_films(films),
+      m_pane(pane),
+      m_notices(notices),
+      m_window(window),
+      m_folder(QStandardPaths::writableLocation(QStandardPaths::MoviesLocation))
+{
+    connect(&notices, &Notices::LocateRequested, this, &FileActions::Locate);
+    connect(actions.Get(ActionId::AddFilms), &QAction::triggered, this, &FileActions::ChooseFilms);
+    connect(actions.Get(ActionId::AddSubtitles), &QAction::triggered, this, &FileActions::ChooseSubtitles);
+}
+
+FileActions::~FileActions() = default;
+
+void FileActions::Take(std::vector<ioPath> const& paths, Film* target)
+{
+    int const before = m_films.rowCount();
+    std::vector<ioPath> const homeless =
+        m_films.AddDropped(paths, target != nullptr ? target : m_pane.GetCurrentFilm());
+    if (m_films.rowCount() > before)
+        m_pane.SelectFilm(m_films.GetFilms().at(static_cast<std::size_t>(before))->GetId());
+    else
+        NoteEmptyFolders(paths);
+    if (m_films.rowCount() == before && target != nullptr)
+        m_pane.SelectFilm(target->GetId());
+    for (ioPath const& file : homeless)
+        m_notices.AddNews(
+            Mark::Warning,
+            tr("\"%1\" needs a film to go with: add the film first.").arg(QString::fromStdString(file.FileName())));
+}
+
+void FileActions::NoteEmptyFolders(std::vector<ioPath> const& paths)
+{
+    for (ioPath const& path : paths)
+        if (Core::FolderExists(path))
+            m_notices.AddNews(Mark::Warning,
+                              tr("No new film was found in \"%1\": choose a folder with films.").arg(ToText(path)));
+}
+
+void FileActions::ChooseFilms()
+{
+    QStringList const names = QFileDialog::getOpenFileNames(&m_window, tr("Add films"), m_folder);
+    if (names.isEmpty())
+        return;
+    m_folder = QFileInfo(names.front()).absolutePath();
+    Take(ToPaths(names));
+}
+
+void FileActions::ChooseSubtitles()
+{
+    QPointer<Film> const film = m_pane.GetCurrentFilm();
+    if (!film)
+        return;
+    QString const folder = QFileInfo(ToText(film->GetPath())).absolutePath();
+    QString const filter = tr("Subtitles") + QStringLiteral(" (*.srt *.ass *.ssa *.smi *.sami *.vtt *.sub *.sup);;") +
+                           tr("All files") + QStringLiteral(" (*)");
+    QStringList const names = QFileDialog::getOpenFileNames(&m_window, tr("Add subtitles"), folder, filter);
+    if (film && !names.isEmpty())
+        film->AddSubtitleFiles(ToPaths(names));
+}
+
+void FileActions::Locate(FilmId id)
+{
+    Film const* film = m_films.Find(id);
+    if (film == nullptr)
+        return;
+    QString const name = QString::fromStdString(film->GetPath().FileName());
+    QString const chosen = QFileDialog::getOpenFileName(&m_window, tr("Where is \"%1\" now?").arg(name), m_folder);
+    if (!chosen.isEmpty())
+        m_films.Locate(id, ToPath(chosen));
+}
+
+} // namespace Korvex::Desktop

@@ -1,0 +1,215 @@
+#include "Desktop/Window/FilmRow.h"
+
+#include "Desktop/Conversion/ConversionQueue.h"
+#include "Desktop/Films/Film.h"
+#include "Desktop/Preview/PreviewTimes.h"
+#include "Desktop/Words/TimeTexts.h"
+
+#include "Proc/MediaInfo.h"
+
+#include <QCoreApplication>
+#include <QFontMetrics>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Korvex::Desktop
+{
+
+namespace
+{
+
+constexpr int MARGIN = 10;
+constexpr int GAP = 10;
+constexpr int LINE_GAP = 3;
+constexpr QSize THUMBNAIL_SIZE(96, 54);
+constexpr int BAR_HEIGHT = 4;
+constexpr int CHOICE_PADDING = 3;
+constexpr int MAX_SENTENCE_LINES = 6;
+
+QString Translate(char const* text)
+{
+    return QCoreApplication::translate("FilmRow", text);
+}
+
+QString DescribeFacts(Film const& film)
+{
+    Proc::MediaInfo const& media = film.GetMedia();
+    QString facts = FormatTime(media.duration, media.duration);
+    if (Proc::StreamInfo const* video = media.FindMainVideo())
+        facts += QStringLiteral(" \u00B7 %1\u2009\u00D7\u2009%2").arg(video->width).arg(video->height);
+    return facts;
+}
+
+/// At most two lines, the second one shortened.
+QStringList SplitName(QString const& name, QFont const& font, int width)
+{
+    QFontMetrics const metrics(font);
+    if (metrics.horizontalAdvance(name) <= width)
+        return {name};
+    QTextLayout text(name, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    text.setTextOption(option);
+    text.beginLayout();
+    QTextLine first = text.createLine();
+    first.setLineWidth(width);
+    text.endLayout();
+    QString const rest = name.mid(first.textLength());
+    return {name.left(first.textLength()).trimmed(), metrics.elidedText(rest, Qt::ElideMiddle, width)};
+}
+
+void DescribeProgress(ConversionStatus const& status, bool isPaused, FilmRow& row)
+{
+    row.isConverting = true;
+    row.fraction = status.fraction;
+    if (isPaused)
+        row.sentence = Translate(QT_TRANSLATE_NOOP("FilmRow", "Paused"));
+    else if (status.state == ConversionState::Preparing)
+        row.sentence = Translate(QT_TRANSLATE_NOOP("FilmRow", "Preparing subtitles"));
+    else
+        row.sentence = Translate(QT_TRANSLATE_NOOP("FilmRow", "Converting"));
+    if (status.fraction)
+        row.sentence += QStringLiteral("  %1\u00A0%").arg(static_cast<int>(std::floor(*status.fraction * 100.0)));
+    if (status.remaining && !isPaused)
+        row.sentence += QStringLiteral("  \u00B7  ") + FormatTimeLeft(*status.remaining);
+}
+
+/// True when it said something that goes before the film's own problems.
+bool DescribeConversion(ConversionStatus const& status, bool isPaused, FilmRow& row)
+{
+    switch (status.state)
+    {
+    case ConversionState::Waiting:
+        row.isConverting = true;
+        row.fraction = 0.0;
+        row.sentence = Translate(QT_TRANSLATE_NOOP("FilmRow", "Waiting"));
+        return true;
+    case ConversionState::Preparing:
+    case ConversionState::Running:
+        DescribeProgress(status, isPaused, row);
+        return true;
+    case ConversionState::Failed:
+        row.mark = Mark::Error;
+        row.sentence = status.sentence;
+        return true;
+    case ConversionState::Done:
+        row.mark = Mark::Success;
+        row.hasOutput = true;
+        row.sentence = status.notes.isEmpty() ? Translate(QT_TRANSLATE_NOOP("FilmRow", "Converted"))
+                                              : QCoreApplication::translate("FilmRow", "Converted, with %n remark(s)",
+                                                                            nullptr, status.notes.size());
+        return false;
+    case ConversionState::Cancelled:
+        row.sentence = Translate(QT_TRANSLATE_NOOP("FilmRow", "Cancelled"));
+        return false;
+    }
+    return false;
+}
+
+void DescribeProblem(Film const& film, FilmRow& row)
+{
+    std::vector<FilmProblem> const problems = film.ListProblems();
+    if (problems.empty())
+        return;
+    row.mark = Mark::Warning;
+    row.sentence = problems.front().sentence;
+    row.hasOutput = false;
+}
+
+} // namespace
+
+FilmRow DescribeFilm(Film const& film, ConversionQueue const& queue)
+{
+    FilmRow row;
+    row.name = QString::fromStdString(film.GetPath().FileName());
+    row.thumbnail = film.GetThumbnail();
+    switch (film.GetState())
+    {
+    case FilmState::Reading:
+        row.facts = Translate(QT_TRANSLATE_NOOP("FilmRow", "Reading the film"));
+        return row;
+    case FilmState::Missing:
+    case FilmState::Unreadable:
+        row.mark = film.GetState() == FilmState::Missing ? Mark::Warning : Mark::Error;
+        row.sentence = film.GetStateSentence();
+        return row;
+    case FilmState::Ready:
+        break;
+    }
+    row.facts = DescribeFacts(film);
+    row.choice = film.DescribeChoice();
+    std::optional<ConversionStatus> const status = queue.FindStatus(film.GetId());
+    if (!status || !DescribeConversion(*status, queue.IsPaused(), row))
+        DescribeProblem(film, row);
+    return row;
+}
+
+QFont FilmRowLayout::MakeNameFont(QFont const& font)
+{
+    QFont name = font;
+    name.setBold(true);
+    return name;
+}
+
+QFont FilmRowLayout::MakeSmallFont(QFont const& font)
+{
+    constexpr double SMALLER = 0.92;
+    QFont small = font;
+    if (font.pixelSize() > 0)
+        small.setPixelSize(static_cast<int>(std::lround(font.pixelSize() * SMALLER)));
+    else
+        small.setPointSizeF(font.pointSizeF() * SMALLER);
+    return small;
+}
+
+QString FilmRowLayout::GetRevealText()
+{
+    return Translate(QT_TRANSLATE_NOOP("FilmRow", "Show in folder"));
+}
+
+FilmRowLayout::FilmRowLayout(FilmRow const& row, QRect const& place, QFont const& font)
+{
+    QFontMetrics const nameMetrics(MakeNameFont(font));
+    QFontMetrics const metrics(font);
+    QFontMetrics const smallMetrics(MakeSmallFont(font));
+    QRect const inner = place.adjusted(MARGIN, MARGIN, -MARGIN, 0);
+    thumbnail = QRect(inner.topLeft(), THUMBNAIL_SIZE);
+
+    int const left = thumbnail.right() + 1 + GAP;
+    int const width = std::max(0, inner.right() + 1 - left);
+    nameLines = SplitName(row.name, MakeNameFont(font), width);
+    name = QRect(left, inner.top() - 2, width, nameMetrics.lineSpacing() * nameLines.size());
+    facts = QRect(left, name.bottom() + 1 + LINE_GAP, width, smallMetrics.height());
+    int bottom = std::max(facts.bottom(), thumbnail.bottom()) + 1;
+    if (!row.choice.isEmpty())
+    {
+        choice = QRect(inner.left(), bottom + 2 * LINE_GAP, inner.width(), metrics.height() + 2 * CHOICE_PADDING);
+        bottom = choice.bottom() + 1;
+    }
+
+    if (row.isConverting)
+    {
+        bar = QRect(inner.left(), bottom + GAP - LINE_GAP, inner.width(), BAR_HEIGHT);
+        bottom = bar.bottom() + 1;
+    }
+    if (!row.sentence.isEmpty())
+    {
+        int const top = bottom + GAP - LINE_GAP;
+        int const markSize = row.mark == Mark::None ? 0 : smallMetrics.height();
+        int const indent = markSize == 0 ? 0 : markSize + GAP / 2;
+        mark = QRect(inner.left(), top, markSize, markSize);
+        int const revealWidth = row.hasOutput ? smallMetrics.horizontalAdvance(GetRevealText()) + 2 : 0;
+        sentence = QRect(inner.left() + indent, top, inner.width() - indent - revealWidth, smallMetrics.height());
+        int const wanted =
+            smallMetrics.boundingRect(QRect(0, 0, sentence.width(), 10000), Qt::TextWordWrap, row.sentence).height();
+        sentence.setHeight(std::min(wanted, MAX_SENTENCE_LINES * smallMetrics.lineSpacing()));
+        if (row.hasOutput)
+            reveal = QRect(inner.right() + 1 - revealWidth, top, revealWidth, smallMetrics.height());
+        bottom = sentence.bottom() + 1;
+    }
+    height = bottom + MARGIN - place.top();
+}
+
+} // namespace Korvex::Desktop

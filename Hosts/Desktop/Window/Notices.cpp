@@ -1,0 +1,175 @@
+#include "Desktop/Window/Notices.h"
+
+#include "Desktop/Conversion/ConversionQueue.h"
+#include "Desktop/Films/FilmList.h"
+#include "Desktop/Window/NoticeBar.h"
+
+#include "Subtitles/Adapters/IMessagesView.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string>
+#include <utility>
+
+namespace Korvex::Desktop
+{
+
+namespace
+{
+
+constexpr std::size_t MAX_NEWS = 20;
+
+class MessagesView final : public Converter::Subtitles::Adapters::IMessagesView
+{
+public:
+    explicit MessagesView(Notices* notices) : m_notices(notices) {}
+
+    void ShowWarning(std::string const& sentence) override { Show(Mark::Warning, sentence); }
+    void ShowError(std::string const& sentence) override { Show(Mark::Error, sentence); }
+
+private:
+    void Show(Mark mark, std::string const& sentence)
+    {
+        if (m_notices)
+            m_notices->AddNews(mark, QString::fromStdString(sentence));
+    }
+
+    QPointer<Notices> m_notices;
+};
+
+} // namespace
+
+Notices::Notices(FilmList& films, ConversionQueue const& queue, NoticeBar& bar, QObject* parent)
+    : QObject(parent),
+      m_films(films),
+      m_queue(queue),
+      m_bar(bar),
+      m_messages(std::make_shared<MessagesView>(this))
+{
+    connect(&queue, &ConversionQueue::StatusChanged, this,
+            [this](FilmId film)
+            {
+                std::optional<ConversionStatus> const status = m_queue.FindStatus(film);
+                if (status && status->state == ConversionState::Waiting)
+                    m_closedRemarks.erase(film);
+                if (m_film && m_film->GetId() == film)
+                    Update();
+            });
+}
+
+Notices::~Notices() = default;
+
+std::shared_ptr<Converter::Subtitles::Adapters::IMessagesView> Notices::GetMessagesView() const
+{
+    return m_messages;
+}
+
+void Notices::ShowFilm(Film* film)
+{
+    disconnect(m_filmChanged);
+    m_film = film;
+    if (film != nullptr)
+        m_filmChanged = connect(film, &Film::Changed, this, &Notices::Update);
+    Update();
+}
+
+void Notices::AddNews(Mark mark, QString const& sentence)
+{
+    bool const isKnown = std::any_of(m_news.begin(), m_news.end(),
+                                     [&sentence](NewsItem const& item) { return item.sentence == sentence; });
+    if (!isKnown)
+        m_news.insert(m_news.begin(), NewsItem{m_nextNumber++, mark, sentence});
+    if (m_news.size() > MAX_NEWS)
+        m_news.pop_back();
+    Update();
+    m_bar.ShowNotice(sentence);
+}
+
+void Notices::Retranslate()
+{
+    Update();
+}
+
+void Notices::Update()
+{
+    std::vector<Notice> notices;
+    if (m_film)
+    {
+        AppendProblems(notices);
+        AppendConversion(notices);
+    }
+    AppendNews(notices);
+    m_bar.SetNotices(std::move(notices));
+}
+
+void Notices::AppendProblems(std::vector<Notice>& notices)
+{
+    for (FilmProblem const& problem : m_film->ListProblems())
+    {
+        Notice notice;
+        notice.mark = m_film->GetState() == FilmState::Unreadable ? Mark::Error : Mark::Warning;
+        notice.sentence = problem.sentence;
+        for (Remedy const& remedy : problem.remedies)
+            notice.buttons.push_back({remedy.label, [this, remedy] { Take(remedy); }});
+        notices.push_back(std::move(notice));
+    }
+}
+
+void Notices::AppendConversion(std::vector<Notice>& notices)
+{
+    FilmId const film = m_film->GetId();
+    std::optional<ConversionStatus> const status = m_queue.FindStatus(film);
+    if (!status)
+        return;
+    if (status->state == ConversionState::Failed)
+        notices.push_back(
+            {Mark::Error, status->sentence, {{tr("Try again"), [this, film] { Q_EMIT ConvertRequested(film); }}}, {}});
+    if (status->notes.isEmpty() || m_closedRemarks.count(film) != 0)
+        return;
+    notices.push_back({Mark::News,
+                       status->notes.join(QLatin1Char('\n')),
+                       {},
+                       [this, film]
+                       {
+                           m_closedRemarks.insert(film);
+                           Update();
+                       }});
+}
+
+void Notices::AppendNews(std::vector<Notice>& notices)
+{
+    auto const toNotice = [this](NewsItem const& item)
+    {
+        auto const close = [this, number = item.number]
+        {
+            m_news.erase(std::remove_if(m_news.begin(), m_news.end(),
+                                        [number](NewsItem const& entry) { return entry.number == number; }),
+                         m_news.end());
+            Update();
+        };
+        return Notice{item.mark, item.sentence, {}, close};
+    };
+    std::transform(m_news.begin(), m_news.end(), std::back_inserter(notices), toNotice);
+}
+
+void Notices::Take(Remedy const& remedy)
+{
+    if (!m_film)
+        return;
+    if (remedy.kind == Remedy::Kind::Locate)
+    {
+        Q_EMIT LocateRequested(m_film->GetId());
+    }
+    else if (remedy.kind == Remedy::Kind::ChooseFormat)
+    {
+        OutputSettings output = m_films.GetOutput();
+        output.formatId = remedy.formatId;
+        m_films.SetOutput(output);
+    }
+    else
+    {
+        m_film->Apply(remedy);
+    }
+}
+
+} // namespace Korvex::Desktop
