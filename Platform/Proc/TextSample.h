@@ -26,7 +26,7 @@ struct TextSample
     std::vector<std::string> lines;
     TextDecodeReport decoding;                 ///< in the chosen encoding, of the whole file
     TextDecodeReport detected;                 ///< what detection finds, whatever was chosen; nothing is counted
-    std::vector<TextAlternative> alternatives; ///< at most three, the best first
+    std::vector<TextAlternative> alternatives; ///< at most three that may be meant, the best first
 };
 
 /// Reads an external text subtitle file in `encoding`, the core's name; empty means detection. Fails with FormatUnknown

@@ -26,6 +26,8 @@ constexpr double LOCALE_BONUS = 1.5;   ///< the language of the user's machine
 constexpr double UCHARDET_BONUS = 3.0; ///< the other detector says so
 /// How far a score has to be ahead for some certainty.
 constexpr double SURE = 5.0;
+/// How far below the best score the rest of a text is not looked at any more.
+constexpr double FLOOR_DISTANCE = 100.0;
 
 struct UchardetDeleter
 {
@@ -75,6 +77,7 @@ enum class Width
 struct Candidate
 {
     std::string encoding;
+    Script script; ///< of the languages written in it
     double score;
     Width width;
 };
@@ -121,11 +124,12 @@ private:
     template <typename Score>
     void Consider(EncodingModel const& encoding, Width width, Score&& score)
     {
-        Candidate best{std::string(encoding.name), -HUGE_VAL, width};
+        Candidate best{std::string(encoding.name), Script::Latin, -HUGE_VAL, width};
         for (LanguageModel const& language : GetLanguageModels())
         {
             if (HasWord(encoding.languages, language.codes.substr(0, language.codes.find(' '))))
             {
+                best.script = language.script;
                 best.score = std::max(best.score, score(language) + GetBonus(language));
             }
         }
@@ -137,13 +141,12 @@ private:
     /// A score so far below the best one that no bonus lifts it up again.
     double FindFloor() const
     {
-        static constexpr double DISTANCE = 100;
         double best = -HUGE_VAL;
         for (Candidate const& candidate : m_candidates)
         {
             best = std::max(best, candidate.score);
         }
-        return best - DISTANCE;
+        return best - FLOOR_DISTANCE;
     }
 
     double GetBonus(LanguageModel const& language) const
@@ -160,8 +163,7 @@ private:
                          [](Candidate const& a, Candidate const& b) { return a.score > b.score; });
         Candidate const& best = m_candidates.front();
         double const rivalScore = FindRivalScore();
-        double const high = static_cast<double>(
-            std::count_if(m_stripped.begin(), m_stripped.end(), [](char byte) { return (byte & 0x80) != 0; }));
+        double const high = CountHighBytes();
         // Nothing reads as text: what the user's machine used to write is as good as any.
         static constexpr double HOPELESS = -6.8;
         static constexpr double HOPELESS_PAIR = -5.2; // a byte is half a character there
@@ -173,8 +175,32 @@ private:
                     TextDecodeReport::Source::Fallback, CONFIDENCE, Rank(rivalScore, CONFIDENCE)};
         }
         double const confidence = std::clamp(1 - std::exp(-(best.score - rivalScore) / SURE), 0.05, 0.99);
-        return {PreferOffered(best.encoding), TextDecodeReport::Source::Detector, confidence,
-                Rank(rivalScore, confidence)};
+        std::string const encoding = PreferOffered(best.encoding);
+        DropImplausible(high);
+        return {encoding, TextDecodeReport::Source::Detector, confidence, Rank(rivalScore, confidence)};
+    }
+
+    double CountHighBytes() const
+    {
+        return static_cast<double>(
+            std::count_if(m_stripped.begin(), m_stripped.end(), [](char byte) { return (byte & 0x80) != 0; }));
+    }
+
+    /// Leaves what somebody may take the text for: what reads almost as well as the best one, and of the same script
+    /// also what reads somewhat worse. Nobody takes Russian for Chinese.
+    void DropImplausible(double highBytes)
+    {
+        static constexpr double LARGEST_DISTANCE = 2.5 * SURE;
+        static constexpr double LARGEST_DISTANCE_A_BYTE = 2.5;
+        Candidate const best = m_candidates.front();
+        auto const isImplausible = [&best, highBytes](Candidate const& candidate)
+        {
+            double const distance = best.score - candidate.score;
+            bool const isGivenUp = candidate.width == Width::Pair && distance >= FLOOR_DISTANCE;
+            bool const isSimilar = candidate.script == best.script && distance <= LARGEST_DISTANCE_A_BYTE * highBytes;
+            return distance > LARGEST_DISTANCE && (isGivenUp || !isSimilar);
+        };
+        m_candidates.erase(std::remove_if(m_candidates.begin(), m_candidates.end(), isImplausible), m_candidates.end());
     }
 
     /// What each candidate gets of the confidence that the best one leaves; none gets more than that one has.

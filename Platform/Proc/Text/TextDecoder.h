@@ -59,7 +59,8 @@ struct RankedEncoding
 struct EncodingRanking
 {
     TextDecodeReport detected; ///< what DecodeText finds without a stated encoding; nothing is counted
-    /// Those of the others that users can choose, the best first; some may give the same text.
+    /// Those of the others that users can choose and that the bytes may really be in, the best first; some may give the
+    /// same text. Where detection found nothing that reads well, all that users can choose.
     std::vector<RankedEncoding> others;
 };
 

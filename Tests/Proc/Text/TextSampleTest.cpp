@@ -80,6 +80,35 @@ TEST_F(TextSampleTest, ShowsWhatAWrongEncodingReadsLikeAndOffersTheRightOneFirst
     EXPECT_THAT(wrong->alternatives, Each(Field(&TextAlternative::encoding, Not("KOI8-U"))));
 }
 
+std::vector<std::string> ListAlternatives(ioPath const& path)
+{
+    std::vector<std::string> encodings;
+    auto const sample = ReadTextSample(path, "");
+    for (TextAlternative const& alternative : sample->alternatives)
+        encodings.push_back(alternative.encoding);
+    return encodings;
+}
+
+TEST_F(TextSampleTest, OffersWhatMayBeMeantAndNoOtherScriptForALongText)
+{
+    std::string const czech = MakeCue(1, "Kde jsi včera byl? Čekal jsem celou hodinu. Nevadí, zítra pojedeme.");
+    std::string const chinese = MakeCue(1, "你昨天在哪里？我等了你一个小时。没关系，明天我们一起去吧。");
+    std::string const western = MakeCue(1, "Où étais-tu hier ? Ça ne fait rien, on ira demain à la fête entière.");
+    std::string russian;
+    for (std::size_t cue = 1; cue < 100; ++cue)
+        russian += RUSSIAN;
+    // Page KOI8-R is the other one for Russian, KOI8-U reads alike.
+    EXPECT_THAT(ListAlternatives(Write("a.srt", Testing::EncodeText(russian, "CP1251"))), ElementsAre("KOI8-R"));
+    EXPECT_THAT(ListAlternatives(Write("b.srt", Testing::EncodeText(RUSSIAN, "CP1251"))), ElementsAre("KOI8-R"));
+    EXPECT_THAT(ListAlternatives(Write("c.srt", Testing::EncodeText(czech, "CP1250"))),
+                testing::Contains("ISO-8859-15"));
+    EXPECT_THAT(ListAlternatives(Write("d.srt", Testing::EncodeText(chinese, "CP936"))), IsEmpty());
+    EXPECT_THAT(ListAlternatives(Write("e.srt", Testing::EncodeText(western, "CP1252"))), IsEmpty());
+    // So short a text may be anything.
+    EXPECT_THAT(ListAlternatives(Write("f.srt", Testing::EncodeText(MakeCue(1, "Привет!"), "CP1251"))),
+                testing::IsSupersetOf({"ISO-8859-7", "KOI8-R"}));
+}
+
 TEST_F(TextSampleTest, CountsWhatDoesNotDecodeInTheWholeFile)
 {
     std::string russian;
