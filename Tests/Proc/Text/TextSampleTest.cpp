@@ -140,10 +140,10 @@ TEST_F(TextSampleTest, ShowsALineThatTells)
     for (std::size_t cue = 0; cue < 9000; ++cue)
         credits += MakeCue(cue, "Credits " + std::to_string(cue));
     auto const path = Write("film.srt", credits + Testing::EncodeText(MakeCue(9000, "Gdzie byłeś wczoraj?"), "CP1250"));
-    auto const sample = ReadTextSample(path, "CP1250");
-    EXPECT_THAT(sample->lines, ElementsAre("Credits 0", "Credits 1", "Credits 2", "Credits 3", "Gdzie byłeś wczoraj?"));
+    auto const sample = ReadTextSample(path, "ISO-8859-15");
+    EXPECT_THAT(sample->lines, ElementsAre("Credits 0", "Credits 1", "Credits 2", "Credits 3", "Gdzie by³eœ wczoraj?"));
     ASSERT_THAT(sample->alternatives, Not(IsEmpty()));
-    EXPECT_THAT(sample->alternatives.front().line, HasSubstr("Gdzie by"));
+    EXPECT_EQ(sample->alternatives.front().line, "Gdzie byłeś wczoraj?");
 }
 
 TEST_F(TextSampleTest, ReadsEveryFormatAndRefusesWhatIsNoText)
