@@ -34,7 +34,7 @@ set(INCLUDE_RULES
     "Platform/Gui|^Gui/ ^App/ ^Core/(Export|EventHandlerList|EventPublisher)\\.h ^Qt$ QT_WIDGETS"
     "Platform/App|^App/ ^Core/ QT_CORE GLOG"
     "Platform/Hypodermic|^Hypodermic/ BOOST"
-    "Hosts/Desktop/Words|^Desktop/(Words/|Films/FileKinds\\.h) ^Q(Application|Widget)$ ^Subtitles/Subtitles\\.h ^Subtitles/Entities/ ^Subtitles/Adapters/(HostBridge|SubtitleEncodingNames)\\.h ^Core/ ^Common/ QT_CORE QT_GUI QT_MODEL"
+    "Hosts/Desktop/Words|^Proc/Warning\\.h ^Desktop/(Words/|Films/FileKinds\\.h) ^Q(Application|Widget)$ ^Subtitles/Subtitles\\.h ^Subtitles/Entities/ ^Subtitles/Adapters/(HostBridge|SubtitleEncodingNames)\\.h ^Core/ ^Common/ QT_CORE QT_GUI QT_MODEL"
     "Hosts/Desktop/Films|^Desktop/(Words|Films)/ ^Subtitles/Subtitles\\.h ^Subtitles/Entities/ ^Subtitles/Adapters/(HostBridge|SubtitleEncodingNames)\\.h ^(App|Core|Conf|Proc|Transcoder)/[A-Za-z]+\\.h ^Common/ QT_CORE QT_GUI QT_MODEL"
     "Hosts/Desktop/Conversion|^Desktop/(Words|Films|Conversion)/ ^Subtitles/Subtitles\\.h ^Subtitles/Entities/ ^Subtitles/Adapters/(HostBridge|SubtitleEncodingNames)\\.h ^(App|Core|Conf|Proc|Transcoder)/[A-Za-z]+\\.h ^Common/ QT_CORE QT_MODEL"
     "Hosts/Desktop/Preview|^Desktop/(Words|Films|Preview)/ ^Subtitles/Subtitles\\.h ^Subtitles/Entities/ ^Subtitles/Adapters/(HostBridge|SubtitleEncodingNames)\\.h ^(App|Core|Conf|Proc|Transcoder)/[A-Za-z]+\\.h ^Common/ ^Gui/ QT_WIDGETS"

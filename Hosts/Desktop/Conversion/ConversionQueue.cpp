@@ -6,8 +6,8 @@
 #include "Desktop/Conversion/TrackPreparation.h"
 #include "Desktop/Films/ConversionJob.h"
 #include "Desktop/Films/FilmWords.h"
-#include "Desktop/Window/WarningWords.h"
 #include "Desktop/Words/ErrorWords.h"
+#include "Desktop/Words/WarningWords.h"
 
 #include "Common/HostServices.h"
 

@@ -1,4 +1,5 @@
 #include "Desktop/Preview/CueStrip.h"
+#include "Desktop/Words/TimeTexts.h"
 
 #include "Desktop/Preview/PreviewTimes.h"
 

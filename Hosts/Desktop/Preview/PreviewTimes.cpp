@@ -8,16 +8,6 @@ namespace Korvex::Desktop
 using std::chrono::microseconds;
 using std::chrono::milliseconds;
 
-QString FormatTime(microseconds time, microseconds whole)
-{
-    auto const seconds = std::chrono::floor<std::chrono::seconds>(std::max(time, microseconds(0))).count();
-    QString const rest = QStringLiteral("%1:%2")
-                             .arg(seconds / 60 % 60, 2, 10, QLatin1Char('0'))
-                             .arg(seconds % 60, 2, 10, QLatin1Char('0'));
-    bool const hasHours = std::max(time, whole) >= std::chrono::hours(1);
-    return hasHours ? QStringLiteral("%1:%2").arg(seconds / 3600).arg(rest) : rest;
-}
-
 microseconds TimeToSee(Proc::CueSpan const& cue)
 {
     constexpr milliseconds LONGEST_WAY{500};

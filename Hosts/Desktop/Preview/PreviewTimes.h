@@ -2,8 +2,6 @@
 
 #include "Proc/SubtitleContent.h"
 
-#include <QString>
-
 #include <chrono>
 #include <optional>
 #include <vector>
@@ -16,9 +14,6 @@ enum class CueDirection
     Previous,
     Next,
 };
-
-/// "1:02:03" where the whole takes an hour or longer, else "02:03".
-[[nodiscard]] QString FormatTime(std::chrono::microseconds time, std::chrono::microseconds whole);
 
 /// A time at which the cue is seen: a little behind its start, because the picture shown at the very start may have
 /// begun before it.

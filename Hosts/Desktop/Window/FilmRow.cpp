@@ -2,7 +2,6 @@
 
 #include "Desktop/Conversion/ConversionQueue.h"
 #include "Desktop/Films/Film.h"
-#include "Desktop/Preview/PreviewTimes.h"
 #include "Desktop/Words/TimeTexts.h"
 
 #include "Proc/MediaInfo.h"

@@ -1,7 +1,7 @@
 #include "Desktop/Words/ErrorWords.h"
 
 #include "Desktop/Films/FileKinds.h"
-#include "Desktop/Window/ErrorClauses.h"
+#include "Desktop/Words/ErrorClauses.h"
 
 #include "Core/Error.h"
 

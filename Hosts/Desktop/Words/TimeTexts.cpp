@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace Korvex::Desktop
 {
 
@@ -14,6 +16,16 @@ class Texts
 };
 
 } // namespace
+
+QString FormatTime(std::chrono::microseconds time, std::chrono::microseconds whole)
+{
+    auto const seconds = std::chrono::floor<std::chrono::seconds>(std::max(time, std::chrono::microseconds(0))).count();
+    QString const rest = QStringLiteral("%1:%2")
+                             .arg(seconds / 60 % 60, 2, 10, QLatin1Char('0'))
+                             .arg(seconds % 60, 2, 10, QLatin1Char('0'));
+    bool const hasHours = std::max(time, whole) >= std::chrono::hours(1);
+    return hasHours ? QStringLiteral("%1:%2").arg(seconds / 3600).arg(rest) : rest;
+}
 
 QString FormatTimeLeft(std::chrono::seconds left)
 {

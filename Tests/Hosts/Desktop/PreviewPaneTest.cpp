@@ -9,6 +9,7 @@
 #include "Desktop/Preview/PreviewPane.h"
 #include "Desktop/Preview/PreviewTimes.h"
 #include "Desktop/Preview/TimeSlider.h"
+#include "Desktop/Words/TimeTexts.h"
 
 #include "Proc/Preview.h"
 #include "Subtitles/Entities/SubtitleTextSettings.h"

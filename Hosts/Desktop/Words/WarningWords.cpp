@@ -1,6 +1,5 @@
-#include "Desktop/Window/WarningWords.h"
-
-#include "Desktop/Preview/PreviewTimes.h"
+#include "Desktop/Words/WarningWords.h"
+#include "Desktop/Words/TimeTexts.h"
 
 #include "Proc/Warning.h"
 

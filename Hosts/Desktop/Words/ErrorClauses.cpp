@@ -1,4 +1,4 @@
-#include "Desktop/Window/ErrorClauses.h"
+#include "Desktop/Words/ErrorClauses.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>
