@@ -2,6 +2,7 @@
 #include "Desktop/Words/TimeTexts.h"
 
 #include "Desktop/Preview/CueStrip.h"
+#include "Desktop/Preview/HintLabel.h"
 #include "Desktop/Preview/PreviewCanvas.h"
 #include "Desktop/Preview/PreviewThread.h"
 #include "Desktop/Preview/PreviewTimes.h"
@@ -81,13 +82,8 @@ void PreviewStage::Build()
     m_nextKeys = new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_Right), this);
     m_times = new QLabel(this);
     m_times->setObjectName(QStringLiteral("previewTimes"));
-    m_hint = new QLabel(this);
+    m_hint = new HintLabel(this);
     m_hint->setObjectName(QStringLiteral("previewHint"));
-    m_hint->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    m_hint->setTextFormat(Qt::PlainText);
-    m_hint->setWordWrap(true);
-    // Room for two lines, so that the picture stays when a longer hint comes.
-    m_hint->setMinimumHeight(2 * m_hint->fontMetrics().lineSpacing());
     Util::ApplyWidgetStyle(m_hint, QStringLiteral("dim"), "role");
 
     auto* const row = new QHBoxLayout;
@@ -144,6 +140,7 @@ void PreviewStage::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     m_strip->SetInset(m_slider->GetInset());
+    FitHint();
 }
 
 void PreviewStage::Show(PreviewSubject const& subject)
@@ -264,6 +261,13 @@ void PreviewStage::ShowTime()
 void PreviewStage::ShowHint()
 {
     m_hint->setText(m_isReadingTrack ? tr("The subtitles are being read.") : m_subject.hint);
+    FitHint();
+}
+
+void PreviewStage::FitHint()
+{
+    // Two lines at least, so that the picture stays when a longer hint comes; the picture keeps the most of the room.
+    m_hint->FitHeight(width(), 2, height() / 5);
 }
 
 } // namespace Korvex::Desktop

@@ -31,6 +31,7 @@ namespace Korvex::Desktop
 {
 
 class CueStrip;
+class HintLabel;
 class PreviewCanvas;
 class PreviewThread;
 class TimeSlider;
@@ -79,6 +80,7 @@ private:
     void GoToCue(CueDirection direction);
     void ShowTime();
     void ShowHint();
+    void FitHint();
 
     PreviewSubject m_subject;
     std::chrono::microseconds m_time{0};
@@ -100,7 +102,7 @@ private:
     QShortcut* m_previousKeys = nullptr;
     QShortcut* m_nextKeys = nullptr;
     QLabel* m_times = nullptr;
-    QLabel* m_hint = nullptr;
+    HintLabel* m_hint = nullptr;
 };
 
 } // namespace Korvex::Desktop
