@@ -1,3 +1,5 @@
+#include "Hosts/Desktop/Drive/DragSource.h"
+#include "Hosts/Desktop/Drive/DrivenMain.h"
 #include "Hosts/Desktop/Drive/DrivenProgram.h"
 #include "Hosts/Desktop/Drive/Ink.h"
 
@@ -9,6 +11,8 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QSpinBox>
+
+#include <cstring>
 
 namespace Korvex::Testing
 {
@@ -302,3 +306,11 @@ TEST_F(DriveTest, KeyboardAloneReachesEverything)
 }
 
 } // namespace Korvex::Testing
+
+int main(int argumentCount, char** arguments)
+{
+    if (argumentCount > 1 && std::strcmp(arguments[1], "--drag-source") == 0)
+        return Korvex::Testing::RunDragSource(argumentCount, arguments);
+    testing::InitGoogleMock(&argumentCount, arguments);
+    return Korvex::Testing::RunDriven(argumentCount, arguments, [] { return RUN_ALL_TESTS(); });
+}

@@ -1,4 +1,5 @@
-#include "Hosts/Desktop/Drive/DragSource.h"
+#include "Hosts/Desktop/Drive/DrivenMain.h"
+
 #include "Support/DisplayPerson.h"
 #include "Support/GuiThread.h"
 #include "Support/MediaMaker.h"
@@ -8,9 +9,8 @@
 #include <QApplication>
 #include <QDir>
 
-#include <cstring>
-
-using namespace Korvex;
+namespace Korvex::Testing
+{
 
 namespace
 {
@@ -29,16 +29,15 @@ void MoveIn(ioPath const& home)
 
 } // namespace
 
-int main(int argumentCount, char** arguments)
+int RunDriven(int argumentCount, char** arguments, std::function<int()> const& body)
 {
-    if (argumentCount > 1 && std::strcmp(arguments[1], "--drag-source") == 0)
-        return Testing::RunDragSource(argumentCount, arguments);
-    testing::InitGoogleMock(&argumentCount, arguments);
-    Testing::TemporaryFolder const home;
+    TemporaryFolder const home;
     MoveIn(home.Path());
-    Testing::DisplayPerson::ShareDisplay();
+    DisplayPerson::ShareDisplay();
     Desktop::PrepareToolkit();
     QApplication const application(argumentCount, arguments);
     QApplication::setQuitOnLastWindowClosed(false); // it is started again
-    return Testing::RunBesideGui([] { return RUN_ALL_TESTS(); });
+    return RunBesideGui(body);
 }
+
+} // namespace Korvex::Testing
