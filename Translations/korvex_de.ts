@@ -27,10 +27,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n cue(s) of %1 made no sense and were left out.</source>
+        <source>%n cue(s) of %1 without usable times were left out.</source>
         <translation type="unfinished">
-            <numerusform>%n Untertitel von %1 war unbrauchbar und wurde weggelassen.</numerusform>
-            <numerusform>%n Untertitel von %1 waren unbrauchbar und wurden weggelassen.</numerusform>
+            <numerusform>%n Untertitel von %1 ohne brauchbare Zeiten wurde weggelassen.</numerusform>
+            <numerusform>%n Untertitel von %1 ohne brauchbare Zeiten wurden weggelassen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -164,7 +164,7 @@
     </message>
     <message>
         <source>none of its pictures can be decoded</source>
-        <translation type="unfinished">keines ihrer Bilder lässt sich decodieren</translation>
+        <translation type="unfinished">keines ihrer Bilder lässt sich dekodieren</translation>
     </message>
     <message>
         <source>there is no decoder for it</source>
@@ -566,7 +566,7 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <translation type="unfinished">Alles abb&amp;rechen</translation>
     </message>
     <message>
-        <source>As the &amp;system</source>
+        <source>Same as &amp;system</source>
         <translation type="unfinished">Wie das &amp;System</translation>
     </message>
     <message>
@@ -681,7 +681,7 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
 <context>
     <name>Korvex::Desktop::ConversionQueue</name>
     <message>
-        <source>The subtitles of &quot;%1&quot; cannot go out as chosen; choose them again.</source>
+        <source>The subtitles of &quot;%1&quot; cannot go out as chosen: choose them again.</source>
         <translation type="unfinished">Die Untertitel von „%1“ lassen sich so nicht ausgeben; wählen Sie sie neu.</translation>
     </message>
 </context>
@@ -699,7 +699,7 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <translation type="unfinished">Filme hier ablegen oder Dateien wählen</translation>
     </message>
     <message>
-        <source>Folders work too. Subtitle files beside a film are found by themselves.</source>
+        <source>Folders work too. Subtitle files beside a film are found automatically.</source>
         <translation type="unfinished">Auch Ordner gehen. Untertiteldateien neben einem Film werden von selbst gefunden.</translation>
     </message>
 </context>
@@ -859,7 +859,7 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <translation type="unfinished">Fil&amp;m</translation>
     </message>
     <message>
-        <source>Put &amp;back left-out tracks</source>
+        <source>Put left-out tracks &amp;back</source>
         <translation type="unfinished">Weggelassene Spuren &amp;zurückholen</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
 <context>
     <name>Korvex::Desktop::OutputBar</name>
     <message>
-        <source>As the source</source>
+        <source>Same as source</source>
         <translation type="unfinished">Wie die Quelle</translation>
     </message>
     <message>
@@ -944,10 +944,6 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <translation type="unfinished">Das Bild wird neu in eine kleine Datei kodiert; Verluste sind sichtbar.</translation>
     </message>
     <message>
-        <source>%1 %</source>
-        <translation type="unfinished">%1 %</translation>
-    </message>
-    <message>
         <source>paused</source>
         <translation type="unfinished">angehalten</translation>
     </message>
@@ -968,7 +964,7 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <translation type="unfinished">Weiter umwandeln</translation>
     </message>
     <message>
-        <source>Stand still until you resume</source>
+        <source>Wait until you resume</source>
         <translation type="unfinished">Stillstehen, bis Sie fortsetzen</translation>
     </message>
     <message>
@@ -1047,7 +1043,7 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <translation type="unfinished">Der Film wird gelesen.</translation>
     </message>
     <message>
-        <source>“%1” has no picture, so there is nothing to see. Its sound can be converted.</source>
+        <source>&quot;%1&quot; has no picture, so there is nothing to see. Its sound can be converted.</source>
         <translation type="unfinished">„%1“ hat kein Bild, daher gibt es nichts zu sehen. Der Ton lässt sich umwandeln.</translation>
     </message>
     <message>
@@ -1055,7 +1051,7 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <translation type="unfinished">Es gibt keine Untertitel. Fügen Sie eine Untertiteldatei hinzu, um sie eingebrannt zu sehen.</translation>
     </message>
     <message>
-        <source>All tracks go out as switchable ones. Choose a track to see it drawn in.</source>
+        <source>All tracks stay switchable. Choose a track to see it drawn in.</source>
         <translation type="unfinished">Alle Spuren gehen zuschaltbar hinaus. Wählen Sie eine Spur, um sie eingebrannt zu sehen.</translation>
     </message>
     <message>
@@ -1182,19 +1178,19 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
 <context>
     <name>Korvex::Desktop::SessionStore</name>
     <message>
-        <source>The list of last time in &quot;%1&quot; cannot be read, and nothing is kept this time: rename or remove that file.</source>
+        <source>The last list of films, &quot;%1&quot;, cannot be read, so nothing is saved this time: rename or remove that file.</source>
         <translation type="unfinished">Die letzte Liste in „%1“ ist nicht lesbar, und diesmal wird nichts gespeichert: Benennen Sie die Datei um oder entfernen Sie sie.</translation>
     </message>
     <message>
-        <source>The list of last time was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
+        <source>The last list of films was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
         <translation type="unfinished">Die letzte Liste stammt von einer neueren Version des Programms; sie liegt als „%1“ bereit. Öffnen Sie Ihre Filme neu.</translation>
     </message>
     <message>
-        <source>The list of last time is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
+        <source>The last list of films is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
         <translation type="unfinished">Die letzte Liste ist beschädigt; sie liegt als „%1“ bereit. Öffnen Sie Ihre Filme neu.</translation>
     </message>
     <message>
-        <source>The list of films could not be kept in &quot;%1&quot; (%2): check that you may write there.</source>
+        <source>The list of films could not be saved in &quot;%1&quot; (%2): check that you may write there.</source>
         <translation type="unfinished">Die Liste der Filme ließ sich nicht in „%1“ speichern (%2): Prüfen Sie, ob Sie dort schreiben dürfen.</translation>
     </message>
 </context>
@@ -1330,7 +1326,7 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <translation type="unfinished">Ein&amp;brennen</translation>
     </message>
     <message>
-        <source>&amp;Remove from the list</source>
+        <source>&amp;Remove from list</source>
         <translation type="unfinished">Aus der Liste &amp;entfernen</translation>
     </message>
     <message>
@@ -1338,16 +1334,16 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <translation type="unfinished">Aus der Ausgabe &amp;weglassen</translation>
     </message>
     <message>
-        <source>Language, &amp;title and marks…</source>
-        <translation type="unfinished">Sprache, &amp;Titel und Markierungen …</translation>
+        <source>Language, &amp;title and marks...</source>
+        <translation type="unfinished">Sprache, &amp;Titel und Markierungen...</translation>
     </message>
     <message>
         <source>&amp;Put back</source>
         <translation type="unfinished">&amp;Zurückholen</translation>
     </message>
     <message>
-        <source>&amp;Save as a file…</source>
-        <translation type="unfinished">Als Datei &amp;speichern …</translation>
+        <source>&amp;Save as a file...</source>
+        <translation type="unfinished">Als Datei &amp;speichern...</translation>
     </message>
 </context>
 <context>
@@ -1402,7 +1398,7 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     </message>
     <message>
         <source>This language is not known: choose one from the list, or write its code, such as &quot;en&quot; or &quot;pt-br&quot;.</source>
-        <translation type="unfinished">Diese Sprache ist nicht bekannt: Wählen Sie eine aus der Liste oder schreiben Sie ihren Kode, etwa „en“ oder „pt-br“.</translation>
+        <translation type="unfinished">Diese Sprache ist nicht bekannt: Wählen Sie eine aus der Liste oder schreiben Sie ihren Code, etwa „en“ oder „pt-br“.</translation>
     </message>
 </context>
 <context>
@@ -1418,6 +1414,14 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     <message>
         <source>Choose a color</source>
         <translation type="unfinished">Farbe wählen</translation>
+    </message>
+</context>
+<context>
+    <name>NumberTexts</name>
+    <message>
+        <source>%1%</source>
+        <extracomment>Some languages part the sign from the number by a blank that does not break.</extracomment>
+        <translation type="unfinished">%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -1608,7 +1612,7 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     </message>
     <message>
         <source>The picture of &quot;%1&quot; was encoded anew, because %2 cannot hold it as it is.</source>
-        <translation type="unfinished">Das Bild von „%1“ wurde neu codiert, weil %2 es so, wie es ist, nicht aufnehmen kann.</translation>
+        <translation type="unfinished">Das Bild von „%1“ wurde neu kodiert, weil %2 es so, wie es ist, nicht aufnehmen kann.</translation>
     </message>
     <message>
         <source>Files attached to &quot;%1&quot;, for example fonts, were left out, because %2 cannot hold them.</source>

@@ -11,10 +11,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n cue(s) of %1 made no sense and were left out.</source>
+        <source>%n cue(s) of %1 without usable times were left out.</source>
         <translation type="unfinished">
-            <numerusform>%n cue of %1 made no sense and was left out.</numerusform>
-            <numerusform>%n cues of %1 made no sense and were left out.</numerusform>
+            <numerusform>%n cue of %1 without usable times was left out.</numerusform>
+            <numerusform>%n cues of %1 without usable times were left out.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -74,14 +74,14 @@
     <message numerus="yes">
         <source>%n cue(s) without usable times were left out</source>
         <translation type="unfinished">
-            <numerusform>%n cue without usable times were left out</numerusform>
+            <numerusform>%n cue without usable times was left out</numerusform>
             <numerusform>%n cues without usable times were left out</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of no duration were left out</source>
         <translation type="unfinished">
-            <numerusform>%n cue of no duration were left out</numerusform>
+            <numerusform>%n cue of no duration was left out</numerusform>
             <numerusform>%n cues of no duration were left out</numerusform>
         </translation>
     </message>
@@ -139,21 +139,21 @@
     <message numerus="yes">
         <source>%n byte(s) of &quot;%1&quot; could not be read as %2 and show as &quot;%3&quot;: check the encoding.</source>
         <translation type="unfinished">
-            <numerusform>%n byte of &quot;%1&quot; could not be read as %2 and show as &quot;%3&quot;: check the encoding.</numerusform>
+            <numerusform>%n byte of &quot;%1&quot; could not be read as %2 and shows as &quot;%3&quot;: check the encoding.</numerusform>
             <numerusform>%n bytes of &quot;%1&quot; could not be read as %2 and show as &quot;%3&quot;: check the encoding.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of &quot;%1&quot; without usable times were left out.</source>
         <translation type="unfinished">
-            <numerusform>%n cue of &quot;%1&quot; without usable times were left out.</numerusform>
+            <numerusform>%n cue of &quot;%1&quot; without usable times was left out.</numerusform>
             <numerusform>%n cues of &quot;%1&quot; without usable times were left out.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of &quot;%1&quot; of no duration were left out.</source>
         <translation type="unfinished">
-            <numerusform>%n cue of &quot;%1&quot; of no duration were left out.</numerusform>
+            <numerusform>%n cue of &quot;%1&quot; of no duration was left out.</numerusform>
             <numerusform>%n cues of &quot;%1&quot; of no duration were left out.</numerusform>
         </translation>
     </message>

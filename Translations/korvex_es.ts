@@ -27,10 +27,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n cue(s) of %1 made no sense and were left out.</source>
+        <source>%n cue(s) of %1 without usable times were left out.</source>
         <translation type="unfinished">
-            <numerusform>%n subtítulo de %1 no tenía sentido y se dejó fuera.</numerusform>
-            <numerusform>%n subtítulos de %1 no tenían sentido y se dejaron fuera.</numerusform>
+            <numerusform>%n subtítulo de %1 sin tiempos utilizables se dejó fuera.</numerusform>
+            <numerusform>%n subtítulos de %1 sin tiempos utilizables se dejaron fuera.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -566,7 +566,7 @@ Se basa en Qt, FFmpeg y libass.</translation>
         <translation type="unfinished">Cancelar &amp;todo</translation>
     </message>
     <message>
-        <source>As the &amp;system</source>
+        <source>Same as &amp;system</source>
         <translation type="unfinished">Como el &amp;sistema</translation>
     </message>
     <message>
@@ -681,7 +681,7 @@ Se basa en Qt, FFmpeg y libass.</translation>
 <context>
     <name>Korvex::Desktop::ConversionQueue</name>
     <message>
-        <source>The subtitles of &quot;%1&quot; cannot go out as chosen; choose them again.</source>
+        <source>The subtitles of &quot;%1&quot; cannot go out as chosen: choose them again.</source>
         <translation type="unfinished">Los subtítulos de «%1» no pueden salir como se eligió; vuelva a elegirlos.</translation>
     </message>
 </context>
@@ -699,7 +699,7 @@ Se basa en Qt, FFmpeg y libass.</translation>
         <translation type="unfinished">Suelte películas aquí o elija archivos</translation>
     </message>
     <message>
-        <source>Folders work too. Subtitle files beside a film are found by themselves.</source>
+        <source>Folders work too. Subtitle files beside a film are found automatically.</source>
         <translation type="unfinished">También sirven carpetas. Los archivos de subtítulos junto a una película se encuentran solos.</translation>
     </message>
 </context>
@@ -859,7 +859,7 @@ Se basa en Qt, FFmpeg y libass.</translation>
         <translation type="unfinished">Pelíc&amp;ula</translation>
     </message>
     <message>
-        <source>Put &amp;back left-out tracks</source>
+        <source>Put left-out tracks &amp;back</source>
         <translation type="unfinished">&amp;Recuperar las pistas dejadas fuera</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@ Se basa en Qt, FFmpeg y libass.</translation>
 <context>
     <name>Korvex::Desktop::OutputBar</name>
     <message>
-        <source>As the source</source>
+        <source>Same as source</source>
         <translation type="unfinished">Como el original</translation>
     </message>
     <message>
@@ -944,10 +944,6 @@ Se basa en Qt, FFmpeg y libass.</translation>
         <translation type="unfinished">La imagen se vuelve a codificar en un archivo pequeño; las pérdidas son visibles.</translation>
     </message>
     <message>
-        <source>%1 %</source>
-        <translation type="unfinished">%1 %</translation>
-    </message>
-    <message>
         <source>paused</source>
         <translation type="unfinished">en pausa</translation>
     </message>
@@ -968,7 +964,7 @@ Se basa en Qt, FFmpeg y libass.</translation>
         <translation type="unfinished">Seguir convirtiendo</translation>
     </message>
     <message>
-        <source>Stand still until you resume</source>
+        <source>Wait until you resume</source>
         <translation type="unfinished">Detenerse hasta que usted reanude</translation>
     </message>
     <message>
@@ -1047,7 +1043,7 @@ Se basa en Qt, FFmpeg y libass.</translation>
         <translation type="unfinished">La película se está leyendo.</translation>
     </message>
     <message>
-        <source>“%1” has no picture, so there is nothing to see. Its sound can be converted.</source>
+        <source>&quot;%1&quot; has no picture, so there is nothing to see. Its sound can be converted.</source>
         <translation type="unfinished">«%1» no tiene imagen, así que no hay nada que ver. Su sonido se puede convertir.</translation>
     </message>
     <message>
@@ -1055,7 +1051,7 @@ Se basa en Qt, FFmpeg y libass.</translation>
         <translation type="unfinished">No hay subtítulos. Añada un archivo de subtítulos para verlo incrustado.</translation>
     </message>
     <message>
-        <source>All tracks go out as switchable ones. Choose a track to see it drawn in.</source>
+        <source>All tracks stay switchable. Choose a track to see it drawn in.</source>
         <translation type="unfinished">Todas las pistas salen como activables. Elija una pista para verla incrustada.</translation>
     </message>
     <message>
@@ -1182,19 +1178,19 @@ Se basa en Qt, FFmpeg y libass.</translation>
 <context>
     <name>Korvex::Desktop::SessionStore</name>
     <message>
-        <source>The list of last time in &quot;%1&quot; cannot be read, and nothing is kept this time: rename or remove that file.</source>
+        <source>The last list of films, &quot;%1&quot;, cannot be read, so nothing is saved this time: rename or remove that file.</source>
         <translation type="unfinished">La última lista, en «%1», no se puede leer y esta vez no se guarda nada: cambie el nombre del archivo o elimínelo.</translation>
     </message>
     <message>
-        <source>The list of last time was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
+        <source>The last list of films was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
         <translation type="unfinished">La última lista la escribió una versión más reciente del programa; se conserva como «%1». Abra de nuevo sus películas.</translation>
     </message>
     <message>
-        <source>The list of last time is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
+        <source>The last list of films is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
         <translation type="unfinished">La última lista está dañada; se conserva como «%1». Abra de nuevo sus películas.</translation>
     </message>
     <message>
-        <source>The list of films could not be kept in &quot;%1&quot; (%2): check that you may write there.</source>
+        <source>The list of films could not be saved in &quot;%1&quot; (%2): check that you may write there.</source>
         <translation type="unfinished">La lista de películas no se pudo guardar en «%1» (%2): compruebe que puede escribir allí.</translation>
     </message>
 </context>
@@ -1330,7 +1326,7 @@ Se basa en Qt, FFmpeg y libass.</translation>
         <translation type="unfinished">&amp;Incrustar</translation>
     </message>
     <message>
-        <source>&amp;Remove from the list</source>
+        <source>&amp;Remove from list</source>
         <translation type="unfinished">&amp;Quitar de la lista</translation>
     </message>
     <message>
@@ -1338,16 +1334,16 @@ Se basa en Qt, FFmpeg y libass.</translation>
         <translation type="unfinished">&amp;Dejar fuera de la salida</translation>
     </message>
     <message>
-        <source>Language, &amp;title and marks…</source>
-        <translation type="unfinished">Idioma, &amp;título y marcas…</translation>
+        <source>Language, &amp;title and marks...</source>
+        <translation type="unfinished">Idioma, &amp;título y marcas...</translation>
     </message>
     <message>
         <source>&amp;Put back</source>
         <translation type="unfinished">&amp;Recuperar</translation>
     </message>
     <message>
-        <source>&amp;Save as a file…</source>
-        <translation type="unfinished">&amp;Guardar como archivo…</translation>
+        <source>&amp;Save as a file...</source>
+        <translation type="unfinished">&amp;Guardar como archivo...</translation>
     </message>
 </context>
 <context>
@@ -1418,6 +1414,14 @@ Se basa en Qt, FFmpeg y libass.</translation>
     <message>
         <source>Choose a color</source>
         <translation type="unfinished">Elegir un color</translation>
+    </message>
+</context>
+<context>
+    <name>NumberTexts</name>
+    <message>
+        <source>%1%</source>
+        <extracomment>Some languages part the sign from the number by a blank that does not break.</extracomment>
+        <translation type="unfinished">%1&#xa0;%</translation>
     </message>
 </context>
 <context>

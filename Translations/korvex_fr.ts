@@ -27,10 +27,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n cue(s) of %1 made no sense and were left out.</source>
+        <source>%n cue(s) of %1 without usable times were left out.</source>
         <translation type="unfinished">
-            <numerusform>%n sous-titre de %1 était inutilisable et a été laissé de côté.</numerusform>
-            <numerusform>%n sous-titres de %1 étaient inutilisables et ont été laissés de côté.</numerusform>
+            <numerusform>%n sous-titre de %1 sans horaires utilisables a été laissé de côté.</numerusform>
+            <numerusform>%n sous-titres de %1 sans horaires utilisables ont été laissés de côté.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -566,7 +566,7 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <translation type="unfinished">Tout &amp;annuler</translation>
     </message>
     <message>
-        <source>As the &amp;system</source>
+        <source>Same as &amp;system</source>
         <translation type="unfinished">Comme le &amp;système</translation>
     </message>
     <message>
@@ -681,7 +681,7 @@ Il repose sur Qt, FFmpeg et libass.</translation>
 <context>
     <name>Korvex::Desktop::ConversionQueue</name>
     <message>
-        <source>The subtitles of &quot;%1&quot; cannot go out as chosen; choose them again.</source>
+        <source>The subtitles of &quot;%1&quot; cannot go out as chosen: choose them again.</source>
         <translation type="unfinished">Les sous-titres de «&#xa0;%1&#xa0;» ne peuvent pas sortir comme choisi&#xa0;; choisissez-les de nouveau.</translation>
     </message>
 </context>
@@ -699,7 +699,7 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <translation type="unfinished">Déposez des films ici ou choisissez des fichiers</translation>
     </message>
     <message>
-        <source>Folders work too. Subtitle files beside a film are found by themselves.</source>
+        <source>Folders work too. Subtitle files beside a film are found automatically.</source>
         <translation type="unfinished">Les dossiers aussi. Les fichiers de sous-titres à côté d&apos;un film sont trouvés automatiquement.</translation>
     </message>
 </context>
@@ -859,7 +859,7 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <translation type="unfinished">Fil&amp;m</translation>
     </message>
     <message>
-        <source>Put &amp;back left-out tracks</source>
+        <source>Put left-out tracks &amp;back</source>
         <translation type="unfinished">&amp;Remettre les pistes laissées de côté</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@ Il repose sur Qt, FFmpeg et libass.</translation>
 <context>
     <name>Korvex::Desktop::OutputBar</name>
     <message>
-        <source>As the source</source>
+        <source>Same as source</source>
         <translation type="unfinished">Comme la source</translation>
     </message>
     <message>
@@ -944,10 +944,6 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <translation type="unfinished">L&apos;image est réencodée dans un petit fichier&#xa0;; les pertes sont visibles.</translation>
     </message>
     <message>
-        <source>%1 %</source>
-        <translation type="unfinished">%1 %</translation>
-    </message>
-    <message>
         <source>paused</source>
         <translation type="unfinished">en pause</translation>
     </message>
@@ -968,7 +964,7 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <translation type="unfinished">Continuer la conversion</translation>
     </message>
     <message>
-        <source>Stand still until you resume</source>
+        <source>Wait until you resume</source>
         <translation type="unfinished">S&apos;arrêter jusqu&apos;à la reprise</translation>
     </message>
     <message>
@@ -1047,7 +1043,7 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <translation type="unfinished">Le film est en cours de lecture.</translation>
     </message>
     <message>
-        <source>“%1” has no picture, so there is nothing to see. Its sound can be converted.</source>
+        <source>&quot;%1&quot; has no picture, so there is nothing to see. Its sound can be converted.</source>
         <translation type="unfinished">«&#xa0;%1&#xa0;» n&apos;a pas d&apos;image, il n&apos;y a donc rien à voir. Le son peut être converti.</translation>
     </message>
     <message>
@@ -1055,7 +1051,7 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <translation type="unfinished">Il n&apos;y a pas de sous-titres. Ajoutez un fichier de sous-titres pour le voir incrusté.</translation>
     </message>
     <message>
-        <source>All tracks go out as switchable ones. Choose a track to see it drawn in.</source>
+        <source>All tracks stay switchable. Choose a track to see it drawn in.</source>
         <translation type="unfinished">Toutes les pistes sortent activables. Choisissez une piste pour la voir incrustée.</translation>
     </message>
     <message>
@@ -1182,19 +1178,19 @@ Il repose sur Qt, FFmpeg et libass.</translation>
 <context>
     <name>Korvex::Desktop::SessionStore</name>
     <message>
-        <source>The list of last time in &quot;%1&quot; cannot be read, and nothing is kept this time: rename or remove that file.</source>
+        <source>The last list of films, &quot;%1&quot;, cannot be read, so nothing is saved this time: rename or remove that file.</source>
         <translation type="unfinished">La dernière liste, dans «&#xa0;%1&#xa0;», est illisible et rien n&apos;est conservé cette fois&#xa0;: renommez ou supprimez ce fichier.</translation>
     </message>
     <message>
-        <source>The list of last time was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
+        <source>The last list of films was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
         <translation type="unfinished">La dernière liste a été écrite par une version plus récente du programme&#xa0;; elle est conservée sous «&#xa0;%1&#xa0;». Rouvrez vos films.</translation>
     </message>
     <message>
-        <source>The list of last time is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
+        <source>The last list of films is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
         <translation type="unfinished">La dernière liste est endommagée&#xa0;; elle est conservée sous «&#xa0;%1&#xa0;». Rouvrez vos films.</translation>
     </message>
     <message>
-        <source>The list of films could not be kept in &quot;%1&quot; (%2): check that you may write there.</source>
+        <source>The list of films could not be saved in &quot;%1&quot; (%2): check that you may write there.</source>
         <translation type="unfinished">La liste des films n&apos;a pas pu être conservée dans «&#xa0;%1&#xa0;» (%2)&#xa0;: vérifiez que vous pouvez y écrire.</translation>
     </message>
 </context>
@@ -1330,7 +1326,7 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <translation type="unfinished">&amp;Incruster</translation>
     </message>
     <message>
-        <source>&amp;Remove from the list</source>
+        <source>&amp;Remove from list</source>
         <translation type="unfinished">&amp;Retirer de la liste</translation>
     </message>
     <message>
@@ -1338,16 +1334,16 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <translation type="unfinished">&amp;Laisser de côté</translation>
     </message>
     <message>
-        <source>Language, &amp;title and marks…</source>
-        <translation type="unfinished">Langue, &amp;titre et marques…</translation>
+        <source>Language, &amp;title and marks...</source>
+        <translation type="unfinished">Langue, &amp;titre et marques...</translation>
     </message>
     <message>
         <source>&amp;Put back</source>
         <translation type="unfinished">&amp;Remettre</translation>
     </message>
     <message>
-        <source>&amp;Save as a file…</source>
-        <translation type="unfinished">&amp;Enregistrer dans un fichier…</translation>
+        <source>&amp;Save as a file...</source>
+        <translation type="unfinished">&amp;Enregistrer dans un fichier...</translation>
     </message>
 </context>
 <context>
@@ -1418,6 +1414,14 @@ Il repose sur Qt, FFmpeg et libass.</translation>
     <message>
         <source>Choose a color</source>
         <translation type="unfinished">Choisir une couleur</translation>
+    </message>
+</context>
+<context>
+    <name>NumberTexts</name>
+    <message>
+        <source>%1%</source>
+        <extracomment>Some languages part the sign from the number by a blank that does not break.</extracomment>
+        <translation type="unfinished">%1&#xa0;%</translation>
     </message>
 </context>
 <context>

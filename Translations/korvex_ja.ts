@@ -26,9 +26,9 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n cue(s) of %1 made no sense and were left out.</source>
+        <source>%n cue(s) of %1 without usable times were left out.</source>
         <translation type="unfinished">
-            <numerusform>%1 の字幕 %n 件は意味をなさないため、除外しました。</numerusform>
+            <numerusform>%1 の有効な時刻のない字幕 %n 件を除外しました。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -562,7 +562,7 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <translation type="unfinished">すべてキャンセル(&amp;L)</translation>
     </message>
     <message>
-        <source>As the &amp;system</source>
+        <source>Same as &amp;system</source>
         <translation type="unfinished">システムに合わせる(&amp;S)</translation>
     </message>
     <message>
@@ -677,7 +677,7 @@ Qt、FFmpeg、libass を利用しています。</translation>
 <context>
     <name>Korvex::Desktop::ConversionQueue</name>
     <message>
-        <source>The subtitles of &quot;%1&quot; cannot go out as chosen; choose them again.</source>
+        <source>The subtitles of &quot;%1&quot; cannot go out as chosen: choose them again.</source>
         <translation type="unfinished">「%1」の字幕は選択どおりに出力できません。選び直してください。</translation>
     </message>
 </context>
@@ -695,7 +695,7 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <translation type="unfinished">映画をここにドロップするか、ファイルを選択</translation>
     </message>
     <message>
-        <source>Folders work too. Subtitle files beside a film are found by themselves.</source>
+        <source>Folders work too. Subtitle files beside a film are found automatically.</source>
         <translation type="unfinished">フォルダーも使えます。映画と同じ場所の字幕ファイルは自動で見つかります。</translation>
     </message>
 </context>
@@ -853,7 +853,7 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <translation type="unfinished">映画(&amp;M)</translation>
     </message>
     <message>
-        <source>Put &amp;back left-out tracks</source>
+        <source>Put left-out tracks &amp;back</source>
         <translation type="unfinished">除外したトラックを戻す(&amp;B)</translation>
     </message>
     <message>
@@ -906,7 +906,7 @@ Qt、FFmpeg、libass を利用しています。</translation>
 <context>
     <name>Korvex::Desktop::OutputBar</name>
     <message>
-        <source>As the source</source>
+        <source>Same as source</source>
         <translation type="unfinished">元と同じ</translation>
     </message>
     <message>
@@ -938,10 +938,6 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <translation type="unfinished">映像を小さなファイルに再エンコードします。劣化が目に見えます。</translation>
     </message>
     <message>
-        <source>%1 %</source>
-        <translation type="unfinished">%1 %</translation>
-    </message>
-    <message>
         <source>paused</source>
         <translation type="unfinished">一時停止中</translation>
     </message>
@@ -962,7 +958,7 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <translation type="unfinished">変換を続ける</translation>
     </message>
     <message>
-        <source>Stand still until you resume</source>
+        <source>Wait until you resume</source>
         <translation type="unfinished">再開するまで停止します</translation>
     </message>
     <message>
@@ -1041,7 +1037,7 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <translation type="unfinished">映画を読み込んでいます。</translation>
     </message>
     <message>
-        <source>“%1” has no picture, so there is nothing to see. Its sound can be converted.</source>
+        <source>&quot;%1&quot; has no picture, so there is nothing to see. Its sound can be converted.</source>
         <translation type="unfinished">「%1」には映像がないため、表示するものがありません。音声は変換できます。</translation>
     </message>
     <message>
@@ -1049,7 +1045,7 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <translation type="unfinished">字幕がありません。焼き込みを見るには字幕ファイルを追加してください。</translation>
     </message>
     <message>
-        <source>All tracks go out as switchable ones. Choose a track to see it drawn in.</source>
+        <source>All tracks stay switchable. Choose a track to see it drawn in.</source>
         <translation type="unfinished">すべてのトラックが切り替え可能な形で出力されます。焼き込みを見るにはトラックを選んでください。</translation>
     </message>
     <message>
@@ -1172,19 +1168,19 @@ Qt、FFmpeg、libass を利用しています。</translation>
 <context>
     <name>Korvex::Desktop::SessionStore</name>
     <message>
-        <source>The list of last time in &quot;%1&quot; cannot be read, and nothing is kept this time: rename or remove that file.</source>
+        <source>The last list of films, &quot;%1&quot;, cannot be read, so nothing is saved this time: rename or remove that file.</source>
         <translation type="unfinished">前回の一覧「%1」を読み込めないため、今回は何も保存されません。そのファイルの名前を変えるか、削除してください。</translation>
     </message>
     <message>
-        <source>The list of last time was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
+        <source>The last list of films was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
         <translation type="unfinished">前回の一覧は新しいバージョンのプログラムで書かれたもので、「%1」として残してあります。映画を開き直してください。</translation>
     </message>
     <message>
-        <source>The list of last time is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
+        <source>The last list of films is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
         <translation type="unfinished">前回の一覧は壊れているため、「%1」として残してあります。映画を開き直してください。</translation>
     </message>
     <message>
-        <source>The list of films could not be kept in &quot;%1&quot; (%2): check that you may write there.</source>
+        <source>The list of films could not be saved in &quot;%1&quot; (%2): check that you may write there.</source>
         <translation type="unfinished">映画の一覧を「%1」に保存できませんでした (%2)。書き込み権限を確認してください。</translation>
     </message>
 </context>
@@ -1317,7 +1313,7 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <translation type="unfinished">焼き込む(&amp;D)</translation>
     </message>
     <message>
-        <source>&amp;Remove from the list</source>
+        <source>&amp;Remove from list</source>
         <translation type="unfinished">一覧から削除(&amp;R)</translation>
     </message>
     <message>
@@ -1325,16 +1321,16 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <translation type="unfinished">出力から除外(&amp;L)</translation>
     </message>
     <message>
-        <source>Language, &amp;title and marks…</source>
-        <translation type="unfinished">言語、タイトル、印(&amp;T)…</translation>
+        <source>Language, &amp;title and marks...</source>
+        <translation type="unfinished">言語、タイトル、印(&amp;T)...</translation>
     </message>
     <message>
         <source>&amp;Put back</source>
         <translation type="unfinished">戻す(&amp;P)</translation>
     </message>
     <message>
-        <source>&amp;Save as a file…</source>
-        <translation type="unfinished">ファイルとして保存(&amp;S)…</translation>
+        <source>&amp;Save as a file...</source>
+        <translation type="unfinished">ファイルとして保存(&amp;S)...</translation>
     </message>
 </context>
 <context>
@@ -1405,6 +1401,14 @@ Qt、FFmpeg、libass を利用しています。</translation>
     <message>
         <source>Choose a color</source>
         <translation type="unfinished">色を選択</translation>
+    </message>
+</context>
+<context>
+    <name>NumberTexts</name>
+    <message>
+        <source>%1%</source>
+        <extracomment>Some languages part the sign from the number by a blank that does not break.</extracomment>
+        <translation type="unfinished">%1%</translation>
     </message>
 </context>
 <context>

@@ -28,11 +28,11 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n cue(s) of %1 made no sense and were left out.</source>
+        <source>%n cue(s) of %1 without usable times were left out.</source>
         <translation type="unfinished">
-            <numerusform>%n napis z %1 był bez sensu i został pominięty.</numerusform>
-            <numerusform>%n napisy z %1 były bez sensu i zostały pominięte.</numerusform>
-            <numerusform>%n napisów z %1 było bez sensu i zostało pominiętych.</numerusform>
+            <numerusform>Pominięto %n napis z %1 bez poprawnych czasów.</numerusform>
+            <numerusform>Pominięto %n napisy z %1 bez poprawnych czasów.</numerusform>
+            <numerusform>Pominięto %n napisów z %1 bez poprawnych czasów.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -570,7 +570,7 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <translation type="unfinished">Anuluj &amp;wszystkie</translation>
     </message>
     <message>
-        <source>As the &amp;system</source>
+        <source>Same as &amp;system</source>
         <translation type="unfinished">Jak w &amp;systemie</translation>
     </message>
     <message>
@@ -685,7 +685,7 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
 <context>
     <name>Korvex::Desktop::ConversionQueue</name>
     <message>
-        <source>The subtitles of &quot;%1&quot; cannot go out as chosen; choose them again.</source>
+        <source>The subtitles of &quot;%1&quot; cannot go out as chosen: choose them again.</source>
         <translation type="unfinished">Napisów filmu „%1” nie da się zapisać zgodnie z wyborem; wybierz je ponownie.</translation>
     </message>
 </context>
@@ -703,7 +703,7 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <translation type="unfinished">Upuść filmy tutaj lub wybierz pliki</translation>
     </message>
     <message>
-        <source>Folders work too. Subtitle files beside a film are found by themselves.</source>
+        <source>Folders work too. Subtitle files beside a film are found automatically.</source>
         <translation type="unfinished">Foldery też działają. Pliki napisów obok filmu są znajdowane automatycznie.</translation>
     </message>
 </context>
@@ -865,7 +865,7 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <translation type="unfinished">Fil&amp;m</translation>
     </message>
     <message>
-        <source>Put &amp;back left-out tracks</source>
+        <source>Put left-out tracks &amp;back</source>
         <translation type="unfinished">&amp;Przywróć pominięte ścieżki</translation>
     </message>
     <message>
@@ -918,7 +918,7 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
 <context>
     <name>Korvex::Desktop::OutputBar</name>
     <message>
-        <source>As the source</source>
+        <source>Same as source</source>
         <translation type="unfinished">Jak źródło</translation>
     </message>
     <message>
@@ -950,10 +950,6 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <translation type="unfinished">Obraz jest kodowany na nowo do małego pliku; straty są widoczne.</translation>
     </message>
     <message>
-        <source>%1 %</source>
-        <translation type="unfinished">%1%</translation>
-    </message>
-    <message>
         <source>paused</source>
         <translation type="unfinished">wstrzymano</translation>
     </message>
@@ -974,7 +970,7 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <translation type="unfinished">Konwertuj dalej</translation>
     </message>
     <message>
-        <source>Stand still until you resume</source>
+        <source>Wait until you resume</source>
         <translation type="unfinished">Wstrzymaj do wznowienia</translation>
     </message>
     <message>
@@ -1053,7 +1049,7 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <translation type="unfinished">Trwa odczytywanie filmu.</translation>
     </message>
     <message>
-        <source>“%1” has no picture, so there is nothing to see. Its sound can be converted.</source>
+        <source>&quot;%1&quot; has no picture, so there is nothing to see. Its sound can be converted.</source>
         <translation type="unfinished">„%1” nie ma obrazu, więc nie ma czego oglądać. Dźwięk można przekonwertować.</translation>
     </message>
     <message>
@@ -1061,7 +1057,7 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <translation type="unfinished">Brak napisów. Dodaj plik z napisami, aby zobaczyć je wtopione.</translation>
     </message>
     <message>
-        <source>All tracks go out as switchable ones. Choose a track to see it drawn in.</source>
+        <source>All tracks stay switchable. Choose a track to see it drawn in.</source>
         <translation type="unfinished">Wszystkie ścieżki zostaną zapisane jako przełączane. Wybierz ścieżkę, aby zobaczyć ją wtopioną.</translation>
     </message>
     <message>
@@ -1192,19 +1188,19 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
 <context>
     <name>Korvex::Desktop::SessionStore</name>
     <message>
-        <source>The list of last time in &quot;%1&quot; cannot be read, and nothing is kept this time: rename or remove that file.</source>
+        <source>The last list of films, &quot;%1&quot;, cannot be read, so nothing is saved this time: rename or remove that file.</source>
         <translation type="unfinished">Ostatniej listy w „%1” nie da się odczytać i tym razem nic nie zostanie zapisane: zmień nazwę pliku lub go usuń.</translation>
     </message>
     <message>
-        <source>The list of last time was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
+        <source>The last list of films was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
         <translation type="unfinished">Ostatnią listę zapisała nowsza wersja programu; zachowano ją jako „%1”. Otwórz filmy ponownie.</translation>
     </message>
     <message>
-        <source>The list of last time is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
+        <source>The last list of films is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
         <translation type="unfinished">Ostatnia lista jest uszkodzona; zachowano ją jako „%1”. Otwórz filmy ponownie.</translation>
     </message>
     <message>
-        <source>The list of films could not be kept in &quot;%1&quot; (%2): check that you may write there.</source>
+        <source>The list of films could not be saved in &quot;%1&quot; (%2): check that you may write there.</source>
         <translation type="unfinished">Listy filmów nie dało się zapisać w „%1” (%2): sprawdź, czy masz tam prawo zapisu.</translation>
     </message>
 </context>
@@ -1343,7 +1339,7 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <translation type="unfinished">&amp;Wtop w obraz</translation>
     </message>
     <message>
-        <source>&amp;Remove from the list</source>
+        <source>&amp;Remove from list</source>
         <translation type="unfinished">&amp;Usuń z listy</translation>
     </message>
     <message>
@@ -1351,16 +1347,16 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <translation type="unfinished">&amp;Pomiń w wyniku</translation>
     </message>
     <message>
-        <source>Language, &amp;title and marks…</source>
-        <translation type="unfinished">Język, &amp;tytuł i oznaczenia…</translation>
+        <source>Language, &amp;title and marks...</source>
+        <translation type="unfinished">Język, &amp;tytuł i oznaczenia...</translation>
     </message>
     <message>
         <source>&amp;Put back</source>
         <translation type="unfinished">&amp;Przywróć</translation>
     </message>
     <message>
-        <source>&amp;Save as a file…</source>
-        <translation type="unfinished">&amp;Zapisz jako plik…</translation>
+        <source>&amp;Save as a file...</source>
+        <translation type="unfinished">&amp;Zapisz jako plik...</translation>
     </message>
 </context>
 <context>
@@ -1431,6 +1427,14 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
     <message>
         <source>Choose a color</source>
         <translation type="unfinished">Wybierz kolor</translation>
+    </message>
+</context>
+<context>
+    <name>NumberTexts</name>
+    <message>
+        <source>%1%</source>
+        <extracomment>Some languages part the sign from the number by a blank that does not break.</extracomment>
+        <translation type="unfinished">%1%</translation>
     </message>
 </context>
 <context>

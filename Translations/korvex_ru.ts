@@ -28,11 +28,11 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n cue(s) of %1 made no sense and were left out.</source>
+        <source>%n cue(s) of %1 without usable times were left out.</source>
         <translation type="unfinished">
-            <numerusform>%n субтитр из %1 не имел смысла и пропущен.</numerusform>
-            <numerusform>%n субтитра из %1 не имели смысла и пропущены.</numerusform>
-            <numerusform>%n субтитров из %1 не имели смысла и пропущены.</numerusform>
+            <numerusform>Пропущен %n субтитр из %1 без пригодного времени.</numerusform>
+            <numerusform>Пропущены %n субтитра из %1 без пригодного времени.</numerusform>
+            <numerusform>Пропущены %n субтитров из %1 без пригодного времени.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -570,7 +570,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Отменить &amp;всё</translation>
     </message>
     <message>
-        <source>As the &amp;system</source>
+        <source>Same as &amp;system</source>
         <translation type="unfinished">Как в &amp;системе</translation>
     </message>
     <message>
@@ -685,7 +685,7 @@ It is built on Qt, FFmpeg and libass.</source>
 <context>
     <name>Korvex::Desktop::ConversionQueue</name>
     <message>
-        <source>The subtitles of &quot;%1&quot; cannot go out as chosen; choose them again.</source>
+        <source>The subtitles of &quot;%1&quot; cannot go out as chosen: choose them again.</source>
         <translation type="unfinished">Субтитры «%1» нельзя вывести так, как выбрано; выберите их заново.</translation>
     </message>
 </context>
@@ -703,7 +703,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Перетащите фильмы сюда или выберите файлы</translation>
     </message>
     <message>
-        <source>Folders work too. Subtitle files beside a film are found by themselves.</source>
+        <source>Folders work too. Subtitle files beside a film are found automatically.</source>
         <translation type="unfinished">Можно и папки. Файлы субтитров рядом с фильмом находятся сами.</translation>
     </message>
 </context>
@@ -811,7 +811,7 @@ It is built on Qt, FFmpeg and libass.</source>
     </message>
     <message>
         <source>Drawn in: %1</source>
-        <translation type="unfinished">Вшита: %1</translation>
+        <translation type="unfinished">Вшито: %1</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; holds no subtitles that can be read: remove it.</source>
@@ -865,7 +865,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Фил&amp;ьм</translation>
     </message>
     <message>
-        <source>Put &amp;back left-out tracks</source>
+        <source>Put left-out tracks &amp;back</source>
         <translation type="unfinished">&amp;Вернуть исключённые дорожки</translation>
     </message>
     <message>
@@ -918,7 +918,7 @@ It is built on Qt, FFmpeg and libass.</source>
 <context>
     <name>Korvex::Desktop::OutputBar</name>
     <message>
-        <source>As the source</source>
+        <source>Same as source</source>
         <translation type="unfinished">Как источник</translation>
     </message>
     <message>
@@ -950,10 +950,6 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Изображение кодируется заново в небольшой файл; потери заметны.</translation>
     </message>
     <message>
-        <source>%1 %</source>
-        <translation type="unfinished">%1 %</translation>
-    </message>
-    <message>
         <source>paused</source>
         <translation type="unfinished">приостановлено</translation>
     </message>
@@ -974,7 +970,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Продолжить преобразование</translation>
     </message>
     <message>
-        <source>Stand still until you resume</source>
+        <source>Wait until you resume</source>
         <translation type="unfinished">Остановить до продолжения</translation>
     </message>
     <message>
@@ -1053,7 +1049,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Фильм читается.</translation>
     </message>
     <message>
-        <source>“%1” has no picture, so there is nothing to see. Its sound can be converted.</source>
+        <source>&quot;%1&quot; has no picture, so there is nothing to see. Its sound can be converted.</source>
         <translation type="unfinished">В «%1» нет изображения, поэтому смотреть нечего. Звук можно преобразовать.</translation>
     </message>
     <message>
@@ -1061,7 +1057,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Субтитров нет. Добавьте файл субтитров, чтобы увидеть их вшитыми.</translation>
     </message>
     <message>
-        <source>All tracks go out as switchable ones. Choose a track to see it drawn in.</source>
+        <source>All tracks stay switchable. Choose a track to see it drawn in.</source>
         <translation type="unfinished">Все дорожки выводятся отключаемыми. Выберите дорожку, чтобы увидеть её вшитой.</translation>
     </message>
     <message>
@@ -1192,19 +1188,19 @@ It is built on Qt, FFmpeg and libass.</source>
 <context>
     <name>Korvex::Desktop::SessionStore</name>
     <message>
-        <source>The list of last time in &quot;%1&quot; cannot be read, and nothing is kept this time: rename or remove that file.</source>
+        <source>The last list of films, &quot;%1&quot;, cannot be read, so nothing is saved this time: rename or remove that file.</source>
         <translation type="unfinished">Прошлый список в «%1» не читается, и в этот раз ничего не сохраняется: переименуйте или удалите этот файл.</translation>
     </message>
     <message>
-        <source>The list of last time was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
+        <source>The last list of films was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
         <translation type="unfinished">Прошлый список записан более новой версией программы; он сохранён как «%1». Откройте фильмы заново.</translation>
     </message>
     <message>
-        <source>The list of last time is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
+        <source>The last list of films is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
         <translation type="unfinished">Прошлый список повреждён; он сохранён как «%1». Откройте фильмы заново.</translation>
     </message>
     <message>
-        <source>The list of films could not be kept in &quot;%1&quot; (%2): check that you may write there.</source>
+        <source>The list of films could not be saved in &quot;%1&quot; (%2): check that you may write there.</source>
         <translation type="unfinished">Список фильмов не удалось сохранить в «%1» (%2): проверьте, можно ли туда писать.</translation>
     </message>
 </context>
@@ -1343,7 +1339,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">&amp;Вшить в изображение</translation>
     </message>
     <message>
-        <source>&amp;Remove from the list</source>
+        <source>&amp;Remove from list</source>
         <translation type="unfinished">&amp;Убрать из списка</translation>
     </message>
     <message>
@@ -1351,16 +1347,16 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">&amp;Исключить из вывода</translation>
     </message>
     <message>
-        <source>Language, &amp;title and marks…</source>
-        <translation type="unfinished">Язык, &amp;название и пометки…</translation>
+        <source>Language, &amp;title and marks...</source>
+        <translation type="unfinished">Язык, &amp;название и пометки...</translation>
     </message>
     <message>
         <source>&amp;Put back</source>
         <translation type="unfinished">&amp;Вернуть</translation>
     </message>
     <message>
-        <source>&amp;Save as a file…</source>
-        <translation type="unfinished">&amp;Сохранить в файл…</translation>
+        <source>&amp;Save as a file...</source>
+        <translation type="unfinished">&amp;Сохранить в файл...</translation>
     </message>
 </context>
 <context>
@@ -1431,6 +1427,14 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>Choose a color</source>
         <translation type="unfinished">Выбрать цвет</translation>
+    </message>
+</context>
+<context>
+    <name>NumberTexts</name>
+    <message>
+        <source>%1%</source>
+        <extracomment>Some languages part the sign from the number by a blank that does not break.</extracomment>
+        <translation type="unfinished">%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -1649,17 +1653,17 @@ It is built on Qt, FFmpeg and libass.</source>
     <message numerus="yes">
         <source>%n cue(s) of &quot;%1&quot; without usable times were left out.</source>
         <translation type="unfinished">
-            <numerusform>Исключена %n реплика из «%1» без пригодных времён.</numerusform>
-            <numerusform>Исключены %n реплики из «%1» без пригодных времён.</numerusform>
-            <numerusform>Исключено %n реплик из «%1» без пригодных времён.</numerusform>
+            <numerusform>Исключён %n субтитр из «%1» без пригодных времён.</numerusform>
+            <numerusform>Исключены %n субтитра из «%1» без пригодных времён.</numerusform>
+            <numerusform>Исключено %n субтитров из «%1» без пригодных времён.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of &quot;%1&quot; of no duration were left out.</source>
         <translation type="unfinished">
-            <numerusform>Исключена %n реплика из «%1» нулевой длительности.</numerusform>
-            <numerusform>Исключены %n реплики из «%1» нулевой длительности.</numerusform>
-            <numerusform>Исключено %n реплик из «%1» нулевой длительности.</numerusform>
+            <numerusform>Исключён %n субтитр из «%1» нулевой длительности.</numerusform>
+            <numerusform>Исключены %n субтитра из «%1» нулевой длительности.</numerusform>
+            <numerusform>Исключено %n субтитров из «%1» нулевой длительности.</numerusform>
         </translation>
     </message>
     <message>

@@ -28,11 +28,11 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n cue(s) of %1 made no sense and were left out.</source>
+        <source>%n cue(s) of %1 without usable times were left out.</source>
         <translation type="unfinished">
-            <numerusform>%n субтитр з %1 не мав сенсу, його пропущено.</numerusform>
-            <numerusform>%n субтитри з %1 не мали сенсу, їх пропущено.</numerusform>
-            <numerusform>%n субтитрів з %1 не мали сенсу, їх пропущено.</numerusform>
+            <numerusform>Пропущено %n субтитр з %1 без придатного часу.</numerusform>
+            <numerusform>Пропущено %n субтитри з %1 без придатного часу.</numerusform>
+            <numerusform>Пропущено %n субтитрів з %1 без придатного часу.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -570,7 +570,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Скасувати &amp;все</translation>
     </message>
     <message>
-        <source>As the &amp;system</source>
+        <source>Same as &amp;system</source>
         <translation type="unfinished">Як у &amp;системі</translation>
     </message>
     <message>
@@ -685,7 +685,7 @@ It is built on Qt, FFmpeg and libass.</source>
 <context>
     <name>Korvex::Desktop::ConversionQueue</name>
     <message>
-        <source>The subtitles of &quot;%1&quot; cannot go out as chosen; choose them again.</source>
+        <source>The subtitles of &quot;%1&quot; cannot go out as chosen: choose them again.</source>
         <translation type="unfinished">Субтитри «%1» не можна вивести так, як вибрано; виберіть їх наново.</translation>
     </message>
 </context>
@@ -703,7 +703,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Перетягніть фільми сюди або виберіть файли</translation>
     </message>
     <message>
-        <source>Folders work too. Subtitle files beside a film are found by themselves.</source>
+        <source>Folders work too. Subtitle files beside a film are found automatically.</source>
         <translation type="unfinished">Можна й теки. Файли субтитрів поруч із фільмом знаходяться самі.</translation>
     </message>
 </context>
@@ -865,7 +865,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Філ&amp;ьм</translation>
     </message>
     <message>
-        <source>Put &amp;back left-out tracks</source>
+        <source>Put left-out tracks &amp;back</source>
         <translation type="unfinished">&amp;Повернути вилучені доріжки</translation>
     </message>
     <message>
@@ -918,7 +918,7 @@ It is built on Qt, FFmpeg and libass.</source>
 <context>
     <name>Korvex::Desktop::OutputBar</name>
     <message>
-        <source>As the source</source>
+        <source>Same as source</source>
         <translation type="unfinished">Як джерело</translation>
     </message>
     <message>
@@ -950,10 +950,6 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Зображення кодується наново в невеликий файл; втрати помітні.</translation>
     </message>
     <message>
-        <source>%1 %</source>
-        <translation type="unfinished">%1 %</translation>
-    </message>
-    <message>
         <source>paused</source>
         <translation type="unfinished">призупинено</translation>
     </message>
@@ -974,7 +970,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Продовжити перетворення</translation>
     </message>
     <message>
-        <source>Stand still until you resume</source>
+        <source>Wait until you resume</source>
         <translation type="unfinished">Зупинити до продовження</translation>
     </message>
     <message>
@@ -1053,7 +1049,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Фільм читається.</translation>
     </message>
     <message>
-        <source>“%1” has no picture, so there is nothing to see. Its sound can be converted.</source>
+        <source>&quot;%1&quot; has no picture, so there is nothing to see. Its sound can be converted.</source>
         <translation type="unfinished">У «%1» немає зображення, тож дивитися нема на що. Звук можна перетворити.</translation>
     </message>
     <message>
@@ -1061,7 +1057,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Субтитрів немає. Додайте файл субтитрів, щоб побачити їх вшитими.</translation>
     </message>
     <message>
-        <source>All tracks go out as switchable ones. Choose a track to see it drawn in.</source>
+        <source>All tracks stay switchable. Choose a track to see it drawn in.</source>
         <translation type="unfinished">Усі доріжки виводяться вимиканими. Виберіть доріжку, щоб побачити її вшитою.</translation>
     </message>
     <message>
@@ -1192,19 +1188,19 @@ It is built on Qt, FFmpeg and libass.</source>
 <context>
     <name>Korvex::Desktop::SessionStore</name>
     <message>
-        <source>The list of last time in &quot;%1&quot; cannot be read, and nothing is kept this time: rename or remove that file.</source>
+        <source>The last list of films, &quot;%1&quot;, cannot be read, so nothing is saved this time: rename or remove that file.</source>
         <translation type="unfinished">Попередній список у «%1» не читається, і цього разу нічого не зберігається: перейменуйте або видаліть цей файл.</translation>
     </message>
     <message>
-        <source>The list of last time was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
+        <source>The last list of films was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
         <translation type="unfinished">Попередній список записано новішою версією програми; його збережено як «%1». Відкрийте фільми наново.</translation>
     </message>
     <message>
-        <source>The list of last time is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
+        <source>The last list of films is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
         <translation type="unfinished">Попередній список пошкоджено; його збережено як «%1». Відкрийте фільми наново.</translation>
     </message>
     <message>
-        <source>The list of films could not be kept in &quot;%1&quot; (%2): check that you may write there.</source>
+        <source>The list of films could not be saved in &quot;%1&quot; (%2): check that you may write there.</source>
         <translation type="unfinished">Список фільмів не вдалося зберегти в «%1» (%2): перевірте, чи можна туди писати.</translation>
     </message>
 </context>
@@ -1343,7 +1339,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">&amp;Вшити в зображення</translation>
     </message>
     <message>
-        <source>&amp;Remove from the list</source>
+        <source>&amp;Remove from list</source>
         <translation type="unfinished">&amp;Прибрати зі списку</translation>
     </message>
     <message>
@@ -1351,16 +1347,16 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">&amp;Вилучити з виводу</translation>
     </message>
     <message>
-        <source>Language, &amp;title and marks…</source>
-        <translation type="unfinished">Мова, &amp;назва та позначки…</translation>
+        <source>Language, &amp;title and marks...</source>
+        <translation type="unfinished">Мова, &amp;назва та позначки...</translation>
     </message>
     <message>
         <source>&amp;Put back</source>
         <translation type="unfinished">&amp;Повернути</translation>
     </message>
     <message>
-        <source>&amp;Save as a file…</source>
-        <translation type="unfinished">&amp;Зберегти у файл…</translation>
+        <source>&amp;Save as a file...</source>
+        <translation type="unfinished">&amp;Зберегти у файл...</translation>
     </message>
 </context>
 <context>
@@ -1431,6 +1427,14 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>Choose a color</source>
         <translation type="unfinished">Вибрати колір</translation>
+    </message>
+</context>
+<context>
+    <name>NumberTexts</name>
+    <message>
+        <source>%1%</source>
+        <extracomment>Some languages part the sign from the number by a blank that does not break.</extracomment>
+        <translation type="unfinished">%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -1649,17 +1653,17 @@ It is built on Qt, FFmpeg and libass.</source>
     <message numerus="yes">
         <source>%n cue(s) of &quot;%1&quot; without usable times were left out.</source>
         <translation type="unfinished">
-            <numerusform>Вилучено %n репліку з «%1» без придатних часів.</numerusform>
-            <numerusform>Вилучено %n репліки з «%1» без придатних часів.</numerusform>
-            <numerusform>Вилучено %n реплік із «%1» без придатних часів.</numerusform>
+            <numerusform>Вилучено %n субтитр з «%1» без придатних часів.</numerusform>
+            <numerusform>Вилучено %n субтитри з «%1» без придатних часів.</numerusform>
+            <numerusform>Вилучено %n субтитрів із «%1» без придатних часів.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cue(s) of &quot;%1&quot; of no duration were left out.</source>
         <translation type="unfinished">
-            <numerusform>Вилучено %n репліку з «%1» нульової тривалості.</numerusform>
-            <numerusform>Вилучено %n репліки з «%1» нульової тривалості.</numerusform>
-            <numerusform>Вилучено %n реплік із «%1» нульової тривалості.</numerusform>
+            <numerusform>Вилучено %n субтитр з «%1» нульової тривалості.</numerusform>
+            <numerusform>Вилучено %n субтитри з «%1» нульової тривалості.</numerusform>
+            <numerusform>Вилучено %n субтитрів із «%1» нульової тривалості.</numerusform>
         </translation>
     </message>
     <message>

@@ -5,7 +5,7 @@
     <name>ConversionTexts</name>
     <message>
         <source>%1 holds no cues and was left out.</source>
-        <translation type="unfinished">%1不含任何字幕，已不输出。</translation>
+        <translation type="unfinished">%1不含任何字幕，未输出。</translation>
     </message>
     <message>
         <source>%1 goes into %2 as %3.</source>
@@ -26,9 +26,9 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n cue(s) of %1 made no sense and were left out.</source>
+        <source>%n cue(s) of %1 without usable times were left out.</source>
         <translation type="unfinished">
-            <numerusform>%1中有 %n 条字幕无意义，已略去。</numerusform>
+            <numerusform>略去 %1中 %n 条没有可用时间的字幕。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -562,7 +562,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">全部取消(&amp;L)</translation>
     </message>
     <message>
-        <source>As the &amp;system</source>
+        <source>Same as &amp;system</source>
         <translation type="unfinished">跟随系统(&amp;S)</translation>
     </message>
     <message>
@@ -677,7 +677,7 @@ It is built on Qt, FFmpeg and libass.</source>
 <context>
     <name>Korvex::Desktop::ConversionQueue</name>
     <message>
-        <source>The subtitles of &quot;%1&quot; cannot go out as chosen; choose them again.</source>
+        <source>The subtitles of &quot;%1&quot; cannot go out as chosen: choose them again.</source>
         <translation type="unfinished">“%1”的字幕无法按所选方式输出；请重新选择。</translation>
     </message>
 </context>
@@ -695,7 +695,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">将影片拖到此处或选择文件</translation>
     </message>
     <message>
-        <source>Folders work too. Subtitle files beside a film are found by themselves.</source>
+        <source>Folders work too. Subtitle files beside a film are found automatically.</source>
         <translation type="unfinished">也可以是文件夹。影片旁的字幕文件会自动找到。</translation>
     </message>
 </context>
@@ -853,7 +853,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">影片(&amp;M)</translation>
     </message>
     <message>
-        <source>Put &amp;back left-out tracks</source>
+        <source>Put left-out tracks &amp;back</source>
         <translation type="unfinished">恢复未输出的轨道(&amp;B)</translation>
     </message>
     <message>
@@ -906,7 +906,7 @@ It is built on Qt, FFmpeg and libass.</source>
 <context>
     <name>Korvex::Desktop::OutputBar</name>
     <message>
-        <source>As the source</source>
+        <source>Same as source</source>
         <translation type="unfinished">与源相同</translation>
     </message>
     <message>
@@ -938,10 +938,6 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">画面重新编码为小文件；损失可见。</translation>
     </message>
     <message>
-        <source>%1 %</source>
-        <translation type="unfinished">%1%</translation>
-    </message>
-    <message>
         <source>paused</source>
         <translation type="unfinished">已暂停</translation>
     </message>
@@ -962,7 +958,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">继续转换</translation>
     </message>
     <message>
-        <source>Stand still until you resume</source>
+        <source>Wait until you resume</source>
         <translation type="unfinished">停下，直到您继续</translation>
     </message>
     <message>
@@ -1041,7 +1037,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">正在读取影片。</translation>
     </message>
     <message>
-        <source>“%1” has no picture, so there is nothing to see. Its sound can be converted.</source>
+        <source>&quot;%1&quot; has no picture, so there is nothing to see. Its sound can be converted.</source>
         <translation type="unfinished">“%1”没有画面，因此无可显示。其声音可以转换。</translation>
     </message>
     <message>
@@ -1049,7 +1045,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">没有字幕。请添加字幕文件以查看嵌入效果。</translation>
     </message>
     <message>
-        <source>All tracks go out as switchable ones. Choose a track to see it drawn in.</source>
+        <source>All tracks stay switchable. Choose a track to see it drawn in.</source>
         <translation type="unfinished">所有轨道都作为可切换轨道输出。请选择一条轨道以查看嵌入效果。</translation>
     </message>
     <message>
@@ -1172,19 +1168,19 @@ It is built on Qt, FFmpeg and libass.</source>
 <context>
     <name>Korvex::Desktop::SessionStore</name>
     <message>
-        <source>The list of last time in &quot;%1&quot; cannot be read, and nothing is kept this time: rename or remove that file.</source>
+        <source>The last list of films, &quot;%1&quot;, cannot be read, so nothing is saved this time: rename or remove that file.</source>
         <translation type="unfinished">无法读取“%1”中上次的列表，这次不会保存任何内容：请重命名或删除该文件。</translation>
     </message>
     <message>
-        <source>The list of last time was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
+        <source>The last list of films was written by a newer version of the program; it is kept as &quot;%1&quot;. Open your films again.</source>
         <translation type="unfinished">上次的列表由较新版本的程序写入；已保留为“%1”。请重新打开影片。</translation>
     </message>
     <message>
-        <source>The list of last time is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
+        <source>The last list of films is damaged; it is kept as &quot;%1&quot;. Open your films again.</source>
         <translation type="unfinished">上次的列表已损坏；已保留为“%1”。请重新打开影片。</translation>
     </message>
     <message>
-        <source>The list of films could not be kept in &quot;%1&quot; (%2): check that you may write there.</source>
+        <source>The list of films could not be saved in &quot;%1&quot; (%2): check that you may write there.</source>
         <translation type="unfinished">影片列表无法保存到“%1”（%2）：请检查您是否有写入权限。</translation>
     </message>
 </context>
@@ -1317,7 +1313,7 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">嵌入画面(&amp;D)</translation>
     </message>
     <message>
-        <source>&amp;Remove from the list</source>
+        <source>&amp;Remove from list</source>
         <translation type="unfinished">从列表中移除(&amp;R)</translation>
     </message>
     <message>
@@ -1325,16 +1321,16 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">不输出(&amp;L)</translation>
     </message>
     <message>
-        <source>Language, &amp;title and marks…</source>
-        <translation type="unfinished">语言、标题和标记(&amp;T)…</translation>
+        <source>Language, &amp;title and marks...</source>
+        <translation type="unfinished">语言、标题和标记(&amp;T)...</translation>
     </message>
     <message>
         <source>&amp;Put back</source>
         <translation type="unfinished">恢复(&amp;P)</translation>
     </message>
     <message>
-        <source>&amp;Save as a file…</source>
-        <translation type="unfinished">保存为文件(&amp;S)…</translation>
+        <source>&amp;Save as a file...</source>
+        <translation type="unfinished">保存为文件(&amp;S)...</translation>
     </message>
 </context>
 <context>
@@ -1405,6 +1401,14 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>Choose a color</source>
         <translation type="unfinished">选择颜色</translation>
+    </message>
+</context>
+<context>
+    <name>NumberTexts</name>
+    <message>
+        <source>%1%</source>
+        <extracomment>Some languages part the sign from the number by a blank that does not break.</extracomment>
+        <translation type="unfinished">%1%</translation>
     </message>
 </context>
 <context>

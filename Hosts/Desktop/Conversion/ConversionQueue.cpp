@@ -249,7 +249,7 @@ private:
         ConversionJob const& job = item.job;
         auto const request = MakeConversionRequest(m_services, job);
         if (!request)
-            return ConversionQueue::tr("The subtitles of \"%1\" cannot go out as chosen; choose them again.")
+            return ConversionQueue::tr("The subtitles of \"%1\" cannot go out as chosen: choose them again.")
                 .arg(ToText(job.media.path.FileName()));
         auto const id = m_services.GetTranscoder().StartConversion(*request, *this);
         if (!id)

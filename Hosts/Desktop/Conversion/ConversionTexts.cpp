@@ -47,7 +47,7 @@ QStringList DescribeRewritten(Hosts::RewrittenTrack const& rewritten, std::strin
             Texts::tr("%n byte(s) of %1 could not be read as text.", nullptr, static_cast<int>(written.replacedBytes))
                 .arg(track));
     if (written.skippedCues > 0)
-        notes.append(Texts::tr("%n cue(s) of %1 made no sense and were left out.", nullptr,
+        notes.append(Texts::tr("%n cue(s) of %1 without usable times were left out.", nullptr,
                                static_cast<int>(written.skippedCues))
                          .arg(track));
     if (written.leftOutCues > 0)

@@ -124,15 +124,15 @@ private:
         {
             // Writing would destroy it.
             m_isKeeping = false;
-            return tr("The list of last time in \"%1\" cannot be read, and nothing is kept this time: rename or remove "
+            return tr("The last list of films, \"%1\", cannot be read, so nothing is saved this time: rename or remove "
                       "that file.")
                 .arg(m_file);
         }
         if (failure == SessionFailure::Newer)
-            return tr("The list of last time was written by a newer version of the program; it is kept as \"%1\". Open "
-                      "your films again.")
+            return tr("The last list of films was written by a newer version of the program; it is kept as \"%1\". "
+                      "Open your films again.")
                 .arg(aside);
-        return tr("The list of last time is damaged; it is kept as \"%1\". Open your films again.").arg(aside);
+        return tr("The last list of films is damaged; it is kept as \"%1\". Open your films again.").arg(aside);
     }
 
     void Follow()
@@ -175,9 +175,9 @@ private:
         }
         m_requested.clear(); // the next change tries again
         if (!failedBefore)
-            Q_EMIT m_owner.SavingFailed(tr("The list of films could not be kept in \"%1\" (%2): check that you may "
-                                           "write there.")
-                                            .arg(m_file, reason));
+            Q_EMIT m_owner.SavingFailed(
+                tr("The list of films could not be saved in \"%1\" (%2): check that you may write there.")
+                    .arg(m_file, reason));
     }
 
     SessionStore& m_owner;

@@ -76,7 +76,7 @@ private:
         Proc::StreamInfo const* const video = media.FindMainVideo();
         if (video == nullptr)
         {
-            subject.sentence = tr("“%1” has no picture, so there is nothing to see. Its sound can be converted.")
+            subject.sentence = tr("\"%1\" has no picture, so there is nothing to see. Its sound can be converted.")
                                    .arg(QString::fromStdString(film.GetPath().FileName()));
             return subject;
         }
@@ -93,7 +93,7 @@ private:
         if (collection.tracks.empty())
             return tr("There are no subtitles. Add a subtitle file to see it drawn in.");
         if (collection.mode == SubtitleCollectionMode::AllSoftSubtitles)
-            return tr("All tracks go out as switchable ones. Choose a track to see it drawn in.");
+            return tr("All tracks stay switchable. Choose a track to see it drawn in.");
         return tr("Choose a track to see it drawn in.");
     }
 

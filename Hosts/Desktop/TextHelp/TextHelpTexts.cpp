@@ -1,15 +1,15 @@
 #include "Desktop/TextHelp/TextHelpTexts.h"
 
+#include "Desktop/Words/NumberTexts.h"
+
 #include "Proc/Fonts.h"
 #include "Proc/TextSample.h"
 #include "Subtitles/Adapters/SubtitleEncodingNames.h"
 
 #include <QChar>
-#include <QLocale>
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace Korvex::Desktop
 {
@@ -87,9 +87,7 @@ QString TextHelpTexts::DescribeDetection(Proc::TextSample const& sample)
     case Source::Detector:
         break;
     }
-    // The sign must not stand alone in the next line.
-    QString const percent =
-        QLocale().toString(static_cast<int>(std::floor(detected.confidence * 100))) + QStringLiteral("\u00A0%");
+    QString const percent = FormatPercent(detected.confidence);
     if (detected.confidence >= VERY_SURE)
         return tr("Detected: %1 (very sure, %2).").arg(name, percent);
     return detected.confidence >= FAIRLY_SURE ? tr("Detected: %1 (fairly sure, %2).").arg(name, percent)

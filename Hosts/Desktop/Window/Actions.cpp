@@ -41,7 +41,7 @@ std::array<Entry, 20> const ENTRIES = {{
     {ActionId::Pause, "pauseAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "&Pause"), "Ctrl+P"},
     {ActionId::CancelFilm, "cancelFilmAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "&Cancel this film"), "Ctrl+."},
     {ActionId::CancelAll, "cancelAllAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "Cancel a&ll"), "Ctrl+Shift+."},
-    {ActionId::ThemeOfSystem, "themeOfSystemAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "As the &system"), "Ctrl+Alt+0"},
+    {ActionId::ThemeOfSystem, "themeOfSystemAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "Same as &system"), "Ctrl+Alt+0"},
     {ActionId::ThemeLight, "themeLightAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "&Light"), "Ctrl+Alt+1"},
     {ActionId::ThemeDark, "themeDarkAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "&Dark"), "Ctrl+Alt+2"},
     {ActionId::ShowShortcuts, "showShortcutsAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "&Keyboard shortcuts"), "F1"},

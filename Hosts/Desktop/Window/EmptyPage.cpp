@@ -104,7 +104,7 @@ void EmptyPage::keyPressEvent(QKeyEvent* event)
 void EmptyPage::Retranslate()
 {
     setText(tr("Drop films here or choose files"));
-    m_hint = tr("Folders work too. Subtitle files beside a film are found by themselves.");
+    m_hint = tr("Folders work too. Subtitle files beside a film are found automatically.");
     setAccessibleDescription(m_hint);
     update();
 }

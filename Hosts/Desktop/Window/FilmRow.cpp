@@ -2,6 +2,7 @@
 
 #include "Desktop/Conversion/ConversionQueue.h"
 #include "Desktop/Films/Film.h"
+#include "Desktop/Words/NumberTexts.h"
 #include "Desktop/Words/TimeTexts.h"
 
 #include "Proc/MediaInfo.h"
@@ -70,7 +71,7 @@ void DescribeProgress(ConversionStatus const& status, bool isPaused, FilmRow& ro
     else
         row.sentence = Translate(QT_TRANSLATE_NOOP("FilmRow", "Converting"));
     if (status.fraction)
-        row.sentence += QStringLiteral("  %1\u00A0%").arg(static_cast<int>(std::floor(*status.fraction * 100.0)));
+        row.sentence += QStringLiteral("  ") + FormatPercent(*status.fraction);
     if (status.remaining && !isPaused)
         row.sentence += QStringLiteral("  \u00B7  ") + FormatTimeLeft(*status.remaining);
 }

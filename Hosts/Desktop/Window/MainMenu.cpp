@@ -77,7 +77,7 @@ void MainMenu::Retranslate()
 {
     m_file->setTitle(tr("&File"));
     m_film->setTitle(tr("Fil&m"));
-    m_putBack->setTitle(tr("Put &back left-out tracks"));
+    m_putBack->setTitle(tr("Put left-out tracks &back"));
     m_convert->setTitle(tr("&Convert"));
     m_view->setTitle(tr("&View"));
     m_theme->setTitle(tr("&Theme"));

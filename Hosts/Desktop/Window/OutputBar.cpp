@@ -1,5 +1,6 @@
 #include "Desktop/Window/OutputBar.h"
 
+#include "Desktop/Words/NumberTexts.h"
 #include "Desktop/Words/TimeTexts.h"
 
 #include "Common/OutputFormats.h"
@@ -44,7 +45,7 @@ QString QualityName(Quality quality)
     switch (quality)
     {
     case Quality::AsSource:
-        return OutputBar::tr("As the source");
+        return OutputBar::tr("Same as source");
     case Quality::High:
         return OutputBar::tr("High");
     case Quality::Medium:
@@ -122,7 +123,7 @@ public:
         if (!summary)
             return;
         m_progress->setValue(static_cast<int>(std::floor(summary->fraction * PROGRESS_STEPS)));
-        QString const percent = OutputBar::tr("%1 %").arg(static_cast<int>(std::floor(summary->fraction * 100.0)));
+        QString const percent = FormatPercent(summary->fraction);
         QString words;
         if (summary->isPaused)
             words = OutputBar::tr("paused");
@@ -131,7 +132,7 @@ public:
         m_progressText->setText(words.isEmpty() ? percent : OutputBar::tr("%1, %2").arg(percent, words));
         m_pause->setText(summary->isPaused ? OutputBar::tr("&Resume") : OutputBar::tr("&Pause"));
         m_pause->setToolTip(summary->isPaused ? OutputBar::tr("Go on converting")
-                                              : OutputBar::tr("Stand still until you resume"));
+                                              : OutputBar::tr("Wait until you resume"));
     }
 
     void Retranslate()

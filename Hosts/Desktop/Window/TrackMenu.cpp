@@ -52,11 +52,11 @@ public:
         draw.setCheckable(true);
         draw.setChecked(isDrawn);
         Add("leaveOut",
-            track.isExternal ? TrackMenu::tr("&Remove from the list") : TrackMenu::tr("&Leave out of the output"),
+            track.isExternal ? TrackMenu::tr("&Remove from list") : TrackMenu::tr("&Leave out of the output"),
             [id = track.id](Film& film) { film.LeaveOut(id); });
         m_menu.addSeparator();
         if (track.isExternal)
-            Add("properties", TrackMenu::tr("Language, &title and marks…"),
+            Add("properties", TrackMenu::tr("Language, &title and marks..."),
                 [track, window = m_window](Film& film) { EditProperties(film, track, window); });
         AddSaving(track.id);
     }
@@ -101,7 +101,7 @@ private:
 
     void AddSaving(SubtitleTrackID const& id)
     {
-        Add("saveAs", TrackMenu::tr("&Save as a file…"),
+        Add("saveAs", TrackMenu::tr("&Save as a file..."),
             [id, &saving = m_saving](Film const& film) { saving.Save(film, id); });
     }
 

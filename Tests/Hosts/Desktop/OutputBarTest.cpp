@@ -34,7 +34,7 @@ public:
         static std::map<std::string, char const*> const TEXTS{
             {"&Format", "&Format"},
             {"&Quality", "&Qualität"},
-            {"As the source", "Wie die Quelle"},
+            {"Same as source", "Wie die Quelle"},
             {"&Save", "&Speichern"},
             {"Beside each film", "Neben jedem Film"},
             {"&Convert all", "Alle &umwandeln"},
@@ -155,7 +155,7 @@ TEST_F(OutputBarTest, TellsWhatTheUserDoesAndNothingElse)
     QTest::keyClick(&Button("convertAllButton"), Qt::Key_Space);
     QTest::keyClick(&Button("convertCurrentButton"), Qt::Key_Space);
     m_bar.ShowConversion(ConversionSummary{0.999, 59s, false});
-    EXPECT_EQ(Find<QLabel>("totalProgressLabel").text(), QStringLiteral("99 %, less than a minute left"));
+    EXPECT_EQ(Find<QLabel>("totalProgressLabel").text(), QStringLiteral("99%, less than a minute left"));
     QTest::keyClick(&Button("pauseButton"), Qt::Key_Space);
     m_bar.ShowConversion(ConversionSummary{0.999, 59s, true});
     QTest::keyClick(&Button("pauseButton"), Qt::Key_Space);
