@@ -35,7 +35,10 @@ void PaintSwatch(QPainter& painter, QRect const& place, QColor const& color, boo
 void StyleButton(QDialogButtonBox const& buttons, QDialogButtonBox::StandardButton which, QString const& hint)
 {
     if (QPushButton* const button = buttons.button(which))
+    {
         Util::ApplyWidgetStyle(button, hint, "styleHint");
+        button->setIcon({}); // some desktops want one, in the style that the button's parent has
+    }
 }
 
 } // namespace

@@ -26,6 +26,21 @@ void DropHighlight::Show()
     show();
 }
 
+/// On a ground of its own: what shines through the veil has texts, too.
+void DropHighlight::PaintSentence(QPainter& painter, QString const& sentence) const
+{
+    constexpr int PADDING = 24;
+    constexpr double RADIUS = 10.0;
+    int const flags = Qt::AlignCenter | Qt::TextWordWrap;
+    QRect const room = rect().adjusted(3 * PADDING, 3 * PADDING, -3 * PADDING, -3 * PADDING);
+    QRect const text = painter.boundingRect(room, flags, sentence);
+    painter.setPen(QPen(GetColor(ColorRole::Border), 1.0));
+    painter.setBrush(GetColor(ColorRole::Surface));
+    painter.drawRoundedRect(QRectF(text.adjusted(-PADDING, -PADDING, PADDING, PADDING)), RADIUS, RADIUS);
+    painter.setPen(GetColor(ColorRole::Text));
+    painter.drawText(text, flags, sentence);
+}
+
 void DropHighlight::paintEvent(QPaintEvent* /*event*/)
 {
     constexpr double VEIL = 0.82;
@@ -39,15 +54,13 @@ void DropHighlight::paintEvent(QPaintEvent* /*event*/)
     painter.fillRect(rect(), veil);
     painter.setPen(QPen(GetColor(ColorRole::Accent), 2.5, Qt::DashLine, Qt::RoundCap));
     painter.drawRoundedRect(QRectF(rect()).adjusted(INSET, INSET, -INSET, -INSET), RADIUS, RADIUS);
-
     QFont large = font();
     if (large.pixelSize() > 0)
         large.setPixelSize(static_cast<int>(large.pixelSize() * LARGER));
     else
         large.setPointSizeF(large.pointSizeF() * LARGER);
     painter.setFont(large);
-    painter.setPen(GetColor(ColorRole::Text));
-    painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, tr("Drop films, folders or subtitle files"));
+    PaintSentence(painter, tr("Drop films, folders or subtitle files"));
 }
 
 } // namespace Korvex::Desktop

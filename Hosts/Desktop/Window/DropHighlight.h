@@ -18,6 +18,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    void PaintSentence(QPainter& painter, QString const& sentence) const;
 };
 
 } // namespace Korvex::Desktop

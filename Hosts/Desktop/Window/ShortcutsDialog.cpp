@@ -9,6 +9,7 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -27,9 +28,10 @@ void AddLine(QGridLayout& grid, QString const& keys, QString const& text)
     grid.addWidget(keyLabel, row, 1);
 }
 
-/// Menu texts without their mnemonics and dots.
+/// Menu texts without their mnemonics, which stand in parentheses where a script has no letters to underline, and dots.
 QString Clean(QString text)
 {
+    text.remove(QRegularExpression(QStringLiteral("\\s*\\(&.\\)")));
     text.remove(QLatin1Char('&'));
     text.remove(QLatin1String("..."));
     return text;

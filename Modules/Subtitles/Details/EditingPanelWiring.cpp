@@ -10,7 +10,9 @@
 
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
+#include <QFontDatabase>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -34,6 +36,14 @@ namespace
 constexpr char const* FIND_FILE_SOURCE = "editingPanel";
 /// Between a button and its drop-down, in pixels.
 constexpr int DROP_DOWN_GAP = 3;
+
+/// The font, or where its family is not installed the one that stands in for it.
+QFont FindInstalledFont(QFont font)
+{
+    if (!QFontDatabase().families().contains(font.family()))
+        font.setFamily(QFontInfo(font).family());
+    return font;
+}
 
 } // namespace
 
@@ -175,13 +185,21 @@ void EditingPanel::SelectFont()
     dialog->setWindowFlags(dialog->windowFlags() | Qt::WindowCloseButtonHint);
     Util::ApplyWidgetStyle(buttons->button(QDialogButtonBox::Ok), QStringLiteral("activeButton"), "styleHint");
     Util::ApplyWidgetStyle(buttons->button(QDialogButtonBox::Cancel), QStringLiteral("rejectButton"), "styleHint");
+    for (QAbstractButton* button : buttons->buttons())
+        button->setIcon({}); // some desktops want one, in the style of this panel
     GUI::RoundWidgetCorners(dialog);
-    dialog->setCurrentFont(m_form->font);
+    dialog->setCurrentFont(FindInstalledFont(m_form->font));
+    QString const shownFamily = dialog->currentFont().family();
     int const result = dialog->exec();
     if (!self || !dialog) // the host may close the window below the dialog
         return;
     if (result == QDialog::Accepted)
-        SetFont(dialog->selectedFont());
+    {
+        QFont chosen = dialog->selectedFont();
+        if (chosen.family() == shownFamily) // what stands in was not chosen
+            chosen.setFamily(m_form->font.family());
+        SetFont(chosen);
+    }
     delete dialog;
     ReportEdit([font = m_form->font](auto* observer) { observer->OnFontChanged(font); });
 }

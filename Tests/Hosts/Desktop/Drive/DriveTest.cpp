@@ -193,6 +193,10 @@ TEST_F(DriveTest, FromDropToFilmWithTextDrawnIn)
     QImage const large = m_program.WaitForPicture(
         "larger text", [&](QImage const& now) { return FindYellow(now).pixels > FindYellow(yellow).pixels * 3 / 2; });
     Photograph("size");
+    // Another size alone does not make the stand-in of a font that is not installed the font.
+    EXPECT_THAT(DrivenProgram::Ask<QAbstractButton>("selectFontButton", [](QAbstractButton& button)
+                                                    { return button.toolTip().toStdString(); }),
+                testing::HasSubstr("Verdana, 30"));
 
     m_program.ChooseInBox("alignComboBox", "Left");
     QImage const left =
