@@ -1227,24 +1227,24 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <translation type="unfinished">Die Datei selbst sagt, dass sie %1 ist.</translation>
     </message>
     <message>
-        <source>Detected: %1 (certain).</source>
-        <translation type="unfinished">Erkannt: %1 (sicher).</translation>
+        <source>Detected: %1, certain.</source>
+        <translation type="unfinished">Erkannt: %1, sicher.</translation>
     </message>
     <message>
         <source>Nothing tells the encoding; %1 is a guess.</source>
         <translation type="unfinished">Nichts verrät die Kodierung; %1 ist geraten.</translation>
     </message>
     <message>
-        <source>Detected: %1 (very sure, %2).</source>
-        <translation type="unfinished">Erkannt: %1 (sehr sicher, %2).</translation>
+        <source>Detected: %1, very sure (%2).</source>
+        <translation type="unfinished">Erkannt: %1, sehr sicher (%2).</translation>
     </message>
     <message>
-        <source>Detected: %1 (fairly sure, %2).</source>
-        <translation type="unfinished">Erkannt: %1 (ziemlich sicher, %2).</translation>
+        <source>Detected: %1, fairly sure (%2).</source>
+        <translation type="unfinished">Erkannt: %1, ziemlich sicher (%2).</translation>
     </message>
     <message>
-        <source>Detected: %1 (not sure, %2).</source>
-        <translation type="unfinished">Erkannt: %1 (unsicher, %2).</translation>
+        <source>Detected: %1, not sure (%2).</source>
+        <translation type="unfinished">Erkannt: %1, unsicher (%2).</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) cannot be read in this encoding and show as &quot;%1&quot;.</source>

@@ -1227,24 +1227,24 @@ Se basa en Qt, FFmpeg y libass.</translation>
         <translation type="unfinished">El propio archivo indica que es %1.</translation>
     </message>
     <message>
-        <source>Detected: %1 (certain).</source>
-        <translation type="unfinished">Detectado: %1 (seguro).</translation>
+        <source>Detected: %1, certain.</source>
+        <translation type="unfinished">Detectado: %1, seguro.</translation>
     </message>
     <message>
         <source>Nothing tells the encoding; %1 is a guess.</source>
         <translation type="unfinished">Nada revela la codificación; %1 es una suposición.</translation>
     </message>
     <message>
-        <source>Detected: %1 (very sure, %2).</source>
-        <translation type="unfinished">Detectado: %1 (muy seguro, %2).</translation>
+        <source>Detected: %1, very sure (%2).</source>
+        <translation type="unfinished">Detectado: %1, muy seguro (%2).</translation>
     </message>
     <message>
-        <source>Detected: %1 (fairly sure, %2).</source>
-        <translation type="unfinished">Detectado: %1 (bastante seguro, %2).</translation>
+        <source>Detected: %1, fairly sure (%2).</source>
+        <translation type="unfinished">Detectado: %1, bastante seguro (%2).</translation>
     </message>
     <message>
-        <source>Detected: %1 (not sure, %2).</source>
-        <translation type="unfinished">Detectado: %1 (no seguro, %2).</translation>
+        <source>Detected: %1, not sure (%2).</source>
+        <translation type="unfinished">Detectado: %1, no seguro (%2).</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) cannot be read in this encoding and show as &quot;%1&quot;.</source>

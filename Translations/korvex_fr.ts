@@ -1227,24 +1227,24 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <translation type="unfinished">Le fichier indique lui-même qu&apos;il est en %1.</translation>
     </message>
     <message>
-        <source>Detected: %1 (certain).</source>
-        <translation type="unfinished">Détecté&#xa0;: %1 (certain).</translation>
+        <source>Detected: %1, certain.</source>
+        <translation type="unfinished">Détecté&#xa0;: %1, certain.</translation>
     </message>
     <message>
         <source>Nothing tells the encoding; %1 is a guess.</source>
         <translation type="unfinished">Rien n&apos;indique l&apos;encodage&#xa0;; %1 est une supposition.</translation>
     </message>
     <message>
-        <source>Detected: %1 (very sure, %2).</source>
-        <translation type="unfinished">Détecté&#xa0;: %1 (très sûr, %2).</translation>
+        <source>Detected: %1, very sure (%2).</source>
+        <translation type="unfinished">Détecté&#xa0;: %1, très sûr (%2).</translation>
     </message>
     <message>
-        <source>Detected: %1 (fairly sure, %2).</source>
-        <translation type="unfinished">Détecté&#xa0;: %1 (assez sûr, %2).</translation>
+        <source>Detected: %1, fairly sure (%2).</source>
+        <translation type="unfinished">Détecté&#xa0;: %1, assez sûr (%2).</translation>
     </message>
     <message>
-        <source>Detected: %1 (not sure, %2).</source>
-        <translation type="unfinished">Détecté&#xa0;: %1 (pas sûr, %2).</translation>
+        <source>Detected: %1, not sure (%2).</source>
+        <translation type="unfinished">Détecté&#xa0;: %1, pas sûr (%2).</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) cannot be read in this encoding and show as &quot;%1&quot;.</source>

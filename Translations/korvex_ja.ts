@@ -1217,24 +1217,24 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <translation type="unfinished">ファイル自体が %1 だと示しています。</translation>
     </message>
     <message>
-        <source>Detected: %1 (certain).</source>
-        <translation type="unfinished">検出: %1 (確実)。</translation>
+        <source>Detected: %1, certain.</source>
+        <translation type="unfinished">検出: %1、確実。</translation>
     </message>
     <message>
         <source>Nothing tells the encoding; %1 is a guess.</source>
         <translation type="unfinished">文字コードの手がかりがありません。%1 は推測です。</translation>
     </message>
     <message>
-        <source>Detected: %1 (very sure, %2).</source>
-        <translation type="unfinished">検出: %1 (非常に確か、%2)。</translation>
+        <source>Detected: %1, very sure (%2).</source>
+        <translation type="unfinished">検出: %1、非常に確か (%2)。</translation>
     </message>
     <message>
-        <source>Detected: %1 (fairly sure, %2).</source>
-        <translation type="unfinished">検出: %1 (かなり確か、%2)。</translation>
+        <source>Detected: %1, fairly sure (%2).</source>
+        <translation type="unfinished">検出: %1、かなり確か (%2)。</translation>
     </message>
     <message>
-        <source>Detected: %1 (not sure, %2).</source>
-        <translation type="unfinished">検出: %1 (不確か、%2)。</translation>
+        <source>Detected: %1, not sure (%2).</source>
+        <translation type="unfinished">検出: %1、不確か (%2)。</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) cannot be read in this encoding and show as &quot;%1&quot;.</source>

@@ -1237,24 +1237,24 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <translation type="unfinished">Plik sam podaje, że to %1.</translation>
     </message>
     <message>
-        <source>Detected: %1 (certain).</source>
-        <translation type="unfinished">Wykryto: %1 (na pewno).</translation>
+        <source>Detected: %1, certain.</source>
+        <translation type="unfinished">Wykryto: %1, na pewno.</translation>
     </message>
     <message>
         <source>Nothing tells the encoding; %1 is a guess.</source>
         <translation type="unfinished">Nic nie zdradza kodowania; %1 to przypuszczenie.</translation>
     </message>
     <message>
-        <source>Detected: %1 (very sure, %2).</source>
-        <translation type="unfinished">Wykryto: %1 (bardzo pewne, %2).</translation>
+        <source>Detected: %1, very sure (%2).</source>
+        <translation type="unfinished">Wykryto: %1, bardzo pewne (%2).</translation>
     </message>
     <message>
-        <source>Detected: %1 (fairly sure, %2).</source>
-        <translation type="unfinished">Wykryto: %1 (dość pewne, %2).</translation>
+        <source>Detected: %1, fairly sure (%2).</source>
+        <translation type="unfinished">Wykryto: %1, dość pewne (%2).</translation>
     </message>
     <message>
-        <source>Detected: %1 (not sure, %2).</source>
-        <translation type="unfinished">Wykryto: %1 (niepewne, %2).</translation>
+        <source>Detected: %1, not sure (%2).</source>
+        <translation type="unfinished">Wykryto: %1, niepewne (%2).</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) cannot be read in this encoding and show as &quot;%1&quot;.</source>

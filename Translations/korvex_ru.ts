@@ -1237,24 +1237,24 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Сам файл указывает, что это %1.</translation>
     </message>
     <message>
-        <source>Detected: %1 (certain).</source>
-        <translation type="unfinished">Определено: %1 (точно).</translation>
+        <source>Detected: %1, certain.</source>
+        <translation type="unfinished">Определено: %1, точно.</translation>
     </message>
     <message>
         <source>Nothing tells the encoding; %1 is a guess.</source>
         <translation type="unfinished">Ничто не указывает на кодировку; %1 — догадка.</translation>
     </message>
     <message>
-        <source>Detected: %1 (very sure, %2).</source>
-        <translation type="unfinished">Определено: %1 (очень уверенно, %2).</translation>
+        <source>Detected: %1, very sure (%2).</source>
+        <translation type="unfinished">Определено: %1, очень уверенно (%2).</translation>
     </message>
     <message>
-        <source>Detected: %1 (fairly sure, %2).</source>
-        <translation type="unfinished">Определено: %1 (довольно уверенно, %2).</translation>
+        <source>Detected: %1, fairly sure (%2).</source>
+        <translation type="unfinished">Определено: %1, довольно уверенно (%2).</translation>
     </message>
     <message>
-        <source>Detected: %1 (not sure, %2).</source>
-        <translation type="unfinished">Определено: %1 (неуверенно, %2).</translation>
+        <source>Detected: %1, not sure (%2).</source>
+        <translation type="unfinished">Определено: %1, неуверенно (%2).</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) cannot be read in this encoding and show as &quot;%1&quot;.</source>

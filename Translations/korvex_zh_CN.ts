@@ -1217,24 +1217,24 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">文件自身标明是 %1。</translation>
     </message>
     <message>
-        <source>Detected: %1 (certain).</source>
-        <translation type="unfinished">检测到：%1（确定）。</translation>
+        <source>Detected: %1, certain.</source>
+        <translation type="unfinished">检测到：%1，确定。</translation>
     </message>
     <message>
         <source>Nothing tells the encoding; %1 is a guess.</source>
         <translation type="unfinished">无法判断编码；%1 只是猜测。</translation>
     </message>
     <message>
-        <source>Detected: %1 (very sure, %2).</source>
-        <translation type="unfinished">检测到：%1（非常确定，%2）。</translation>
+        <source>Detected: %1, very sure (%2).</source>
+        <translation type="unfinished">检测到：%1，非常确定（%2）。</translation>
     </message>
     <message>
-        <source>Detected: %1 (fairly sure, %2).</source>
-        <translation type="unfinished">检测到：%1（比较确定，%2）。</translation>
+        <source>Detected: %1, fairly sure (%2).</source>
+        <translation type="unfinished">检测到：%1，比较确定（%2）。</translation>
     </message>
     <message>
-        <source>Detected: %1 (not sure, %2).</source>
-        <translation type="unfinished">检测到：%1（不确定，%2）。</translation>
+        <source>Detected: %1, not sure (%2).</source>
+        <translation type="unfinished">检测到：%1，不确定（%2）。</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s) cannot be read in this encoding and show as &quot;%1&quot;.</source>

@@ -243,6 +243,23 @@ Core::Error PicturesAreNoText(SubtitleSource const& source, std::string const& c
     return error;
 }
 
+/// A Blu-ray file holds pictures. Text files are told from those by reading them: their demuxers are not allowed.
+Core::Result<ExportedSubtitle> ExtractPictures(SubtitleSource const& source, ioPath const& target)
+{
+    if (source.streamIndex)
+        return ExtractPackets(source, target, FFmpeg::SubtitleContainer::BluRay);
+    Core::Result<std::optional<ExternalText>> const text = LoadExternalText(source.path, source.encoding, {});
+    if (!text)
+        return text.GetError();
+    if (!*text)
+        return ExtractPackets(source, target, FFmpeg::SubtitleContainer::BluRay);
+    std::string const& codecId = (*text)->document.codecId;
+    Core::Error error = MakeError(ErrorCode::ContainerCannotCarry, source, codecId,
+                                  "save it as ." + SuggestExtractExtension(codecId) + " instead");
+    error.container = "a .sup file";
+    return error;
+}
+
 /// Through the core's own form of the cues: for the text formats, and for text that Matroska cannot carry as it is.
 Core::Result<ExportedSubtitle> ExtractCues(SubtitleSource const& source, ioPath const& target,
                                            std::string const& extension)
@@ -285,7 +302,7 @@ Core::Result<ExportedSubtitle> ExtractSubtitle(SubtitleSource const& source, ioP
     if (Core::Status const refused = Core::CheckOutput(target, {source.path}, false))
         return *refused;
     if (extension == "sup")
-        return ExtractPackets(source, target, FFmpeg::SubtitleContainer::BluRay);
+        return ExtractPictures(source, target);
     if (IsMatroskaExtension(extension) && source.streamIndex)
     {
         Core::Result<ExportedSubtitle> copied = ExtractPackets(source, target, FFmpeg::SubtitleContainer::Matroska);

@@ -80,7 +80,7 @@ QString TextHelpTexts::DescribeDetection(Proc::TextSample const& sample)
     case Source::ByteOrderMark:
         return tr("The file itself says that it is %1.").arg(name);
     case Source::ValidUtf8:
-        return tr("Detected: %1 (certain).").arg(name);
+        return tr("Detected: %1, certain.").arg(name);
     case Source::Fallback:
         return tr("Nothing tells the encoding; %1 is a guess.").arg(name);
     case Source::Stated:
@@ -89,9 +89,9 @@ QString TextHelpTexts::DescribeDetection(Proc::TextSample const& sample)
     }
     QString const percent = FormatPercent(detected.confidence);
     if (detected.confidence >= VERY_SURE)
-        return tr("Detected: %1 (very sure, %2).").arg(name, percent);
-    return detected.confidence >= FAIRLY_SURE ? tr("Detected: %1 (fairly sure, %2).").arg(name, percent)
-                                              : tr("Detected: %1 (not sure, %2).").arg(name, percent);
+        return tr("Detected: %1, very sure (%2).").arg(name, percent);
+    return detected.confidence >= FAIRLY_SURE ? tr("Detected: %1, fairly sure (%2).").arg(name, percent)
+                                              : tr("Detected: %1, not sure (%2).").arg(name, percent);
 }
 
 QString TextHelpTexts::DescribeReplacedBytes(Proc::TextDecodeReport const& report)

@@ -99,7 +99,7 @@ TEST_F(TextHelpTest, OffersTheRightEncodingAtOneClick)
     Testing::ShowAndWait(view);
 
     EXPECT_THAT(view.findChild<QLabel*>("detectionLabel")->text().toStdString(),
-                HasSubstr("Windows-1251 (very sure, 9"));
+                HasSubstr("Windows-1251, very sure (9"));
     auto const buttons = view.findChildren<AlternativeButton*>();
     ASSERT_EQ(buttons.size(), 3);
     QSignalSpy chosen(&view, &TextHelpView::EncodingChosen);

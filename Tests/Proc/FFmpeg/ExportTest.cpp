@@ -106,6 +106,9 @@ TEST_F(ExportTest, TextComesOutAsItIsInTheFile)
     EXPECT_EQ(ExtractSubtitle(StreamOf(film, 1), m_folder / "out.srt").GetError().code, ErrorCode::OutputExists);
     EXPECT_EQ(ExtractSubtitle(StreamOf(film, 0), m_folder / "x.srt").GetError().code, ErrorCode::TrackNotSubtitle);
     EXPECT_EQ(ExtractSubtitle(StreamOf(film, 1), m_folder / "x.sup").GetError().code, ErrorCode::ContainerCannotCarry);
+    Core::Error const textFile = ExtractSubtitle(FileOf(srt->path), m_folder / "x.sup").GetError();
+    EXPECT_THAT(Core::ToSentence(textFile), testing::EndsWith("is SubRip, which a .sup file cannot carry: save it as "
+                                                              ".srt instead."));
     EXPECT_EQ(ExtractSubtitle(StreamOf(film, 1), m_folder / "x.doc").GetError().code, ErrorCode::ContainerUnknown);
     EXPECT_EQ(ExtractSubtitle(StreamOf(film, 1), m_folder / "no folder/x.srt").GetError().code,
               ErrorCode::OutputFolderMissing);
