@@ -6,6 +6,9 @@
 #include "Hosts/Desktop/Drive/DrivenProgram.h"
 
 #include <QFileInfo>
+#include <QGuiApplication>
+#include <QPixmap>
+#include <QScreen>
 
 #include <cstdio>
 #include <exception>
@@ -41,6 +44,15 @@ void Photograph(char const* film, char const* subtitles, ioPath const& session)
     for (auto const& [keys, name] : {std::pair("ctrl+alt+1", "desktop-light"), {"ctrl+alt+2", "desktop-dark"}})
     {
         person.PressKey(QString::fromLatin1(keys));
+        person.WaitFor(std::string(name) + " on the screen",
+                       [isDark = QLatin1String(name) == QLatin1String("desktop-dark")]
+                       {
+                           QRect const corners = QGuiApplication::primaryScreen()->geometry();
+                           QImage const screen = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
+                           auto const looksDark = [&screen](QPoint const& place)
+                           { return screen.pixelColor(place).lightness() < 128; };
+                           return looksDark(corners.topLeft()) == isDark && looksDark(corners.bottomRight()) == isDark;
+                       });
         person.Photograph(QString::fromLatin1(name));
     }
 }
