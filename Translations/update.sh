@@ -12,11 +12,9 @@ cd "$translations/.."
 
 # A changed text is another text: what only looks alike is not taken over.
 options=(-silent -no-obsolete -locations none -source-language en -disable-heuristic similartext -disable-heuristic number)
-sources=(-extensions cpp,h -I Platform -I Modules -I Hosts)
-# Folders with texts.
-all=(Modules Platform/App Platform/Gui Platform/Transcoder Hosts)
+# Folders with texts. The tool does not know digit separators (1'000) and loses texts behind them, so a complaint is an error.
+sources=(-extensions cpp,h -I Platform -I Modules -I Hosts Modules Platform/App Platform/Gui Platform/Transcoder Hosts)
 
-# The tool does not know digit separators (1'000) and loses texts behind them, so a complaint is an error.
 Update() {
     if ! complaints=$("${LUPDATE:-lupdate}" "${options[@]}" "${sources[@]}" "$@" 2>&1) || [ -n "$complaints" ]; then
         printf '%s\n' "$complaints" >&2
@@ -25,9 +23,7 @@ Update() {
 }
 
 for language in de es fr ja pl ru uk zh_CN; do
-    Update "${all[@]}" -target-language "$language" -ts "$folder/korvex_$language.ts"
+    Update -target-language "$language" -ts "$folder/korvex_$language.ts"
 done
 # English needs its plurals alone.
-Update "${all[@]}" -pluralonly -target-language en -ts "$folder/korvex_en.ts"
-# The module says what its hosts have always shown; this program says it in its own words.
-Update Modules -target-language en -ts "$folder/module_en.ts"
+Update -pluralonly -target-language en -ts "$folder/korvex_en.ts"

@@ -41,15 +41,13 @@ void UseLocale(QLocale const& locale)
 
 } // namespace
 
-/// All translations as one, so that a switch is one event and not several.
+/// Both translations as one, so that a switch is one event and not four.
 class Languages::Translator final : public QTranslator
 {
 public:
     void Load(QString const& code)
     {
         static_cast<void>(m_own.load(QStringLiteral(":/korvex/translations/korvex_") + code));
-        // What the module says in English is said here in words of our own.
-        static_cast<void>(m_module.load(QStringLiteral(":/korvex/translations/module_") + code));
         // The toolkit's own texts are English without a translation.
         static_cast<void>(
             m_toolkit.load(QStringLiteral("qtbase_") + code, QLibraryInfo::location(QLibraryInfo::TranslationsPath)));
@@ -63,16 +61,13 @@ public:
     [[nodiscard]] QString translate(char const* context, char const* sourceText, char const* disambiguation,
                                     int number) const override
     {
-        for (QTranslator const* translator : {&m_own, &m_module})
-            if (QString const text = translator->translate(context, sourceText, disambiguation, number); !text.isNull())
-                return text;
-        return m_toolkit.translate(context, sourceText, disambiguation, number);
+        QString const text = m_own.translate(context, sourceText, disambiguation, number);
+        return text.isNull() ? m_toolkit.translate(context, sourceText, disambiguation, number) : text;
     }
 
 private:
     QString m_code;
     QTranslator m_own;
-    QTranslator m_module;
     QTranslator m_toolkit;
 };
 
