@@ -1051,8 +1051,8 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <translation type="unfinished">Es gibt keine Untertitel. Fügen Sie eine Untertiteldatei hinzu, um sie eingebrannt zu sehen.</translation>
     </message>
     <message>
-        <source>All tracks stay switchable. Choose a track to see it drawn in.</source>
-        <translation type="unfinished">Alle Spuren gehen zuschaltbar hinaus. Wählen Sie eine Spur, um sie eingebrannt zu sehen.</translation>
+        <source>All tracks stay switchable. Choose one to see it drawn in.</source>
+        <translation type="unfinished">Alle Spuren bleiben zuschaltbar. Wählen Sie eine zur Ansicht.</translation>
     </message>
     <message>
         <source>Choose a track to see it drawn in.</source>

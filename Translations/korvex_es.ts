@@ -1051,8 +1051,8 @@ Se basa en Qt, FFmpeg y libass.</translation>
         <translation type="unfinished">No hay subtítulos. Añada un archivo de subtítulos para verlo incrustado.</translation>
     </message>
     <message>
-        <source>All tracks stay switchable. Choose a track to see it drawn in.</source>
-        <translation type="unfinished">Todas las pistas salen como activables. Elija una pista para verla incrustada.</translation>
+        <source>All tracks stay switchable. Choose one to see it drawn in.</source>
+        <translation type="unfinished">Las pistas siguen activables. Elija una para verla incrustada.</translation>
     </message>
     <message>
         <source>Choose a track to see it drawn in.</source>

@@ -1051,8 +1051,8 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <translation type="unfinished">Il n&apos;y a pas de sous-titres. Ajoutez un fichier de sous-titres pour le voir incrusté.</translation>
     </message>
     <message>
-        <source>All tracks stay switchable. Choose a track to see it drawn in.</source>
-        <translation type="unfinished">Toutes les pistes sortent activables. Choisissez une piste pour la voir incrustée.</translation>
+        <source>All tracks stay switchable. Choose one to see it drawn in.</source>
+        <translation type="unfinished">Les pistes restent activables. Choisissez-en une pour la voir.</translation>
     </message>
     <message>
         <source>Choose a track to see it drawn in.</source>

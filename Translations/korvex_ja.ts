@@ -1045,8 +1045,8 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <translation type="unfinished">字幕がありません。焼き込みを見るには字幕ファイルを追加してください。</translation>
     </message>
     <message>
-        <source>All tracks stay switchable. Choose a track to see it drawn in.</source>
-        <translation type="unfinished">すべてのトラックが切り替え可能な形で出力されます。焼き込みを見るにはトラックを選んでください。</translation>
+        <source>All tracks stay switchable. Choose one to see it drawn in.</source>
+        <translation type="unfinished">すべてのトラックは切り替え可能なままです。焼き込みを見るには 1 つ選んでください。</translation>
     </message>
     <message>
         <source>Choose a track to see it drawn in.</source>

@@ -1057,8 +1057,8 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <translation type="unfinished">Brak napisów. Dodaj plik z napisami, aby zobaczyć je wtopione.</translation>
     </message>
     <message>
-        <source>All tracks stay switchable. Choose a track to see it drawn in.</source>
-        <translation type="unfinished">Wszystkie ścieżki zostaną zapisane jako przełączane. Wybierz ścieżkę, aby zobaczyć ją wtopioną.</translation>
+        <source>All tracks stay switchable. Choose one to see it drawn in.</source>
+        <translation type="unfinished">Ścieżki pozostają przełączane. Wybierz jedną do podglądu.</translation>
     </message>
     <message>
         <source>Choose a track to see it drawn in.</source>

@@ -1057,8 +1057,8 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Субтитров нет. Добавьте файл субтитров, чтобы увидеть их вшитыми.</translation>
     </message>
     <message>
-        <source>All tracks stay switchable. Choose a track to see it drawn in.</source>
-        <translation type="unfinished">Все дорожки выводятся отключаемыми. Выберите дорожку, чтобы увидеть её вшитой.</translation>
+        <source>All tracks stay switchable. Choose one to see it drawn in.</source>
+        <translation type="unfinished">Дорожки остаются отключаемыми. Выберите одну для просмотра.</translation>
     </message>
     <message>
         <source>Choose a track to see it drawn in.</source>

@@ -1057,8 +1057,8 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Субтитрів немає. Додайте файл субтитрів, щоб побачити їх вшитими.</translation>
     </message>
     <message>
-        <source>All tracks stay switchable. Choose a track to see it drawn in.</source>
-        <translation type="unfinished">Усі доріжки виводяться вимиканими. Виберіть доріжку, щоб побачити її вшитою.</translation>
+        <source>All tracks stay switchable. Choose one to see it drawn in.</source>
+        <translation type="unfinished">Доріжки лишаються вимиканими. Виберіть одну для перегляду.</translation>
     </message>
     <message>
         <source>Choose a track to see it drawn in.</source>

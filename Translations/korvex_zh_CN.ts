@@ -1045,8 +1045,8 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">没有字幕。请添加字幕文件以查看嵌入效果。</translation>
     </message>
     <message>
-        <source>All tracks stay switchable. Choose a track to see it drawn in.</source>
-        <translation type="unfinished">所有轨道都作为可切换轨道输出。请选择一条轨道以查看嵌入效果。</translation>
+        <source>All tracks stay switchable. Choose one to see it drawn in.</source>
+        <translation type="unfinished">所有轨道都保持可切换。请选择一条以查看嵌入效果。</translation>
     </message>
     <message>
         <source>Choose a track to see it drawn in.</source>

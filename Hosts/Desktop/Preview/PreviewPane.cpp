@@ -93,7 +93,7 @@ private:
         if (collection.tracks.empty())
             return tr("There are no subtitles. Add a subtitle file to see it drawn in.");
         if (collection.mode == SubtitleCollectionMode::AllSoftSubtitles)
-            return tr("All tracks stay switchable. Choose a track to see it drawn in.");
+            return tr("All tracks stay switchable. Choose one to see it drawn in.");
         return tr("Choose a track to see it drawn in.");
     }
 

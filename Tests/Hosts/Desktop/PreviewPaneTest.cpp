@@ -168,7 +168,7 @@ TEST_F(PreviewPaneTest, SaysWhyThereIsNothingToSee)
     EXPECT_EQ(Sentence(), "");
     film.ChooseAllSoft();
     Settle();
-    EXPECT_THAT(Find<QLabel>("previewHint").text().toStdString(), testing::HasSubstr("Choose a track"));
+    EXPECT_THAT(Find<QLabel>("previewHint").text().toStdString(), testing::HasSubstr("Choose one"));
     EXPECT_FALSE(Find<QToolButton>("nextCueButton").isEnabled());
     ForEachTheme([this](QString const& theme) { SaveScreenshot(m_pane, "preview-pane-soft-" + theme); });
 
