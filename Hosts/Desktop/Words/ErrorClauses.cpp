@@ -126,4 +126,9 @@ QString TranslateClause(std::string const& clause)
     return Translate(QString::fromStdString(clause));
 }
 
+QString ShortenCodecName(std::string const& name)
+{
+    return QString::fromStdString(name.substr(0, name.find(" (")));
+}
+
 } // namespace Korvex::Desktop

@@ -11,4 +11,7 @@ namespace Korvex::Desktop
 /// that are not known stay as they are. Any thread.
 [[nodiscard]] QString TranslateClause(std::string const& clause);
 
+/// A codec's display name without what it has in brackets, to stand in brackets itself: "AAC".
+[[nodiscard]] QString ShortenCodecName(std::string const& name);
+
 } // namespace Korvex::Desktop

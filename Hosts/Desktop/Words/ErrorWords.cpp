@@ -54,7 +54,7 @@ QString DescribeCannotCarry(Core::Error const& error)
                                                 : TranslateClause(error.detail);
     //: %1: a track or a file, %2: its codec, %3: a format or a kind of file, %4: what to do
     return Texts::tr("%1 is %2, which %3 cannot hold: %4.")
-        .arg(NameTrack(error), ToText(error.codec), TranslateClause(error.container), advice);
+        .arg(NameTrack(error), ShortenCodecName(error.codec), TranslateClause(error.container), advice);
 }
 
 /// Sentences with room for a reason in brackets as %2.
@@ -108,7 +108,7 @@ QString Describe(Core::Error const& error)
     case ErrorCode::CodecNotSupported:
         //: %2: a codec, %3: a reason in brackets or nothing
         return Texts::tr("The codec of \"%1\", %2, cannot be used here%3: choose another file or another format.")
-            .arg(file, ToText(error.codec), reason);
+            .arg(file, ShortenCodecName(error.codec), reason);
     case ErrorCode::ContainerUnknown:
         //: %2: what was asked for, in brackets, or nothing
         return Texts::tr("The format of \"%1\" is not known%2: choose another one.")

@@ -1,4 +1,5 @@
 #include "Desktop/Words/WarningWords.h"
+#include "Desktop/Words/ErrorClauses.h"
 #include "Desktop/Words/TimeTexts.h"
 
 #include "Proc/Warning.h"
@@ -57,9 +58,10 @@ QString Describe(Proc::Warning const& warning)
     case WarningCode::SecondPictureLeftOut:
     case WarningCode::CoverPictureLeftOut:
     case WarningCode::FurtherSoundLeftOut:
-        return FindTrackSentence(warning.code).arg(ToText(warning.track), file, ToText(warning.codec), format);
+        return FindTrackSentence(warning.code)
+            .arg(ToText(warning.track), file, ShortenCodecName(warning.codec), format);
     case WarningCode::UnreadableSoundLeftOut:
-        return FindTrackSentence(warning.code).arg(ToText(warning.track), file, ToText(warning.codec));
+        return FindTrackSentence(warning.code).arg(ToText(warning.track), file, ShortenCodecName(warning.codec));
     case WarningCode::SubtitlesWithoutFile:
         return warning.title.empty() ? Texts::tr("A subtitle track was left out, because its file is missing.")
                                      : Texts::tr("The subtitle track \"%1\" was left out, because its file is missing.")

@@ -3,8 +3,10 @@
 #include "Core/Error.h"
 #include "Core/FileSystem.h"
 #include "Desktop/Words/Languages.h"
+#include "Desktop/Words/WarningWords.h"
 #include "Proc/SubtitleExport.h"
 #include "Proc/TextSample.h"
+#include "Proc/Warning.h"
 #include "Support/MediaMaker.h"
 
 #include <gmock/gmock.h>
@@ -86,6 +88,15 @@ TEST_F(ErrorWordsTest, KnowTheClausesThatTheCoreReallyUses)
         Say(MakeError(ErrorCode::CodecNotSupported, "its encoder refuses the picture (4x2): Permission denied")),
         "Der Codec von „Der Film.mkv“, PGS, ist hier nicht verwendbar (sein Encoder nimmt das Bild nicht an (4x2): "
         "Sie dürfen das nicht): Wählen Sie eine andere Datei oder ein anderes Format.");
+    Proc::Warning leftOut;
+    leftOut.code = Proc::WarningCode::FurtherSoundLeftOut;
+    leftOut.file = "Der Film.mkv";
+    leftOut.track = "2";
+    leftOut.codec = "AAC (Advanced Audio Coding) (aac)";
+    leftOut.container = "FLV";
+    EXPECT_EQ(Describe(leftOut).toStdString(),
+              "Spur 2 von „Der Film.mkv“ (eine weitere Tonspur, AAC) wurde weggelassen, "
+              "weil FLV sie nicht aufnehmen kann.");
     EXPECT_THAT(Say(MakeError(ErrorCode::Internal, "av_seek_frame: no idea")), HasSubstr("(av_seek_frame: no idea)"));
 }
 
