@@ -47,16 +47,24 @@ void FilmListView::setModel(QAbstractItemModel* model)
 
 void FilmListView::UpdateRows(QModelIndex const& first, QModelIndex const& last)
 {
-    // The view asks for heights only when it is told to, and then for all of them.
+    // The view places rows only when it is told to, and then all of them.
     for (int row = first.row(); row <= last.row(); ++row)
     {
         QModelIndex const index = model()->index(row, 0);
         QStyleOptionViewItem const option = MakeOption(index);
-        if (option.rect.height() == m_delegate->sizeHint(option, index).height())
+        if (FindRoom(index) == m_delegate->sizeHint(option, index).height())
             viewport()->update(option.rect);
         else
             scheduleDelayedItemsLayout();
     }
+}
+
+int FilmListView::FindRoom(QModelIndex const& index) const
+{
+    // The height of visualRect() is what the row wants now, even when it was placed with another one.
+    QModelIndex const next = model()->index(index.row() + 1, 0);
+    int const bottom = next.isValid() ? visualRect(next).top() : contentsSize().height() - verticalOffset();
+    return bottom - visualRect(index).top();
 }
 
 QStyleOptionViewItem FilmListView::MakeOption(QModelIndex const& index) const

@@ -37,6 +37,8 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    /// The height that the row was given when rows were placed last.
+    int FindRoom(QModelIndex const& index) const;
     QStyleOptionViewItem MakeOption(QModelIndex const& index) const;
     void RequestSubtitles(QModelIndex const& index);
 

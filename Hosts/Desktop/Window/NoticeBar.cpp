@@ -104,7 +104,14 @@ NoticeBar::~NoticeBar() = default;
 
 void NoticeBar::SetNotices(std::vector<Notice> notices)
 {
-    QString const shown = m_notices.empty() ? QString() : GetCurrent().sentence;
+    QString shown = m_notices.empty() ? QString() : GetCurrent().sentence;
+    // The most pressing one comes first: what the user reads stays only until another one takes that place.
+    bool const isPressing =
+        !m_notices.empty() && !notices.empty() &&
+        std::none_of(m_notices.begin(), m_notices.end(),
+                     [&first = notices.front()](Notice const& notice) { return notice.sentence == first.sentence; });
+    if (isPressing)
+        shown = notices.front().sentence;
     m_notices = std::move(notices);
     m_page = 0;
     ShowNotice(shown);

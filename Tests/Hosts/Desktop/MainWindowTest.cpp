@@ -92,6 +92,16 @@ protected:
         ASSERT_EQ(box.currentText(), name);
     }
 
+    /// Neither over each other nor apart.
+    void ExpectRowsInLine()
+    {
+        auto const& list = Get<QListView>("filmListView");
+        for (int row = 1; row < list.model()->rowCount(); ++row)
+            EXPECT_EQ(list.visualRect(list.model()->index(row, 0)).top(),
+                      list.visualRect(list.model()->index(row - 1, 0)).bottom() + 1)
+                << "row " << row;
+    }
+
     [[nodiscard]] QStringList ListNoticeButtons()
     {
         QStringList labels;
@@ -171,16 +181,23 @@ TEST_F(MainWindowTest, NoticeOffersWaysOutThatWork)
     // What can be converted is, the first one that cannot is shown.
     EXPECT_EQ(GetState(first), std::nullopt);
     EXPECT_EQ(GetState(second), std::nullopt);
-    WaitUntil([&notice] { return notice.isVisible(); });
-    EXPECT_THAT(Get<QLabel>("noticeSentence").text().toStdString(), HasSubstr("PGS"));
+    auto const& sentence = Get<QLabel>("noticeSentence");
+    WaitUntil([&sentence] { return sentence.text().contains(QLatin1String("PGS")); });
     EXPECT_EQ(ListNoticeButtons().size(), 3);
+    ExpectRowsInLine();
 
     PressNoticeButton(QStringLiteral("Draw it in"));
     WaitUntil([&notice] { return !notice.isVisible(); });
     EXPECT_NE(first.GetMixerSettings(), nullptr);
     EXPECT_TRUE(first.IsConvertible());
+    ExpectRowsInLine();
 
     Show(second);
+    ChooseFormat(QStringLiteral("Matroska"));
+    Trigger("copyCommandAction");
+    EXPECT_TRUE(ListNoticeButtons().isEmpty());
+    ChooseFormat(QStringLiteral("MP4"));
+    // Not behind the news.
     PressNoticeButton(QStringLiteral("Choose Matroska"));
     WaitUntil([&second] { return second.IsConvertible(); });
     EXPECT_EQ(Get<QComboBox>("formatCombo").currentText(), QStringLiteral("Matroska"));
