@@ -9,16 +9,27 @@
 
 #include <algorithm>
 #include <iterator>
+#include <tuple>
+#include <utility>
 
 namespace Korvex::Desktop
 {
+
+namespace
+{
+
+bool IsSame(OutputSettings const& a, OutputSettings const& b)
+{
+    return std::tie(a.formatId, a.quality, a.folder) == std::tie(b.formatId, b.quality, b.folder);
+}
+
+} // namespace
 
 ConversionControl::ConversionControl(FilmList& films, ConversionQueue& queue, QObject* parent)
     : QObject(parent),
       m_films(films),
       m_queue(queue)
 {
-    connect(&queue, &ConversionQueue::StatusChanged, this, &ConversionControl::OnStatusChanged);
 }
 
 ConversionControl::~ConversionControl() = default;
@@ -28,7 +39,7 @@ void ConversionControl::ConvertAll()
     std::vector<Film*> const all = m_films.GetFilms();
     std::vector<Film*> open;
     std::copy_if(all.begin(), all.end(), std::back_inserter(open),
-                 [this](Film* film) { return m_finished.count(film->GetId()) == 0; });
+                 [this](Film const* film) { return !IsFinished(*film); });
     Convert(open.empty() ? all : open);
 }
 
@@ -53,9 +64,23 @@ bool ConversionControl::Send(Film& film)
 {
     if (!film.IsConvertible())
         return false;
-    m_finished.erase(film.GetId());
-    m_queue.Add(film.MakeJob(m_films.GetOutput()));
+    ConversionJob job = film.MakeJob(m_films.GetOutput());
+    m_orders[film.GetId()] = {job.collection, m_films.GetOutput()};
+    m_queue.Add(std::move(job));
     return true;
+}
+
+bool ConversionControl::IsFinished(Film const& film) const
+{
+    std::optional<ConversionStatus> const status = m_queue.FindStatus(film.GetId());
+    auto const order = m_orders.find(film.GetId());
+    if (!status || status->state != ConversionState::Done || order == m_orders.end())
+        return false;
+    // Films tell of changes that leave the output as it was, too: of being shown, say.
+    OutputSettings const& output = m_films.GetOutput();
+    Converter::Subtitles::Entities::SubtitleCollection collection = film.MakeJob(output).collection;
+    collection.collectionId = order->second.collection.collectionId; // each job's is its own
+    return IsSame(order->second.output, output) && order->second.collection == collection;
 }
 
 void ConversionControl::Watch(Film* film)
@@ -67,26 +92,21 @@ void ConversionControl::Watch(Film* film)
     connect(film, &QObject::destroyed, this,
             [this, id]
             {
-                for (std::set<FilmId>* films : {&m_watched, &m_following, &m_finished})
-                    films->erase(id);
+                m_watched.erase(id);
+                m_following.erase(id);
+                m_orders.erase(id);
             });
 }
 
 void ConversionControl::OnFilmChanged(FilmId id)
 {
-    m_finished.erase(id);
     Film* film = m_films.Find(id);
+    if (film == nullptr || film->GetState() != FilmState::Ready)
+        m_orders.erase(id);
     if (film == nullptr || film->GetState() == FilmState::Reading || m_following.erase(id) == 0)
         return;
     if (!Send(*film))
         Q_EMIT ProblemFound(id);
-}
-
-void ConversionControl::OnStatusChanged(FilmId id)
-{
-    std::optional<ConversionStatus> const status = m_queue.FindStatus(id);
-    if (status && status->state == ConversionState::Done)
-        m_finished.insert(id);
 }
 
 void ConversionControl::Cancel(FilmId film)

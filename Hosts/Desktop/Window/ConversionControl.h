@@ -1,9 +1,13 @@
 #pragma once
 
 #include "Desktop/Films/Film.h"
+#include "Desktop/Films/OutputSettings.h"
+
+#include "Subtitles/Entities/SubtitleCollection.h"
 
 #include <QObject>
 
+#include <map>
 #include <set>
 #include <vector>
 
@@ -25,7 +29,7 @@ public:
     ConversionControl(FilmList& films, ConversionQueue& queue, QObject* parent = nullptr);
     ~ConversionControl() override;
 
-    /// Films that were converted and not changed since are left alone as long as there are others.
+    /// Films that were converted as they are to be now are left alone as long as there are others.
     void ConvertAll();
     void Convert(std::vector<Film*> const& films);
     void Cancel(FilmId film);
@@ -42,15 +46,22 @@ Q_SIGNALS:
 private:
     void Watch(Film* film);
     void OnFilmChanged(FilmId id);
-    void OnStatusChanged(FilmId id);
     /// False when the film cannot be converted as it stands.
     bool Send(Film& film);
+    /// Converted, and would be converted in the same way again.
+    [[nodiscard]] bool IsFinished(Film const& film) const;
+
+    struct Order
+    {
+        Converter::Subtitles::Entities::SubtitleCollection collection; ///< as in the job
+        OutputSettings output;
+    };
 
     FilmList& m_films;
     ConversionQueue& m_queue;
     std::set<FilmId> m_watched;
-    std::set<FilmId> m_following; ///< asked for while they were being read
-    std::set<FilmId> m_finished;  ///< converted, and not changed since
+    std::set<FilmId> m_following;     ///< asked for while they were being read
+    std::map<FilmId, Order> m_orders; ///< the last one of each film, until the film is read anew
 };
 
 } // namespace Korvex::Desktop

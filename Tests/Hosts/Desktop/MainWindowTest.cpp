@@ -164,6 +164,18 @@ TEST_F(MainWindowTest, FromDropToConvertedFilm)
     ASSERT_TRUE(converted) << output.utf8string();
     EXPECT_NE(output, path);
     EXPECT_NE(converted->FindMainVideo(), nullptr);
+
+    // To look at a film does not make it one to be converted.
+    WaitUntil([this, &other] { return GetState(other) == ConversionState::Done; });
+    Show(other);
+    Show(film);
+    Film& late = AddFilm(MakeFilm("Late.mkv"));
+    Click("convertAllButton");
+    WaitUntil([this, &late] { return GetState(late) == ConversionState::Done; });
+    EXPECT_EQ(GetQueue().FindStatus(film.GetId())->output, output);
+    TypeInto("alignSpinBox", QStringLiteral("30"));
+    Click("convertAllButton");
+    WaitUntil([&] { return GetQueue().FindStatus(film.GetId())->output != output; });
 }
 
 TEST_F(MainWindowTest, NoticeOffersWaysOutThatWork)
@@ -193,15 +205,15 @@ TEST_F(MainWindowTest, NoticeOffersWaysOutThatWork)
     ExpectRowsInLine();
 
     Show(second);
-    ChooseFormat(QStringLiteral("Matroska"));
-    Trigger("copyCommandAction");
-    EXPECT_TRUE(ListNoticeButtons().isEmpty());
-    ChooseFormat(QStringLiteral("MP4"));
-    // Not behind the news.
     PressNoticeButton(QStringLiteral("Choose Matroska"));
     WaitUntil([&second] { return second.IsConvertible(); });
     EXPECT_EQ(Get<QComboBox>("formatCombo").currentText(), QStringLiteral("Matroska"));
     EXPECT_EQ(second.GetMixerSettings(), nullptr);
+
+    Trigger("copyCommandAction");
+    WaitUntil([&notice] { return notice.isVisible(); });
+    QTest::keyClick(&Get<QComboBox>("formatCombo"), Qt::Key_Down);
+    WaitUntil([&sentence] { return sentence.text().contains(QLatin1String("PGS")); }); // not behind the news
 }
 
 TEST_F(MainWindowTest, FilmsObeyTheKeyboard)
