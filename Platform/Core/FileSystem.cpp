@@ -74,6 +74,19 @@ bool FileExists(ioPath const& path)
     return fs::is_regular_file(Native(path), error);
 }
 
+std::optional<FileStamp> FindFileStamp(ioPath const& path)
+{
+    boost::system::error_code error;
+    FileStamp stamp;
+    stamp.size = fs::file_size(Native(path), error);
+    if (error)
+        return std::nullopt;
+    stamp.writtenAt = fs::last_write_time(Native(path), error);
+    if (error)
+        return std::nullopt;
+    return stamp;
+}
+
 bool FolderExists(ioPath const& path)
 {
     boost::system::error_code error;

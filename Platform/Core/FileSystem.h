@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,20 @@ namespace Korvex::Core
 [[nodiscard]] KORVEX_PLATFORM_API bool PathExists(ioPath const& path); ///< anything at all, dangling links included
 /// True when both name one existing file (links, spellings and hard links included).
 [[nodiscard]] KORVEX_PLATFORM_API bool IsSameFile(ioPath const& a, ioPath const& b);
+
+/// What tells one state of a file from another without reading it.
+struct FileStamp
+{
+    std::uintmax_t size = 0;    ///< in bytes
+    std::int64_t writtenAt = 0; ///< seconds, of the system's own epoch
+};
+[[nodiscard]] inline bool operator==(FileStamp const& a, FileStamp const& b)
+{
+    return a.size == b.size && a.writtenAt == b.writtenAt;
+}
+/// Empty where there is no such file.
+[[nodiscard]] KORVEX_PLATFORM_API std::optional<FileStamp> FindFileStamp(ioPath const& path);
+
 /// The names (not paths) of the entries of a folder, sorted by bytes; empty when it cannot be read.
 [[nodiscard]] KORVEX_PLATFORM_API std::vector<std::string> ListFolder(ioPath const& folder);
 

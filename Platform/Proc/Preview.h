@@ -34,8 +34,8 @@ struct RgbaImage
 class KORVEX_PLATFORM_API IPreview : public Core::RefCounted
 {
 public:
-    /// Draws this track from now on; null: none. Reads the track if it is another one than before. When that fails,
-    /// nothing is drawn.
+    /// Draws this track from now on; null: none. Reads the track if it is another one than before, or an external file
+    /// that has been written to meanwhile. When that fails, nothing is drawn.
     virtual Core::Status SetSubtitles(SettingsSubtitleMixer const* settings) = 0;
 
     /// The frame shown at `time` (the last one that begins no later; the first frame for earlier times, the last for

@@ -250,11 +250,13 @@ Core::Result<InputFile> InputFile::Open(ioPath const& path, InputOptions const& 
     settings.Set("format_whitelist", AllowedDemuxers(*head));
     int const opened = avformat_open_input(&raw, ToUrl(path).c_str(), nullptr, settings.Address());
     if (opened < 0) // the context is gone then
-        return OpenError(opened, path, *head);
+        return options.cancelled && *options.cancelled ? MakeError(ErrorCode::Cancelled, path)
+                                                       : OpenError(opened, path, *head);
 
     InputContext context(raw);
     int const analysed = Analyse(*context, options.analysis);
-    if (analysed == AVERROR_EXIT)
+    // A demuxer may take an interrupted read for the end of the file.
+    if (analysed == AVERROR_EXIT || (options.cancelled && *options.cancelled))
         return MakeError(ErrorCode::Cancelled, path);
     if (analysed < 0 || context->nb_streams == 0)
         return MakeError(ErrorCode::FileDamaged, path, "nothing in it can be read");

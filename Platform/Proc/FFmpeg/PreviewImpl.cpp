@@ -5,6 +5,7 @@
 #include "Proc/FFmpeg/RgbaConverter.h"
 #include "Proc/FFmpeg/StreamLoader.h"
 
+#include "Core/FileSystem.h"
 #include "Proc/Preview.h"
 #include "Proc/Settings.h"
 #include "Proc/SubtitleLoader.h"
@@ -24,6 +25,30 @@ namespace
 
 using namespace FFmpeg;
 using std::chrono::microseconds;
+
+/// Which track a drawer was made of. A file that somebody has written to since is another track.
+struct TrackKey
+{
+    explicit TrackKey(SettingsSubtitleMixer const& settings) : streamIndex(settings.GetSubtitleStreamIndex())
+    {
+        if (streamIndex)
+            return;
+        file = settings.GetFilename();
+        encoding = settings.GetEncoding();
+        stamp = Core::FindFileStamp(file);
+    }
+
+    bool operator==(TrackKey const& other) const
+    {
+        return streamIndex == other.streamIndex && file == other.file && encoding == other.encoding &&
+               stamp == other.stamp;
+    }
+
+    std::optional<std::uint32_t> streamIndex;
+    ioPath file;
+    std::string encoding;
+    std::optional<Core::FileStamp> stamp;
+};
 
 class Preview final : public IPreview
 {
@@ -83,19 +108,24 @@ private:
     /// Reads the track unless it is the one that is here already.
     Core::Status ShowTrack(SettingsSubtitleMixer const& settings)
     {
-        std::optional<std::uint32_t> const index = settings.GetSubtitleStreamIndex();
-        std::string const key = index ? "stream " + std::to_string(*index)
-                                      : settings.GetEncoding() + " " + settings.GetFilename().utf8string();
-        if (m_drawer && key == m_drawerKey)
-        {
+        TrackKey key(settings);
+        if (m_drawer && m_track == key)
             m_drawer->SetSettings(settings.GetDrawerSettings());
-            m_painter.SetDrawer(m_drawer);
-            return Core::SUCCESS;
-        }
+        else if (Core::Status failed = ReadTrack(settings))
+            return failed;
+        m_track = std::move(key);
+        m_painter.SetDrawer(m_drawer);
+        return Core::SUCCESS;
+    }
+
+    Core::Status ReadTrack(SettingsSubtitleMixer const& settings)
+    {
         m_drawer.reset();
         m_painter.SetDrawer(nullptr);
+        std::optional<std::uint32_t> const index = settings.GetSubtitleStreamIndex();
         Core::Result<SubtitleDocument> document =
-            index ? LoadOwnTrack(*index) : LoadSubtitleFile(settings.GetFilename(), settings.GetEncoding());
+            index ? LoadOwnTrack(*index)
+                  : LoadSubtitleFile(settings.GetFilename(), settings.GetEncoding(), &m_interrupted);
         if (!document)
             return document.GetError();
         auto drawer = MakeSubtitleDrawer(settings.GetDrawerSettings(), std::move(*document), m_shape.Geometry());
@@ -107,8 +137,6 @@ private:
             return error;
         }
         m_drawer = std::move(*drawer);
-        m_drawerKey = key;
-        m_painter.SetDrawer(m_drawer);
         return Core::SUCCESS;
     }
 
@@ -178,7 +206,7 @@ private:
     std::atomic<bool> m_interrupted{false};
     std::optional<FrameFinder> m_finder;
     boost::intrusive_ptr<ISubtitleDrawer> m_drawer; ///< stays while nothing is drawn, in case the same track returns
-    std::string m_drawerKey;
+    std::optional<TrackKey> m_track;                ///< that `m_drawer` draws
     PicturePainter m_painter;
     RgbaConverter m_toRgba;
     Frame m_clean; ///< the picture last shown, without subtitles

@@ -150,6 +150,24 @@ TEST(PreviewTest, EditsShowAsIfEverythingWereMadeAnew)
     ExpectEditsToShowAsMadeAnew(folder / "interlaced.mkv", own);
 }
 
+TEST(PreviewTest, ShowsAFileAsItIsOnTheDisk)
+{
+    TemporaryFolder const folder;
+    MadeMedia film;
+    film.video = MakeVideo("yuv420p");
+    MakeMedia(folder / "film.mkv", film);
+    SettingsSubtitleMixer const mixer = FromFile(Write(folder, "text.srt", SUBRIP));
+    auto const preview = Open(folder / "film.mkv");
+    auto const before = Show(*preview, &mixer, milliseconds(900)).rgba;
+    Write(folder, "text.srt", "1\n00:00:00,500 --> 00:00:02,000\nMended in an editor\n");
+    auto const after = Show(*preview, &mixer, milliseconds(900)).rgba;
+    EXPECT_FALSE(after == before);
+    EXPECT_TRUE(after == Show(*Open(folder / "film.mkv"), &mixer, milliseconds(900)).rgba);
+    EXPECT_EQ(preview->ListCueSpans().size(), 1U);
+    Core::RemoveFile(mixer.GetFilename());
+    EXPECT_TRUE(preview->SetSubtitles(&mixer));
+}
+
 TEST(PreviewTest, ReadingOnGivesWhatBeginningAnewGives)
 {
     TemporaryFolder const folder;
