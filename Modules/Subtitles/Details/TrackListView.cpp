@@ -51,7 +51,8 @@ QSize TrackListView::sizeHint() const
 {
     QStyleOptionViewItem const option = viewOptions();
     int width = SMALLEST_WIDTH;
-    for (int row = 0; row < m_model.rowCount(); ++row)
+    // Measuring a text takes time by its length, and there may be hundreds of rows.
+    for (int row = 0; row < m_model.rowCount() && width < LARGEST_WIDTH; ++row)
         width = qMax(width, m_delegate->GetWholeWidth(option, m_model.index(row)));
     int const rows = qMin(m_model.rowCount(), VISIBLE_ROWS);
     int const frame = 2 * frameWidth();
@@ -77,9 +78,19 @@ void TrackListView::Choose(QModelIndex const& index)
 void TrackListView::rowsInserted(QModelIndex const& parent, int first, int last)
 {
     QListView::rowsInserted(parent, first, last);
-    for (int row = first; row <= last; ++row)
-        AddButton(m_model.index(row));
     updateGeometry();
+}
+
+/// Rows are laid out together and only where they are seen. To place a button at each row that comes in would lay all
+/// rows out each time.
+void TrackListView::doItemsLayout()
+{
+    QListView::doItemsLayout();
+    for (int row = TrackListModel::FIRST_TRACK_ROW; row < m_model.rowCount(); ++row)
+    {
+        if (indexWidget(m_model.index(row)) == nullptr)
+            AddButton(m_model.index(row));
+    }
 }
 
 void TrackListView::AddButton(QModelIndex const& index)

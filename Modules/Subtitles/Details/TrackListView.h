@@ -24,6 +24,8 @@ public:
 
     void Retranslate();
 
+    void doItemsLayout() override;
+
 Q_SIGNALS:
     /// The user decided for a row, which can be chosen.
     void RowChosen(int row);

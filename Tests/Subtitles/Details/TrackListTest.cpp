@@ -131,6 +131,7 @@ TEST_F(TrackListTest, ExtractsByButtonAndByKeyWithoutChoosing)
 
     list.Clear();
     Add(3, "New");
+    QCoreApplication::processEvents(); // the rows' layout brings the button
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     ASSERT_EQ(list.findChildren<QToolButton*>("extractButton").size(), 1);
     QTest::mouseClick(list.findChild<QToolButton*>("extractButton"), Qt::LeftButton);
