@@ -245,14 +245,7 @@ bool EditingPanel::GetApplyToAllFiles()
 
 std::string EditingPanel::GetCurrentTitle()
 {
-    if (!m_form->trackList)
-        return {};
-    SubtitleCollection const& list = *m_form->trackList;
-    if (list.IsSetWithoutSubtitles())
-        return list.GetTitleWithoutSubtitles().toStdString();
-    if (list.IsSetAllSoftSubtitles())
-        return list.GetTitleAllSoftSub().toStdString();
-    return list.GetTitleCurrentTrack().toStdString();
+    return m_form->trackList ? m_form->trackList->GetTitleOfChoice().toStdString() : std::string();
 }
 
 void EditingPanel::SetDisableEditorHandler(std::function<void(bool)> const& handler)

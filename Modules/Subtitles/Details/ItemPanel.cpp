@@ -32,15 +32,6 @@ public:
     [[nodiscard]] SubtitleCollection& GetList() const { return *m_list; }
     [[nodiscard]] QCheckBox& GetApplyToAllBox() const { return *m_applyToAll; }
 
-    [[nodiscard]] QString GetCurrentTitle() const
-    {
-        if (m_list->IsSetWithoutSubtitles())
-            return m_list->GetTitleWithoutSubtitles();
-        if (m_list->IsSetAllSoftSubtitles())
-            return m_list->GetTitleAllSoftSub();
-        return m_list->GetTitleCurrentTrack();
-    }
-
     void Retranslate()
     {
         m_panel.setAccessibleName(ItemPanel::tr("Subtitles of this film"));
@@ -186,7 +177,7 @@ bool ItemPanel::GetApplyToAllFiles()
 
 std::string ItemPanel::GetCurrentTitle()
 {
-    return m_impl->GetCurrentTitle().toStdString();
+    return m_impl->GetList().GetTitleOfChoice().toStdString();
 }
 
 void ItemPanel::Hide()

@@ -135,6 +135,15 @@ QString SubtitleCollection::GetTitleCurrentTrack() const
     return m_impl->model.GetTrackAt(row) ? m_impl->model.GetTitle(row) : QString();
 }
 
+QString SubtitleCollection::GetTitleOfChoice() const
+{
+    if (IsSetWithoutSubtitles())
+        return GetTitleWithoutSubtitles();
+    if (IsSetAllSoftSubtitles())
+        return GetTitleAllSoftSub();
+    return GetTitleCurrentTrack();
+}
+
 void SubtitleCollection::SetTrackMenuHandler(TrackMenuHandler handler)
 {
     m_impl->menuHandler = std::move(handler);

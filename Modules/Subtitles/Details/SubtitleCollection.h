@@ -42,6 +42,8 @@ public:
     [[nodiscard]] QString GetTitleAllSoftSub() const;
     /// The label of the current track; empty when the current row is none.
     [[nodiscard]] QString GetTitleCurrentTrack() const;
+    /// Of the current row, whichever of the three kinds it is.
+    [[nodiscard]] QString GetTitleOfChoice() const;
 
     /// What the menu key and the right mouse button do on a track's row; nothing without a handler.
     void SetTrackMenuHandler(TrackMenuHandler handler);
