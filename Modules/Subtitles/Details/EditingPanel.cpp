@@ -56,7 +56,13 @@ EditingPanel::EditingPanel() : m_form(new Form(*this))
 
 EditingPanel::~EditingPanel()
 {
-    delete findChild<QFontDialog*>(); // an open dialog looks at its parent while it closes
+    if (QFontDialog* const dialog = findChild<QFontDialog*>())
+    {
+        delete dialog; // looks at its parent while it closes
+        // The click that opened the dialog ends only now, and the button looks at itself then.
+        m_form->selectFontButton->setParent(nullptr);
+        m_form->selectFontButton->deleteLater();
+    }
     delete m_form;
 }
 

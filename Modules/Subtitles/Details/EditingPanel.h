@@ -17,8 +17,9 @@ namespace Korvex::Converter::Subtitles::Details
 {
 
 /// The side panel in which the user chooses which subtitles of one film go out and how drawn text looks. A passive
-/// view: presenters push values in, every edit goes out to the observers, synchronously, and then as `Changed`. GUI
-/// thread.
+/// view: presenters push values in, every edit goes out to the observers, synchronously, and then as `Changed`. Whoever
+/// hears of an edit may change anything in the panel but not destroy it: the widget that is just being used is a part
+/// of it. GUI thread.
 class KVSUBTITLES_API EditingPanel : public KFrame, public Adapters::IEditingPanel
 {
     Q_OBJECT

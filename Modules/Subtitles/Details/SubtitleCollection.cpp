@@ -6,7 +6,6 @@
 #include "Gui/ModalPopup.h"
 
 #include <QEvent>
-#include <QPointer>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -41,10 +40,9 @@ public:
     TrackMenuHandler menuHandler;
 
 private:
-    /// Whoever hears of the choice may refill the list, or take it away altogether.
+    /// Whoever hears of the choice may refill the list.
     void Choose(int row)
     {
-        QPointer<SubtitleCollection> const owner(&m_owner);
         auto const id = model.GetTrackAt(row);
         model.SetChosenRow(row);
         if (id)
@@ -53,10 +51,8 @@ private:
             Q_EMIT m_owner.AllSoftSubtitlesSelected();
         else
             Q_EMIT m_owner.NoSubtitlesSelected();
-        if (!owner)
-            return;
         // As a drop-down the list has done its work; where it stands in a panel it stays.
-        if (auto* const popup = qobject_cast<GUI::ModalPopup*>(owner->parentWidget()))
+        if (auto* const popup = qobject_cast<GUI::ModalPopup*>(m_owner.parentWidget()))
             popup->hide();
     }
 

@@ -13,6 +13,7 @@
 #include <QDoubleSpinBox>
 #include <QFontDialog>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QSlider>
 #include <QStyle>
@@ -299,7 +300,15 @@ TEST_F(EditingPanelTest, ReportsTheFontWhetherItIsAcceptedOrNot)
         });
     EXPECT_THAT(listener.Take(), ElementsAre("font DejaVu Sans", "Changed"));
 
-    AnswerFontDialog([this](QFontDialog&) { panel.reset(); });
+    QPointer<QWidget> const button = panel->findChild<QWidget*>("selectFontButton");
+    AnswerFontDialog(
+        [&](QFontDialog&)
+        {
+            panel.reset();
+            EXPECT_NE(button, nullptr) << "it is still being clicked";
+        });
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(button, nullptr);
     EXPECT_THAT(listener.Take(), IsEmpty()) << "the panel went while its dialog was open";
 }
 
