@@ -87,7 +87,7 @@ BitmapCue const* BitmapInkSource::FindCue(std::chrono::microseconds time) const
 
 Mapping BitmapInkSource::MapCanvas(BitmapCue const& cue) const
 {
-    // A canvas without a size is as large as what lies on it.
+    // A canvas without a size is taken for the picture.
     int width = cue.canvasWidth;
     int height = cue.canvasHeight;
     if (width <= 0 || height <= 0)
