@@ -106,7 +106,7 @@ void FilmListPane::SelectFilm(FilmId id)
         QModelIndex const index = m_films.index(row);
         if (index.data(FilmList::FilmRole).value<Film*>()->GetId() != id)
             continue;
-        m_view->setCurrentIndex(index);
+        MakeCurrent(index);
         m_view->scrollTo(index);
         return;
     }
@@ -116,7 +116,13 @@ void FilmListPane::MoveSelection(int rows)
 {
     int const last = m_films.rowCount() - 1;
     if (last >= 0)
-        m_view->setCurrentIndex(m_films.index(std::clamp(m_view->currentIndex().row() + rows, 0, last)));
+        MakeCurrent(m_films.index(std::clamp(m_view->currentIndex().row() + rows, 0, last)));
+}
+
+void FilmListPane::MakeCurrent(QModelIndex const& index)
+{
+    // The view would add it to the selection while the keys of a shortcut are held.
+    m_view->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
 }
 
 void FilmListPane::PressSubtitlesButton()

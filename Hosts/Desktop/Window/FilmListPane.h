@@ -8,6 +8,7 @@
 
 class QAction;
 class QLabel;
+class QModelIndex;
 
 namespace Korvex::Desktop
 {
@@ -54,6 +55,8 @@ private:
     void Retranslate();
     void UpdateTitle();
     void NoteCurrentFilm();
+    /// It alone is selected then.
+    void MakeCurrent(QModelIndex const& index);
 
     FilmList& m_films;
     FilmListView* m_view;

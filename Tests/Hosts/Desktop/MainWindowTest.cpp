@@ -239,6 +239,14 @@ TEST_F(MainWindowTest, FilmsObeyTheKeyboard)
     WaitUntil([&second] { return second.GetCollection().withoutSubtitles != 0; });
     EXPECT_NE(first.GetMixerSettings(), nullptr);
 
+    // Shortcuts that move through the list leave nothing selected behind them, which the next key would remove, too.
+    for (auto const key : {Qt::Key_PageUp, Qt::Key_PageDown})
+    {
+        QTest::keyClick(GetWindow().windowHandle(), key, Qt::ControlModifier);
+        EXPECT_EQ(list.currentIndex().row(), key == Qt::Key_PageUp ? 0 : 1);
+        EXPECT_EQ(list.selectionModel()->selectedIndexes(), QModelIndexList{list.currentIndex()});
+    }
+
     // In a field of the panel the key belongs to the field.
     QTest::keyClick(&Get<QComboBox>("formatCombo"), Qt::Key_Delete);
     EXPECT_EQ(m_list.rowCount(), 2);
