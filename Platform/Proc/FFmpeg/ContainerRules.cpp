@@ -61,6 +61,7 @@ std::vector<ContainerRule> MakeRules()
     m2ts.displayName = "M2TS";
     m2ts.mediaCodecs = {AV_CODEC_ID_MPEG2VIDEO, AV_CODEC_ID_H264, AV_CODEC_ID_HEVC, AV_CODEC_ID_AC3,
                         AV_CODEC_ID_EAC3,       AV_CODEC_ID_DTS,  AV_CODEC_ID_AAC,  AV_CODEC_ID_TRUEHD};
+    m2ts.secondVideoId = 0x1B00;   // what discs give to a picture in the picture
     m2ts.firstSubtitleId = 0x1300; // between the numbers that discs give to their own kinds of streams
 
     ContainerRule avi;

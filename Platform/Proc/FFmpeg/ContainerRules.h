@@ -23,6 +23,7 @@ struct ContainerRule
     /// What the muxer takes although nothing reads it back.
     std::vector<AVCodecID> brokenCodecs;
     int firstSubtitleId = 0; ///< the muxer has no numbers for subtitle streams of its own; 0: it has
+    int secondVideoId = 0;   ///< the muxer numbers one video stream alone; further ones from here on. 0: it numbers all
     LanguageForm languageForm = LanguageForm::Bibliographic;
     bool carriesAttachments = false;
     bool carriesCoverPictures = false;

@@ -122,6 +122,8 @@ void OutputFile::AddStream(OutputStream const& stream, AVStream const* input)
     output->disposition = stream.disposition;
     if (stream.Type() == AVMEDIA_TYPE_SUBTITLE && m_rule.firstSubtitleId > 0)
         output->id = m_rule.firstSubtitleId + m_subtitleCount++;
+    if (stream.Type() == AVMEDIA_TYPE_VIDEO && m_videoCount++ > 0 && m_rule.secondVideoId > 0)
+        output->id = m_rule.secondVideoId + m_videoCount - 2;
     for (auto const& [key, value] : stream.tags)
         av_dict_set(&output->metadata, key.c_str(), value.c_str(), 0);
     if (input)

@@ -64,6 +64,7 @@ private:
     ioPath const m_temporary;
     OutputContext m_context;
     int m_subtitleCount = 0;
+    int m_videoCount = 0;
     std::vector<std::optional<std::int64_t>> m_lastDts;
     bool m_isCommitted = false;
 };
