@@ -57,6 +57,14 @@ void ColorPickerButton::SetColor(QColor const& color)
 {
     if (color == m_color)
         return;
+    m_colorBefore = color;
+    ShowColor(color);
+}
+
+void ColorPickerButton::ShowColor(QColor const& color)
+{
+    if (color == m_color)
+        return;
     m_color = color;
     Retranslate();
     update();
@@ -120,6 +128,7 @@ void ColorPickerButton::OpenDialog()
 {
     if (m_dialog != nullptr)
         return;
+    m_colorBefore = m_color;
     m_dialog = new QColorDialog(m_color, this);
     m_dialog->setAttribute(Qt::WA_DeleteOnClose);
     m_dialog->setOption(QColorDialog::DontUseNativeDialog);
@@ -131,8 +140,8 @@ void ColorPickerButton::OpenDialog()
     RoundWidgetCorners(m_dialog);
     Retranslate();
     connect(m_dialog, &QColorDialog::currentColorChanged, this,
-            [this](QColor const& color) { SetColor(QColor::fromRgb(color.rgb())); });
-    connect(m_dialog, &QDialog::rejected, this, [this, before = m_color] { SetColor(before); });
+            [this](QColor const& color) { ShowColor(QColor::fromRgb(color.rgb())); });
+    connect(m_dialog, &QDialog::rejected, this, [this] { ShowColor(m_colorBefore); });
     m_dialog->open();
 }
 

@@ -21,7 +21,8 @@ public:
     ~ColorPickerButton() override;
 
     [[nodiscard]] QColor Color() const { return m_color; }
-    /// Emits `ColorChanged` when the colour is another one than before.
+    /// Emits `ColorChanged` when the colour is another one than before. While the dialog is open, cancelling it goes
+    /// back to this colour then.
     void SetColor(QColor const& color);
     /// What the colour is for, translated: it stands in front of the colour in the tool tip and the accessible name,
     /// and is the dialog's title.
@@ -41,9 +42,11 @@ protected:
 
 private:
     void OpenDialog();
+    void ShowColor(QColor const& color);
     void Retranslate();
 
     QColor m_color = Qt::white;
+    QColor m_colorBefore; ///< the last one that was not chosen in the open dialog
     QString m_caption;
     QPointer<QColorDialog> m_dialog; ///< a child, deletes itself when it closes
 };

@@ -87,6 +87,15 @@ TEST(ColorPickerButtonTest, ReportsColorsWhileTheDialogIsOpenAndGoesBackOnCancel
     dialog->setCurrentColor(Qt::blue);
     dialog->accept();
     EXPECT_EQ(button.Color(), QColor(Qt::blue));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+    QTest::mouseClick(&button, Qt::LeftButton);
+    dialog = FindDialog(button);
+    ASSERT_NE(dialog, nullptr);
+    dialog->setCurrentColor(Qt::green);
+    button.SetColor(Qt::yellow);
+    dialog->reject();
+    EXPECT_EQ(button.Color(), QColor(Qt::yellow)) << "the button stands for something else since";
 }
 
 TEST(ColorPickerButtonTest, SwatchStandsOutFromEveryColor)
