@@ -38,7 +38,12 @@ QString DescribeFacts(Film const& film)
     Proc::MediaInfo const& media = film.GetMedia();
     QString facts = FormatTime(media.duration, media.duration);
     if (Proc::StreamInfo const* video = media.FindMainVideo())
-        facts += QStringLiteral(" \u00B7 %1\u2009\u00D7\u2009%2").arg(video->width).arg(video->height);
+    {
+        QSize size(video->width, video->height);
+        if (video->rotationDegrees % 180 != 0)
+            size.transpose();
+        facts += QStringLiteral(" \u00B7 %1\u2009\u00D7\u2009%2").arg(size.width()).arg(size.height());
+    }
     return facts;
 }
 
