@@ -14,6 +14,7 @@ struct AddedFiles::Found
 {
     Encodings encodings;
     std::map<TrackID, Core::Error> reasons;
+    std::map<ioPath, FileStamp> unreadable;
 
     /// On the other thread.
     explicit Found(Collection files)
@@ -21,10 +22,13 @@ struct AddedFiles::Found
         Converter::Subtitles::NoteDetectedEncodings(files);
         for (auto const& [id, track] : files.tracks)
         {
-            if (track.codecId.empty())
-                reasons.emplace(id, Hosts::ExplainUnreadable(track.path));
-            else
+            if (!track.codecId.empty())
+            {
                 encodings.emplace(id, track.extra);
+                continue;
+            }
+            unreadable.emplace(track.path, ReadStamp(track.path));
+            reasons.emplace(id, Hosts::ExplainUnreadable(track.path));
         }
     }
 };
@@ -40,6 +44,7 @@ AddedFiles::~AddedFiles() = default;
 
 void AddedFiles::Read(Collection const& collection)
 {
+    ForgetRemoved(collection);
     Collection fresh;
     for (auto const& [id, track] : collection.tracks)
     {
@@ -59,15 +64,34 @@ void AddedFiles::Read(Collection const& collection)
                               return;
                           for (auto const& [id, reason] : found.reasons)
                               (*owner)->m_reasons[id] = reason;
+                          for (auto const& [file, stamp] : found.unreadable)
+                              (*owner)->m_unreadable[file] = stamp;
                           (*owner)->m_note(found.encodings);
                       };
                   });
+}
+
+/// A file that comes in again may hold something else by then.
+void AddedFiles::ForgetRemoved(Collection const& collection)
+{
+    for (auto known = m_known.begin(); known != m_known.end();)
+    {
+        if (collection.tracks.count(*known) > 0)
+        {
+            ++known;
+            continue;
+        }
+        m_reasons.erase(*known);
+        m_unreadable.erase(ioPath(known->ToString()));
+        known = m_known.erase(known);
+    }
 }
 
 void AddedFiles::Forget()
 {
     m_known.clear();
     m_reasons.clear();
+    m_unreadable.clear();
 }
 
 } // namespace Korvex::Desktop

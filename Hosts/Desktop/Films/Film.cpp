@@ -133,6 +133,11 @@ public:
                                        m_addedFiles.GetReasons());
     }
 
+    [[nodiscard]] std::map<ioPath, FileStamp> const& ListUnreadableFiles() const
+    {
+        return m_addedFiles.GetUnreadable();
+    }
+
     void NoteChange()
     {
         if (std::exchange(m_isChangeNoted, true))
@@ -294,6 +299,11 @@ std::vector<SubtitleTrack> Film::ListLeftOut() const
 std::map<SubtitleTrackID, SubtitleTrack> const& Film::ListFoundBeside() const
 {
     return m_impl->subtitles.ListFoundBeside();
+}
+
+std::map<ioPath, FileStamp> const& Film::ListUnreadableFiles() const
+{
+    return m_impl->ListUnreadableFiles();
 }
 
 FilmChoice Film::GetChoice() const

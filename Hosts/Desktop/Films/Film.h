@@ -35,6 +35,7 @@ namespace Korvex::Desktop
 
 class FileThread;
 struct ConversionJob;
+struct FileStamp;
 struct OutputSettings;
 
 /// Numbers films of one run of the program, from 1.
@@ -91,6 +92,9 @@ public:
     [[nodiscard]] std::map<Converter::Subtitles::Entities::SubtitleTrackID,
                            Converter::Subtitles::Entities::SubtitleTrack> const&
     ListFoundBeside() const;
+
+    /// Its subtitle files that hold no subtitles, as they were when that was found out.
+    [[nodiscard]] std::map<ioPath, FileStamp> const& ListUnreadableFiles() const;
 
     /// What was decided; also of a film that is not there at the moment.
     [[nodiscard]] FilmChoice GetChoice() const;

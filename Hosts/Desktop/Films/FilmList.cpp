@@ -1,17 +1,20 @@
 #include "Desktop/Films/FilmList.h"
 
 #include "Desktop/Films/FileKinds.h"
+#include "Desktop/Films/FileStamp.h"
 #include "Desktop/Films/FileThread.h"
 #include "Desktop/Films/MediaReading.h"
 
-#include "Core/FileSystem.h"
+#include "Core/Error.h"
 
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
 #include <iterator>
+#include <map>
 #include <utility>
 
 namespace Korvex::Desktop
@@ -41,6 +44,14 @@ int MatchName(ioPath const& film, ioPath const& subtitles)
     return isOf ? filmName.size() : 0;
 }
 
+/// The same for all spellings of a path and all links to it; the path itself where there is no such file.
+QString FindPlace(ioPath const& path)
+{
+    QString const given = QString::fromStdString(path.utf8string());
+    QString const place = QFileInfo(given).canonicalFilePath();
+    return place.isEmpty() ? given : place;
+}
+
 } // namespace
 
 /// Answers of the reading thread name films by number: a film may be gone when they arrive.
@@ -58,6 +69,7 @@ public:
     {
         auto film = std::make_unique<Film>(m_services, ++m_lastId, path, m_fileThread);
         FilmId const id = film->GetId();
+        m_places[id] = FindPlace(path);
         film->SetOutput(output);
         connect(film.get(), &Film::Changed, &m_owner, [this, id] { NoteChange(id); });
         connect(film.get(), &Film::ApplyToAllRequested, &m_owner,
@@ -74,22 +86,52 @@ public:
     {
         m_fileThread->Add(Urgency::Soon,
                           [this, id = film.GetId(), path = film.GetPath()]() -> Delivery
-                          { return [this, id, path, media = ReadHeaders(path)] { NoteHeaders(id, path, media); }; });
+                          {
+                              FileStamp const stamp = ReadStamp(path); // before: what is written meanwhile shows later
+                              return [this, id, path, stamp, media = ReadHeaders(path)]
+                              { NoteHeaders(id, path, stamp, media); };
+                          });
+    }
+
+    void Move(Film& film, ioPath const& path)
+    {
+        m_places[film.GetId()] = FindPlace(path);
+        film.SetReading(path);
+        Read(film);
     }
 
     void Check(Film const& film)
     {
-        m_fileThread->Add(Urgency::Soon,
-                          [this, id = film.GetId(), path = film.GetPath()]() -> Delivery {
-                              return [this, id, path, isThere = Core::FileExists(path)]
-                              { NoteFile(id, path, isThere); };
-                          });
+        m_fileThread->Add(
+            Urgency::Soon,
+            [this, id = film.GetId(), path = film.GetPath(), files = film.ListUnreadableFiles()]() -> Delivery
+            {
+                bool const isAnyOther = std::any_of(
+                    files.begin(), files.end(), [](auto const& file) { return ReadStamp(file.first) != file.second; });
+                auto const subtitles = isAnyOther ? SubtitleFiles::Changed : SubtitleFiles::AsBefore;
+                return [this, id, path, stamp = ReadStamp(path), subtitles] { NoteFile(id, path, stamp, subtitles); };
+            });
+    }
+
+    [[nodiscard]] std::vector<std::unique_ptr<Film>> TakeOut(int row, int count)
+    {
+        std::vector<std::unique_ptr<Film>> taken;
+        auto const first = films.begin() + row;
+        std::move(first, first + count, std::back_inserter(taken));
+        films.erase(first, first + count);
+        for (auto const& film : taken)
+        {
+            m_stamps.erase(film->GetId());
+            m_places.erase(film->GetId());
+        }
+        return taken;
     }
 
     [[nodiscard]] Film* FindSame(ioPath const& path) const
     {
-        auto const isSame = [&path](auto const& film)
-        { return film->GetPath() == path || Core::IsSameFile(film->GetPath(), path); };
+        QString const place = FindPlace(path);
+        auto const isSame = [&](auto const& film)
+        { return film->GetPath() == path || m_places.at(film->GetId()) == place; };
         auto const found = std::find_if(films.begin(), films.end(), isSame);
         return found == films.end() ? nullptr : found->get();
     }
@@ -113,6 +155,13 @@ public:
     OutputSettings output;
 
 private:
+    /// Those that could not be read.
+    enum class SubtitleFiles
+    {
+        AsBefore,
+        Changed,
+    };
+
     /// The film, unless it went or moved meanwhile.
     [[nodiscard]] Film* FindRead(FilmId id, ioPath const& path) const
     {
@@ -120,11 +169,12 @@ private:
         return film != nullptr && film->GetPath() == path ? film : nullptr;
     }
 
-    void NoteHeaders(FilmId id, ioPath const& path, Core::Result<Proc::MediaInfo> const& media)
+    void NoteHeaders(FilmId id, ioPath const& path, FileStamp const& stamp, Core::Result<Proc::MediaInfo> const& media)
     {
         Film* film = FindRead(id, path);
         if (film == nullptr)
             return;
+        m_stamps[id] = stamp;
         if (!media)
         {
             film->SetFailure(media.GetError());
@@ -142,17 +192,18 @@ private:
                           });
     }
 
-    void NoteFile(FilmId id, ioPath const& path, bool isThere)
+    void NoteFile(FilmId id, ioPath const& path, FileStamp const& stamp, SubtitleFiles subtitles)
     {
         Film* film = FindRead(id, path);
-        if (film == nullptr)
+        if (film == nullptr || film->GetState() == FilmState::Reading)
             return;
-        if (isThere && film->GetState() == FilmState::Missing)
+        bool const isMissing = film->GetState() == FilmState::Missing;
+        if (stamp.IsThere() && (isMissing || stamp != m_stamps[id] || subtitles == SubtitleFiles::Changed))
         {
             film->SetReading(path);
             Read(*film);
         }
-        else if (!isThere && film->GetState() == FilmState::Ready)
+        else if (!stamp.IsThere() && !isMissing)
         {
             Core::Error error;
             error.code = Core::ErrorCode::FileNotFound;
@@ -171,6 +222,8 @@ private:
     FilmList& m_owner;
     Hosts::HostServices& m_services;
     FilmId m_lastId = 0;
+    std::map<FilmId, FileStamp> m_stamps; ///< of the films' files when they were read
+    std::map<FilmId, QString> m_places;   ///< so that a new film is compared with the others without asking the disk
     std::shared_ptr<FileThread> m_fileThread; ///< shared with the films; what it delivers comes from the event loop
 };
 
@@ -223,13 +276,16 @@ void FilmList::Remove(FilmId id)
         removeRows(row, 1);
 }
 
-void FilmList::Locate(FilmId id, ioPath const& path)
+bool FilmList::Locate(FilmId id, ioPath const& path)
 {
     Film* const film = Find(id);
-    if (film == nullptr)
-        return;
-    film->SetReading(MakeAbsolute(path));
-    m_impl->Read(*film);
+    ioPath const place = MakeAbsolute(path);
+    Film const* const there = m_impl->FindSame(place);
+    if (there != nullptr && there != film)
+        return false;
+    if (film != nullptr)
+        m_impl->Move(*film, place);
+    return true;
 }
 
 void FilmList::CheckFiles()
@@ -313,11 +369,8 @@ bool FilmList::removeRows(int row, int count, QModelIndex const& parent)
 {
     if (parent.isValid() || row < 0 || count < 1 || row + count > rowCount())
         return false;
-    std::vector<std::unique_ptr<Film>> removed; // they go when nobody finds them here any more
     beginRemoveRows(parent, row, row + count - 1);
-    auto const first = m_impl->films.begin() + row;
-    std::move(first, first + count, std::back_inserter(removed));
-    m_impl->films.erase(first, first + count);
+    auto const removed = m_impl->TakeOut(row, count); // they go when nobody finds them here any more
     endRemoveRows();
     return true;
 }

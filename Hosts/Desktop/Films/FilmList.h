@@ -32,10 +32,12 @@ public:
     std::vector<ioPath> AddDropped(std::vector<ioPath> const& paths, Film* current);
     /// Also while it is being read. Not from inside one of the film's own signals.
     void Remove(FilmId id);
-    /// The film is at another place now: it is read there, and its choices are made again.
-    void Locate(FilmId id, ioPath const& path);
-    /// Looks which films are gone or there again; the answer comes as their changes. Done by itself whenever the
-    /// program comes to the front.
+    /// The film is at another place now: it is read there, and its choices are made again. False: another film of the
+    /// list is there, and nothing changes.
+    [[nodiscard]] bool Locate(FilmId id, ioPath const& path);
+    /// Looks which films are gone, and reads those anew that are there again or are not what they were, or whose
+    /// unreadable subtitle files have changed; the answer comes as their changes. Done by itself whenever the program
+    /// comes to the front.
     void CheckFiles();
     [[nodiscard]] Film* Find(FilmId id) const;
     [[nodiscard]] std::vector<Film*> GetFilms() const;

@@ -111,8 +111,10 @@ void FileActions::Locate(FilmId id)
         return;
     QString const name = QString::fromStdString(film->GetPath().FileName());
     QString const chosen = QFileDialog::getOpenFileName(&m_window, tr("Where is \"%1\" now?").arg(name), m_folder);
-    if (!chosen.isEmpty())
-        m_films.Locate(id, ToPath(chosen));
+    if (!chosen.isEmpty() && !m_films.Locate(id, ToPath(chosen)))
+        m_notices.AddNews(Mark::Warning,
+                          tr("\"%1\" is in the list already: show another file, or remove \"%2\" from the list.")
+                              .arg(QFileInfo(chosen).fileName(), name));
 }
 
 } // namespace Korvex::Desktop

@@ -99,13 +99,41 @@ TEST_F(FilmListTest, AFilmThatGoesKeepsItsChoiceUntilItIsThereAgain)
     EXPECT_THAT(ListSentences(film), ElementsAre(HasSubstr("show where it is now")));
     EXPECT_FALSE(film.IsConvertible());
 
-    m_list.Locate(film.GetId(), path.utf8string() + ".away");
+    EXPECT_FALSE(m_list.Locate(film.GetId(), Open(MakeFilm("other.mkv")).GetPath())) << "two entries for one film";
+    EXPECT_TRUE(m_list.Locate(film.GetId(), path.utf8string() + ".away"));
     WaitUntil([&] { return film.GetState() == FilmState::Ready; });
     EXPECT_EQ(film.GetMedia().path, film.GetPath());
     ASSERT_TRUE(film.GetDrawnTrack());
     EXPECT_EQ(film.GetDrawnTrack()->synchronizationOffset, 0.5);
     EXPECT_EQ(film.ListLeftOut().size(), 1U);
     EXPECT_TRUE(film.IsConvertible());
+}
+
+TEST_F(FilmListTest, FilmsAndSubtitlesThatAreNotWhatTheyWereAreReadAnew)
+{
+    ioPath const path = WriteText("film.mkv", "half a copy");
+    Film& film = Open(path);
+    EXPECT_EQ(film.GetState(), FilmState::Unreadable);
+    MakeFilm("film.mkv", {MakeSubtitle("subrip", "ger")});
+    ioPath const subtitles = WriteText("late.srt", "still empty");
+    film.AddSubtitleFiles({subtitles});
+    m_list.CheckFiles();
+    WaitUntil([&] { return film.ListUnreadableFiles().size() == 1; });
+    EXPECT_EQ(film.GetState(), FilmState::Ready);
+    EXPECT_FALSE(film.IsConvertible());
+
+    WriteText("late.srt", HELLO_SRT);
+    m_list.CheckFiles();
+    WaitUntil([&] { return film.IsConvertible(); });
+    ASSERT_TRUE(film.GetDrawnTrack());
+    EXPECT_EQ(film.GetDrawnTrack()->path, subtitles);
+
+    MakeFilm("film.mkv", {MakeSubtitle("ass", "fre"), MakeSubtitle("subrip", "ger")});
+    m_list.CheckFiles();
+    WaitUntil([&] { return film.GetCollection().tracks.size() == 3; });
+    EXPECT_EQ(film.GetDrawnTrack()->path, subtitles);
+    m_list.CheckFiles();
+    m_list.Remove(film.GetId());
 }
 
 } // namespace
