@@ -265,6 +265,7 @@ void FilmSubtitles::LeaveOut(SubtitleTrackID const& id)
         ChooseWithout(id, collection);
     if (track.isExternal)
     {
+        TakeDefaultMark(id);
         m_removedFiles.insert(id);
         m_codecs.Forget(id);
         m_choiceBefore.erase(id);
@@ -318,6 +319,8 @@ void FilmSubtitles::ChangeTrack(SubtitleTrackID const& id, Change const& change)
 void FilmSubtitles::SetProperties(SubtitleTrackID const& id, TrackProperties const& properties)
 {
     SubtitleCollection const collection = m_interactor->GetSubtitleCollection();
+    if (collection.tracks.count(id) == 0)
+        return;
     bool const wasDefault = collection.defaultTracks && collection.defaultTracks->count(id) > 0;
     if (properties.isDefault && !wasDefault)
     {
@@ -327,12 +330,18 @@ void FilmSubtitles::SetProperties(SubtitleTrackID const& id, TrackProperties con
     }
     else if (!properties.isDefault && wasDefault)
     {
-        m_defaultTracks = collection.defaultTracks;
-        m_defaultTracks->erase(id);
-        if (m_defaultTracks->empty() && m_ownTracks.count(id) == 0)
-            m_defaultTracks.reset();
+        m_defaultTracks = ListDefaults();
+        TakeDefaultMark(id);
     }
     ChangeTrack(id, [&](SubtitleTrack& track) { SetNames(properties, track); });
+}
+
+void FilmSubtitles::TakeDefaultMark(SubtitleTrackID const& id)
+{
+    if (!m_defaultTracks || m_defaultTracks->erase(id) == 0)
+        return;
+    if (m_defaultTracks->empty() && m_ownTracks.count(id) == 0)
+        m_defaultTracks.reset();
 }
 
 void FilmSubtitles::SetEncoding(SubtitleTrackID const& id, Entities::SubtitleEncoding encoding)
@@ -423,13 +432,22 @@ void FilmSubtitles::Normalise(SubtitleCollection& collection) const
 void FilmSubtitles::MarkDefaults(SubtitleCollection& collection) const
 {
     collection.defaultTracks.emplace();
-    for (auto const& [id, track] : collection.tracks)
-    {
-        Proc::StreamInfo const* stream = track.isExternal ? nullptr : m_media.FindStream(track.streamIndex);
-        bool const isMarkedInFilm = stream != nullptr && stream->isDefault;
-        if (m_defaultTracks ? m_defaultTracks->count(id) > 0 : isMarkedInFilm)
+    for (SubtitleTrackID const& id : ListDefaults())
+        if (collection.tracks.count(id) > 0)
             collection.defaultTracks->insert(id);
-    }
+}
+
+/// Of the film's tracks that are left out, too: they may be put back.
+std::set<SubtitleTrackID> FilmSubtitles::ListDefaults() const
+{
+    if (m_defaultTracks)
+        return *m_defaultTracks;
+    std::set<SubtitleTrackID> defaults;
+    for (auto const& [id, track] : m_ownTracks)
+        if (Proc::StreamInfo const* stream = m_media.FindStream(track.streamIndex);
+            stream != nullptr && stream->isDefault)
+            defaults.insert(id);
+    return defaults;
 }
 
 bool FilmSubtitles::IsListed(ioPath const& path) const

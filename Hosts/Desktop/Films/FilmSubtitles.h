@@ -93,6 +93,8 @@ private:
     void LearnSources(Collection& collection);
     void Normalise(Collection& collection) const;
     void MarkDefaults(Collection& collection) const;
+    [[nodiscard]] std::set<TrackID> ListDefaults() const;
+    void TakeDefaultMark(TrackID const& id);
     [[nodiscard]] bool IsListed(ioPath const& path) const;
     void NoteTrack(Track const& track, FilmChoice& choice) const;
     void RestoreTracks(FilmChoice const& choice, Collection& collection);

@@ -171,6 +171,12 @@ TEST_F(FilmTest, PropertiesGoOutWithTheTrack)
     EXPECT_TRUE(film.GetTrackProperties(ownId).isDefault);
     EXPECT_EQ(film.GetCollection().tracks.at(added).title, "added.srt");
     EXPECT_EQ(film.GetCollection().tracks.at(added).detail, "");
+
+    film.SetTrackProperties(added, {"ru", "", true, false});
+    EXPECT_FALSE(film.GetTrackProperties(ownId).isDefault);
+    film.LeaveOut(added);
+    film.SetTrackProperties(added, {"ru", "", true, false});
+    EXPECT_TRUE(film.GetTrackProperties(ownId).isDefault) << "the mark goes with the file that had it";
 }
 
 TEST_F(FilmTest, AnOffsetThatABitmapCannotCarryIsSaidAndTakenBack)
