@@ -76,7 +76,8 @@ public:
         if (!m_isKeeping)
             return;
         QByteArray const bytes = Collect();
-        if (bytes != m_written)
+        // What was asked for last may have been written without anybody's having heard of it.
+        if (bytes != m_written || m_requested != m_written)
             WriteFile(m_file, bytes);
     }
 
