@@ -3,9 +3,7 @@
 #include "Desktop/Conversion/ConversionQueue.h"
 #include "Desktop/Films/ConversionJob.h"
 #include "Desktop/Films/FilmList.h"
-
-#include <QMessageBox>
-#include <QPushButton>
+#include "Desktop/Window/LossQuestion.h"
 
 #include <algorithm>
 #include <iterator>
@@ -134,15 +132,10 @@ bool ConversionControl::ConfirmClose(QWidget* window) const
 {
     if (!m_queue.IsActive() && m_following.empty())
         return true;
-    QMessageBox box(QMessageBox::Question, tr("Quit while converting?"),
+    return Confirm({tr("Quit while converting?"),
                     tr("Films are still being converted. Quitting cancels them; what is finished stays."),
-                    QMessageBox::NoButton, window);
-    auto* quit = box.addButton(tr("Cancel conversions and quit"), QMessageBox::DestructiveRole);
-    auto* stay = box.addButton(tr("Go on converting"), QMessageBox::RejectRole);
-    box.setDefaultButton(stay);
-    box.setEscapeButton(stay);
-    box.exec();
-    return box.clickedButton() == quit;
+                    tr("Cancel conversions and quit"), tr("Go on converting")},
+                   window);
 }
 
 } // namespace Korvex::Desktop

@@ -8,6 +8,7 @@
 #include "Desktop/Window/ApplyReportDialog.h"
 #include "Desktop/Window/ConversionControl.h"
 #include "Desktop/Window/FilmListPane.h"
+#include "Desktop/Window/LossQuestion.h"
 #include "Desktop/Window/Notices.h"
 #include "Desktop/Window/RevealFile.h"
 
@@ -17,8 +18,6 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMenu>
-#include <QMessageBox>
-#include <QPushButton>
 
 #include <algorithm>
 #include <optional>
@@ -63,7 +62,10 @@ void FilmActions::Connect()
     on(ActionId::CopyCommand, [this] { CopyCommand(); });
     // Queued: it comes from a button inside the popup, which closes first.
     connect(&m_parts.films, &FilmList::ApplyToAllRequested, this, &FilmActions::ApplyChoiceToAll, Qt::QueuedConnection);
-    connect(m_parts.actions.Get(ActionId::Pause), &QAction::toggled, &m_parts.queue, &ConversionQueue::SetPaused);
+    QAction* const pause = m_parts.actions.Get(ActionId::Pause);
+    connect(pause, &QAction::toggled, &m_parts.queue, &ConversionQueue::SetPaused);
+    // The queue's pause ends with what it had to do.
+    connect(&m_parts.queue, &ConversionQueue::Finished, pause, [pause] { pause->setChecked(false); });
     connect(&pane, &FilmListPane::RevealRequested, this, &FilmActions::Reveal);
 
     connect(&pane, &FilmListPane::CurrentFilmChanged, this, &FilmActions::UpdateEnabled);
@@ -102,10 +104,10 @@ void FilmActions::UpdateEnabled()
 void FilmActions::RemoveSelected()
 {
     std::vector<Film*> const films = m_parts.pane.GetSelectedFilms();
-    if (!ConfirmRemoval(films))
-        return;
     std::vector<FilmId> ids;
     std::transform(films.begin(), films.end(), std::back_inserter(ids), [](Film const* film) { return film->GetId(); });
+    if (!ConfirmRemoval(films))
+        return;
     for (FilmId const id : ids)
     {
         m_parts.control.Cancel(id);
@@ -122,15 +124,10 @@ bool FilmActions::ConfirmRemoval(std::vector<Film*> const& films) const
     if (converting == films.end())
         return true;
     QString const name = QString::fromStdString((*converting)->GetPath().FileName());
-    QMessageBox box(QMessageBox::Question, tr("Remove a film that is being converted?"),
+    return Confirm({tr("Remove a film that is being converted?"),
                     tr("\"%1\" is being converted. Removing it cancels its conversion.").arg(name),
-                    QMessageBox::NoButton, &m_parts.window);
-    auto* remove = box.addButton(tr("Cancel conversion and remove"), QMessageBox::DestructiveRole);
-    auto* keep = box.addButton(tr("Keep it"), QMessageBox::RejectRole);
-    box.setDefaultButton(keep);
-    box.setEscapeButton(keep);
-    box.exec();
-    return box.clickedButton() == remove;
+                    tr("Cancel conversion and remove"), tr("Keep it")},
+                   &m_parts.window);
 }
 
 void FilmActions::Reveal(Film* film)

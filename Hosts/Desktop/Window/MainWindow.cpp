@@ -235,7 +235,7 @@ void MainWindow::changeEvent(QEvent* event)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(m_control->ConfirmClose(this));
+    event->setAccepted(m_control->ConfirmClose(this) && m_trackActions->ConfirmClose());
     if (event->isAccepted())
         KeepPlaces();
 }

@@ -1,5 +1,6 @@
 #include "Desktop/Window/TrackActions.h"
 
+#include "Desktop/Window/LossQuestion.h"
 #include "Desktop/Window/ModulePanels.h"
 #include "Desktop/Window/Notices.h"
 #include "Desktop/Window/SaveTrack.h"
@@ -44,6 +45,16 @@ void TrackActions::ShowFilm(Film* film)
     if (film != nullptr)
         m_extraction = connect(film, &Film::ExtractRequested, this,
                                [this](SubtitleTrackID const& id) { m_saving->Save(*m_film, id); });
+}
+
+bool TrackActions::ConfirmClose() const
+{
+    if (!m_saving->IsActive())
+        return true;
+    return Confirm({tr("Quit while saving?"),
+                    tr("A track is still being saved. Quitting cancels that, and no file is written."),
+                    tr("Cancel saving and quit"), tr("Go on saving")},
+                   &m_window);
 }
 
 void TrackActions::OpenMenu(SubtitleTrackID const& id, QPoint const& place)

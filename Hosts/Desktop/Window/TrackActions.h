@@ -26,6 +26,8 @@ public:
 
     /// The film that the panels show; null: none.
     void ShowFilm(Film* film);
+    /// Asks when a track is still being saved. True: go on.
+    [[nodiscard]] bool ConfirmClose() const;
 
 private:
     void OpenMenu(Converter::Subtitles::Entities::SubtitleTrackID const& id, QPoint const& place);

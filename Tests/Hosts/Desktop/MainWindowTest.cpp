@@ -295,6 +295,13 @@ TEST_F(MainWindowTest, ClosingAsksWhileFilmsAreConverted)
     AnswerNextQuestion(QMessageBox::RejectRole);
     EXPECT_FALSE(GetWindow().close());
     EXPECT_TRUE(GetWindow().isVisible());
+
+    Trigger("cancelAllAction");
+    WaitUntil([this] { return !GetQueue().IsActive(); });
+    EXPECT_FALSE(Get<QAction>("pauseAction").isChecked()) << "a pause ends with what was paused";
+    Trigger("convertAllAction");
+    Trigger("pauseAction");
+    EXPECT_TRUE(GetQueue().IsPaused());
     AnswerNextQuestion(QMessageBox::DestructiveRole);
     EXPECT_TRUE(GetWindow().close());
 }
