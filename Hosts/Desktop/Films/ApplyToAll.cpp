@@ -1,6 +1,7 @@
 #include "Desktop/Films/ApplyToAll.h"
 
 #include "Common/SoftPlan.h"
+#include "Desktop/Films/FilePatterns.h"
 #include "Desktop/Films/FilmList.h"
 #include "Desktop/Films/FilmWords.h"
 
@@ -57,28 +58,6 @@ SubtitleTrack const* FindTrackLike(SubtitleTrack const& wanted, FilmSubtitleStat
             best = track;
     }
     return best;
-}
-
-/// The folder that lies to the other film as the file's folder lies to its own; the file's own when it lies elsewhere.
-ioPath FindFolderLike(ioPath const& file, ioPath const& source, ioPath const& other)
-{
-    std::string const folder = file.Parent().utf8string();
-    std::string const beside = source.Parent().utf8string();
-    if (folder == beside)
-        return other.Parent();
-    bool const isBelow = folder.size() > beside.size() + 1 && folder.compare(0, beside.size(), beside) == 0 &&
-                         folder[beside.size()] == '/';
-    return isBelow ? other.Parent() / folder.substr(beside.size() + 1) : file.Parent();
-}
-
-/// Empty when the file is not called after its film.
-ioPath NameFileLike(ioPath const& file, ioPath const& source, ioPath const& other)
-{
-    std::string const name = file.FileName();
-    std::string const stem = source.Stem();
-    if (stem.empty() || name.compare(0, stem.size(), stem) != 0)
-        return {};
-    return FindFolderLike(file, source, other) / (other.Stem() + name.substr(stem.size()));
 }
 
 SubtitleTrack const* FindDrawn(SubtitleCollection const& collection)

@@ -4,6 +4,7 @@
 #include "Desktop/Films/AddedFiles.h"
 #include "Desktop/Films/ConversionJob.h"
 #include "Desktop/Films/FileKinds.h"
+#include "Desktop/Films/FilePatterns.h"
 #include "Desktop/Films/FileThread.h"
 #include "Desktop/Films/FilmSubtitles.h"
 #include "Desktop/Films/FilmWords.h"
@@ -36,10 +37,11 @@ public:
     Impl(Film& owner, Hosts::HostServices& services, FilmId filmId, ioPath filmPath,
          std::shared_ptr<FileThread> fileThread)
         : id(filmId),
-          path(std::move(filmPath)),
+          path(filmPath),
           subtitles(services),
           m_owner(owner),
           m_services(services),
+          m_choicePath(std::move(filmPath)),
           m_addedFiles(fileThread ? std::move(fileThread) : std::make_shared<FileThread>(),
                        [this](AddedFiles::Encodings const& encodings) { NoteEncodings(encodings); }),
           m_observation(subtitles.GetInteractor(), *this)
@@ -56,7 +58,9 @@ public:
 
     void SetMedia(Proc::MediaInfo const& read)
     {
-        FilmChoice const choice = m_wasRead ? subtitles.GetChoice() : m_waitingChoice;
+        FilmChoice const choice =
+            FollowFilm(m_wasRead ? subtitles.GetChoice() : m_waitingChoice, m_choicePath, read.path);
+        m_choicePath = read.path;
         media = read;
         state = FilmState::Ready;
         m_wasRead = true;
@@ -193,6 +197,7 @@ private:
     bool m_wasRead = false;
     bool m_isChangeNoted = false;
     Core::Error m_failure;      ///< why the film cannot be used
+    ioPath m_choicePath;        ///< where the film was when the choice was made
     FilmChoice m_waitingChoice; ///< until the film has been read
     std::vector<ioPath> m_waitingFiles;
     AddedFiles m_addedFiles;

@@ -109,6 +109,32 @@ TEST_F(FilmListTest, AFilmThatGoesKeepsItsChoiceUntilItIsThereAgain)
     EXPECT_TRUE(film.IsConvertible());
 }
 
+TEST_F(FilmListTest, SubtitleFilesThatMovedWithTheFilmAreTakenFromThere)
+{
+    ASSERT_EQ(Core::CreateFolders(m_folder / "old/Subs"), Core::SUCCESS);
+    WriteText("old/film.en.srt", HELLO_SRT);
+    WriteText("old/film.de.srt", HELLO_SRT);
+    ioPath const stays = WriteText("stays.srt", HELLO_SRT);
+    Film& film = Open(MakeFilm("old/film.mkv"));
+    film.LeaveOut(SubtitleTrackID(m_folder / "old/film.de.srt"));
+    film.AddSubtitleFiles({stays, WriteText("old/Subs/film.ru.srt", RUSSIAN_SRT)});
+    film.SetOffset(SubtitleTrackID(m_folder / "old/Subs/film.ru.srt"), 0.5);
+    QString const folder = QString::fromStdString(m_folder.Path().utf8string());
+    ASSERT_TRUE(QFile::rename(folder + "/old", folder + "/new"));
+    m_list.CheckFiles();
+    WaitUntil([&] { return film.GetState() == FilmState::Missing; });
+
+    EXPECT_TRUE(m_list.Locate(film.GetId(), m_folder / "new/film.mkv"));
+    WaitUntil([&] { return film.IsConvertible(); });
+    ASSERT_TRUE(film.GetDrawnTrack());
+    EXPECT_EQ(film.GetDrawnTrack()->path, m_folder / "new/Subs/film.ru.srt");
+    EXPECT_EQ(film.GetDrawnTrack()->synchronizationOffset, 0.5);
+    auto const tracks = film.GetCollection().tracks;
+    EXPECT_EQ(tracks.size(), 3U) << "what was removed stays away";
+    EXPECT_EQ(tracks.count(SubtitleTrackID(m_folder / "new/film.en.srt")), 1U);
+    EXPECT_EQ(tracks.count(SubtitleTrackID(stays)), 1U);
+}
+
 TEST_F(FilmListTest, FilmsAndSubtitlesThatAreNotWhatTheyWereAreReadAnew)
 {
     ioPath const path = WriteText("film.mkv", "half a copy");
@@ -134,6 +160,22 @@ TEST_F(FilmListTest, FilmsAndSubtitlesThatAreNotWhatTheyWereAreReadAnew)
     EXPECT_EQ(film.GetDrawnTrack()->path, subtitles);
     m_list.CheckFiles();
     m_list.Remove(film.GetId());
+}
+
+TEST_F(FilmListTest, OutputsOfFilmsWithTheLongestNamesCanBeWritten)
+{
+    std::string name;
+    while (name.size() < 250)
+        name += "\xF0\x9F\x8E\xA5"; // one character that takes two in the toolkit
+    ioPath const film = WriteText(name + ".ts", "film");
+    Desktop::OutputSettings settings;
+    settings.formatId = "m2ts";
+    for (int number = 1; number <= 2; ++number)
+    {
+        ioPath const output = MakeOutputPath(film, settings);
+        EXPECT_EQ(Core::WriteFile(output, "output", false), Core::SUCCESS) << output.utf8string();
+    }
+    EXPECT_EQ(Core::ListFolder(m_folder.Path()).size(), 3U);
 }
 
 } // namespace
