@@ -1,7 +1,7 @@
 #include "Desktop/Preview/CueStrip.h"
-#include "Desktop/Words/TimeTexts.h"
 
 #include "Desktop/Preview/PreviewTimes.h"
+#include "Desktop/Words/TimeTexts.h"
 
 #include "Gui/LookAndFeelManager.h"
 

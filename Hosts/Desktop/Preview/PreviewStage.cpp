@@ -1,5 +1,4 @@
 #include "Desktop/Preview/PreviewStage.h"
-#include "Desktop/Words/TimeTexts.h"
 
 #include "Desktop/Preview/CueStrip.h"
 #include "Desktop/Preview/HintLabel.h"
@@ -8,6 +7,7 @@
 #include "Desktop/Preview/PreviewTimes.h"
 #include "Desktop/Preview/TimeSlider.h"
 #include "Desktop/Words/ErrorWords.h"
+#include "Desktop/Words/TimeTexts.h"
 
 #include "Gui/Icons.h"
 #include "Gui/Style.h"
