@@ -2,7 +2,11 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QTimer>
 
+#include <algorithm>
+#include <chrono>
+#include <iterator>
 #include <utility>
 
 namespace Korvex::Desktop
@@ -10,6 +14,8 @@ namespace Korvex::Desktop
 
 namespace
 {
+
+constexpr std::chrono::milliseconds LONGEST_PORTION{10};
 
 QEvent::Type WakeType()
 {
@@ -78,15 +84,26 @@ void FileThread::Run()
     }
 }
 
+/// Many results at once are handed out in portions, so that the window lives in between. Not by another posted event:
+/// those are all taken together.
 void FileThread::Deliver()
 {
-    std::vector<Delivery> deliveries;
     {
         std::lock_guard const lock(m_mutex);
-        deliveries.swap(m_deliveries);
+        std::move(m_deliveries.begin(), m_deliveries.end(), std::back_inserter(m_due));
+        m_deliveries.clear();
     }
-    for (Delivery const& delivery : deliveries)
+    auto const end = std::chrono::steady_clock::now() + LONGEST_PORTION;
+    while (!m_due.empty())
+    {
+        Delivery const delivery = std::move(m_due.front());
+        m_due.pop_front();
         delivery();
+        if (m_due.empty() || std::chrono::steady_clock::now() < end)
+            continue;
+        QTimer::singleShot(0, this, [this] { Deliver(); });
+        return;
+    }
 }
 
 } // namespace Korvex::Desktop

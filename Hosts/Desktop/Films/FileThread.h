@@ -45,6 +45,7 @@ private:
     std::deque<Task> m_soon;
     std::deque<Task> m_later;
     std::vector<Delivery> m_deliveries;
+    std::deque<Delivery> m_due; ///< the GUI thread's own
     bool m_isStopping = false;
     std::thread m_thread; ///< started with the first task
 };
