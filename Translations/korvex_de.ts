@@ -733,6 +733,10 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <source>Where is &quot;%1&quot; now?</source>
         <translation type="unfinished">Wo ist „%1“ jetzt?</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is in the list already: show another file, or remove &quot;%2&quot; from the list.</source>
+        <translation type="unfinished">„%1“ ist schon in der Liste: Zeigen Sie eine andere Datei, oder entfernen Sie „%2“ aus der Liste.</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::Film</name>
@@ -1317,6 +1321,25 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     <message>
         <source>First lines of the text</source>
         <translation type="unfinished">Erste Zeilen des Textes</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::TrackActions</name>
+    <message>
+        <source>Quit while saving?</source>
+        <translation type="unfinished">Während des Speicherns beenden?</translation>
+    </message>
+    <message>
+        <source>A track is still being saved. Quitting cancels that, and no file is written.</source>
+        <translation type="unfinished">Es wird noch eine Spur gespeichert. Beim Beenden wird das abgebrochen, und es entsteht keine Datei.</translation>
+    </message>
+    <message>
+        <source>Cancel saving and quit</source>
+        <translation type="unfinished">Speichern abbrechen und beenden</translation>
+    </message>
+    <message>
+        <source>Go on saving</source>
+        <translation type="unfinished">Weiter speichern</translation>
     </message>
 </context>
 <context>

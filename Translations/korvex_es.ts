@@ -733,6 +733,10 @@ Se basa en Qt, FFmpeg y libass.</translation>
         <source>Where is &quot;%1&quot; now?</source>
         <translation type="unfinished">¿Dónde está «%1» ahora?</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is in the list already: show another file, or remove &quot;%2&quot; from the list.</source>
+        <translation type="unfinished">«%1» ya está en la lista: indique otro archivo o quite «%2» de la lista.</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::Film</name>
@@ -1317,6 +1321,25 @@ Se basa en Qt, FFmpeg y libass.</translation>
     <message>
         <source>First lines of the text</source>
         <translation type="unfinished">Primeras líneas del texto</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::TrackActions</name>
+    <message>
+        <source>Quit while saving?</source>
+        <translation type="unfinished">¿Salir mientras se guarda?</translation>
+    </message>
+    <message>
+        <source>A track is still being saved. Quitting cancels that, and no file is written.</source>
+        <translation type="unfinished">Aún se está guardando una pista. Al salir se cancela y no se escribe ningún archivo.</translation>
+    </message>
+    <message>
+        <source>Cancel saving and quit</source>
+        <translation type="unfinished">Cancelar el guardado y salir</translation>
+    </message>
+    <message>
+        <source>Go on saving</source>
+        <translation type="unfinished">Seguir guardando</translation>
     </message>
 </context>
 <context>

@@ -733,6 +733,10 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <source>Where is &quot;%1&quot; now?</source>
         <translation type="unfinished">Où se trouve «&#xa0;%1&#xa0;» maintenant&#xa0;?</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is in the list already: show another file, or remove &quot;%2&quot; from the list.</source>
+        <translation type="unfinished">«&#xa0;%1&#xa0;» est déjà dans la liste&#xa0;: indiquez un autre fichier ou retirez «&#xa0;%2&#xa0;» de la liste.</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::Film</name>
@@ -1317,6 +1321,25 @@ Il repose sur Qt, FFmpeg et libass.</translation>
     <message>
         <source>First lines of the text</source>
         <translation type="unfinished">Premières lignes du texte</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::TrackActions</name>
+    <message>
+        <source>Quit while saving?</source>
+        <translation type="unfinished">Quitter pendant l&apos;enregistrement&#xa0;?</translation>
+    </message>
+    <message>
+        <source>A track is still being saved. Quitting cancels that, and no file is written.</source>
+        <translation type="unfinished">Une piste est encore en cours d&apos;enregistrement. Quitter l&apos;annule, et aucun fichier n&apos;est écrit.</translation>
+    </message>
+    <message>
+        <source>Cancel saving and quit</source>
+        <translation type="unfinished">Annuler l&apos;enregistrement et quitter</translation>
+    </message>
+    <message>
+        <source>Go on saving</source>
+        <translation type="unfinished">Continuer l&apos;enregistrement</translation>
     </message>
 </context>
 <context>

@@ -729,6 +729,10 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <source>Where is &quot;%1&quot; now?</source>
         <translation type="unfinished">「%1」は今どこにありますか？</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is in the list already: show another file, or remove &quot;%2&quot; from the list.</source>
+        <translation type="unfinished">「%1」はすでに一覧にあります。別のファイルを指定するか、「%2」を一覧から削除してください。</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::Film</name>
@@ -1304,6 +1308,25 @@ Qt、FFmpeg、libass を利用しています。</translation>
     <message>
         <source>First lines of the text</source>
         <translation type="unfinished">テキストの最初の行</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::TrackActions</name>
+    <message>
+        <source>Quit while saving?</source>
+        <translation type="unfinished">保存中ですが終了しますか？</translation>
+    </message>
+    <message>
+        <source>A track is still being saved. Quitting cancels that, and no file is written.</source>
+        <translation type="unfinished">トラックを保存しています。終了すると中止され、ファイルは作成されません。</translation>
+    </message>
+    <message>
+        <source>Cancel saving and quit</source>
+        <translation type="unfinished">保存を中止して終了</translation>
+    </message>
+    <message>
+        <source>Go on saving</source>
+        <translation type="unfinished">保存を続ける</translation>
     </message>
 </context>
 <context>

@@ -737,6 +737,10 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <source>Where is &quot;%1&quot; now?</source>
         <translation type="unfinished">Gdzie teraz jest „%1”?</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is in the list already: show another file, or remove &quot;%2&quot; from the list.</source>
+        <translation type="unfinished">„%1” jest już na liście: wskaż inny plik albo usuń „%2” z listy.</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::Film</name>
@@ -1330,6 +1334,25 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
     <message>
         <source>First lines of the text</source>
         <translation type="unfinished">Pierwsze wiersze tekstu</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::TrackActions</name>
+    <message>
+        <source>Quit while saving?</source>
+        <translation type="unfinished">Zakończyć podczas zapisywania?</translation>
+    </message>
+    <message>
+        <source>A track is still being saved. Quitting cancels that, and no file is written.</source>
+        <translation type="unfinished">Trwa zapisywanie ścieżki. Zakończenie je anuluje i żaden plik nie powstanie.</translation>
+    </message>
+    <message>
+        <source>Cancel saving and quit</source>
+        <translation type="unfinished">Anuluj zapisywanie i zakończ</translation>
+    </message>
+    <message>
+        <source>Go on saving</source>
+        <translation type="unfinished">Zapisuj dalej</translation>
     </message>
 </context>
 <context>

@@ -737,6 +737,10 @@ It is built on Qt, FFmpeg and libass.</source>
         <source>Where is &quot;%1&quot; now?</source>
         <translation type="unfinished">Где теперь «%1»?</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is in the list already: show another file, or remove &quot;%2&quot; from the list.</source>
+        <translation type="unfinished">«%1» уже есть в списке: укажите другой файл или уберите «%2» из списка.</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::Film</name>
@@ -1330,6 +1334,25 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>First lines of the text</source>
         <translation type="unfinished">Первые строки текста</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::TrackActions</name>
+    <message>
+        <source>Quit while saving?</source>
+        <translation type="unfinished">Выйти во время сохранения?</translation>
+    </message>
+    <message>
+        <source>A track is still being saved. Quitting cancels that, and no file is written.</source>
+        <translation type="unfinished">Дорожка ещё сохраняется. При выходе это будет отменено, и файл не будет записан.</translation>
+    </message>
+    <message>
+        <source>Cancel saving and quit</source>
+        <translation type="unfinished">Отменить сохранение и выйти</translation>
+    </message>
+    <message>
+        <source>Go on saving</source>
+        <translation type="unfinished">Продолжить сохранение</translation>
     </message>
 </context>
 <context>

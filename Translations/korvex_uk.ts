@@ -737,6 +737,10 @@ It is built on Qt, FFmpeg and libass.</source>
         <source>Where is &quot;%1&quot; now?</source>
         <translation type="unfinished">Де тепер «%1»?</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is in the list already: show another file, or remove &quot;%2&quot; from the list.</source>
+        <translation type="unfinished">«%1» вже є у списку: вкажіть інший файл або приберіть «%2» зі списку.</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::Film</name>
@@ -1330,6 +1334,25 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>First lines of the text</source>
         <translation type="unfinished">Перші рядки тексту</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::TrackActions</name>
+    <message>
+        <source>Quit while saving?</source>
+        <translation type="unfinished">Вийти під час збереження?</translation>
+    </message>
+    <message>
+        <source>A track is still being saved. Quitting cancels that, and no file is written.</source>
+        <translation type="unfinished">Доріжка ще зберігається. Вихід це скасує, і файл не буде записано.</translation>
+    </message>
+    <message>
+        <source>Cancel saving and quit</source>
+        <translation type="unfinished">Скасувати збереження й вийти</translation>
+    </message>
+    <message>
+        <source>Go on saving</source>
+        <translation type="unfinished">Продовжити збереження</translation>
     </message>
 </context>
 <context>

@@ -729,6 +729,10 @@ It is built on Qt, FFmpeg and libass.</source>
         <source>Where is &quot;%1&quot; now?</source>
         <translation type="unfinished">“%1”现在在哪里？</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is in the list already: show another file, or remove &quot;%2&quot; from the list.</source>
+        <translation type="unfinished">“%1”已在列表中：请指定其他文件，或将“%2”从列表中移除。</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::Film</name>
@@ -1304,6 +1308,25 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>First lines of the text</source>
         <translation type="unfinished">文本的前几行</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::TrackActions</name>
+    <message>
+        <source>Quit while saving?</source>
+        <translation type="unfinished">正在保存，要退出吗？</translation>
+    </message>
+    <message>
+        <source>A track is still being saved. Quitting cancels that, and no file is written.</source>
+        <translation type="unfinished">仍有轨道在保存。退出会将其取消，不会写入文件。</translation>
+    </message>
+    <message>
+        <source>Cancel saving and quit</source>
+        <translation type="unfinished">取消保存并退出</translation>
+    </message>
+    <message>
+        <source>Go on saving</source>
+        <translation type="unfinished">继续保存</translation>
     </message>
 </context>
 <context>
