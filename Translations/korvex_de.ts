@@ -1440,6 +1440,329 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     </message>
 </context>
 <context>
+    <name>Language</name>
+    <message>
+        <source>Afrikaans</source>
+        <translation type="unfinished">Afrikaans</translation>
+    </message>
+    <message>
+        <source>Albanian</source>
+        <translation type="unfinished">Albanisch</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation type="unfinished">Arabisch</translation>
+    </message>
+    <message>
+        <source>Aragonese</source>
+        <translation type="unfinished">Aragonesisch</translation>
+    </message>
+    <message>
+        <source>Armenian</source>
+        <translation type="unfinished">Armenisch</translation>
+    </message>
+    <message>
+        <source>Asturian</source>
+        <translation type="unfinished">Asturisch</translation>
+    </message>
+    <message>
+        <source>Azerbaijani</source>
+        <translation type="unfinished">Aserbaidschanisch</translation>
+    </message>
+    <message>
+        <source>Basque</source>
+        <translation type="unfinished">Baskisch</translation>
+    </message>
+    <message>
+        <source>Belarusian</source>
+        <translation type="unfinished">Belarussisch</translation>
+    </message>
+    <message>
+        <source>Bengali</source>
+        <translation type="unfinished">Bengalisch</translation>
+    </message>
+    <message>
+        <source>Bosnian</source>
+        <translation type="unfinished">Bosnisch</translation>
+    </message>
+    <message>
+        <source>Breton</source>
+        <translation type="unfinished">Bretonisch</translation>
+    </message>
+    <message>
+        <source>Bulgarian</source>
+        <translation type="unfinished">Bulgarisch</translation>
+    </message>
+    <message>
+        <source>Burmese</source>
+        <translation type="unfinished">Birmanisch</translation>
+    </message>
+    <message>
+        <source>Catalan</source>
+        <translation type="unfinished">Katalanisch</translation>
+    </message>
+    <message>
+        <source>Chinese (Simplified)</source>
+        <translation type="unfinished">Chinesisch (vereinfacht)</translation>
+    </message>
+    <message>
+        <source>Chinese (Traditional)</source>
+        <translation type="unfinished">Chinesisch (traditionell)</translation>
+    </message>
+    <message>
+        <source>Chinese (Bilingual)</source>
+        <translation type="unfinished">Chinesisch (zweisprachig)</translation>
+    </message>
+    <message>
+        <source>Croatian</source>
+        <translation type="unfinished">Kroatisch</translation>
+    </message>
+    <message>
+        <source>Czech</source>
+        <translation type="unfinished">Tschechisch</translation>
+    </message>
+    <message>
+        <source>Danish</source>
+        <translation type="unfinished">Dänisch</translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation type="unfinished">Niederländisch</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation type="unfinished">Englisch</translation>
+    </message>
+    <message>
+        <source>Esperanto</source>
+        <translation type="unfinished">Esperanto</translation>
+    </message>
+    <message>
+        <source>Estonian</source>
+        <translation type="unfinished">Estnisch</translation>
+    </message>
+    <message>
+        <source>Extremaduran</source>
+        <translation type="unfinished">Extremadurisch</translation>
+    </message>
+    <message>
+        <source>Finnish</source>
+        <translation type="unfinished">Finnisch</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation type="unfinished">Französisch</translation>
+    </message>
+    <message>
+        <source>Galician</source>
+        <translation type="unfinished">Galicisch</translation>
+    </message>
+    <message>
+        <source>Georgian</source>
+        <translation type="unfinished">Georgisch</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation type="unfinished">Deutsch</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation type="unfinished">Griechisch</translation>
+    </message>
+    <message>
+        <source>Hebrew</source>
+        <translation type="unfinished">Hebräisch</translation>
+    </message>
+    <message>
+        <source>Hindi</source>
+        <translation type="unfinished">Hindi</translation>
+    </message>
+    <message>
+        <source>Hungarian</source>
+        <translation type="unfinished">Ungarisch</translation>
+    </message>
+    <message>
+        <source>Icelandic</source>
+        <translation type="unfinished">Isländisch</translation>
+    </message>
+    <message>
+        <source>Indonesian</source>
+        <translation type="unfinished">Indonesisch</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation type="unfinished">Italienisch</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation type="unfinished">Japanisch</translation>
+    </message>
+    <message>
+        <source>Kannada</source>
+        <translation type="unfinished">Kannada</translation>
+    </message>
+    <message>
+        <source>Kazakh</source>
+        <translation type="unfinished">Kasachisch</translation>
+    </message>
+    <message>
+        <source>Khmer</source>
+        <translation type="unfinished">Khmer</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation type="unfinished">Koreanisch</translation>
+    </message>
+    <message>
+        <source>Kurdish</source>
+        <translation type="unfinished">Kurdisch</translation>
+    </message>
+    <message>
+        <source>Latvian</source>
+        <translation type="unfinished">Lettisch</translation>
+    </message>
+    <message>
+        <source>Lithuanian</source>
+        <translation type="unfinished">Litauisch</translation>
+    </message>
+    <message>
+        <source>Luxembourgish</source>
+        <translation type="unfinished">Luxemburgisch</translation>
+    </message>
+    <message>
+        <source>Macedonian</source>
+        <translation type="unfinished">Mazedonisch</translation>
+    </message>
+    <message>
+        <source>Malay</source>
+        <translation type="unfinished">Malaiisch</translation>
+    </message>
+    <message>
+        <source>Malayalam</source>
+        <translation type="unfinished">Malayalam</translation>
+    </message>
+    <message>
+        <source>Manipuri</source>
+        <translation type="unfinished">Manipuri</translation>
+    </message>
+    <message>
+        <source>Mongolian</source>
+        <translation type="unfinished">Mongolisch</translation>
+    </message>
+    <message>
+        <source>Montenegrin</source>
+        <translation type="unfinished">Montenegrinisch</translation>
+    </message>
+    <message>
+        <source>Northern Sami</source>
+        <translation type="unfinished">Nordsamisch</translation>
+    </message>
+    <message>
+        <source>Norwegian</source>
+        <translation type="unfinished">Norwegisch</translation>
+    </message>
+    <message>
+        <source>Occitan</source>
+        <translation type="unfinished">Okzitanisch</translation>
+    </message>
+    <message>
+        <source>Persian</source>
+        <translation type="unfinished">Persisch</translation>
+    </message>
+    <message>
+        <source>Polish</source>
+        <translation type="unfinished">Polnisch</translation>
+    </message>
+    <message>
+        <source>Portuguese</source>
+        <translation type="unfinished">Portugiesisch</translation>
+    </message>
+    <message>
+        <source>Portuguese (Brazil)</source>
+        <translation type="unfinished">Portugiesisch (Brasilien)</translation>
+    </message>
+    <message>
+        <source>Portuguese (Mozambique)</source>
+        <translation type="unfinished">Portugiesisch (Mosambik)</translation>
+    </message>
+    <message>
+        <source>Romanian</source>
+        <translation type="unfinished">Rumänisch</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation type="unfinished">Russisch</translation>
+    </message>
+    <message>
+        <source>Serbian</source>
+        <translation type="unfinished">Serbisch</translation>
+    </message>
+    <message>
+        <source>Sinhalese</source>
+        <translation type="unfinished">Singhalesisch</translation>
+    </message>
+    <message>
+        <source>Slovak</source>
+        <translation type="unfinished">Slowakisch</translation>
+    </message>
+    <message>
+        <source>Slovenian</source>
+        <translation type="unfinished">Slowenisch</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation type="unfinished">Spanisch</translation>
+    </message>
+    <message>
+        <source>Swahili</source>
+        <translation type="unfinished">Suaheli</translation>
+    </message>
+    <message>
+        <source>Swedish</source>
+        <translation type="unfinished">Schwedisch</translation>
+    </message>
+    <message>
+        <source>Syriac</source>
+        <translation type="unfinished">Syrisch</translation>
+    </message>
+    <message>
+        <source>Tagalog</source>
+        <translation type="unfinished">Tagalog</translation>
+    </message>
+    <message>
+        <source>Tamil</source>
+        <translation type="unfinished">Tamil</translation>
+    </message>
+    <message>
+        <source>Telugu</source>
+        <translation type="unfinished">Telugu</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation type="unfinished">Thailändisch</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation type="unfinished">Türkisch</translation>
+    </message>
+    <message>
+        <source>Ukrainian</source>
+        <translation type="unfinished">Ukrainisch</translation>
+    </message>
+    <message>
+        <source>Urdu</source>
+        <translation type="unfinished">Urdu</translation>
+    </message>
+    <message>
+        <source>Uzbek</source>
+        <translation type="unfinished">Usbekisch</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation type="unfinished">Vietnamesisch</translation>
+    </message>
+</context>
+<context>
     <name>NumberTexts</name>
     <message>
         <source>%1%</source>

@@ -1440,6 +1440,329 @@ Se basa en Qt, FFmpeg y libass.</translation>
     </message>
 </context>
 <context>
+    <name>Language</name>
+    <message>
+        <source>Afrikaans</source>
+        <translation type="unfinished">afrikáans</translation>
+    </message>
+    <message>
+        <source>Albanian</source>
+        <translation type="unfinished">albanés</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation type="unfinished">árabe</translation>
+    </message>
+    <message>
+        <source>Aragonese</source>
+        <translation type="unfinished">aragonés</translation>
+    </message>
+    <message>
+        <source>Armenian</source>
+        <translation type="unfinished">armenio</translation>
+    </message>
+    <message>
+        <source>Asturian</source>
+        <translation type="unfinished">asturiano</translation>
+    </message>
+    <message>
+        <source>Azerbaijani</source>
+        <translation type="unfinished">azerbaiyano</translation>
+    </message>
+    <message>
+        <source>Basque</source>
+        <translation type="unfinished">euskera</translation>
+    </message>
+    <message>
+        <source>Belarusian</source>
+        <translation type="unfinished">bielorruso</translation>
+    </message>
+    <message>
+        <source>Bengali</source>
+        <translation type="unfinished">bengalí</translation>
+    </message>
+    <message>
+        <source>Bosnian</source>
+        <translation type="unfinished">bosnio</translation>
+    </message>
+    <message>
+        <source>Breton</source>
+        <translation type="unfinished">bretón</translation>
+    </message>
+    <message>
+        <source>Bulgarian</source>
+        <translation type="unfinished">búlgaro</translation>
+    </message>
+    <message>
+        <source>Burmese</source>
+        <translation type="unfinished">birmano</translation>
+    </message>
+    <message>
+        <source>Catalan</source>
+        <translation type="unfinished">catalán</translation>
+    </message>
+    <message>
+        <source>Chinese (Simplified)</source>
+        <translation type="unfinished">chino (simplificado)</translation>
+    </message>
+    <message>
+        <source>Chinese (Traditional)</source>
+        <translation type="unfinished">chino (tradicional)</translation>
+    </message>
+    <message>
+        <source>Chinese (Bilingual)</source>
+        <translation type="unfinished">chino (bilingüe)</translation>
+    </message>
+    <message>
+        <source>Croatian</source>
+        <translation type="unfinished">croata</translation>
+    </message>
+    <message>
+        <source>Czech</source>
+        <translation type="unfinished">checo</translation>
+    </message>
+    <message>
+        <source>Danish</source>
+        <translation type="unfinished">danés</translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation type="unfinished">neerlandés</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation type="unfinished">inglés</translation>
+    </message>
+    <message>
+        <source>Esperanto</source>
+        <translation type="unfinished">esperanto</translation>
+    </message>
+    <message>
+        <source>Estonian</source>
+        <translation type="unfinished">estonio</translation>
+    </message>
+    <message>
+        <source>Extremaduran</source>
+        <translation type="unfinished">extremeño</translation>
+    </message>
+    <message>
+        <source>Finnish</source>
+        <translation type="unfinished">finés</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation type="unfinished">francés</translation>
+    </message>
+    <message>
+        <source>Galician</source>
+        <translation type="unfinished">gallego</translation>
+    </message>
+    <message>
+        <source>Georgian</source>
+        <translation type="unfinished">georgiano</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation type="unfinished">alemán</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation type="unfinished">griego</translation>
+    </message>
+    <message>
+        <source>Hebrew</source>
+        <translation type="unfinished">hebreo</translation>
+    </message>
+    <message>
+        <source>Hindi</source>
+        <translation type="unfinished">hindi</translation>
+    </message>
+    <message>
+        <source>Hungarian</source>
+        <translation type="unfinished">húngaro</translation>
+    </message>
+    <message>
+        <source>Icelandic</source>
+        <translation type="unfinished">islandés</translation>
+    </message>
+    <message>
+        <source>Indonesian</source>
+        <translation type="unfinished">indonesio</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation type="unfinished">italiano</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation type="unfinished">japonés</translation>
+    </message>
+    <message>
+        <source>Kannada</source>
+        <translation type="unfinished">canarés</translation>
+    </message>
+    <message>
+        <source>Kazakh</source>
+        <translation type="unfinished">kazajo</translation>
+    </message>
+    <message>
+        <source>Khmer</source>
+        <translation type="unfinished">jemer</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation type="unfinished">coreano</translation>
+    </message>
+    <message>
+        <source>Kurdish</source>
+        <translation type="unfinished">kurdo</translation>
+    </message>
+    <message>
+        <source>Latvian</source>
+        <translation type="unfinished">letón</translation>
+    </message>
+    <message>
+        <source>Lithuanian</source>
+        <translation type="unfinished">lituano</translation>
+    </message>
+    <message>
+        <source>Luxembourgish</source>
+        <translation type="unfinished">luxemburgués</translation>
+    </message>
+    <message>
+        <source>Macedonian</source>
+        <translation type="unfinished">macedonio</translation>
+    </message>
+    <message>
+        <source>Malay</source>
+        <translation type="unfinished">malayo</translation>
+    </message>
+    <message>
+        <source>Malayalam</source>
+        <translation type="unfinished">malayálam</translation>
+    </message>
+    <message>
+        <source>Manipuri</source>
+        <translation type="unfinished">manipurí</translation>
+    </message>
+    <message>
+        <source>Mongolian</source>
+        <translation type="unfinished">mongol</translation>
+    </message>
+    <message>
+        <source>Montenegrin</source>
+        <translation type="unfinished">montenegrino</translation>
+    </message>
+    <message>
+        <source>Northern Sami</source>
+        <translation type="unfinished">sami septentrional</translation>
+    </message>
+    <message>
+        <source>Norwegian</source>
+        <translation type="unfinished">noruego</translation>
+    </message>
+    <message>
+        <source>Occitan</source>
+        <translation type="unfinished">occitano</translation>
+    </message>
+    <message>
+        <source>Persian</source>
+        <translation type="unfinished">persa</translation>
+    </message>
+    <message>
+        <source>Polish</source>
+        <translation type="unfinished">polaco</translation>
+    </message>
+    <message>
+        <source>Portuguese</source>
+        <translation type="unfinished">portugués</translation>
+    </message>
+    <message>
+        <source>Portuguese (Brazil)</source>
+        <translation type="unfinished">portugués (Brasil)</translation>
+    </message>
+    <message>
+        <source>Portuguese (Mozambique)</source>
+        <translation type="unfinished">portugués (Mozambique)</translation>
+    </message>
+    <message>
+        <source>Romanian</source>
+        <translation type="unfinished">rumano</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation type="unfinished">ruso</translation>
+    </message>
+    <message>
+        <source>Serbian</source>
+        <translation type="unfinished">serbio</translation>
+    </message>
+    <message>
+        <source>Sinhalese</source>
+        <translation type="unfinished">cingalés</translation>
+    </message>
+    <message>
+        <source>Slovak</source>
+        <translation type="unfinished">eslovaco</translation>
+    </message>
+    <message>
+        <source>Slovenian</source>
+        <translation type="unfinished">esloveno</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation type="unfinished">español</translation>
+    </message>
+    <message>
+        <source>Swahili</source>
+        <translation type="unfinished">suajili</translation>
+    </message>
+    <message>
+        <source>Swedish</source>
+        <translation type="unfinished">sueco</translation>
+    </message>
+    <message>
+        <source>Syriac</source>
+        <translation type="unfinished">siríaco</translation>
+    </message>
+    <message>
+        <source>Tagalog</source>
+        <translation type="unfinished">tagalo</translation>
+    </message>
+    <message>
+        <source>Tamil</source>
+        <translation type="unfinished">tamil</translation>
+    </message>
+    <message>
+        <source>Telugu</source>
+        <translation type="unfinished">telugu</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation type="unfinished">tailandés</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation type="unfinished">turco</translation>
+    </message>
+    <message>
+        <source>Ukrainian</source>
+        <translation type="unfinished">ucraniano</translation>
+    </message>
+    <message>
+        <source>Urdu</source>
+        <translation type="unfinished">urdu</translation>
+    </message>
+    <message>
+        <source>Uzbek</source>
+        <translation type="unfinished">uzbeko</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation type="unfinished">vietnamita</translation>
+    </message>
+</context>
+<context>
     <name>NumberTexts</name>
     <message>
         <source>%1%</source>

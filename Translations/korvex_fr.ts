@@ -1440,6 +1440,329 @@ Il repose sur Qt, FFmpeg et libass.</translation>
     </message>
 </context>
 <context>
+    <name>Language</name>
+    <message>
+        <source>Afrikaans</source>
+        <translation type="unfinished">afrikaans</translation>
+    </message>
+    <message>
+        <source>Albanian</source>
+        <translation type="unfinished">albanais</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation type="unfinished">arabe</translation>
+    </message>
+    <message>
+        <source>Aragonese</source>
+        <translation type="unfinished">aragonais</translation>
+    </message>
+    <message>
+        <source>Armenian</source>
+        <translation type="unfinished">arménien</translation>
+    </message>
+    <message>
+        <source>Asturian</source>
+        <translation type="unfinished">asturien</translation>
+    </message>
+    <message>
+        <source>Azerbaijani</source>
+        <translation type="unfinished">azerbaïdjanais</translation>
+    </message>
+    <message>
+        <source>Basque</source>
+        <translation type="unfinished">basque</translation>
+    </message>
+    <message>
+        <source>Belarusian</source>
+        <translation type="unfinished">biélorusse</translation>
+    </message>
+    <message>
+        <source>Bengali</source>
+        <translation type="unfinished">bengali</translation>
+    </message>
+    <message>
+        <source>Bosnian</source>
+        <translation type="unfinished">bosniaque</translation>
+    </message>
+    <message>
+        <source>Breton</source>
+        <translation type="unfinished">breton</translation>
+    </message>
+    <message>
+        <source>Bulgarian</source>
+        <translation type="unfinished">bulgare</translation>
+    </message>
+    <message>
+        <source>Burmese</source>
+        <translation type="unfinished">birman</translation>
+    </message>
+    <message>
+        <source>Catalan</source>
+        <translation type="unfinished">catalan</translation>
+    </message>
+    <message>
+        <source>Chinese (Simplified)</source>
+        <translation type="unfinished">chinois (simplifié)</translation>
+    </message>
+    <message>
+        <source>Chinese (Traditional)</source>
+        <translation type="unfinished">chinois (traditionnel)</translation>
+    </message>
+    <message>
+        <source>Chinese (Bilingual)</source>
+        <translation type="unfinished">chinois (bilingue)</translation>
+    </message>
+    <message>
+        <source>Croatian</source>
+        <translation type="unfinished">croate</translation>
+    </message>
+    <message>
+        <source>Czech</source>
+        <translation type="unfinished">tchèque</translation>
+    </message>
+    <message>
+        <source>Danish</source>
+        <translation type="unfinished">danois</translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation type="unfinished">néerlandais</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation type="unfinished">anglais</translation>
+    </message>
+    <message>
+        <source>Esperanto</source>
+        <translation type="unfinished">espéranto</translation>
+    </message>
+    <message>
+        <source>Estonian</source>
+        <translation type="unfinished">estonien</translation>
+    </message>
+    <message>
+        <source>Extremaduran</source>
+        <translation type="unfinished">estrémègne</translation>
+    </message>
+    <message>
+        <source>Finnish</source>
+        <translation type="unfinished">finnois</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation type="unfinished">français</translation>
+    </message>
+    <message>
+        <source>Galician</source>
+        <translation type="unfinished">galicien</translation>
+    </message>
+    <message>
+        <source>Georgian</source>
+        <translation type="unfinished">géorgien</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation type="unfinished">allemand</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation type="unfinished">grec</translation>
+    </message>
+    <message>
+        <source>Hebrew</source>
+        <translation type="unfinished">hébreu</translation>
+    </message>
+    <message>
+        <source>Hindi</source>
+        <translation type="unfinished">hindi</translation>
+    </message>
+    <message>
+        <source>Hungarian</source>
+        <translation type="unfinished">hongrois</translation>
+    </message>
+    <message>
+        <source>Icelandic</source>
+        <translation type="unfinished">islandais</translation>
+    </message>
+    <message>
+        <source>Indonesian</source>
+        <translation type="unfinished">indonésien</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation type="unfinished">italien</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation type="unfinished">japonais</translation>
+    </message>
+    <message>
+        <source>Kannada</source>
+        <translation type="unfinished">kannada</translation>
+    </message>
+    <message>
+        <source>Kazakh</source>
+        <translation type="unfinished">kazakh</translation>
+    </message>
+    <message>
+        <source>Khmer</source>
+        <translation type="unfinished">khmer</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation type="unfinished">coréen</translation>
+    </message>
+    <message>
+        <source>Kurdish</source>
+        <translation type="unfinished">kurde</translation>
+    </message>
+    <message>
+        <source>Latvian</source>
+        <translation type="unfinished">letton</translation>
+    </message>
+    <message>
+        <source>Lithuanian</source>
+        <translation type="unfinished">lituanien</translation>
+    </message>
+    <message>
+        <source>Luxembourgish</source>
+        <translation type="unfinished">luxembourgeois</translation>
+    </message>
+    <message>
+        <source>Macedonian</source>
+        <translation type="unfinished">macédonien</translation>
+    </message>
+    <message>
+        <source>Malay</source>
+        <translation type="unfinished">malais</translation>
+    </message>
+    <message>
+        <source>Malayalam</source>
+        <translation type="unfinished">malayalam</translation>
+    </message>
+    <message>
+        <source>Manipuri</source>
+        <translation type="unfinished">manipuri</translation>
+    </message>
+    <message>
+        <source>Mongolian</source>
+        <translation type="unfinished">mongol</translation>
+    </message>
+    <message>
+        <source>Montenegrin</source>
+        <translation type="unfinished">monténégrin</translation>
+    </message>
+    <message>
+        <source>Northern Sami</source>
+        <translation type="unfinished">same du Nord</translation>
+    </message>
+    <message>
+        <source>Norwegian</source>
+        <translation type="unfinished">norvégien</translation>
+    </message>
+    <message>
+        <source>Occitan</source>
+        <translation type="unfinished">occitan</translation>
+    </message>
+    <message>
+        <source>Persian</source>
+        <translation type="unfinished">persan</translation>
+    </message>
+    <message>
+        <source>Polish</source>
+        <translation type="unfinished">polonais</translation>
+    </message>
+    <message>
+        <source>Portuguese</source>
+        <translation type="unfinished">portugais</translation>
+    </message>
+    <message>
+        <source>Portuguese (Brazil)</source>
+        <translation type="unfinished">portugais (Brésil)</translation>
+    </message>
+    <message>
+        <source>Portuguese (Mozambique)</source>
+        <translation type="unfinished">portugais (Mozambique)</translation>
+    </message>
+    <message>
+        <source>Romanian</source>
+        <translation type="unfinished">roumain</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation type="unfinished">russe</translation>
+    </message>
+    <message>
+        <source>Serbian</source>
+        <translation type="unfinished">serbe</translation>
+    </message>
+    <message>
+        <source>Sinhalese</source>
+        <translation type="unfinished">cingalais</translation>
+    </message>
+    <message>
+        <source>Slovak</source>
+        <translation type="unfinished">slovaque</translation>
+    </message>
+    <message>
+        <source>Slovenian</source>
+        <translation type="unfinished">slovène</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation type="unfinished">espagnol</translation>
+    </message>
+    <message>
+        <source>Swahili</source>
+        <translation type="unfinished">swahili</translation>
+    </message>
+    <message>
+        <source>Swedish</source>
+        <translation type="unfinished">suédois</translation>
+    </message>
+    <message>
+        <source>Syriac</source>
+        <translation type="unfinished">syriaque</translation>
+    </message>
+    <message>
+        <source>Tagalog</source>
+        <translation type="unfinished">tagalog</translation>
+    </message>
+    <message>
+        <source>Tamil</source>
+        <translation type="unfinished">tamoul</translation>
+    </message>
+    <message>
+        <source>Telugu</source>
+        <translation type="unfinished">télougou</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation type="unfinished">thaï</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation type="unfinished">turc</translation>
+    </message>
+    <message>
+        <source>Ukrainian</source>
+        <translation type="unfinished">ukrainien</translation>
+    </message>
+    <message>
+        <source>Urdu</source>
+        <translation type="unfinished">ourdou</translation>
+    </message>
+    <message>
+        <source>Uzbek</source>
+        <translation type="unfinished">ouzbek</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation type="unfinished">vietnamien</translation>
+    </message>
+</context>
+<context>
     <name>NumberTexts</name>
     <message>
         <source>%1%</source>

@@ -1427,6 +1427,329 @@ Qt、FFmpeg、libass を利用しています。</translation>
     </message>
 </context>
 <context>
+    <name>Language</name>
+    <message>
+        <source>Afrikaans</source>
+        <translation type="unfinished">アフリカーンス語</translation>
+    </message>
+    <message>
+        <source>Albanian</source>
+        <translation type="unfinished">アルバニア語</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation type="unfinished">アラビア文字</translation>
+    </message>
+    <message>
+        <source>Aragonese</source>
+        <translation type="unfinished">アラゴン語</translation>
+    </message>
+    <message>
+        <source>Armenian</source>
+        <translation type="unfinished">アルメニア語</translation>
+    </message>
+    <message>
+        <source>Asturian</source>
+        <translation type="unfinished">アストゥリアス語</translation>
+    </message>
+    <message>
+        <source>Azerbaijani</source>
+        <translation type="unfinished">アゼルバイジャン語</translation>
+    </message>
+    <message>
+        <source>Basque</source>
+        <translation type="unfinished">バスク語</translation>
+    </message>
+    <message>
+        <source>Belarusian</source>
+        <translation type="unfinished">ベラルーシ語</translation>
+    </message>
+    <message>
+        <source>Bengali</source>
+        <translation type="unfinished">ベンガル語</translation>
+    </message>
+    <message>
+        <source>Bosnian</source>
+        <translation type="unfinished">ボスニア語</translation>
+    </message>
+    <message>
+        <source>Breton</source>
+        <translation type="unfinished">ブルトン語</translation>
+    </message>
+    <message>
+        <source>Bulgarian</source>
+        <translation type="unfinished">ブルガリア語</translation>
+    </message>
+    <message>
+        <source>Burmese</source>
+        <translation type="unfinished">ミャンマー語</translation>
+    </message>
+    <message>
+        <source>Catalan</source>
+        <translation type="unfinished">カタロニア語</translation>
+    </message>
+    <message>
+        <source>Chinese (Simplified)</source>
+        <translation type="unfinished">中国語 (簡体字)</translation>
+    </message>
+    <message>
+        <source>Chinese (Traditional)</source>
+        <translation type="unfinished">中国語 (繁体字)</translation>
+    </message>
+    <message>
+        <source>Chinese (Bilingual)</source>
+        <translation type="unfinished">中国語 (2言語併記)</translation>
+    </message>
+    <message>
+        <source>Croatian</source>
+        <translation type="unfinished">クロアチア語</translation>
+    </message>
+    <message>
+        <source>Czech</source>
+        <translation type="unfinished">チェコ語</translation>
+    </message>
+    <message>
+        <source>Danish</source>
+        <translation type="unfinished">デンマーク語</translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation type="unfinished">オランダ語</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation type="unfinished">英語</translation>
+    </message>
+    <message>
+        <source>Esperanto</source>
+        <translation type="unfinished">エスペラント語</translation>
+    </message>
+    <message>
+        <source>Estonian</source>
+        <translation type="unfinished">エストニア語</translation>
+    </message>
+    <message>
+        <source>Extremaduran</source>
+        <translation type="unfinished">エストレマドゥーラ語</translation>
+    </message>
+    <message>
+        <source>Finnish</source>
+        <translation type="unfinished">フィンランド語</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation type="unfinished">フランス語</translation>
+    </message>
+    <message>
+        <source>Galician</source>
+        <translation type="unfinished">ガリシア語</translation>
+    </message>
+    <message>
+        <source>Georgian</source>
+        <translation type="unfinished">ジョージア語</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation type="unfinished">ドイツ語</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation type="unfinished">ギリシャ文字</translation>
+    </message>
+    <message>
+        <source>Hebrew</source>
+        <translation type="unfinished">ヘブライ文字</translation>
+    </message>
+    <message>
+        <source>Hindi</source>
+        <translation type="unfinished">ヒンディー語</translation>
+    </message>
+    <message>
+        <source>Hungarian</source>
+        <translation type="unfinished">ハンガリー語</translation>
+    </message>
+    <message>
+        <source>Icelandic</source>
+        <translation type="unfinished">アイスランド語</translation>
+    </message>
+    <message>
+        <source>Indonesian</source>
+        <translation type="unfinished">インドネシア語</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation type="unfinished">イタリア語</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation type="unfinished">日本語</translation>
+    </message>
+    <message>
+        <source>Kannada</source>
+        <translation type="unfinished">カンナダ語</translation>
+    </message>
+    <message>
+        <source>Kazakh</source>
+        <translation type="unfinished">カザフ語</translation>
+    </message>
+    <message>
+        <source>Khmer</source>
+        <translation type="unfinished">クメール語</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation type="unfinished">韓国語</translation>
+    </message>
+    <message>
+        <source>Kurdish</source>
+        <translation type="unfinished">クルド語</translation>
+    </message>
+    <message>
+        <source>Latvian</source>
+        <translation type="unfinished">ラトビア語</translation>
+    </message>
+    <message>
+        <source>Lithuanian</source>
+        <translation type="unfinished">リトアニア語</translation>
+    </message>
+    <message>
+        <source>Luxembourgish</source>
+        <translation type="unfinished">ルクセンブルク語</translation>
+    </message>
+    <message>
+        <source>Macedonian</source>
+        <translation type="unfinished">マケドニア語</translation>
+    </message>
+    <message>
+        <source>Malay</source>
+        <translation type="unfinished">マレー語</translation>
+    </message>
+    <message>
+        <source>Malayalam</source>
+        <translation type="unfinished">マラヤーラム語</translation>
+    </message>
+    <message>
+        <source>Manipuri</source>
+        <translation type="unfinished">マニプリ語</translation>
+    </message>
+    <message>
+        <source>Mongolian</source>
+        <translation type="unfinished">モンゴル語</translation>
+    </message>
+    <message>
+        <source>Montenegrin</source>
+        <translation type="unfinished">モンテネグロ語</translation>
+    </message>
+    <message>
+        <source>Northern Sami</source>
+        <translation type="unfinished">北サーミ語</translation>
+    </message>
+    <message>
+        <source>Norwegian</source>
+        <translation type="unfinished">ノルウェー語</translation>
+    </message>
+    <message>
+        <source>Occitan</source>
+        <translation type="unfinished">オック語</translation>
+    </message>
+    <message>
+        <source>Persian</source>
+        <translation type="unfinished">ペルシア語</translation>
+    </message>
+    <message>
+        <source>Polish</source>
+        <translation type="unfinished">ポーランド語</translation>
+    </message>
+    <message>
+        <source>Portuguese</source>
+        <translation type="unfinished">ポルトガル語</translation>
+    </message>
+    <message>
+        <source>Portuguese (Brazil)</source>
+        <translation type="unfinished">ポルトガル語 (ブラジル)</translation>
+    </message>
+    <message>
+        <source>Portuguese (Mozambique)</source>
+        <translation type="unfinished">ポルトガル語 (モザンビーク)</translation>
+    </message>
+    <message>
+        <source>Romanian</source>
+        <translation type="unfinished">ルーマニア語</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation type="unfinished">ロシア語</translation>
+    </message>
+    <message>
+        <source>Serbian</source>
+        <translation type="unfinished">セルビア語</translation>
+    </message>
+    <message>
+        <source>Sinhalese</source>
+        <translation type="unfinished">シンハラ語</translation>
+    </message>
+    <message>
+        <source>Slovak</source>
+        <translation type="unfinished">スロバキア語</translation>
+    </message>
+    <message>
+        <source>Slovenian</source>
+        <translation type="unfinished">スロベニア語</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation type="unfinished">スペイン語</translation>
+    </message>
+    <message>
+        <source>Swahili</source>
+        <translation type="unfinished">スワヒリ語</translation>
+    </message>
+    <message>
+        <source>Swedish</source>
+        <translation type="unfinished">スウェーデン語</translation>
+    </message>
+    <message>
+        <source>Syriac</source>
+        <translation type="unfinished">シリア語</translation>
+    </message>
+    <message>
+        <source>Tagalog</source>
+        <translation type="unfinished">タガログ語</translation>
+    </message>
+    <message>
+        <source>Tamil</source>
+        <translation type="unfinished">タミル語</translation>
+    </message>
+    <message>
+        <source>Telugu</source>
+        <translation type="unfinished">テルグ語</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation type="unfinished">タイ文字</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation type="unfinished">トルコ語</translation>
+    </message>
+    <message>
+        <source>Ukrainian</source>
+        <translation type="unfinished">ウクライナ語</translation>
+    </message>
+    <message>
+        <source>Urdu</source>
+        <translation type="unfinished">ウルドゥー語</translation>
+    </message>
+    <message>
+        <source>Uzbek</source>
+        <translation type="unfinished">ウズベク語</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation type="unfinished">ベトナム語</translation>
+    </message>
+</context>
+<context>
     <name>NumberTexts</name>
     <message>
         <source>%1%</source>

@@ -1453,6 +1453,329 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
     </message>
 </context>
 <context>
+    <name>Language</name>
+    <message>
+        <source>Afrikaans</source>
+        <translation type="unfinished">afrikaans</translation>
+    </message>
+    <message>
+        <source>Albanian</source>
+        <translation type="unfinished">albański</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation type="unfinished">arabski</translation>
+    </message>
+    <message>
+        <source>Aragonese</source>
+        <translation type="unfinished">aragoński</translation>
+    </message>
+    <message>
+        <source>Armenian</source>
+        <translation type="unfinished">ormiański</translation>
+    </message>
+    <message>
+        <source>Asturian</source>
+        <translation type="unfinished">asturyjski</translation>
+    </message>
+    <message>
+        <source>Azerbaijani</source>
+        <translation type="unfinished">azerbejdżański</translation>
+    </message>
+    <message>
+        <source>Basque</source>
+        <translation type="unfinished">baskijski</translation>
+    </message>
+    <message>
+        <source>Belarusian</source>
+        <translation type="unfinished">białoruski</translation>
+    </message>
+    <message>
+        <source>Bengali</source>
+        <translation type="unfinished">bengalski</translation>
+    </message>
+    <message>
+        <source>Bosnian</source>
+        <translation type="unfinished">bośniacki</translation>
+    </message>
+    <message>
+        <source>Breton</source>
+        <translation type="unfinished">bretoński</translation>
+    </message>
+    <message>
+        <source>Bulgarian</source>
+        <translation type="unfinished">bułgarski</translation>
+    </message>
+    <message>
+        <source>Burmese</source>
+        <translation type="unfinished">birmański</translation>
+    </message>
+    <message>
+        <source>Catalan</source>
+        <translation type="unfinished">kataloński</translation>
+    </message>
+    <message>
+        <source>Chinese (Simplified)</source>
+        <translation type="unfinished">chiński (uproszczony)</translation>
+    </message>
+    <message>
+        <source>Chinese (Traditional)</source>
+        <translation type="unfinished">chiński (tradycyjny)</translation>
+    </message>
+    <message>
+        <source>Chinese (Bilingual)</source>
+        <translation type="unfinished">chiński (dwujęzyczny)</translation>
+    </message>
+    <message>
+        <source>Croatian</source>
+        <translation type="unfinished">chorwacki</translation>
+    </message>
+    <message>
+        <source>Czech</source>
+        <translation type="unfinished">czeski</translation>
+    </message>
+    <message>
+        <source>Danish</source>
+        <translation type="unfinished">duński</translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation type="unfinished">niderlandzki</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation type="unfinished">angielski</translation>
+    </message>
+    <message>
+        <source>Esperanto</source>
+        <translation type="unfinished">esperanto</translation>
+    </message>
+    <message>
+        <source>Estonian</source>
+        <translation type="unfinished">estoński</translation>
+    </message>
+    <message>
+        <source>Extremaduran</source>
+        <translation type="unfinished">estremadurski</translation>
+    </message>
+    <message>
+        <source>Finnish</source>
+        <translation type="unfinished">fiński</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation type="unfinished">francuski</translation>
+    </message>
+    <message>
+        <source>Galician</source>
+        <translation type="unfinished">galicyjski</translation>
+    </message>
+    <message>
+        <source>Georgian</source>
+        <translation type="unfinished">gruziński</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation type="unfinished">niemiecki</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation type="unfinished">grecki</translation>
+    </message>
+    <message>
+        <source>Hebrew</source>
+        <translation type="unfinished">hebrajski</translation>
+    </message>
+    <message>
+        <source>Hindi</source>
+        <translation type="unfinished">hindi</translation>
+    </message>
+    <message>
+        <source>Hungarian</source>
+        <translation type="unfinished">węgierski</translation>
+    </message>
+    <message>
+        <source>Icelandic</source>
+        <translation type="unfinished">islandzki</translation>
+    </message>
+    <message>
+        <source>Indonesian</source>
+        <translation type="unfinished">indonezyjski</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation type="unfinished">włoski</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation type="unfinished">japoński</translation>
+    </message>
+    <message>
+        <source>Kannada</source>
+        <translation type="unfinished">kannada</translation>
+    </message>
+    <message>
+        <source>Kazakh</source>
+        <translation type="unfinished">kazachski</translation>
+    </message>
+    <message>
+        <source>Khmer</source>
+        <translation type="unfinished">khmerski</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation type="unfinished">koreański</translation>
+    </message>
+    <message>
+        <source>Kurdish</source>
+        <translation type="unfinished">kurdyjski</translation>
+    </message>
+    <message>
+        <source>Latvian</source>
+        <translation type="unfinished">łotewski</translation>
+    </message>
+    <message>
+        <source>Lithuanian</source>
+        <translation type="unfinished">litewski</translation>
+    </message>
+    <message>
+        <source>Luxembourgish</source>
+        <translation type="unfinished">luksemburski</translation>
+    </message>
+    <message>
+        <source>Macedonian</source>
+        <translation type="unfinished">macedoński</translation>
+    </message>
+    <message>
+        <source>Malay</source>
+        <translation type="unfinished">malajski</translation>
+    </message>
+    <message>
+        <source>Malayalam</source>
+        <translation type="unfinished">malajalam</translation>
+    </message>
+    <message>
+        <source>Manipuri</source>
+        <translation type="unfinished">manipuri</translation>
+    </message>
+    <message>
+        <source>Mongolian</source>
+        <translation type="unfinished">mongolski</translation>
+    </message>
+    <message>
+        <source>Montenegrin</source>
+        <translation type="unfinished">czarnogórski</translation>
+    </message>
+    <message>
+        <source>Northern Sami</source>
+        <translation type="unfinished">północnolapoński</translation>
+    </message>
+    <message>
+        <source>Norwegian</source>
+        <translation type="unfinished">norweski</translation>
+    </message>
+    <message>
+        <source>Occitan</source>
+        <translation type="unfinished">oksytański</translation>
+    </message>
+    <message>
+        <source>Persian</source>
+        <translation type="unfinished">perski</translation>
+    </message>
+    <message>
+        <source>Polish</source>
+        <translation type="unfinished">polski</translation>
+    </message>
+    <message>
+        <source>Portuguese</source>
+        <translation type="unfinished">portugalski</translation>
+    </message>
+    <message>
+        <source>Portuguese (Brazil)</source>
+        <translation type="unfinished">portugalski (Brazylia)</translation>
+    </message>
+    <message>
+        <source>Portuguese (Mozambique)</source>
+        <translation type="unfinished">portugalski (Mozambik)</translation>
+    </message>
+    <message>
+        <source>Romanian</source>
+        <translation type="unfinished">rumuński</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation type="unfinished">rosyjski</translation>
+    </message>
+    <message>
+        <source>Serbian</source>
+        <translation type="unfinished">serbski</translation>
+    </message>
+    <message>
+        <source>Sinhalese</source>
+        <translation type="unfinished">syngaleski</translation>
+    </message>
+    <message>
+        <source>Slovak</source>
+        <translation type="unfinished">słowacki</translation>
+    </message>
+    <message>
+        <source>Slovenian</source>
+        <translation type="unfinished">słoweński</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation type="unfinished">hiszpański</translation>
+    </message>
+    <message>
+        <source>Swahili</source>
+        <translation type="unfinished">suahili</translation>
+    </message>
+    <message>
+        <source>Swedish</source>
+        <translation type="unfinished">szwedzki</translation>
+    </message>
+    <message>
+        <source>Syriac</source>
+        <translation type="unfinished">syryjski</translation>
+    </message>
+    <message>
+        <source>Tagalog</source>
+        <translation type="unfinished">tagalski</translation>
+    </message>
+    <message>
+        <source>Tamil</source>
+        <translation type="unfinished">tamilski</translation>
+    </message>
+    <message>
+        <source>Telugu</source>
+        <translation type="unfinished">telugu</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation type="unfinished">tajski</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation type="unfinished">turecki</translation>
+    </message>
+    <message>
+        <source>Ukrainian</source>
+        <translation type="unfinished">ukraiński</translation>
+    </message>
+    <message>
+        <source>Urdu</source>
+        <translation type="unfinished">urdu</translation>
+    </message>
+    <message>
+        <source>Uzbek</source>
+        <translation type="unfinished">uzbecki</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation type="unfinished">wietnamski</translation>
+    </message>
+</context>
+<context>
     <name>NumberTexts</name>
     <message>
         <source>%1%</source>

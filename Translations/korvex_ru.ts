@@ -1453,6 +1453,329 @@ It is built on Qt, FFmpeg and libass.</source>
     </message>
 </context>
 <context>
+    <name>Language</name>
+    <message>
+        <source>Afrikaans</source>
+        <translation type="unfinished">африкаанс</translation>
+    </message>
+    <message>
+        <source>Albanian</source>
+        <translation type="unfinished">албанский</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation type="unfinished">арабские</translation>
+    </message>
+    <message>
+        <source>Aragonese</source>
+        <translation type="unfinished">арагонский</translation>
+    </message>
+    <message>
+        <source>Armenian</source>
+        <translation type="unfinished">армянский</translation>
+    </message>
+    <message>
+        <source>Asturian</source>
+        <translation type="unfinished">астурийский</translation>
+    </message>
+    <message>
+        <source>Azerbaijani</source>
+        <translation type="unfinished">азербайджанский</translation>
+    </message>
+    <message>
+        <source>Basque</source>
+        <translation type="unfinished">баскский</translation>
+    </message>
+    <message>
+        <source>Belarusian</source>
+        <translation type="unfinished">белорусский</translation>
+    </message>
+    <message>
+        <source>Bengali</source>
+        <translation type="unfinished">бенгальский</translation>
+    </message>
+    <message>
+        <source>Bosnian</source>
+        <translation type="unfinished">боснийский</translation>
+    </message>
+    <message>
+        <source>Breton</source>
+        <translation type="unfinished">бретонский</translation>
+    </message>
+    <message>
+        <source>Bulgarian</source>
+        <translation type="unfinished">болгарский</translation>
+    </message>
+    <message>
+        <source>Burmese</source>
+        <translation type="unfinished">бирманский</translation>
+    </message>
+    <message>
+        <source>Catalan</source>
+        <translation type="unfinished">каталанский</translation>
+    </message>
+    <message>
+        <source>Chinese (Simplified)</source>
+        <translation type="unfinished">китайский (упрощённый)</translation>
+    </message>
+    <message>
+        <source>Chinese (Traditional)</source>
+        <translation type="unfinished">китайский (традиционный)</translation>
+    </message>
+    <message>
+        <source>Chinese (Bilingual)</source>
+        <translation type="unfinished">китайский (двуязычный)</translation>
+    </message>
+    <message>
+        <source>Croatian</source>
+        <translation type="unfinished">хорватский</translation>
+    </message>
+    <message>
+        <source>Czech</source>
+        <translation type="unfinished">чешский</translation>
+    </message>
+    <message>
+        <source>Danish</source>
+        <translation type="unfinished">датский</translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation type="unfinished">нидерландский</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation type="unfinished">английский</translation>
+    </message>
+    <message>
+        <source>Esperanto</source>
+        <translation type="unfinished">эсперанто</translation>
+    </message>
+    <message>
+        <source>Estonian</source>
+        <translation type="unfinished">эстонский</translation>
+    </message>
+    <message>
+        <source>Extremaduran</source>
+        <translation type="unfinished">эстремадурский</translation>
+    </message>
+    <message>
+        <source>Finnish</source>
+        <translation type="unfinished">финский</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation type="unfinished">французский</translation>
+    </message>
+    <message>
+        <source>Galician</source>
+        <translation type="unfinished">галисийский</translation>
+    </message>
+    <message>
+        <source>Georgian</source>
+        <translation type="unfinished">грузинский</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation type="unfinished">немецкий</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation type="unfinished">греческие</translation>
+    </message>
+    <message>
+        <source>Hebrew</source>
+        <translation type="unfinished">еврейские</translation>
+    </message>
+    <message>
+        <source>Hindi</source>
+        <translation type="unfinished">хинди</translation>
+    </message>
+    <message>
+        <source>Hungarian</source>
+        <translation type="unfinished">венгерский</translation>
+    </message>
+    <message>
+        <source>Icelandic</source>
+        <translation type="unfinished">исландский</translation>
+    </message>
+    <message>
+        <source>Indonesian</source>
+        <translation type="unfinished">индонезийский</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation type="unfinished">итальянский</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation type="unfinished">японские</translation>
+    </message>
+    <message>
+        <source>Kannada</source>
+        <translation type="unfinished">каннада</translation>
+    </message>
+    <message>
+        <source>Kazakh</source>
+        <translation type="unfinished">казахский</translation>
+    </message>
+    <message>
+        <source>Khmer</source>
+        <translation type="unfinished">кхмерский</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation type="unfinished">корейские</translation>
+    </message>
+    <message>
+        <source>Kurdish</source>
+        <translation type="unfinished">курдский</translation>
+    </message>
+    <message>
+        <source>Latvian</source>
+        <translation type="unfinished">латышский</translation>
+    </message>
+    <message>
+        <source>Lithuanian</source>
+        <translation type="unfinished">литовский</translation>
+    </message>
+    <message>
+        <source>Luxembourgish</source>
+        <translation type="unfinished">люксембургский</translation>
+    </message>
+    <message>
+        <source>Macedonian</source>
+        <translation type="unfinished">македонский</translation>
+    </message>
+    <message>
+        <source>Malay</source>
+        <translation type="unfinished">малайский</translation>
+    </message>
+    <message>
+        <source>Malayalam</source>
+        <translation type="unfinished">малаялам</translation>
+    </message>
+    <message>
+        <source>Manipuri</source>
+        <translation type="unfinished">манипури</translation>
+    </message>
+    <message>
+        <source>Mongolian</source>
+        <translation type="unfinished">монгольский</translation>
+    </message>
+    <message>
+        <source>Montenegrin</source>
+        <translation type="unfinished">черногорский</translation>
+    </message>
+    <message>
+        <source>Northern Sami</source>
+        <translation type="unfinished">северносаамский</translation>
+    </message>
+    <message>
+        <source>Norwegian</source>
+        <translation type="unfinished">норвежский</translation>
+    </message>
+    <message>
+        <source>Occitan</source>
+        <translation type="unfinished">окситанский</translation>
+    </message>
+    <message>
+        <source>Persian</source>
+        <translation type="unfinished">персидский</translation>
+    </message>
+    <message>
+        <source>Polish</source>
+        <translation type="unfinished">польский</translation>
+    </message>
+    <message>
+        <source>Portuguese</source>
+        <translation type="unfinished">португальский</translation>
+    </message>
+    <message>
+        <source>Portuguese (Brazil)</source>
+        <translation type="unfinished">португальский (Бразилия)</translation>
+    </message>
+    <message>
+        <source>Portuguese (Mozambique)</source>
+        <translation type="unfinished">португальский (Мозамбик)</translation>
+    </message>
+    <message>
+        <source>Romanian</source>
+        <translation type="unfinished">румынский</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation type="unfinished">русский</translation>
+    </message>
+    <message>
+        <source>Serbian</source>
+        <translation type="unfinished">сербский</translation>
+    </message>
+    <message>
+        <source>Sinhalese</source>
+        <translation type="unfinished">сингальский</translation>
+    </message>
+    <message>
+        <source>Slovak</source>
+        <translation type="unfinished">словацкий</translation>
+    </message>
+    <message>
+        <source>Slovenian</source>
+        <translation type="unfinished">словенский</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation type="unfinished">испанский</translation>
+    </message>
+    <message>
+        <source>Swahili</source>
+        <translation type="unfinished">суахили</translation>
+    </message>
+    <message>
+        <source>Swedish</source>
+        <translation type="unfinished">шведский</translation>
+    </message>
+    <message>
+        <source>Syriac</source>
+        <translation type="unfinished">сирийский</translation>
+    </message>
+    <message>
+        <source>Tagalog</source>
+        <translation type="unfinished">тагальский</translation>
+    </message>
+    <message>
+        <source>Tamil</source>
+        <translation type="unfinished">тамильский</translation>
+    </message>
+    <message>
+        <source>Telugu</source>
+        <translation type="unfinished">телугу</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation type="unfinished">тайские</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation type="unfinished">турецкий</translation>
+    </message>
+    <message>
+        <source>Ukrainian</source>
+        <translation type="unfinished">украинский</translation>
+    </message>
+    <message>
+        <source>Urdu</source>
+        <translation type="unfinished">урду</translation>
+    </message>
+    <message>
+        <source>Uzbek</source>
+        <translation type="unfinished">узбекский</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation type="unfinished">вьетнамский</translation>
+    </message>
+</context>
+<context>
     <name>NumberTexts</name>
     <message>
         <source>%1%</source>

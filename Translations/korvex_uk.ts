@@ -1453,6 +1453,329 @@ It is built on Qt, FFmpeg and libass.</source>
     </message>
 </context>
 <context>
+    <name>Language</name>
+    <message>
+        <source>Afrikaans</source>
+        <translation type="unfinished">африкаанс</translation>
+    </message>
+    <message>
+        <source>Albanian</source>
+        <translation type="unfinished">албанська</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation type="unfinished">арабські</translation>
+    </message>
+    <message>
+        <source>Aragonese</source>
+        <translation type="unfinished">арагонська</translation>
+    </message>
+    <message>
+        <source>Armenian</source>
+        <translation type="unfinished">вірменська</translation>
+    </message>
+    <message>
+        <source>Asturian</source>
+        <translation type="unfinished">астурійська</translation>
+    </message>
+    <message>
+        <source>Azerbaijani</source>
+        <translation type="unfinished">азербайджанська</translation>
+    </message>
+    <message>
+        <source>Basque</source>
+        <translation type="unfinished">баскська</translation>
+    </message>
+    <message>
+        <source>Belarusian</source>
+        <translation type="unfinished">білоруська</translation>
+    </message>
+    <message>
+        <source>Bengali</source>
+        <translation type="unfinished">бенгальська</translation>
+    </message>
+    <message>
+        <source>Bosnian</source>
+        <translation type="unfinished">боснійська</translation>
+    </message>
+    <message>
+        <source>Breton</source>
+        <translation type="unfinished">бретонська</translation>
+    </message>
+    <message>
+        <source>Bulgarian</source>
+        <translation type="unfinished">болгарська</translation>
+    </message>
+    <message>
+        <source>Burmese</source>
+        <translation type="unfinished">бірманська</translation>
+    </message>
+    <message>
+        <source>Catalan</source>
+        <translation type="unfinished">каталонська</translation>
+    </message>
+    <message>
+        <source>Chinese (Simplified)</source>
+        <translation type="unfinished">китайська (спрощена)</translation>
+    </message>
+    <message>
+        <source>Chinese (Traditional)</source>
+        <translation type="unfinished">китайська (традиційна)</translation>
+    </message>
+    <message>
+        <source>Chinese (Bilingual)</source>
+        <translation type="unfinished">китайська (двомовна)</translation>
+    </message>
+    <message>
+        <source>Croatian</source>
+        <translation type="unfinished">хорватська</translation>
+    </message>
+    <message>
+        <source>Czech</source>
+        <translation type="unfinished">чеська</translation>
+    </message>
+    <message>
+        <source>Danish</source>
+        <translation type="unfinished">данська</translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation type="unfinished">нідерландська</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation type="unfinished">англійська</translation>
+    </message>
+    <message>
+        <source>Esperanto</source>
+        <translation type="unfinished">есперанто</translation>
+    </message>
+    <message>
+        <source>Estonian</source>
+        <translation type="unfinished">естонська</translation>
+    </message>
+    <message>
+        <source>Extremaduran</source>
+        <translation type="unfinished">екстремадурська</translation>
+    </message>
+    <message>
+        <source>Finnish</source>
+        <translation type="unfinished">фінська</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation type="unfinished">французька</translation>
+    </message>
+    <message>
+        <source>Galician</source>
+        <translation type="unfinished">галісійська</translation>
+    </message>
+    <message>
+        <source>Georgian</source>
+        <translation type="unfinished">грузинська</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation type="unfinished">німецька</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation type="unfinished">грецькі</translation>
+    </message>
+    <message>
+        <source>Hebrew</source>
+        <translation type="unfinished">єврейські</translation>
+    </message>
+    <message>
+        <source>Hindi</source>
+        <translation type="unfinished">гінді</translation>
+    </message>
+    <message>
+        <source>Hungarian</source>
+        <translation type="unfinished">угорська</translation>
+    </message>
+    <message>
+        <source>Icelandic</source>
+        <translation type="unfinished">ісландська</translation>
+    </message>
+    <message>
+        <source>Indonesian</source>
+        <translation type="unfinished">індонезійська</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation type="unfinished">італійська</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation type="unfinished">японські</translation>
+    </message>
+    <message>
+        <source>Kannada</source>
+        <translation type="unfinished">каннада</translation>
+    </message>
+    <message>
+        <source>Kazakh</source>
+        <translation type="unfinished">казахська</translation>
+    </message>
+    <message>
+        <source>Khmer</source>
+        <translation type="unfinished">кхмерська</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation type="unfinished">корейські</translation>
+    </message>
+    <message>
+        <source>Kurdish</source>
+        <translation type="unfinished">курдська</translation>
+    </message>
+    <message>
+        <source>Latvian</source>
+        <translation type="unfinished">латиська</translation>
+    </message>
+    <message>
+        <source>Lithuanian</source>
+        <translation type="unfinished">литовська</translation>
+    </message>
+    <message>
+        <source>Luxembourgish</source>
+        <translation type="unfinished">люксембурзька</translation>
+    </message>
+    <message>
+        <source>Macedonian</source>
+        <translation type="unfinished">македонська</translation>
+    </message>
+    <message>
+        <source>Malay</source>
+        <translation type="unfinished">малайська</translation>
+    </message>
+    <message>
+        <source>Malayalam</source>
+        <translation type="unfinished">малаялам</translation>
+    </message>
+    <message>
+        <source>Manipuri</source>
+        <translation type="unfinished">маніпурі</translation>
+    </message>
+    <message>
+        <source>Mongolian</source>
+        <translation type="unfinished">монгольська</translation>
+    </message>
+    <message>
+        <source>Montenegrin</source>
+        <translation type="unfinished">чорногорська</translation>
+    </message>
+    <message>
+        <source>Northern Sami</source>
+        <translation type="unfinished">північносаамська</translation>
+    </message>
+    <message>
+        <source>Norwegian</source>
+        <translation type="unfinished">норвезька</translation>
+    </message>
+    <message>
+        <source>Occitan</source>
+        <translation type="unfinished">окситанська</translation>
+    </message>
+    <message>
+        <source>Persian</source>
+        <translation type="unfinished">перська</translation>
+    </message>
+    <message>
+        <source>Polish</source>
+        <translation type="unfinished">польська</translation>
+    </message>
+    <message>
+        <source>Portuguese</source>
+        <translation type="unfinished">португальська</translation>
+    </message>
+    <message>
+        <source>Portuguese (Brazil)</source>
+        <translation type="unfinished">португальська (Бразилія)</translation>
+    </message>
+    <message>
+        <source>Portuguese (Mozambique)</source>
+        <translation type="unfinished">португальська (Мозамбік)</translation>
+    </message>
+    <message>
+        <source>Romanian</source>
+        <translation type="unfinished">румунська</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation type="unfinished">російська</translation>
+    </message>
+    <message>
+        <source>Serbian</source>
+        <translation type="unfinished">сербська</translation>
+    </message>
+    <message>
+        <source>Sinhalese</source>
+        <translation type="unfinished">сингальська</translation>
+    </message>
+    <message>
+        <source>Slovak</source>
+        <translation type="unfinished">словацька</translation>
+    </message>
+    <message>
+        <source>Slovenian</source>
+        <translation type="unfinished">словенська</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation type="unfinished">іспанська</translation>
+    </message>
+    <message>
+        <source>Swahili</source>
+        <translation type="unfinished">суахілі</translation>
+    </message>
+    <message>
+        <source>Swedish</source>
+        <translation type="unfinished">шведська</translation>
+    </message>
+    <message>
+        <source>Syriac</source>
+        <translation type="unfinished">сирійська</translation>
+    </message>
+    <message>
+        <source>Tagalog</source>
+        <translation type="unfinished">тагальська</translation>
+    </message>
+    <message>
+        <source>Tamil</source>
+        <translation type="unfinished">тамільська</translation>
+    </message>
+    <message>
+        <source>Telugu</source>
+        <translation type="unfinished">телугу</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation type="unfinished">тайські</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation type="unfinished">турецька</translation>
+    </message>
+    <message>
+        <source>Ukrainian</source>
+        <translation type="unfinished">українська</translation>
+    </message>
+    <message>
+        <source>Urdu</source>
+        <translation type="unfinished">урду</translation>
+    </message>
+    <message>
+        <source>Uzbek</source>
+        <translation type="unfinished">узбецька</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation type="unfinished">в’єтнамська</translation>
+    </message>
+</context>
+<context>
     <name>NumberTexts</name>
     <message>
         <source>%1%</source>

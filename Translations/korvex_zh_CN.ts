@@ -1427,6 +1427,329 @@ It is built on Qt, FFmpeg and libass.</source>
     </message>
 </context>
 <context>
+    <name>Language</name>
+    <message>
+        <source>Afrikaans</source>
+        <translation type="unfinished">南非荷兰语</translation>
+    </message>
+    <message>
+        <source>Albanian</source>
+        <translation type="unfinished">阿尔巴尼亚语</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation type="unfinished">阿拉伯文</translation>
+    </message>
+    <message>
+        <source>Aragonese</source>
+        <translation type="unfinished">阿拉贡语</translation>
+    </message>
+    <message>
+        <source>Armenian</source>
+        <translation type="unfinished">亚美尼亚语</translation>
+    </message>
+    <message>
+        <source>Asturian</source>
+        <translation type="unfinished">阿斯图里亚斯语</translation>
+    </message>
+    <message>
+        <source>Azerbaijani</source>
+        <translation type="unfinished">阿塞拜疆语</translation>
+    </message>
+    <message>
+        <source>Basque</source>
+        <translation type="unfinished">巴斯克语</translation>
+    </message>
+    <message>
+        <source>Belarusian</source>
+        <translation type="unfinished">白俄罗斯语</translation>
+    </message>
+    <message>
+        <source>Bengali</source>
+        <translation type="unfinished">孟加拉语</translation>
+    </message>
+    <message>
+        <source>Bosnian</source>
+        <translation type="unfinished">波斯尼亚语</translation>
+    </message>
+    <message>
+        <source>Breton</source>
+        <translation type="unfinished">布列塔尼语</translation>
+    </message>
+    <message>
+        <source>Bulgarian</source>
+        <translation type="unfinished">保加利亚语</translation>
+    </message>
+    <message>
+        <source>Burmese</source>
+        <translation type="unfinished">缅甸语</translation>
+    </message>
+    <message>
+        <source>Catalan</source>
+        <translation type="unfinished">加泰罗尼亚语</translation>
+    </message>
+    <message>
+        <source>Chinese (Simplified)</source>
+        <translation type="unfinished">中文（简体）</translation>
+    </message>
+    <message>
+        <source>Chinese (Traditional)</source>
+        <translation type="unfinished">中文（繁体）</translation>
+    </message>
+    <message>
+        <source>Chinese (Bilingual)</source>
+        <translation type="unfinished">中文（双语）</translation>
+    </message>
+    <message>
+        <source>Croatian</source>
+        <translation type="unfinished">克罗地亚语</translation>
+    </message>
+    <message>
+        <source>Czech</source>
+        <translation type="unfinished">捷克语</translation>
+    </message>
+    <message>
+        <source>Danish</source>
+        <translation type="unfinished">丹麦语</translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation type="unfinished">荷兰语</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation type="unfinished">英语</translation>
+    </message>
+    <message>
+        <source>Esperanto</source>
+        <translation type="unfinished">世界语</translation>
+    </message>
+    <message>
+        <source>Estonian</source>
+        <translation type="unfinished">爱沙尼亚语</translation>
+    </message>
+    <message>
+        <source>Extremaduran</source>
+        <translation type="unfinished">埃斯特雷马杜拉语</translation>
+    </message>
+    <message>
+        <source>Finnish</source>
+        <translation type="unfinished">芬兰语</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation type="unfinished">法语</translation>
+    </message>
+    <message>
+        <source>Galician</source>
+        <translation type="unfinished">加利西亚语</translation>
+    </message>
+    <message>
+        <source>Georgian</source>
+        <translation type="unfinished">格鲁吉亚语</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation type="unfinished">德语</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation type="unfinished">希腊文</translation>
+    </message>
+    <message>
+        <source>Hebrew</source>
+        <translation type="unfinished">希伯来文</translation>
+    </message>
+    <message>
+        <source>Hindi</source>
+        <translation type="unfinished">印地语</translation>
+    </message>
+    <message>
+        <source>Hungarian</source>
+        <translation type="unfinished">匈牙利语</translation>
+    </message>
+    <message>
+        <source>Icelandic</source>
+        <translation type="unfinished">冰岛语</translation>
+    </message>
+    <message>
+        <source>Indonesian</source>
+        <translation type="unfinished">印度尼西亚语</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation type="unfinished">意大利语</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation type="unfinished">日文</translation>
+    </message>
+    <message>
+        <source>Kannada</source>
+        <translation type="unfinished">卡纳达语</translation>
+    </message>
+    <message>
+        <source>Kazakh</source>
+        <translation type="unfinished">哈萨克语</translation>
+    </message>
+    <message>
+        <source>Khmer</source>
+        <translation type="unfinished">高棉语</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation type="unfinished">韩文</translation>
+    </message>
+    <message>
+        <source>Kurdish</source>
+        <translation type="unfinished">库尔德语</translation>
+    </message>
+    <message>
+        <source>Latvian</source>
+        <translation type="unfinished">拉脱维亚语</translation>
+    </message>
+    <message>
+        <source>Lithuanian</source>
+        <translation type="unfinished">立陶宛语</translation>
+    </message>
+    <message>
+        <source>Luxembourgish</source>
+        <translation type="unfinished">卢森堡语</translation>
+    </message>
+    <message>
+        <source>Macedonian</source>
+        <translation type="unfinished">马其顿语</translation>
+    </message>
+    <message>
+        <source>Malay</source>
+        <translation type="unfinished">马来语</translation>
+    </message>
+    <message>
+        <source>Malayalam</source>
+        <translation type="unfinished">马拉雅拉姆语</translation>
+    </message>
+    <message>
+        <source>Manipuri</source>
+        <translation type="unfinished">曼尼普尔语</translation>
+    </message>
+    <message>
+        <source>Mongolian</source>
+        <translation type="unfinished">蒙古语</translation>
+    </message>
+    <message>
+        <source>Montenegrin</source>
+        <translation type="unfinished">黑山语</translation>
+    </message>
+    <message>
+        <source>Northern Sami</source>
+        <translation type="unfinished">北方萨米语</translation>
+    </message>
+    <message>
+        <source>Norwegian</source>
+        <translation type="unfinished">挪威语</translation>
+    </message>
+    <message>
+        <source>Occitan</source>
+        <translation type="unfinished">奥克语</translation>
+    </message>
+    <message>
+        <source>Persian</source>
+        <translation type="unfinished">波斯语</translation>
+    </message>
+    <message>
+        <source>Polish</source>
+        <translation type="unfinished">波兰语</translation>
+    </message>
+    <message>
+        <source>Portuguese</source>
+        <translation type="unfinished">葡萄牙语</translation>
+    </message>
+    <message>
+        <source>Portuguese (Brazil)</source>
+        <translation type="unfinished">葡萄牙语（巴西）</translation>
+    </message>
+    <message>
+        <source>Portuguese (Mozambique)</source>
+        <translation type="unfinished">葡萄牙语（莫桑比克）</translation>
+    </message>
+    <message>
+        <source>Romanian</source>
+        <translation type="unfinished">罗马尼亚语</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation type="unfinished">俄语</translation>
+    </message>
+    <message>
+        <source>Serbian</source>
+        <translation type="unfinished">塞尔维亚语</translation>
+    </message>
+    <message>
+        <source>Sinhalese</source>
+        <translation type="unfinished">僧伽罗语</translation>
+    </message>
+    <message>
+        <source>Slovak</source>
+        <translation type="unfinished">斯洛伐克语</translation>
+    </message>
+    <message>
+        <source>Slovenian</source>
+        <translation type="unfinished">斯洛文尼亚语</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation type="unfinished">西班牙语</translation>
+    </message>
+    <message>
+        <source>Swahili</source>
+        <translation type="unfinished">斯瓦希里语</translation>
+    </message>
+    <message>
+        <source>Swedish</source>
+        <translation type="unfinished">瑞典语</translation>
+    </message>
+    <message>
+        <source>Syriac</source>
+        <translation type="unfinished">叙利亚语</translation>
+    </message>
+    <message>
+        <source>Tagalog</source>
+        <translation type="unfinished">他加禄语</translation>
+    </message>
+    <message>
+        <source>Tamil</source>
+        <translation type="unfinished">泰米尔语</translation>
+    </message>
+    <message>
+        <source>Telugu</source>
+        <translation type="unfinished">泰卢固语</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation type="unfinished">泰文</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation type="unfinished">土耳其语</translation>
+    </message>
+    <message>
+        <source>Ukrainian</source>
+        <translation type="unfinished">乌克兰语</translation>
+    </message>
+    <message>
+        <source>Urdu</source>
+        <translation type="unfinished">乌尔都语</translation>
+    </message>
+    <message>
+        <source>Uzbek</source>
+        <translation type="unfinished">乌兹别克语</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation type="unfinished">越南语</translation>
+    </message>
+</context>
+<context>
     <name>NumberTexts</name>
     <message>
         <source>%1%</source>

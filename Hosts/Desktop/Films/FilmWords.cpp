@@ -29,7 +29,7 @@ namespace
 
 QString NameLanguage(std::string const& shortName)
 {
-    std::string const& name = Language::GetLanguageData(Language::GetLanguageFromShortName(shortName)).displayName;
+    std::string const name = Language::GetDisplayText(Language::GetLanguageFromShortName(shortName));
     return QString::fromStdString(name.empty() ? shortName : name);
 }
 

@@ -148,6 +148,7 @@ void FilmListPane::UpdateTitle()
 void FilmListPane::Retranslate()
 {
     m_view->setAccessibleName(tr("Films"));
+    m_view->doItemsLayout(); // its sentences are of other lengths
     UpdateTitle();
 }
 

@@ -13,7 +13,11 @@
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
+
+#include <optional>
+#include <string>
 
 namespace Korvex::Desktop
 {
@@ -30,12 +34,12 @@ class TrackPropertiesDialog::Form
 public:
     Form(TrackPropertiesDialog& dialog, QString const& fileName, TrackProperties const& properties)
         : m_dialog(dialog),
-          m_fileName(fileName)
+          m_fileName(fileName),
+          m_shortName(properties.language)
     {
         SetNames();
         LayOut();
-        FillLanguages();
-        m_language->setEditText(DescribeLanguage(properties.language));
+        SetUpLanguages();
         m_title->setText(QString::fromStdString(properties.title));
         m_isDefault->setChecked(properties.isDefault);
         m_isForced->setChecked(properties.isForced);
@@ -49,8 +53,8 @@ public:
 
     [[nodiscard]] TrackProperties GetProperties() const
     {
-        return {FindLanguage(m_language->currentText()).value_or(std::string()),
-                m_title->text().simplified().toStdString(), m_isDefault->isChecked(), m_isForced->isChecked()};
+        return {m_shortName.value_or(std::string()), m_title->text().simplified().toStdString(),
+                m_isDefault->isChecked(), m_isForced->isChecked()};
     }
 
     void Retranslate()
@@ -69,6 +73,7 @@ public:
             TrackPropertiesDialog::tr("Only what has to be read in any case: signs and foreign speech"));
         m_buttons->button(QDialogButtonBox::Ok)->setText(TrackPropertiesDialog::tr("OK"));
         m_buttons->button(QDialogButtonBox::Cancel)->setText(TrackPropertiesDialog::tr("Cancel"));
+        FillLanguages();
         JudgeLanguage();
     }
 
@@ -109,32 +114,41 @@ private:
         m_dialog.setMinimumWidth(WIDTH);
     }
 
-    void FillLanguages()
+    void SetUpLanguages()
     {
         m_language->setEditable(true);
         m_language->setInsertPolicy(QComboBox::NoInsert);
         m_language->completer()->setCompletionMode(QCompleter::PopupCompletion);
         m_language->completer()->setFilterMode(Qt::MatchContains);
         m_language->completer()->setCaseSensitivity(Qt::CaseInsensitive);
+    }
+
+    /// What the user wrote and is no language stays as it is.
+    void FillLanguages()
+    {
+        QSignalBlocker const blocker(m_language);
+        QString const text = m_shortName ? DescribeLanguage(*m_shortName) : m_language->currentText();
+        m_language->clear();
         m_language->addItem(QString());
         QStringList const own = ListUsersLanguages();
         m_language->addItems(own);
         if (!own.isEmpty())
             m_language->insertSeparator(m_language->count());
         m_language->addItems(ListAllLanguages());
-        GUI::FixComboBox(m_language);
+        m_language->setEditText(text);
+        GUI::FixComboBox(m_language); // it makes room for the longest
     }
 
     void JudgeLanguage()
     {
-        bool const isKnown = FindLanguage(m_language->currentText()).has_value();
-        m_hint->setText(isKnown ? QString()
-                                : TrackPropertiesDialog::tr(
-                                      "This language is not known: choose one from the list, or write its code, such "
-                                      "as \"en\" or \"pt-br\"."));
-        m_hint->setVisible(!isKnown);
+        m_shortName = FindLanguage(m_language->currentText());
+        m_hint->setText(m_shortName ? QString()
+                                    : TrackPropertiesDialog::tr(
+                                          "This language is not known: choose one from the list, or write its code, "
+                                          "such as \"en\" or \"pt-br\"."));
+        m_hint->setVisible(!m_shortName);
         FitHeight();
-        m_buttons->button(QDialogButtonBox::Ok)->setEnabled(isKnown);
+        m_buttons->button(QDialogButtonBox::Ok)->setEnabled(m_shortName.has_value());
     }
 
     /// Layouts do not make a window higher for the sake of a text of several lines.
@@ -149,6 +163,7 @@ private:
 
     TrackPropertiesDialog& m_dialog;
     QString m_fileName;
+    std::optional<std::string> m_shortName; ///< of the language that is written; not set when it is none
     KLabel* m_file = new KLabel(&m_dialog);
     QLabel* m_languageLabel = new QLabel(&m_dialog);
     KComboBox* m_language = new KComboBox(&m_dialog);

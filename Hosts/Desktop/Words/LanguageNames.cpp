@@ -2,6 +2,7 @@
 
 #include "Subtitles/Entities/Language.h"
 
+#include <QCollator>
 #include <QLocale>
 
 #include <algorithm>
@@ -17,13 +18,12 @@ using Language::LanguageID;
 namespace
 {
 
-/// How a language is shown and found.
+/// What a language is found by, whatever the program's language.
 struct Names
 {
     LanguageID id = LanguageID::None;
     QString english;
-    QString own;  ///< what its speakers call it; empty where that is the same, or Qt does not know
-    QString both; ///< "German – Deutsch"
+    QString own; ///< what its speakers call it; empty where Qt does not know
     std::string shortName;
 };
 
@@ -46,12 +46,8 @@ QString FindOwnName(std::string const& localeName)
 Names MakeNames(LanguageID id)
 {
     Language::LanguageData const& language = Language::GetLanguageData(id);
-    Names names{id, QString::fromStdString(language.displayName), FindOwnName(language.locale), {}, {}};
-    names.shortName = language.shortNames.front();
-    if (names.own.compare(names.english, Qt::CaseInsensitive) == 0)
-        names.own.clear();
-    names.both = names.own.isEmpty() ? names.english : QStringLiteral("%1 \u2013 %2").arg(names.english, names.own);
-    return names;
+    return {id, QString::fromStdString(language.displayName), FindOwnName(language.locale),
+            language.shortNames.front()};
 }
 
 /// In the order of the identifiers.
@@ -75,6 +71,20 @@ Names const* FindNames(LanguageID id)
     return found == list.end() ? nullptr : &*found;
 }
 
+/// In the program's present language.
+QString Translate(Names const& names)
+{
+    return QString::fromStdString(Language::GetDisplayText(names.id));
+}
+
+/// "German – Deutsch"; a name that both share stands once.
+QString Describe(Names const& names)
+{
+    QString const translated = Translate(names);
+    bool const isOneName = names.own.isEmpty() || names.own.compare(translated, Qt::CaseInsensitive) == 0;
+    return isOneName ? translated : QStringLiteral("%1 \u2013 %2").arg(translated, names.own);
+}
+
 bool IsThreeLetters(QString const& text)
 {
     return text.size() == 3 && std::all_of(text.begin(), text.end(),
@@ -86,7 +96,7 @@ bool IsThreeLetters(QString const& text)
 QString DescribeLanguage(std::string const& shortName)
 {
     Names const* const names = FindNames(Language::GetLanguageFromShortName(shortName));
-    return names == nullptr ? QString::fromStdString(shortName) : names->both;
+    return names == nullptr ? QString::fromStdString(shortName) : Describe(*names);
 }
 
 QStringList ListUsersLanguages()
@@ -95,7 +105,7 @@ QStringList ListUsersLanguages()
     for (QString const& name : QLocale::system().uiLanguages())
     {
         if (Names const* const names = FindNames(Language::GetLanguageFromShortName(name.toStdString())))
-            languages.append(names->both);
+            languages.append(Describe(*names));
     }
     languages.removeDuplicates();
     return languages;
@@ -105,8 +115,8 @@ QStringList ListAllLanguages()
 {
     QStringList languages;
     for (Names const& names : ListNames())
-        languages.append(names.both);
-    languages.sort();
+        languages.append(Describe(names));
+    std::sort(languages.begin(), languages.end(), QCollator());
     return languages;
 }
 
@@ -116,11 +126,14 @@ std::optional<std::string> FindLanguage(QString const& written)
     if (text.isEmpty())
         return std::string();
     // Kinds of one language share their speakers' name for it: the first counts.
-    for (QString Names::*const name : {&Names::both, &Names::english, &Names::own})
+    static constexpr QString (*NAMES[])(Names const&) = {Describe, Translate,
+                                                         [](Names const& names) { return names.english; },
+                                                         [](Names const& names) { return names.own; }};
+    for (auto const name : NAMES)
     {
         for (Names const& names : ListNames())
         {
-            if (text.compare(names.*name, Qt::CaseInsensitive) == 0)
+            if (text.compare(name(names), Qt::CaseInsensitive) == 0)
                 return names.shortName;
         }
     }

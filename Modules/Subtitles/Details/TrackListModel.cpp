@@ -1,7 +1,5 @@
 #include "Subtitles/Details/TrackListModel.h"
 
-#include "Subtitles/Entities/SubtitleTrack.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -10,6 +8,16 @@ namespace Korvex::Converter::Subtitles::Details
 
 using Entities::SubtitleTrack;
 using Entities::SubtitleTrackID;
+
+namespace
+{
+
+QString MakeLabel(SubtitleTrack const& track)
+{
+    return QString::fromStdString(GenerateLabel(track));
+}
+
+} // namespace
 
 int TrackListModel::rowCount(QModelIndex const& parent) const
 {
@@ -45,15 +53,14 @@ Qt::ItemFlags TrackListModel::flags(QModelIndex const& index) const
 
 void TrackListModel::AddTrack(SubtitleTrack const& track)
 {
-    QString const label = QString::fromStdString(GenerateLabel(track));
     if (auto const row = FindTrack(track.id))
     {
-        m_tracks[static_cast<std::size_t>(*row - FIRST_TRACK_ROW)].label = label;
+        m_tracks[static_cast<std::size_t>(*row - FIRST_TRACK_ROW)] = {track, MakeLabel(track)};
         ReportChange(*row);
         return;
     }
     beginInsertRows({}, rowCount(), rowCount());
-    m_tracks.push_back({track.id, label});
+    m_tracks.push_back({track, MakeLabel(track)});
     endInsertRows();
 }
 
@@ -82,6 +89,8 @@ void TrackListModel::SetChosenRow(int row)
 
 void TrackListModel::Retranslate()
 {
+    for (Track& entry : m_tracks)
+        entry.label = MakeLabel(entry.track);
     Q_EMIT dataChanged(index(0), index(rowCount() - 1));
 }
 
@@ -98,13 +107,13 @@ std::optional<SubtitleTrackID> TrackListModel::GetTrackAt(int row) const
 {
     if (row < FIRST_TRACK_ROW || row >= rowCount())
         return std::nullopt;
-    return TrackOfRow(row).id;
+    return TrackOfRow(row).track.id;
 }
 
 std::optional<int> TrackListModel::FindTrack(SubtitleTrackID const& id) const
 {
     auto const found =
-        std::find_if(m_tracks.begin(), m_tracks.end(), [&](Track const& track) { return track.id == id; });
+        std::find_if(m_tracks.begin(), m_tracks.end(), [&](Track const& entry) { return entry.track.id == id; });
     if (found == m_tracks.end())
         return std::nullopt;
     return FIRST_TRACK_ROW + static_cast<int>(found - m_tracks.begin());

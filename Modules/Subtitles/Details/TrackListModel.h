@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Subtitles/Entities/SubtitleTrack.h"
 #include "Subtitles/Entities/SubtitleTrackID.h"
 
 #include <QAbstractListModel>
@@ -8,16 +9,11 @@
 #include <optional>
 #include <vector>
 
-namespace Korvex::Converter::Subtitles::Entities
-{
-struct SubtitleTrack;
-}
-
 namespace Korvex::Converter::Subtitles::Details
 {
 
-/// The rows of a track list and which of them is the choice. Translated texts are made when they are asked for, so they
-/// always are in the present language. GUI thread.
+/// The rows of a track list and which of them is the choice. The labels of tracks are made once and again by
+/// `Retranslate`, all other texts when they are asked for. GUI thread.
 class TrackListModel final : public QAbstractListModel
 {
     Q_DECLARE_TR_FUNCTIONS(SubtitleCollection)
@@ -38,7 +34,7 @@ public:
     void SetSoftSubAvailable(bool available);
     void SetChosenRow(int row);
     [[nodiscard]] int GetChosenRow() const { return m_chosenRow; }
-    /// Tells the views to ask for all texts again.
+    /// Makes the labels anew, in the present language, and tells the views to ask for all texts again.
     void Retranslate();
 
     [[nodiscard]] QString GetTitle(int row) const;
@@ -49,7 +45,7 @@ public:
 private:
     struct Track
     {
-        Entities::SubtitleTrackID id;
+        Entities::SubtitleTrack track;
         QString label;
     };
 

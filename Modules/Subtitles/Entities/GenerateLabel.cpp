@@ -18,8 +18,7 @@ std::string LanguagePiece(std::string const& shortName)
 {
     if (shortName.empty())
         return {};
-    auto const language = Language::GetLanguageFromShortName(shortName);
-    std::string const& name = Language::GetLanguageData(language).displayName;
+    std::string const name = Language::GetDisplayText(Language::GetLanguageFromShortName(shortName));
     return boost::str(boost::format("[%1%]") % (name.empty() ? shortName : name));
 }
 

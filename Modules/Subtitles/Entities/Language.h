@@ -99,7 +99,7 @@ enum class LanguageID : std::int32_t
 struct LanguageData
 {
     LanguageID id = LanguageID::None;
-    std::string displayName;             ///< English: "Portuguese (Brazil)"
+    std::string displayName;             ///< English in every language of the application: "Portuguese (Brazil)"
     std::string locale;                  ///< "pt_BR"; empty where no locale exists
     std::vector<std::string> shortNames; ///< lower case, the preferred one (ISO 639-1 where there is one) first
 };
@@ -111,6 +111,10 @@ struct LanguageData
 
 /// An unknown identifier gives the data of `None`. Lives until the process ends.
 [[nodiscard]] KVSUBTITLES_API LanguageData const& GetLanguageData(LanguageID id);
+
+/// The display name in the application's present language: "Portugiesisch (Brasilien)"; in English where it has no
+/// translation. UTF-8; empty for `None`.
+[[nodiscard]] KVSUBTITLES_API std::string GetDisplayText(LanguageID id);
 
 /// Every language, in the order of the identifiers, without `None`.
 [[nodiscard]] KVSUBTITLES_API std::vector<LanguageID> const& GetAllLanguages();

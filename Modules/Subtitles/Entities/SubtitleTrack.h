@@ -48,7 +48,8 @@ struct KVSUBTITLES_API SubtitleTrack
     return !(a == b);
 }
 
-/// The text shown for a track in lists: title, [language], detail, (codec). UTF-8.
+/// The text shown for a track in lists: title, [language], detail, (codec). UTF-8. The language is named in the
+/// application's present language, so a list asks again when that changes.
 [[nodiscard]] KVSUBTITLES_API std::string GenerateLabel(SubtitleTrack const& track);
 
 } // namespace Korvex::Converter::Subtitles::Entities

@@ -3,6 +3,8 @@
 #include "Desktop/Conversion/ConversionQueue.h"
 #include "Desktop/Films/SessionStore.h"
 #include "Desktop/Window/MainWindow.h"
+#include "Desktop/Window/TrackPropertiesDialog.h"
+#include "Desktop/Words/LanguageNames.h"
 #include "Desktop/Words/Languages.h"
 #include "Support/WidgetSupport.h"
 
@@ -11,6 +13,7 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QListView>
 #include <QPushButton>
 #include <QTest>
 #include <QTranslator>
@@ -72,6 +75,19 @@ std::set<std::string> ListTexts()
     return texts;
 }
 
+/// The first tracks of the lists that have any.
+std::set<std::string> ListFirstTracks()
+{
+    std::set<std::string> tracks;
+    for (QWidget const* widget : QApplication::allWidgets())
+    {
+        auto const* const list = qobject_cast<QListView const*>(widget);
+        if (list != nullptr && list->objectName() == "trackListView" && list->model()->rowCount() > 2)
+            tracks.insert(list->model()->index(2, 0).data().toString().toStdString());
+    }
+    return tracks;
+}
+
 class LanguagesTest : public Testing::FilmFixture
 {
 protected:
@@ -84,7 +100,7 @@ TEST_F(LanguagesTest, EveryTextOfTheWindowFollowsASwitchToGerman)
     Languages languages;
     Recorder const recorder;
     ConversionQueue queue(m_services);
-    Film& film = Open(MakeFilm("film.mkv", {MakeSubtitle("subrip", "ger"), MakeSubtitle("hdmv_pgs_subtitle", "eng")}));
+    Film& film = Open(MakeFilm("film.mkv", {MakeSubtitle("subrip", "ger"), MakeSubtitle("hdmv_pgs_subtitle", "fre")}));
     ioPath const added = WriteText("other.srt", Testing::RUSSIAN_SRT);
     film.AddSubtitleFiles({added});
     film.ChooseTrack(Testing::SubtitleTrackID(added));
@@ -94,6 +110,7 @@ TEST_F(LanguagesTest, EveryTextOfTheWindowFollowsASwitchToGerman)
     window.resize(1200, 800);
     Testing::ShowAndWait(window);
     ASSERT_GT(recorder.GetRequests().size(), 50U);
+    EXPECT_EQ(ListFirstTracks(), std::set<std::string>{"[German] (SubRip)"});
 
     languages.Switch("de");
     EXPECT_EQ(languages.GetCurrent(), "de");
@@ -108,6 +125,7 @@ TEST_F(LanguagesTest, EveryTextOfTheWindowFollowsASwitchToGerman)
         EXPECT_TRUE(text.toStdString() == source || texts.count(source) == 0)
             << '"' << source << "\" of " << context << " stays as it is";
     }
+    EXPECT_EQ(ListFirstTracks(), std::set<std::string>{"[Deutsch] (SubRip)"});
     EXPECT_EQ(QLocale().toString(1.5), "1,5");
     EXPECT_EQ(window.findChild<QDoubleSpinBox*>("syncSpinBox")->text(), "0,00");
     EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
@@ -120,6 +138,31 @@ TEST_F(LanguagesTest, EveryTextOfTheWindowFollowsASwitchToGerman)
     }
     languages.Switch("no such language");
     EXPECT_EQ(languages.GetCurrent(), "en");
+}
+
+TEST_F(LanguagesTest, TheBoxOfLanguagesFollowsASwitch)
+{
+    Languages languages;
+    TrackPropertiesDialog dialog("film.srt", {"fr", {}, false, false});
+    Testing::ShowAndWait(dialog);
+    auto const* const box = dialog.findChild<QComboBox*>("languageComboBox");
+    EXPECT_EQ(box->currentText(), QStringLiteral("French \u2013 fran\u00E7ais"));
+
+    languages.Switch("de");
+    QTest::qWait(0);
+    EXPECT_EQ(box->currentText(), QStringLiteral("Franz\u00F6sisch \u2013 fran\u00E7ais"));
+    EXPECT_EQ(dialog.GetProperties().language, "fr");
+    for (char const* name : {"Französisch", "french", "Français", "FR", "Französisch – français"})
+        EXPECT_EQ(FindLanguage(QString::fromUtf8(name)), "fr") << name;
+    int const danish = box->findText("Dänisch", Qt::MatchStartsWith);
+    EXPECT_LT(danish, box->findText("Deutsch")) << "in the order of the German alphabet";
+    EXPECT_GT(danish, box->findText("Chinesisch", Qt::MatchStartsWith));
+    for (char const* code : {"de", "ru", "ja"})
+    {
+        languages.Switch(code);
+        QTest::qWait(0);
+        Testing::SaveScreenshot(dialog, QStringLiteral("track-properties-") + code);
+    }
 }
 
 } // namespace
