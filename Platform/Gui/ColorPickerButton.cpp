@@ -1,5 +1,6 @@
 #include "Gui/ColorPickerButton.h"
 
+#include "Gui/DialogPlace.h"
 #include "Gui/LookAndFeelManager.h"
 #include "Gui/Style.h"
 
@@ -142,6 +143,7 @@ void ColorPickerButton::OpenDialog()
     connect(m_dialog, &QColorDialog::currentColorChanged, this,
             [this](QColor const& color) { ShowColor(QColor::fromRgb(color.rgb())); });
     connect(m_dialog, &QDialog::rejected, this, [this] { ShowColor(m_colorBefore); });
+    PlaceInCorner(*m_dialog); // what is being coloured stays in view
     m_dialog->open();
 }
 

@@ -3,6 +3,7 @@
 #include "Gui/ColorPickerButton.h"
 
 #include <QColorDialog>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTranslator>
@@ -96,6 +97,26 @@ TEST(ColorPickerButtonTest, ReportsColorsWhileTheDialogIsOpenAndGoesBackOnCancel
     button.SetColor(Qt::yellow);
     dialog->reject();
     EXPECT_EQ(button.Color(), QColor(Qt::yellow)) << "the button stands for something else since";
+}
+
+TEST(ColorPickerButtonTest, ItsDialogStandsInTheCornerOfTheWindow)
+{
+    QWidget window;
+    ColorPickerButton button(&window);
+    ShowAndWait(window);
+    QRect const screen = window.screen()->availableGeometry();
+    window.resize(screen.width() - 100, screen.height() - 200);
+    for (int const left : {50, 400, 200 - screen.width()}) // the window sticks out of the screen on either side
+    {
+        window.move(left, 80);
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QColorDialog* const dialog = FindDialog(button);
+        ASSERT_NE(dialog, nullptr);
+        int const right = qBound(dialog->frameGeometry().width() - 1, window.frameGeometry().right(), screen.right());
+        EXPECT_EQ(dialog->frameGeometry().topRight(), QPoint(right, window.frameGeometry().top())) << left;
+        dialog->reject();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 }
 
 TEST(ColorPickerButtonTest, SwatchStandsOutFromEveryColor)

@@ -5,6 +5,7 @@
 
 #include "Gui/ColorPickerButton.h"
 #include "Gui/ComboBoxButton.h"
+#include "Gui/DialogPlace.h"
 #include "Gui/KComboBox.h"
 #include "Gui/Style.h"
 
@@ -189,6 +190,7 @@ void EditingPanel::SelectFont()
         button->setIcon({}); // some desktops want one, in the style of this panel
     GUI::RoundWidgetCorners(dialog);
     dialog->setCurrentFont(FindInstalledFont(m_form->font));
+    GUI::PlaceInCorner(*dialog);
     QString const shownFamily = dialog->currentFont().family();
     int const result = dialog->exec();
     if (!self || !dialog) // the host may close the window below the dialog
