@@ -5,6 +5,8 @@
 #include "Desktop/Words/ErrorWords.h"
 
 #include "Gui/KLabel.h"
+#include "Gui/Style.h"
+#include "Subtitles/Entities/SubtitleTextSettings.h"
 
 #include <QEvent>
 #include <QVBoxLayout>
@@ -38,6 +40,12 @@ QLabel* MakeNote(char const* name, char const* role, QWidget* parent)
     label->setTextFormat(Qt::PlainText);
     label->hide();
     return label;
+}
+
+bool IsDefaultFont(std::string const& family)
+{
+    QString const usual = Converter::Subtitles::Entities::SubtitleTextSettings().font.family();
+    return usual.compare(QString::fromStdString(family), Qt::CaseInsensitive) == 0;
 }
 
 void ShowNote(QLabel& label, QString const& text)
@@ -115,6 +123,8 @@ public:
 
     void ShowFonts(TextHelp const& text)
     {
+        // A font that nobody chose is nobody's loss.
+        Util::ApplyWidgetStyle(missingFont, IsDefaultFont(text.fontFamily) ? DIM : WARNING, "role");
         ShowNote(*missingFont, text.fontStandIn.empty()
                                    ? QString()
                                    : TextHelpTexts::DescribeMissingFont(text.fontFamily, text.fontStandIn));

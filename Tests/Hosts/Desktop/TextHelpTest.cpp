@@ -124,6 +124,12 @@ TEST_F(TextHelpTest, SaysWhatCannotBeReadAndWhichFontsStandIn)
     EXPECT_TRUE(view.findChild<QLabel*>("replacedBytesLabel")->text().startsWith("89 byte"));
     EXPECT_THAT(view.findChild<QLabel*>("missingFontLabel")->text().toStdString(),
                 HasSubstr("\"No Such Font\" is not installed; \""));
+    EXPECT_EQ(view.findChild<QLabel*>("missingFontLabel")->property("role"), "warning");
+    TextHelp usual;
+    usual.fontFamily = "Verdana";
+    usual.fontStandIn = "DejaVu Sans";
+    view.Show(usual);
+    EXPECT_EQ(view.findChild<QLabel*>("missingFontLabel")->property("role"), "dim") << "nobody chose it";
 
     ioPath const japanese = Write("film.ja.srt", MakeSubRip({"昨日の夜は\U000F1234"}));
     view.Show(Read({japanese, std::nullopt, "", "DejaVu Sans"}));
