@@ -220,7 +220,9 @@ bool FilmDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, QStyleO
     FilmRow const row = DescribeFilm(*film, m_queue);
     FilmRowLayout const layout(row, option.rect, option.font);
     QString text;
-    if (layout.choice.contains(event->pos()))
+    if (layout.name.contains(event->pos()))
+        text = row.name;
+    else if (layout.choice.contains(event->pos()))
         text = row.choice;
     else if (auto const status = m_queue.FindStatus(film->GetId());
              status && layout.sentence.contains(event->pos()) && !status->notes.isEmpty())

@@ -9,10 +9,11 @@
 
 #include <QCoreApplication>
 #include <QFontMetrics>
-#include <QTextLayout>
+#include <QTextBoundaryFinder>
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace Korvex::Desktop
 {
@@ -47,22 +48,37 @@ QString DescribeFacts(Film const& film)
     return facts;
 }
 
-/// At most two lines, the second one shortened.
+/// Where a name may go on in another line: between words, and behind the signs that stand for blanks in names of files,
+/// but never inside the ending.
+std::vector<int> ListBreaks(QString const& name)
+{
+    static QString const SIGNS = QStringLiteral("._-");
+    int const ending = name.lastIndexOf(QLatin1Char('.'));
+    QTextBoundaryFinder words(QTextBoundaryFinder::Line, name);
+    std::vector<int> breaks;
+    for (int i = 1; i < (ending > 0 ? ending : name.size()); ++i)
+    {
+        words.setPosition(i);
+        if (words.isAtBoundary() || (SIGNS.contains(name[i - 1]) && !SIGNS.contains(name[i])))
+            breaks.push_back(i);
+    }
+    return breaks;
+}
+
+/// At most two lines, the last one shortened; one where no part of the name fits a line.
 QStringList SplitName(QString const& name, QFont const& font, int width)
 {
     QFontMetrics const metrics(font);
     if (metrics.horizontalAdvance(name) <= width)
         return {name};
-    QTextLayout text(name, font);
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    text.setTextOption(option);
-    text.beginLayout();
-    QTextLine first = text.createLine();
-    first.setLineWidth(width);
-    text.endLayout();
-    QString const rest = name.mid(first.textLength());
-    return {name.left(first.textLength()).trimmed(), metrics.elidedText(rest, Qt::ElideMiddle, width)};
+    std::vector<int> const breaks = ListBreaks(name);
+    auto const fits = [&](int length) { return metrics.horizontalAdvance(name.left(length).trimmed()) <= width; };
+    auto const last = std::find_if(breaks.rbegin(), breaks.rend(), fits);
+    int const length = last == breaks.rend() ? 0 : *last;
+    QStringList lines;
+    if (length > 0)
+        lines << name.left(length).trimmed();
+    return lines << metrics.elidedText(name.mid(length), Qt::ElideMiddle, width);
 }
 
 void DescribeProgress(ConversionStatus const& status, bool isPaused, FilmRow& row)
