@@ -21,7 +21,6 @@
 #include <deque>
 #include <map>
 #include <mutex>
-#include <set>
 #include <utility>
 
 namespace Korvex::Desktop
@@ -116,10 +115,11 @@ public:
         return found == m_items.end() ? std::nullopt : std::optional(found->second.status);
     }
 
+    [[nodiscard]] std::set<FilmId> const& GetBatch() const { return m_batch; }
     [[nodiscard]] std::optional<double> GetTotalFraction() const { return SumFraction(ListShares()); }
     [[nodiscard]] std::optional<std::chrono::seconds> GetTotalRemaining() const
     {
-        return SumRemaining(ListShares(), m_speed);
+        return SumRemaining(ListShares(), m_speeds);
     }
 
     bool event(QEvent* event) override
@@ -163,7 +163,7 @@ private:
     void BeginBatch()
     {
         m_batch.clear();
-        m_speed = 0.0;
+        m_speeds = {};
         m_isBatchOpen = true;
     }
 
@@ -178,7 +178,7 @@ private:
         for (FilmId const film : m_batch)
         {
             Item const& item = m_items.at(film);
-            shares.push_back({item.job.media.duration, &item.status});
+            shares.push_back({item.job.media.duration, FindPictureWork(item.job), &item.status});
         }
         return shares;
     }
@@ -275,19 +275,25 @@ private:
 
     void OnConversionProgress(ConversionId, Proc::TranscodeProgress const& progress) override
     {
-        ConversionStatus& status = m_items.at(*m_current).status;
+        Item& item = m_items.at(*m_current);
+        ConversionStatus& status = item.status;
         if (progress.total.count() > 0)
             status.fraction = static_cast<double>(progress.done.count()) / static_cast<double>(progress.total.count());
         status.remaining = progress.remaining;
-        m_speed = progress.speed;
+        m_speeds.Set(FindPictureWork(item.job), progress.speed);
         Notify(*m_current);
     }
 
     void OnConversionFinished(ConversionId, Proc::TranscodeReport const& report) override
     {
         m_conversion.reset();
+        ConversionStatus& status = m_items.at(*m_current).status;
         for (Proc::Warning const& warning : report.warnings)
-            m_items.at(*m_current).status.notes.append(Describe(warning));
+        {
+            status.notes.append(Describe(warning));
+            if (warning.code == Proc::WarningCode::EndsEarly)
+                status.earlyEnd = ConversionStatus::EarlyEnd{warning.done, warning.total};
+        }
         if (!report.error)
             EndCurrent(ConversionState::Done, {});
         else if (report.error->code == Core::ErrorCode::Cancelled)
@@ -340,7 +346,7 @@ private:
     std::optional<FilmId> m_current;
     std::unique_ptr<TrackPreparation> m_preparation; ///< of the current one; its files are needed until that ends
     std::optional<ConversionId> m_conversion;        ///< of the current one
-    double m_speed = 0.0;                            ///< as it was last measured; 0 when not yet
+    ConversionSpeeds m_speeds;                       ///< of this batch
     bool m_isPaused = false;
     std::mutex m_wakeMutex;
 };
@@ -386,6 +392,11 @@ bool ConversionQueue::IsActive() const
 std::optional<ConversionStatus> ConversionQueue::FindStatus(FilmId film) const
 {
     return m_impl->FindStatus(film);
+}
+
+std::set<FilmId> const& ConversionQueue::GetBatch() const
+{
+    return m_impl->GetBatch();
 }
 
 std::optional<double> ConversionQueue::GetTotalFraction() const

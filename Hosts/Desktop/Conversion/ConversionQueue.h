@@ -8,6 +8,7 @@
 #include <chrono>
 #include <memory>
 #include <optional>
+#include <set>
 
 namespace Korvex::Desktop
 {
@@ -30,6 +31,13 @@ struct ConversionStatus
     ioPath output;
     QString sentence;  ///< why it failed
     QStringList notes; ///< what is otherwise than expected, one sentence each
+    /// Where the film broke off and where it should have ended; none when the output is as long as the film.
+    struct EarlyEnd
+    {
+        std::chrono::seconds done{0};
+        std::chrono::seconds total{0};
+    };
+    std::optional<EarlyEnd> earlyEnd;
 };
 
 /// Converts one film after the other; a failed one does not stop the rest. GUI thread; the work is done on others. An
@@ -56,9 +64,11 @@ public:
     [[nodiscard]] bool IsActive() const;
     /// Of its last conversion; none when it never was in the queue.
     [[nodiscard]] std::optional<ConversionStatus> FindStatus(FilmId film) const;
-    /// Over everything that was added since the queue was last idle, weighted by duration.
+    /// What was added since the queue was last idle, and after that what was then.
+    [[nodiscard]] std::set<FilmId> const& GetBatch() const;
+    /// Over everything that was added since the queue was last idle, weighted by the work that is expected.
     [[nodiscard]] std::optional<double> GetTotalFraction() const;
-    /// At the speed that was last measured; none while that or a film's duration is not known.
+    /// At the speeds that were last measured; none while those or a film's duration are not known.
     [[nodiscard]] std::optional<std::chrono::seconds> GetTotalRemaining() const;
 
 Q_SIGNALS:

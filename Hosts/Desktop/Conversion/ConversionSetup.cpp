@@ -1,5 +1,6 @@
 #include "Desktop/Conversion/ConversionSetup.h"
 
+#include "Desktop/Conversion/ConversionTotals.h"
 #include "Desktop/Films/ConversionJob.h"
 #include "Desktop/Films/OutputSettings.h"
 
@@ -24,6 +25,19 @@ using Subtitles::Entities::SubtitleCollectionMode;
 bool AsksForAllSoft(ConversionJob const& job)
 {
     return job.collection.mode == SubtitleCollectionMode::AllSoftSubtitles && !job.collection.tracks.empty();
+}
+
+bool AsksForDrawing(ConversionJob const& job)
+{
+    SubtitleCollection const& collection = job.collection;
+    return !collection.tracks.empty() && collection.mode == SubtitleCollectionMode::SelectedTrack &&
+           collection.withoutSubtitles == 0 && !collection.currentTrack.IsEmpty();
+}
+
+PictureWork FindPictureWork(ConversionJob const& job)
+{
+    bool const isCopied = job.preset.videoCodecId.empty() && !AsksForDrawing(job);
+    return isCopied ? PictureWork::Copied : PictureWork::Encoded;
 }
 
 ioPath FindFreeOutput(ConversionJob const& job)
@@ -66,8 +80,6 @@ std::optional<ConversionRequest> MakeConversionRequest(Hosts::HostServices& serv
         collection.withoutSubtitles = 1;
         collection.currentTrack.Clear();
     }
-    bool const isDrawn = collection.mode == SubtitleCollectionMode::SelectedTrack && collection.withoutSubtitles == 0 &&
-                         !collection.currentTrack.IsEmpty();
 
     auto const interactor = services.GetPool().GetInteractor();
     interactor->SetPresenterSettings({});
@@ -76,7 +88,7 @@ std::optional<ConversionRequest> MakeConversionRequest(Hosts::HostServices& serv
     Subtitles::CoreSettings const settings = Subtitles::ReadCoreSettings(interactor->GetSubtitleCollection());
     interactor->ClearSubtitleCollection();
 
-    if (AsksForAllSoft(job) != (settings.soft != nullptr) || isDrawn != (settings.mixer != nullptr))
+    if (AsksForAllSoft(job) != (settings.soft != nullptr) || AsksForDrawing(job) != (settings.mixer != nullptr))
         return std::nullopt;
     ConversionRequest request;
     request.item.path = job.media.path;

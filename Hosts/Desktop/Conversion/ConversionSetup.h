@@ -15,9 +15,16 @@ namespace Korvex::Desktop
 {
 
 struct ConversionJob;
+enum class PictureWork;
 
 /// Tracks are to go out, all of them switchable.
 [[nodiscard]] bool AsksForAllSoft(ConversionJob const& job);
+
+/// One of the tracks is drawn into the picture.
+[[nodiscard]] bool AsksForDrawing(ConversionJob const& job);
+
+/// As far as the job says: a format that cannot hold the film's picture has it encoded all the same.
+[[nodiscard]] PictureWork FindPictureWork(ConversionJob const& job);
 
 /// The job's output, or the film's own name with the next free number: a name that was free when the job was made may
 /// be taken by now, and films of one name may go into one folder.

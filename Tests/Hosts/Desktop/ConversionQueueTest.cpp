@@ -290,7 +290,7 @@ TEST_F(ConversionQueueTest, DestroyingItEndsWhatIsPreparedOrRuns)
     }
 }
 
-TEST(ConversionTotalsTest, FilmsWeighByTheirLengthAndTimeIsSaidOnlyWhereItIsKnown)
+TEST(ConversionTotalsTest, FilmsWeighByTheirWorkAndTimeIsSaidOnlyWhereItIsKnown)
 {
     ConversionStatus ended;
     ended.state = ConversionState::Failed;
@@ -299,14 +299,22 @@ TEST(ConversionTotalsTest, FilmsWeighByTheirLengthAndTimeIsSaidOnlyWhereItIsKnow
     running.fraction = 0.5;
     running.remaining = 20s;
     ConversionStatus const waiting;
-    std::vector<ConversionShare> shares{{30s, &ended}, {60s, &running}, {90s, &waiting}};
+    std::vector<ConversionShare> shares{{30s, PictureWork::Encoded, &ended},
+                                        {60s, PictureWork::Encoded, &running},
+                                        {90s, PictureWork::Encoded, &waiting}};
     EXPECT_DOUBLE_EQ(*SumFraction(shares), (30.0 + 30.0) / 180.0);
-    EXPECT_EQ(SumRemaining(shares, 1.5), 80s);
-    EXPECT_EQ(SumRemaining(shares, 0.0), std::nullopt);
+    EXPECT_EQ(SumRemaining(shares, {0.0, 1.5}), 80s);
+    EXPECT_EQ(SumRemaining(shares, {}), std::nullopt);
     shares[2].duration = 0s;
-    EXPECT_EQ(SumRemaining(shares, 1.5), std::nullopt) << "nobody knows how long that film is";
-    EXPECT_EQ(SumRemaining({{30s, &ended}}, 1.5), std::nullopt);
+    EXPECT_EQ(SumRemaining(shares, {0.0, 1.5}), std::nullopt) << "nobody knows how long that film is";
+    EXPECT_EQ(SumRemaining({{30s, PictureWork::Encoded, &ended}}, {0.0, 1.5}), std::nullopt);
     EXPECT_EQ(SumFraction({}), std::nullopt);
+
+    // Two hours that are copied are nothing beside some minutes that are encoded, whichever comes first.
+    shares = {{2h, PictureWork::Copied, &waiting}, {15min, PictureWork::Encoded, &running}};
+    EXPECT_NEAR(*SumFraction(shares), 0.5, 0.05);
+    EXPECT_LT(SumRemaining(shares, {0.0, 1.0}), 120s);
+    EXPECT_EQ(SumRemaining(shares, {720.0, 1.0}), 30s) << "what was measured counts";
 }
 
 } // namespace
