@@ -188,8 +188,10 @@ bool FilmDelegate::IsButtonAt(QStyleOptionViewItem const& option, QModelIndex co
     Film const* film = GetFilm(index);
     if (film == nullptr)
         return false;
-    FilmRowLayout const layout(DescribeFilm(*film, m_queue), option.rect, option.font);
-    return layout.choice.contains(position) || layout.reveal.contains(position);
+    FilmRow const row = DescribeFilm(*film, m_queue);
+    FilmRowLayout const layout(row, option.rect, option.font);
+    return layout.choice.contains(position) || layout.reveal.contains(position) ||
+           (!row.remarks.isEmpty() && layout.sentence.contains(position));
 }
 
 bool FilmDelegate::editorEvent(QEvent* event, QAbstractItemModel* /*model*/, QStyleOptionViewItem const& option,
@@ -199,13 +201,16 @@ bool FilmDelegate::editorEvent(QEvent* event, QAbstractItemModel* /*model*/, QSt
     if (film == nullptr || event->type() != QEvent::MouseButtonRelease)
         return false;
     auto const* mouse = static_cast<QMouseEvent*>(event);
-    FilmRowLayout const layout(DescribeFilm(*film, m_queue), option.rect, option.font);
+    FilmRow const row = DescribeFilm(*film, m_queue);
+    FilmRowLayout const layout(row, option.rect, option.font);
     if (mouse->button() != Qt::LeftButton)
         return false;
     if (layout.choice.contains(mouse->pos()))
         Q_EMIT SubtitlesRequested(index);
     else if (layout.reveal.contains(mouse->pos()))
         Q_EMIT RevealRequested(index);
+    else if (!row.remarks.isEmpty() && layout.sentence.contains(mouse->pos()))
+        Q_EMIT RemarksRequested(index);
     else
         return false;
     return true;
@@ -224,11 +229,8 @@ bool FilmDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, QStyleO
         text = row.name;
     else if (layout.choice.contains(event->pos()))
         text = row.choice;
-    else if (auto const status = m_queue.FindStatus(film->GetId());
-             status && layout.sentence.contains(event->pos()) && !status->notes.isEmpty())
-        text = status->notes.join(QLatin1Char('\n'));
     else if (layout.sentence.contains(event->pos()))
-        text = row.sentence;
+        text = row.remarks.isEmpty() ? row.sentence : row.remarks;
     if (text.isEmpty())
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     QToolTip::showText(event->globalPos(), text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>")),

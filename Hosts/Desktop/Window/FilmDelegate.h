@@ -34,6 +34,7 @@ public:
 Q_SIGNALS:
     void SubtitlesRequested(QModelIndex const& index);
     void RevealRequested(QModelIndex const& index);
+    void RemarksRequested(QModelIndex const& index);
 
 private:
     ConversionQueue const& m_queue;

@@ -56,6 +56,7 @@ FilmListPane::FilmListPane(FilmList& films, ConversionQueue const& queue, QActio
 
     connect(m_view, &FilmListView::SubtitlesRequested, this, &FilmListPane::SubtitlesRequested);
     connect(m_view, &FilmListView::RevealRequested, this, &FilmListPane::RevealRequested);
+    connect(m_view, &FilmListView::RemarksRequested, this, &FilmListPane::RemarksRequested);
     connect(m_view, &FilmListView::MenuRequested, this, &FilmListPane::MenuRequested);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this, &FilmListPane::NoteCurrentFilm);
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this, &FilmListPane::SelectionChanged);

@@ -46,6 +46,8 @@ Q_SIGNALS:
     /// The place of the button is on the screen.
     void SubtitlesRequested(Korvex::Desktop::Film* film, QRect const& button);
     void RevealRequested(Korvex::Desktop::Film* film);
+    /// To read what was otherwise than expected in the film's conversion.
+    void RemarksRequested(Korvex::Desktop::Film* film);
     void MenuRequested(Korvex::Desktop::Film* film, QPoint const& globalPosition);
 
 protected:

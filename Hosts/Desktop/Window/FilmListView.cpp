@@ -35,6 +35,8 @@ FilmListView::FilmListView(ConversionQueue const& queue, QWidget* parent)
     connect(m_delegate, &FilmDelegate::SubtitlesRequested, this, &FilmListView::RequestSubtitles);
     connect(m_delegate, &FilmDelegate::RevealRequested, this,
             [this](QModelIndex const& index) { Q_EMIT RevealRequested(GetFilm(index)); });
+    connect(m_delegate, &FilmDelegate::RemarksRequested, this,
+            [this](QModelIndex const& index) { Q_EMIT RemarksRequested(GetFilm(index)); });
 }
 
 FilmListView::~FilmListView() = default;

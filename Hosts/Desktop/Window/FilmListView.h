@@ -28,6 +28,7 @@ Q_SIGNALS:
     /// The place of the button is on the screen.
     void SubtitlesRequested(Korvex::Desktop::Film* film, QRect const& button);
     void RevealRequested(Korvex::Desktop::Film* film);
+    void RemarksRequested(Korvex::Desktop::Film* film);
     void MenuRequested(Korvex::Desktop::Film* film, QPoint const& globalPosition);
 
 protected:

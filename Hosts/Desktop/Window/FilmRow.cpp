@@ -97,6 +97,24 @@ void DescribeProgress(ConversionStatus const& status, bool isPaused, FilmRow& ro
         row.sentence += QStringLiteral("  \u00B7  ") + FormatTimeLeft(*status.remaining);
 }
 
+void DescribeOutput(ConversionStatus const& status, FilmRow& row)
+{
+    row.hasOutput = true;
+    row.remarks = status.notes.join(QLatin1Char('\n'));
+    row.mark = status.notes.isEmpty() ? Mark::Success : Mark::Warning;
+    if (status.earlyEnd)
+    {
+        auto const [done, total] = *status.earlyEnd;
+        row.sentence = Translate(QT_TRANSLATE_NOOP("FilmRow", "Converted, but it breaks off after %1 of %2"))
+                           .arg(FormatTime(done, total), FormatTime(total, total));
+    }
+    else if (status.notes.isEmpty())
+        row.sentence = Translate(QT_TRANSLATE_NOOP("FilmRow", "Converted"));
+    else
+        row.sentence =
+            QCoreApplication::translate("FilmRow", "Converted, with %n remark(s)", nullptr, status.notes.size());
+}
+
 /// True when it said something that goes before the film's own problems.
 bool DescribeConversion(ConversionStatus const& status, bool isPaused, FilmRow& row)
 {
@@ -116,11 +134,7 @@ bool DescribeConversion(ConversionStatus const& status, bool isPaused, FilmRow& 
         row.sentence = status.sentence;
         return true;
     case ConversionState::Done:
-        row.mark = Mark::Success;
-        row.hasOutput = true;
-        row.sentence = status.notes.isEmpty() ? Translate(QT_TRANSLATE_NOOP("FilmRow", "Converted"))
-                                              : QCoreApplication::translate("FilmRow", "Converted, with %n remark(s)",
-                                                                            nullptr, status.notes.size());
+        DescribeOutput(status, row);
         return false;
     case ConversionState::Cancelled:
         row.sentence = Translate(QT_TRANSLATE_NOOP("FilmRow", "Cancelled"));
@@ -136,6 +150,7 @@ void DescribeProblem(Film const& film, FilmRow& row)
         return;
     row.mark = Mark::Warning;
     row.sentence = problems.front().sentence;
+    row.remarks.clear();
     row.hasOutput = false;
 }
 

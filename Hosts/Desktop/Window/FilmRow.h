@@ -28,6 +28,7 @@ struct FilmRow
     QString sentence;               ///< what is wrong, or how its conversion stands; may be empty
     std::optional<double> fraction; ///< of the running conversion
     bool isConverting = false;      ///< a bar is shown, also while the fraction is unknown
+    QString remarks;                ///< on what came out, a line each; the sentence then leads to them
     bool hasOutput = false;         ///< there is something to show in its folder
 };
 
