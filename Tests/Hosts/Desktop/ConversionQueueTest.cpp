@@ -190,6 +190,25 @@ TEST_F(ConversionQueueTest, AnOutputThatExistsByNowIsNeverOverwritten)
     EXPECT_EQ(m_queue->FindStatus(2)->output, m_folder / "out/film (3).mkv");
 }
 
+TEST_F(ConversionQueueTest, AFilmThatBreaksOffIsDoneAndSaysWhere)
+{
+    ioPath const film = MakeFilm("film.mkv", 20, {});
+    ConversionJob const job = MakeJob(1, film, {}, SubtitleCollectionMode::ModeNone);
+    auto const bytes = Core::ReadFile(film, 100'000'000);
+    ASSERT_TRUE(bytes);
+    ASSERT_FALSE(Core::WriteFile(film, bytes->substr(0, bytes->size() / 2), true));
+    m_queue->Add(job);
+    m_queue->Add(MakeJob(2, MakeFilm("whole.mkv", 2, {}), {}, SubtitleCollectionMode::ModeNone));
+    ASSERT_TRUE(RunToEnd());
+    ConversionStatus const status = *m_queue->FindStatus(1);
+    EXPECT_EQ(status.state, ConversionState::Done) << status.sentence.toStdString();
+    ASSERT_TRUE(status.earlyEnd);
+    EXPECT_EQ(status.earlyEnd->total, 20s);
+    EXPECT_TRUE(status.earlyEnd->done > 2s && status.earlyEnd->done < 18s);
+    EXPECT_FALSE(m_queue->FindStatus(2)->earlyEnd);
+    EXPECT_EQ(m_queue->GetBatch(), (std::set<FilmId>{1, 2}));
+}
+
 TEST_F(ConversionQueueTest, AFilmIsCancelledInWhateverStateAndLeavesNothing)
 {
     OutputSettings mp4;
