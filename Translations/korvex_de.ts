@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>BatchReport</name>
+    <message numerus="yes">
+        <source>%n film(s) converted.</source>
+        <translation type="unfinished">
+            <numerusform>%n Film umgewandelt.</numerusform>
+            <numerusform>%n Filme umgewandelt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) with remarks: %1</source>
+        <translation type="unfinished">
+            <numerusform>%n Film mit Hinweisen: %1</numerusform>
+            <numerusform>%n Filme mit Hinweisen: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) could not be converted: %1</source>
+        <translation type="unfinished">
+            <numerusform>%n Film konnte nicht umgewandelt werden: %1</numerusform>
+            <numerusform>%n Filme konnten nicht umgewandelt werden: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) cancelled.</source>
+        <translation type="unfinished">
+            <numerusform>%n Film abgebrochen.</numerusform>
+            <numerusform>%n Filme abgebrochen.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ConversionTexts</name>
     <message>
         <source>%1 holds no cues and was left out.</source>
@@ -443,6 +474,10 @@
     <message>
         <source>Show in folder</source>
         <translation type="unfinished">Im Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Converted, but it breaks off after %1 of %2</source>
+        <translation type="unfinished">Umgewandelt, bricht aber nach %1 von %2 ab</translation>
     </message>
 </context>
 <context>
@@ -911,6 +946,14 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     <message>
         <source>Try again</source>
         <translation type="unfinished">Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation type="unfinished">Im Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Show the first that failed</source>
+        <translation type="unfinished">Den ersten misslungenen zeigen</translation>
     </message>
 </context>
 <context>

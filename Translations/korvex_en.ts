@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>BatchReport</name>
+    <message numerus="yes">
+        <source>%n film(s) converted.</source>
+        <translation type="unfinished">
+            <numerusform>%n film converted.</numerusform>
+            <numerusform>%n films converted.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) with remarks: %1</source>
+        <translation type="unfinished">
+            <numerusform>%n film with remarks: %1</numerusform>
+            <numerusform>%n films with remarks: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) could not be converted: %1</source>
+        <translation type="unfinished">
+            <numerusform>%n film could not be converted: %1</numerusform>
+            <numerusform>%n films could not be converted: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) cancelled.</source>
+        <translation type="unfinished">
+            <numerusform>%n film cancelled.</numerusform>
+            <numerusform>%n films cancelled.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ConversionTexts</name>
     <message numerus="yes">
         <source>%n byte(s) of %1 could not be read as text.</source>

@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>BatchReport</name>
+    <message numerus="yes">
+        <source>%n film(s) converted.</source>
+        <translation type="unfinished">
+            <numerusform>%n película convertida.</numerusform>
+            <numerusform>%n películas convertidas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) with remarks: %1</source>
+        <translation type="unfinished">
+            <numerusform>%n película con observaciones: %1</numerusform>
+            <numerusform>%n películas con observaciones: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) could not be converted: %1</source>
+        <translation type="unfinished">
+            <numerusform>No se pudo convertir %n película: %1</numerusform>
+            <numerusform>No se pudieron convertir %n películas: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) cancelled.</source>
+        <translation type="unfinished">
+            <numerusform>%n película cancelada.</numerusform>
+            <numerusform>%n películas canceladas.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ConversionTexts</name>
     <message>
         <source>%1 holds no cues and was left out.</source>
@@ -443,6 +474,10 @@
     <message>
         <source>Show in folder</source>
         <translation type="unfinished">Mostrar en la carpeta</translation>
+    </message>
+    <message>
+        <source>Converted, but it breaks off after %1 of %2</source>
+        <translation type="unfinished">Convertida, pero se corta tras %1 de %2</translation>
     </message>
 </context>
 <context>
@@ -911,6 +946,14 @@ Se basa en Qt, FFmpeg y libass.</translation>
     <message>
         <source>Try again</source>
         <translation type="unfinished">Reintentar</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation type="unfinished">Mostrar en la carpeta</translation>
+    </message>
+    <message>
+        <source>Show the first that failed</source>
+        <translation type="unfinished">Mostrar la primera que falló</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>BatchReport</name>
+    <message numerus="yes">
+        <source>%n film(s) converted.</source>
+        <translation type="unfinished">
+            <numerusform>%n film converti.</numerusform>
+            <numerusform>%n films convertis.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) with remarks: %1</source>
+        <translation type="unfinished">
+            <numerusform>%n film avec des remarques&#xa0;: %1</numerusform>
+            <numerusform>%n films avec des remarques&#xa0;: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) could not be converted: %1</source>
+        <translation type="unfinished">
+            <numerusform>%n film n’a pas pu être converti&#xa0;: %1</numerusform>
+            <numerusform>%n films n’ont pas pu être convertis&#xa0;: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) cancelled.</source>
+        <translation type="unfinished">
+            <numerusform>%n film annulé.</numerusform>
+            <numerusform>%n films annulés.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ConversionTexts</name>
     <message>
         <source>%1 holds no cues and was left out.</source>
@@ -443,6 +474,10 @@
     <message>
         <source>Show in folder</source>
         <translation type="unfinished">Afficher dans le dossier</translation>
+    </message>
+    <message>
+        <source>Converted, but it breaks off after %1 of %2</source>
+        <translation type="unfinished">Converti, mais s’interrompt après %1 sur %2</translation>
     </message>
 </context>
 <context>
@@ -911,6 +946,14 @@ Il repose sur Qt, FFmpeg et libass.</translation>
     <message>
         <source>Try again</source>
         <translation type="unfinished">Réessayer</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation type="unfinished">Afficher dans le dossier</translation>
+    </message>
+    <message>
+        <source>Show the first that failed</source>
+        <translation type="unfinished">Afficher le premier en échec</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>BatchReport</name>
+    <message numerus="yes">
+        <source>%n film(s) converted.</source>
+        <translation type="unfinished">
+            <numerusform>%n 本の映画を変換しました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) with remarks: %1</source>
+        <translation type="unfinished">
+            <numerusform>注意のある映画 %n 本：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) could not be converted: %1</source>
+        <translation type="unfinished">
+            <numerusform>変換できなかった映画 %n 本：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) cancelled.</source>
+        <translation type="unfinished">
+            <numerusform>%n 本の映画をキャンセルしました。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ConversionTexts</name>
     <message>
         <source>%1 holds no cues and was left out.</source>
@@ -439,6 +466,10 @@
     <message>
         <source>Show in folder</source>
         <translation type="unfinished">フォルダーで表示</translation>
+    </message>
+    <message>
+        <source>Converted, but it breaks off after %1 of %2</source>
+        <translation type="unfinished">変換済み、ただし %2 のうち %1 で途切れています</translation>
     </message>
 </context>
 <context>
@@ -905,6 +936,14 @@ Qt、FFmpeg、libass を利用しています。</translation>
     <message>
         <source>Try again</source>
         <translation type="unfinished">再試行</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation type="unfinished">フォルダーで表示</translation>
+    </message>
+    <message>
+        <source>Show the first that failed</source>
+        <translation type="unfinished">最初の失敗を表示</translation>
     </message>
 </context>
 <context>

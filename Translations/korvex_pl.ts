@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
 <context>
+    <name>BatchReport</name>
+    <message numerus="yes">
+        <source>%n film(s) converted.</source>
+        <translation type="unfinished">
+            <numerusform>Przekonwertowano %n film.</numerusform>
+            <numerusform>Przekonwertowano %n filmy.</numerusform>
+            <numerusform>Przekonwertowano %n filmów.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) with remarks: %1</source>
+        <translation type="unfinished">
+            <numerusform>%n film z uwagami: %1</numerusform>
+            <numerusform>%n filmy z uwagami: %1</numerusform>
+            <numerusform>%n filmów z uwagami: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) could not be converted: %1</source>
+        <translation type="unfinished">
+            <numerusform>Nie udało się przekonwertować %n filmu: %1</numerusform>
+            <numerusform>Nie udało się przekonwertować %n filmów: %1</numerusform>
+            <numerusform>Nie udało się przekonwertować %n filmów: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) cancelled.</source>
+        <translation type="unfinished">
+            <numerusform>Anulowano %n film.</numerusform>
+            <numerusform>Anulowano %n filmy.</numerusform>
+            <numerusform>Anulowano %n filmów.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ConversionTexts</name>
     <message>
         <source>%1 holds no cues and was left out.</source>
@@ -447,6 +482,10 @@
     <message>
         <source>Show in folder</source>
         <translation type="unfinished">Pokaż w folderze</translation>
+    </message>
+    <message>
+        <source>Converted, but it breaks off after %1 of %2</source>
+        <translation type="unfinished">Przekonwertowano, ale urywa się po %1 z %2</translation>
     </message>
 </context>
 <context>
@@ -917,6 +956,14 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
     <message>
         <source>Try again</source>
         <translation type="unfinished">Spróbuj ponownie</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation type="unfinished">Pokaż w folderze</translation>
+    </message>
+    <message>
+        <source>Show the first that failed</source>
+        <translation type="unfinished">Pokaż pierwszy nieudany</translation>
     </message>
 </context>
 <context>

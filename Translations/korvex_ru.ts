@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en">
 <context>
+    <name>BatchReport</name>
+    <message numerus="yes">
+        <source>%n film(s) converted.</source>
+        <translation type="unfinished">
+            <numerusform>Преобразован %n фильм.</numerusform>
+            <numerusform>Преобразовано %n фильма.</numerusform>
+            <numerusform>Преобразовано %n фильмов.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) with remarks: %1</source>
+        <translation type="unfinished">
+            <numerusform>%n фильм с замечаниями: %1</numerusform>
+            <numerusform>%n фильма с замечаниями: %1</numerusform>
+            <numerusform>%n фильмов с замечаниями: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) could not be converted: %1</source>
+        <translation type="unfinished">
+            <numerusform>Не удалось преобразовать %n фильм: %1</numerusform>
+            <numerusform>Не удалось преобразовать %n фильма: %1</numerusform>
+            <numerusform>Не удалось преобразовать %n фильмов: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) cancelled.</source>
+        <translation type="unfinished">
+            <numerusform>Отменён %n фильм.</numerusform>
+            <numerusform>Отменено %n фильма.</numerusform>
+            <numerusform>Отменено %n фильмов.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ConversionTexts</name>
     <message>
         <source>%1 holds no cues and was left out.</source>
@@ -447,6 +482,10 @@
     <message>
         <source>Show in folder</source>
         <translation type="unfinished">Показать в папке</translation>
+    </message>
+    <message>
+        <source>Converted, but it breaks off after %1 of %2</source>
+        <translation type="unfinished">Преобразовано, но обрывается после %1 из %2</translation>
     </message>
 </context>
 <context>
@@ -917,6 +956,14 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>Try again</source>
         <translation type="unfinished">Повторить</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation type="unfinished">Показать в папке</translation>
+    </message>
+    <message>
+        <source>Show the first that failed</source>
+        <translation type="unfinished">Показать первый неудавшийся</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="uk" sourcelanguage="en">
 <context>
+    <name>BatchReport</name>
+    <message numerus="yes">
+        <source>%n film(s) converted.</source>
+        <translation type="unfinished">
+            <numerusform>Перетворено %n фільм.</numerusform>
+            <numerusform>Перетворено %n фільми.</numerusform>
+            <numerusform>Перетворено %n фільмів.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) with remarks: %1</source>
+        <translation type="unfinished">
+            <numerusform>%n фільм із зауваженнями: %1</numerusform>
+            <numerusform>%n фільми із зауваженнями: %1</numerusform>
+            <numerusform>%n фільмів із зауваженнями: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) could not be converted: %1</source>
+        <translation type="unfinished">
+            <numerusform>Не вдалося перетворити %n фільм: %1</numerusform>
+            <numerusform>Не вдалося перетворити %n фільми: %1</numerusform>
+            <numerusform>Не вдалося перетворити %n фільмів: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) cancelled.</source>
+        <translation type="unfinished">
+            <numerusform>Скасовано %n фільм.</numerusform>
+            <numerusform>Скасовано %n фільми.</numerusform>
+            <numerusform>Скасовано %n фільмів.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ConversionTexts</name>
     <message>
         <source>%1 holds no cues and was left out.</source>
@@ -447,6 +482,10 @@
     <message>
         <source>Show in folder</source>
         <translation type="unfinished">Показати в теці</translation>
+    </message>
+    <message>
+        <source>Converted, but it breaks off after %1 of %2</source>
+        <translation type="unfinished">Перетворено, але обривається після %1 із %2</translation>
     </message>
 </context>
 <context>
@@ -917,6 +956,14 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>Try again</source>
         <translation type="unfinished">Повторити</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation type="unfinished">Показати в теці</translation>
+    </message>
+    <message>
+        <source>Show the first that failed</source>
+        <translation type="unfinished">Показати перший невдалий</translation>
     </message>
 </context>
 <context>

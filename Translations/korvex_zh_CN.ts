@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>BatchReport</name>
+    <message numerus="yes">
+        <source>%n film(s) converted.</source>
+        <translation type="unfinished">
+            <numerusform>已转换 %n 部影片。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) with remarks: %1</source>
+        <translation type="unfinished">
+            <numerusform>%n 部影片有说明：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) could not be converted: %1</source>
+        <translation type="unfinished">
+            <numerusform>%n 部影片无法转换：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) cancelled.</source>
+        <translation type="unfinished">
+            <numerusform>已取消 %n 部影片。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ConversionTexts</name>
     <message>
         <source>%1 holds no cues and was left out.</source>
@@ -439,6 +466,10 @@
     <message>
         <source>Show in folder</source>
         <translation type="unfinished">在文件夹中显示</translation>
+    </message>
+    <message>
+        <source>Converted, but it breaks off after %1 of %2</source>
+        <translation type="unfinished">已转换，但在 %1 处中断（全长 %2）</translation>
     </message>
 </context>
 <context>
@@ -905,6 +936,14 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>Try again</source>
         <translation type="unfinished">重试</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation type="unfinished">在文件夹中显示</translation>
+    </message>
+    <message>
+        <source>Show the first that failed</source>
+        <translation type="unfinished">显示第一个失败的影片</translation>
     </message>
 </context>
 <context>

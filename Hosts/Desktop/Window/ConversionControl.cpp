@@ -1,5 +1,6 @@
 #include "Desktop/Window/ConversionControl.h"
 
+#include "Desktop/Conversion/BatchReport.h"
 #include "Desktop/Conversion/ConversionQueue.h"
 #include "Desktop/Films/ConversionJob.h"
 #include "Desktop/Films/FilmList.h"
@@ -28,6 +29,7 @@ ConversionControl::ConversionControl(FilmList& films, ConversionQueue& queue, QO
       m_films(films),
       m_queue(queue)
 {
+    connect(&queue, &ConversionQueue::Finished, this, &ConversionControl::ReportBatch);
 }
 
 ConversionControl::~ConversionControl() = default;
@@ -43,6 +45,8 @@ void ConversionControl::ConvertAll()
 
 void ConversionControl::Convert(std::vector<Film*> const& films)
 {
+    if (!m_queue.IsActive() && m_following.empty())
+        m_refused.clear();
     FilmId firstProblem = 0;
     for (Film* film : films)
     {
@@ -61,7 +65,11 @@ void ConversionControl::Convert(std::vector<Film*> const& films)
 bool ConversionControl::Send(Film& film)
 {
     if (!film.IsConvertible())
+    {
+        m_refused.insert(film.GetId());
         return false;
+    }
+    m_refused.erase(film.GetId());
     ConversionJob job = film.MakeJob(m_films.GetOutput());
     m_orders[film.GetId()] = {job.collection, m_films.GetOutput()};
     m_queue.Add(std::move(job));
@@ -92,6 +100,7 @@ void ConversionControl::Watch(Film* film)
             {
                 m_watched.erase(id);
                 m_following.erase(id);
+                m_refused.erase(id);
                 m_orders.erase(id);
             });
 }
@@ -105,6 +114,31 @@ void ConversionControl::OnFilmChanged(FilmId id)
         return;
     if (!Send(*film))
         Q_EMIT ProblemFound(id);
+}
+
+void ConversionControl::ReportBatch()
+{
+    BatchReport report;
+    std::set<FilmId> asked = m_queue.GetBatch();
+    asked.insert(m_refused.begin(), m_refused.end());
+    for (FilmId const id : asked)
+    {
+        Film const* film = m_films.Find(id);
+        BatchReport::Entry const entry{id, film == nullptr ? QString()
+                                                           : QString::fromStdString(film->GetPath().FileName())};
+        std::optional<ConversionStatus> const status = m_queue.FindStatus(id);
+        if (m_refused.count(id) != 0 || (film != nullptr && status->state == ConversionState::Failed))
+            report.failed.push_back(entry);
+        else if (status->state == ConversionState::Cancelled)
+            ++report.cancelledCount;
+        else if (status->state == ConversionState::Done)
+        {
+            report.converted.push_back(entry);
+            if (film != nullptr && !status->notes.isEmpty())
+                report.remarked.push_back(entry);
+        }
+    }
+    Q_EMIT BatchEnded(report);
 }
 
 void ConversionControl::Cancel(FilmId film)

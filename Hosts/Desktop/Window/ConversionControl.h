@@ -17,6 +17,7 @@ namespace Korvex::Desktop
 {
 
 class ConversionQueue;
+struct BatchReport;
 class FilmList;
 
 /// Sends films into the queue: those with problems stay out of it, those that are still being read follow when they
@@ -40,6 +41,8 @@ public:
     [[nodiscard]] bool ConfirmClose(QWidget* window) const;
 
 Q_SIGNALS:
+    /// Nothing waits or runs any more.
+    void BatchEnded(Korvex::Desktop::BatchReport const& report);
     /// The first film of those asked for that cannot be converted as it stands.
     void ProblemFound(Korvex::Desktop::FilmId film);
 
@@ -48,6 +51,7 @@ private:
     void OnFilmChanged(FilmId id);
     /// False when the film cannot be converted as it stands.
     bool Send(Film& film);
+    void ReportBatch();
     /// Converted, and would be converted in the same way again.
     [[nodiscard]] bool IsFinished(Film const& film) const;
 
@@ -61,6 +65,7 @@ private:
     ConversionQueue& m_queue;
     std::set<FilmId> m_watched;
     std::set<FilmId> m_following;     ///< asked for while they were being read
+    std::set<FilmId> m_refused;       ///< asked for since nothing was converted, and could not be begun
     std::map<FilmId, Order> m_orders; ///< the last one of each film, until the film is read anew
 };
 

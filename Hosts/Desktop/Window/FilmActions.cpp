@@ -43,7 +43,12 @@ void FilmActions::Connect()
     on(ActionId::PreviousFilm, [&pane] { pane.MoveSelection(-1); });
     on(ActionId::NextFilm, [&pane] { pane.MoveSelection(1); });
     on(ActionId::ChooseSubtitles, [&pane] { pane.PressSubtitlesButton(); });
-    on(ActionId::RevealOutput, [this] { Reveal(m_parts.pane.GetCurrentFilm()); });
+    on(ActionId::RevealOutput,
+       [this]
+       {
+           if (Film const* film = m_parts.pane.GetCurrentFilm())
+               Reveal(film->GetId());
+       });
     on(ActionId::ConvertFilm, [&pane, &control] { control.Convert(pane.GetSelectedFilms()); });
     on(ActionId::ConvertAll, [&control] { control.ConvertAll(); });
     on(ActionId::CancelAll, [&control] { control.CancelAll(); });
@@ -66,7 +71,8 @@ void FilmActions::Connect()
     connect(pause, &QAction::toggled, &m_parts.queue, &ConversionQueue::SetPaused);
     // The queue's pause ends with what it had to do.
     connect(&m_parts.queue, &ConversionQueue::Finished, pause, [pause] { pause->setChecked(false); });
-    connect(&pane, &FilmListPane::RevealRequested, this, &FilmActions::Reveal);
+    connect(&pane, &FilmListPane::RevealRequested, this, [this](Film const* film) { Reveal(film->GetId()); });
+    connect(&m_parts.notices, &Notices::RevealRequested, this, &FilmActions::Reveal);
 
     connect(&pane, &FilmListPane::CurrentFilmChanged, this, &FilmActions::UpdateEnabled);
     connect(&pane, &FilmListPane::SelectionChanged, this, &FilmActions::UpdateEnabled);
@@ -130,10 +136,9 @@ bool FilmActions::ConfirmRemoval(std::vector<Film*> const& films) const
                    &m_parts.window);
 }
 
-void FilmActions::Reveal(Film* film)
+void FilmActions::Reveal(FilmId film)
 {
-    std::optional<ConversionStatus> const status =
-        film == nullptr ? std::nullopt : m_parts.queue.FindStatus(film->GetId());
+    std::optional<ConversionStatus> const status = m_parts.queue.FindStatus(film);
     if (!status || status->output.empty() || RevealFile(status->output))
         return;
     m_parts.notices.AddNews(Mark::Warning, tr("No file manager could be started: the film is \"%1\".")

@@ -42,7 +42,8 @@ public:
 
     /// Keeps the menu filled with the tracks that the current film leaves out.
     void FillPutBackMenu(QMenu& menu);
-    void Reveal(Film* film);
+    /// Where the film's last conversion went.
+    void Reveal(FilmId film);
 
 private:
     void Connect();

@@ -149,7 +149,15 @@ void MainWindow::ConnectFilms()
     connect(m_filmPane, &FilmListPane::SubtitlesRequested, this, &MainWindow::ShowSubtitles);
     connect(m_filmPane, &FilmListPane::MenuRequested, this,
             [this](Film*, QPoint const& place) { m_menu->GetFilmMenu()->popup(place); });
+    connect(m_filmPane, &FilmListPane::RemarksRequested, this,
+            [this](Film* film)
+            {
+                m_filmPane->SelectFilm(film->GetId());
+                m_notices->ShowRemarks(*film);
+            });
     connect(m_control, &ConversionControl::ProblemFound, m_filmPane, &FilmListPane::SelectFilm);
+    connect(m_notices, &Notices::ShowRequested, m_filmPane, &FilmListPane::SelectFilm);
+    connect(m_control, &ConversionControl::BatchEnded, m_notices, &Notices::ShowBatch);
     connect(m_notices, &Notices::ConvertRequested, this,
             [this](FilmId id)
             {

@@ -22,6 +22,7 @@ struct Notice
     Mark mark = Mark::News;
     QString sentence;
     std::vector<Button> buttons;
+    bool passes = false;         ///< closes by itself once it could be read
     std::function<void()> close; ///< what closing it does; empty: it stays until its reason has gone
 };
 

@@ -6,14 +6,17 @@
 #include "Gui/Icons.h"
 #include "Gui/Style.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace Korvex::Desktop
@@ -39,6 +42,9 @@ QString GetName(Mark mark)
     return QStringLiteral("news");
 }
 
+/// Two sentences and a button are read in half of it.
+constexpr std::chrono::seconds PASSING_TIME{10};
+
 QToolButton* MakeTool(char const* name, QWidget* parent)
 {
     auto* button = new QToolButton(parent);
@@ -52,6 +58,7 @@ QToolButton* MakeTool(char const* name, QWidget* parent)
 
 NoticeBar::NoticeBar(QWidget* parent)
     : KFrame(parent),
+      m_passing(new QTimer(this)),
       m_mark(new MarkLabel(this)),
       m_sentence(new QLabel(this)),
       m_buttons(new FlowLayout),
@@ -96,6 +103,9 @@ NoticeBar::NoticeBar(QWidget* parent)
                     close();
             });
     m_buttons->addWidget(m_pager);
+    m_passing->setObjectName(QStringLiteral("noticePassingTimer"));
+    m_passing->setInterval(PASSING_TIME);
+    connect(m_passing, &QTimer::timeout, this, &NoticeBar::ClosePassing);
     Retranslate();
     hide();
 }
@@ -112,6 +122,17 @@ void NoticeBar::SetNotices(std::vector<Notice> notices)
                      [&first = notices.front()](Notice const& notice) { return notice.sentence == first.sentence; });
     if (isPressing)
         shown = notices.front().sentence;
+    auto const isKnown = [this](Notice const& notice)
+    {
+        return std::any_of(m_notices.begin(), m_notices.end(),
+                           [&notice](Notice const& known) { return known.sentence == notice.sentence; });
+    };
+    auto const passes = [](Notice const& notice) { return notice.passes; };
+    if (std::none_of(notices.begin(), notices.end(), passes))
+        m_passing->stop();
+    else if (std::any_of(notices.begin(), notices.end(),
+                         [&](Notice const& notice) { return notice.passes && !isKnown(notice); }))
+        m_passing->start();
     m_notices = std::move(notices);
     m_page = 0;
     ShowNotice(shown);
@@ -124,6 +145,11 @@ void NoticeBar::ShowNotice(QString const& sentence)
     if (found != m_notices.end())
         m_page = static_cast<int>(found - m_notices.begin());
     ShowCurrent();
+}
+
+void NoticeBar::ShowFirst()
+{
+    ShowPage(0);
 }
 
 void NoticeBar::ShowPage(int page)
@@ -187,6 +213,22 @@ void NoticeBar::Press(std::size_t button)
     press();
 }
 
+bool NoticeBar::HasToStay() const
+{
+    QWidget const* focus = QApplication::focusWidget();
+    return !isActiveWindow() || underMouse() || (focus != nullptr && isAncestorOf(focus));
+}
+
+void NoticeBar::ClosePassing()
+{
+    if (HasToStay())
+        return;
+    // A copy: closing replaces the notices.
+    for (Notice const& notice : std::vector<Notice>(m_notices))
+        if (notice.passes && notice.close)
+            notice.close();
+}
+
 Notice const& NoticeBar::GetCurrent() const
 {
     return m_notices.at(static_cast<std::size_t>(m_page));
@@ -210,6 +252,20 @@ void NoticeBar::changeEvent(QEvent* event)
     if (event->type() == QEvent::LanguageChange)
         Retranslate();
     KFrame::changeEvent(event);
+}
+
+bool NoticeBar::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowActivate && m_passing->isActive())
+        m_passing->start(); // whoever comes back has time to read
+    return KFrame::event(event);
+}
+
+void NoticeBar::leaveEvent(QEvent* event)
+{
+    if (m_passing->isActive())
+        m_passing->start();
+    KFrame::leaveEvent(event);
 }
 
 } // namespace Korvex::Desktop

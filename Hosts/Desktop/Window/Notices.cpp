@@ -37,6 +37,11 @@ private:
     QPointer<Notices> m_notices;
 };
 
+QString JoinRemarks(ConversionStatus const& status)
+{
+    return status.notes.join(QLatin1Char('\n'));
+}
+
 } // namespace
 
 Notices::Notices(FilmList& films, ConversionQueue const& queue, NoticeBar& bar, QObject* parent)
@@ -50,9 +55,13 @@ Notices::Notices(FilmList& films, ConversionQueue const& queue, NoticeBar& bar, 
             [this](FilmId film)
             {
                 std::optional<ConversionStatus> const status = m_queue.FindStatus(film);
-                if (status && status->state == ConversionState::Waiting)
+                bool const isNew = status && status->state == ConversionState::Waiting;
+                if (isNew)
+                {
                     m_closedRemarks.erase(film);
-                if (m_film && m_film->GetId() == film)
+                    m_batch.reset();
+                }
+                if (isNew || (m_film && m_film->GetId() == film))
                     Update();
             });
 }
@@ -85,6 +94,22 @@ void Notices::AddNews(Mark mark, QString const& sentence)
     m_bar.ShowNotice(sentence);
 }
 
+void Notices::ShowBatch(BatchReport const& report)
+{
+    m_batch = report;
+    Update();
+    if (QString const sentence = DescribeBatch(report); !sentence.isEmpty())
+        m_bar.ShowNotice(sentence);
+}
+
+void Notices::ShowRemarks(Film const& film)
+{
+    m_closedRemarks.erase(film.GetId());
+    Update();
+    if (std::optional<ConversionStatus> const status = m_queue.FindStatus(film.GetId()))
+        m_bar.ShowNotice(JoinRemarks(*status));
+}
+
 void Notices::Retranslate()
 {
     Update();
@@ -98,6 +123,7 @@ void Notices::Update()
         AppendProblems(notices);
         AppendConversion(notices);
     }
+    AppendBatch(notices);
     AppendNews(notices);
     m_bar.SetNotices(std::move(notices));
 }
@@ -122,18 +148,50 @@ void Notices::AppendConversion(std::vector<Notice>& notices)
     if (!status)
         return;
     if (status->state == ConversionState::Failed)
-        notices.push_back(
-            {Mark::Error, status->sentence, {{tr("Try again"), [this, film] { Q_EMIT ConvertRequested(film); }}}, {}});
+        notices.push_back({Mark::Error,
+                           status->sentence,
+                           {{tr("Try again"), [this, film] { Q_EMIT ConvertRequested(film); }}},
+                           false,
+                           {}});
     if (status->notes.isEmpty() || m_closedRemarks.count(film) != 0)
         return;
-    notices.push_back({Mark::News,
-                       status->notes.join(QLatin1Char('\n')),
+    notices.push_back({Mark::Warning,
+                       JoinRemarks(*status),
                        {},
+                       false,
                        [this, film]
                        {
                            m_closedRemarks.insert(film);
                            Update();
                        }});
+}
+
+void Notices::AppendBatch(std::vector<Notice>& notices)
+{
+    QString const sentence = m_batch ? DescribeBatch(*m_batch) : QString();
+    if (sentence.isEmpty())
+        return;
+    Notice notice;
+    notice.sentence = sentence;
+    notice.mark = m_batch->remarked.empty() ? Mark::Success : Mark::Warning;
+    if (!m_batch->failed.empty())
+        notice.mark = Mark::Error;
+    notice.passes = notice.mark == Mark::Success;
+    notice.close = [this]
+    {
+        m_batch.reset();
+        Update();
+    };
+    if (!m_batch->converted.empty())
+        notice.buttons.push_back(
+            {tr("Show in folder"), [this, film = m_batch->converted.front().film] { Q_EMIT RevealRequested(film); }});
+    if (!m_batch->failed.empty())
+        notice.buttons.push_back({tr("Show the first that failed"), [this, film = m_batch->failed.front().film]
+                                  {
+                                      Q_EMIT ShowRequested(film);
+                                      m_bar.ShowFirst();
+                                  }});
+    notices.push_back(std::move(notice));
 }
 
 void Notices::AppendNews(std::vector<Notice>& notices)
@@ -147,7 +205,7 @@ void Notices::AppendNews(std::vector<Notice>& notices)
                          m_news.end());
             Update();
         };
-        return Notice{item.mark, item.sentence, {}, close};
+        return Notice{item.mark, item.sentence, {}, item.mark == Mark::Success, close};
     };
     std::transform(m_news.begin(), m_news.end(), std::back_inserter(notices), toNotice);
 }

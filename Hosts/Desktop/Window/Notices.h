@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Desktop/Conversion/BatchReport.h"
 #include "Desktop/Films/Film.h"
 #include "Desktop/Window/Marks.h"
 #include "Desktop/Window/Notice.h"
@@ -8,6 +9,7 @@
 #include <QPointer>
 
 #include <memory>
+#include <optional>
 #include <set>
 #include <vector>
 
@@ -24,7 +26,8 @@ class FilmList;
 class NoticeBar;
 
 /// Decides what the notice bar says: first what stands in the way of the film that is shown, with the ways out as
-/// buttons; then how its last conversion went; then news, which the user may close. GUI thread.
+/// buttons; then how its last conversion went; then how all went; then news, which the user may close. What tells of
+/// success goes by itself. GUI thread.
 class Notices final : public QObject
 {
     Q_OBJECT
@@ -36,6 +39,10 @@ public:
     /// Follows every change of this film from now on; null: news alone.
     void ShowFilm(Film* film);
     void AddNews(Mark mark, QString const& sentence);
+    /// In the place of what was said of the films before; turns to it. Nothing when there is nothing to say.
+    void ShowBatch(BatchReport const& report);
+    /// Turns to the remarks on this film's last conversion, also where they were closed; it has to be shown.
+    void ShowRemarks(Film const& film);
     /// After a change of language.
     void Retranslate();
 
@@ -47,11 +54,15 @@ Q_SIGNALS:
     /// The user wants to show where the film is now.
     void LocateRequested(Korvex::Desktop::FilmId film);
     void ConvertRequested(Korvex::Desktop::FilmId film);
+    void ShowRequested(Korvex::Desktop::FilmId film);
+    /// Where its conversion went.
+    void RevealRequested(Korvex::Desktop::FilmId film);
 
 private:
     void Update();
     void AppendProblems(std::vector<Notice>& notices);
     void AppendConversion(std::vector<Notice>& notices);
+    void AppendBatch(std::vector<Notice>& notices);
     void AppendNews(std::vector<Notice>& notices);
     void Take(Remedy const& remedy);
 
@@ -60,7 +71,8 @@ private:
     NoticeBar& m_bar;
     QPointer<Film> m_film;
     QMetaObject::Connection m_filmChanged;
-    std::set<FilmId> m_closedRemarks; ///< films whose last conversion's remarks were closed
+    std::set<FilmId> m_closedRemarks;   ///< films whose last conversion's remarks were closed
+    std::optional<BatchReport> m_batch; ///< until something is converted again
     struct NewsItem
     {
         int number;

@@ -4,6 +4,7 @@
 
 #include "Desktop/Preview/PreviewPane.h"
 
+#include "Core/FileSystem.h"
 #include "Proc/MediaInfo.h"
 #include "Proc/Settings.h"
 
@@ -195,11 +196,17 @@ TEST_F(MainWindowTest, NoticeOffersWaysOutThatWork)
     EXPECT_EQ(GetState(first), std::nullopt);
     EXPECT_EQ(GetState(second), std::nullopt);
     auto const& sentence = Get<QLabel>("noticeSentence");
+    WaitUntil([&sentence] { return sentence.text().contains(QLatin1String("1 film converted.")); });
+    EXPECT_TRUE(sentence.text().endsWith(QLatin1String("First.mkv, Second.mkv"))) << qPrintable(sentence.text());
+    Show(fine);
+    PressNoticeButton(QStringLiteral("Show the first that failed"));
     WaitUntil([&sentence] { return sentence.text().contains(QLatin1String("PGS")); });
-    EXPECT_EQ(ListNoticeButtons().size(), 3);
+    WaitUntil([this] { return ListNoticeButtons().size() == 3; });
 
     PressNoticeButton(QStringLiteral("Draw it in"));
-    WaitUntil([&notice] { return !notice.isVisible(); });
+    WaitUntil([&sentence] { return sentence.text().contains(QLatin1String("1 film converted.")); });
+    Click("noticeCloseButton");
+    EXPECT_FALSE(notice.isVisible());
     EXPECT_NE(first.GetMixerSettings(), nullptr);
     EXPECT_TRUE(first.IsConvertible());
 
@@ -213,6 +220,37 @@ TEST_F(MainWindowTest, NoticeOffersWaysOutThatWork)
     WaitUntil([&notice] { return notice.isVisible(); });
     QTest::keyClick(&Get<QComboBox>("formatCombo"), Qt::Key_Down);
     WaitUntil([&sentence] { return sentence.text().contains(QLatin1String("PGS")); }); // not behind the news
+}
+
+TEST_F(MainWindowTest, OnlyWhatTellsOfSuccessGoesByItself)
+{
+    Film& whole = AddFilm(MakeFilm("Whole.mkv"));
+    ioPath const brokenPath = MakeFilm("Broken.mp4");
+    Film& broken = AddFilm(brokenPath);
+    auto& notice = Get<QWidget>("noticeBar");
+    auto const& sentence = Get<QLabel>("noticeSentence");
+    auto& timer = Get<QTimer>("noticePassingTimer");
+
+    GetWindow().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&GetWindow()));
+    Show(whole);
+    Click("convertCurrentButton");
+    WaitUntil([&sentence] { return sentence.text() == QLatin1String("1 film converted."); });
+    EXPECT_TRUE(timer.isActive());
+    timer.setInterval(50);
+    GetWindow().findChild<QPushButton*>(QStringLiteral("noticeButton"))->setFocus();
+    QTest::qWait(200);
+    EXPECT_TRUE(notice.isVisible()) << "the focus is in it";
+    Get<QListView>("filmListView").setFocus();
+    WaitUntil([&notice] { return !notice.isVisible(); });
+
+    Show(broken);
+    Core::RemoveFile(brokenPath);
+    Click("convertCurrentButton");
+    WaitUntil([&sentence] { return sentence.text() == QLatin1String("1 film could not be converted: Broken.mp4"); });
+    EXPECT_FALSE(timer.isActive());
+    QTest::qWait(200);
+    EXPECT_TRUE(notice.isVisible());
 }
 
 TEST_F(MainWindowTest, FilmsObeyTheKeyboard)
