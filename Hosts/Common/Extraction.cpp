@@ -7,6 +7,9 @@
 #include "Proc/MediaInfo.h"
 #include "Proc/SubtitleExport.h"
 
+#include <algorithm>
+#include <string_view>
+
 namespace Korvex::Hosts
 {
 
@@ -29,6 +32,16 @@ Core::Result<Proc::ExportedSubtitle> Replace(Proc::SubtitleSource const& source,
     }
     written->path = target;
     return written;
+}
+
+/// Files name languages as they like, also with characters that some file system takes for something else.
+std::string LeaveOutWhatNoNameHolds(std::string text)
+{
+    static constexpr std::string_view REFUSED = "/\\:*?\"<>|";
+    auto const isRefused = [](char c)
+    { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F || REFUSED.find(c) != std::string_view::npos; };
+    text.erase(std::remove_if(text.begin(), text.end(), isRefused), text.end());
+    return text;
 }
 
 } // namespace
@@ -61,8 +74,8 @@ std::string SuggestFileName(ioPath const& film, SubtitleTrack const& track)
     if (extension.empty())
         return {};
     std::string name = film.Stem();
-    if (!track.language.empty())
-        name += "." + track.language;
+    if (std::string const language = LeaveOutWhatNoNameHolds(track.language); !language.empty())
+        name += "." + language;
     if (track.isForced)
         name += ".forced";
     return name + "." + extension;

@@ -114,6 +114,9 @@ TEST_F(SaveTrackTest, WritesEveryKindUnderANameOfItsOwn)
     EXPECT_THAT(Save(film, SubtitleTrackID(3U)), HasSubstr("\"film.ger.sup\""));
     EXPECT_THAT(Read("film.ger.sup"), StartsWith("PG"));
     EXPECT_EQ(m_questions.back().extensions, QStringList{"sup"});
+    film.SetTrackProperties(SubtitleTrackID(2U), {"zh/tw:\\", "", false, false});
+    Save(film, SubtitleTrackID(2U), "named.srt");
+    EXPECT_THAT(m_questions.back().path.toStdString(), EndsWith("/film.zhtw.srt")) << "no folder that is not there";
 
     film.SetEncoding(SubtitleTrackID(russian), SubtitleEncoding::Windows1251);
     Save(film, SubtitleTrackID(russian), "russian.srt");
