@@ -886,6 +886,18 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <source>Leave it out</source>
         <translation type="unfinished">Weglassen</translation>
     </message>
+    <message>
+        <source>%1 is moved by %2 s.</source>
+        <translation type="unfinished">%1 wird um %2 s verschoben.</translation>
+    </message>
+    <message>
+        <source>%1 is read as %2.</source>
+        <translation type="unfinished">%1 wird als %2 gelesen.</translation>
+    </message>
+    <message>
+        <source>%1 goes into %2 as plain text and loses its styles.</source>
+        <translation type="unfinished">%1 kommt als einfacher Text in %2 und verliert dabei seine Gestaltung.</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::MainMenu</name>
@@ -1104,6 +1116,10 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     <message>
         <source>Choose a track to see it drawn in.</source>
         <translation type="unfinished">Wählen Sie eine Spur, um sie eingebrannt zu sehen.</translation>
+    </message>
+    <message>
+        <source>All tracks stay switchable.</source>
+        <translation type="unfinished">Alle Spuren bleiben zuschaltbar.</translation>
     </message>
 </context>
 <context>

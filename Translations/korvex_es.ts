@@ -886,6 +886,18 @@ Se basa en Qt, FFmpeg y libass.</translation>
         <source>Leave it out</source>
         <translation type="unfinished">Dejarla fuera</translation>
     </message>
+    <message>
+        <source>%1 is moved by %2 s.</source>
+        <translation type="unfinished">%1 se desplazará %2 s.</translation>
+    </message>
+    <message>
+        <source>%1 is read as %2.</source>
+        <translation type="unfinished">%1 se leerá como %2.</translation>
+    </message>
+    <message>
+        <source>%1 goes into %2 as plain text and loses its styles.</source>
+        <translation type="unfinished">%1 irá en %2 como texto sin formato y perderá sus estilos.</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::MainMenu</name>
@@ -1104,6 +1116,10 @@ Se basa en Qt, FFmpeg y libass.</translation>
     <message>
         <source>Choose a track to see it drawn in.</source>
         <translation type="unfinished">Elija una pista para verla incrustada.</translation>
+    </message>
+    <message>
+        <source>All tracks stay switchable.</source>
+        <translation type="unfinished">Las pistas siguen activables.</translation>
     </message>
 </context>
 <context>

@@ -886,6 +886,18 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <source>Leave it out</source>
         <translation type="unfinished">La laisser de côté</translation>
     </message>
+    <message>
+        <source>%1 is moved by %2 s.</source>
+        <translation type="unfinished">%1 sera décalée de %2 s.</translation>
+    </message>
+    <message>
+        <source>%1 is read as %2.</source>
+        <translation type="unfinished">%1 sera lue en %2.</translation>
+    </message>
+    <message>
+        <source>%1 goes into %2 as plain text and loses its styles.</source>
+        <translation type="unfinished">%1 ira dans %2 en texte brut et perdra ses styles.</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::MainMenu</name>
@@ -1104,6 +1116,10 @@ Il repose sur Qt, FFmpeg et libass.</translation>
     <message>
         <source>Choose a track to see it drawn in.</source>
         <translation type="unfinished">Choisissez une piste pour la voir incrustée.</translation>
+    </message>
+    <message>
+        <source>All tracks stay switchable.</source>
+        <translation type="unfinished">Les pistes restent activables.</translation>
     </message>
 </context>
 <context>

@@ -876,6 +876,18 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <source>Leave it out</source>
         <translation type="unfinished">除外する</translation>
     </message>
+    <message>
+        <source>%1 is moved by %2 s.</source>
+        <translation type="unfinished">%1 を %2 秒ずらします。</translation>
+    </message>
+    <message>
+        <source>%1 is read as %2.</source>
+        <translation type="unfinished">%1 を %2 として読み込みます。</translation>
+    </message>
+    <message>
+        <source>%1 goes into %2 as plain text and loses its styles.</source>
+        <translation type="unfinished">%1 は書式のないテキストとして %2 に入り、スタイルが失われます。</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::MainMenu</name>
@@ -1094,6 +1106,10 @@ Qt、FFmpeg、libass を利用しています。</translation>
     <message>
         <source>Choose a track to see it drawn in.</source>
         <translation type="unfinished">焼き込みを見るにはトラックを選んでください。</translation>
+    </message>
+    <message>
+        <source>All tracks stay switchable.</source>
+        <translation type="unfinished">すべてのトラックは切り替え可能なままです。</translation>
     </message>
 </context>
 <context>

@@ -896,6 +896,18 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <source>Leave it out</source>
         <translation type="unfinished">Pomiń</translation>
     </message>
+    <message>
+        <source>%1 is moved by %2 s.</source>
+        <translation type="unfinished">%1: zostanie przesunięte o %2 s.</translation>
+    </message>
+    <message>
+        <source>%1 is read as %2.</source>
+        <translation type="unfinished">%1: zostanie odczytane jako %2.</translation>
+    </message>
+    <message>
+        <source>%1 goes into %2 as plain text and loses its styles.</source>
+        <translation type="unfinished">%1: trafi do %2 jako zwykły tekst i straci swoje style.</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::MainMenu</name>
@@ -1114,6 +1126,10 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
     <message>
         <source>Choose a track to see it drawn in.</source>
         <translation type="unfinished">Wybierz ścieżkę, aby zobaczyć ją wtopioną.</translation>
+    </message>
+    <message>
+        <source>All tracks stay switchable.</source>
+        <translation type="unfinished">Ścieżki pozostają przełączane.</translation>
     </message>
 </context>
 <context>

@@ -896,6 +896,18 @@ It is built on Qt, FFmpeg and libass.</source>
         <source>Leave it out</source>
         <translation type="unfinished">Исключить</translation>
     </message>
+    <message>
+        <source>%1 is moved by %2 s.</source>
+        <translation type="unfinished">%1: будет сдвинуто на %2 с.</translation>
+    </message>
+    <message>
+        <source>%1 is read as %2.</source>
+        <translation type="unfinished">%1: будет прочитано как %2.</translation>
+    </message>
+    <message>
+        <source>%1 goes into %2 as plain text and loses its styles.</source>
+        <translation type="unfinished">%1: войдёт в %2 простым текстом и потеряет оформление.</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::MainMenu</name>
@@ -1114,6 +1126,10 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>Choose a track to see it drawn in.</source>
         <translation type="unfinished">Выберите дорожку, чтобы увидеть её вшитой.</translation>
+    </message>
+    <message>
+        <source>All tracks stay switchable.</source>
+        <translation type="unfinished">Дорожки остаются отключаемыми.</translation>
     </message>
 </context>
 <context>

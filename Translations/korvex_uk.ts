@@ -896,6 +896,18 @@ It is built on Qt, FFmpeg and libass.</source>
         <source>Leave it out</source>
         <translation type="unfinished">Вилучити</translation>
     </message>
+    <message>
+        <source>%1 is moved by %2 s.</source>
+        <translation type="unfinished">%1: буде зсунуто на %2 с.</translation>
+    </message>
+    <message>
+        <source>%1 is read as %2.</source>
+        <translation type="unfinished">%1: буде прочитано як %2.</translation>
+    </message>
+    <message>
+        <source>%1 goes into %2 as plain text and loses its styles.</source>
+        <translation type="unfinished">%1: увійде до %2 простим текстом і втратить оформлення.</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::MainMenu</name>
@@ -1114,6 +1126,10 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>Choose a track to see it drawn in.</source>
         <translation type="unfinished">Виберіть доріжку, щоб побачити її вшитою.</translation>
+    </message>
+    <message>
+        <source>All tracks stay switchable.</source>
+        <translation type="unfinished">Доріжки лишаються вимиканими.</translation>
     </message>
 </context>
 <context>

@@ -876,6 +876,18 @@ It is built on Qt, FFmpeg and libass.</source>
         <source>Leave it out</source>
         <translation type="unfinished">不输出</translation>
     </message>
+    <message>
+        <source>%1 is moved by %2 s.</source>
+        <translation type="unfinished">%1将移动 %2 秒。</translation>
+    </message>
+    <message>
+        <source>%1 is read as %2.</source>
+        <translation type="unfinished">%1将按 %2 读取。</translation>
+    </message>
+    <message>
+        <source>%1 goes into %2 as plain text and loses its styles.</source>
+        <translation type="unfinished">%1将以纯文本写入 %2，并失去样式。</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::MainMenu</name>
@@ -1094,6 +1106,10 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>Choose a track to see it drawn in.</source>
         <translation type="unfinished">请选择一条轨道以查看嵌入效果。</translation>
+    </message>
+    <message>
+        <source>All tracks stay switchable.</source>
+        <translation type="unfinished">所有轨道都保持可切换。</translation>
     </message>
 </context>
 <context>

@@ -99,9 +99,15 @@ SoftPlan MakeSoftPlan(HostServices const& services, Proc::MediaInfo const& film,
         if (!rewrite.isCodecRefused && !rewrite.hasEncoding && !rewrite.hasShift)
             continue;
         if (!IsTextTrack(film, *track) || FindRewriteCodec(track->codecId, plan.allowedCodecIds).empty())
+        {
             plan.problems.push_back({*track, FindObstacle(rewrite), ListFormatsThatCarry(services, track->codecId)});
+        }
         else
+        {
+            if (rewrite.isCodecRefused)
+                rewrite.formatIds = ListFormatsThatCarry(services, track->codecId);
             plan.rewrites.push_back(std::move(rewrite));
+        }
     }
     return plan;
 }

@@ -34,6 +34,7 @@ struct SoftRewrite
     Converter::Subtitles::Entities::SubtitleTrack track;
     Proc::SubtitleSource source; ///< with the track's encoding and offset
     bool isCodecRefused = false;
+    std::vector<std::string> formatIds; ///< where its codec is refused: the containers that could carry it as it is
     bool hasEncoding = false;
     bool hasShift = false;
 };

@@ -137,6 +137,16 @@ public:
                                        m_addedFiles.GetReasons());
     }
 
+    [[nodiscard]] std::vector<FilmRemark> ListRemarks() const
+    {
+        if (state != FilmState::Ready)
+            return {};
+        SubtitleCollection const collection = subtitles.GetCollection();
+        if (collection.mode != SubtitleCollectionMode::AllSoftSubtitles)
+            return {};
+        return FilmWords::ListRemarks(collection, Hosts::MakeSoftPlan(m_services, media, collection, m_formatId));
+    }
+
     [[nodiscard]] std::map<ioPath, FileStamp> const& ListUnreadableFiles() const
     {
         return m_addedFiles.GetUnreadable();
@@ -289,6 +299,11 @@ QString Film::DescribeChoice() const
 std::vector<FilmProblem> Film::ListProblems() const
 {
     return m_impl->ListProblems();
+}
+
+std::vector<FilmRemark> Film::ListRemarks() const
+{
+    return m_impl->ListRemarks();
 }
 
 bool Film::IsConvertible() const

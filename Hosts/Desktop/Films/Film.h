@@ -85,6 +85,8 @@ public:
     /// The choice in words: "No subtitles", "All 3 tracks", "Drawn in: film.ru.srt [Russian]".
     [[nodiscard]] QString DescribeChoice() const;
     [[nodiscard]] std::vector<FilmProblem> ListProblems() const;
+    /// What converting it as it stands changes in its tracks.
+    [[nodiscard]] std::vector<FilmRemark> ListRemarks() const;
     /// It was read and nothing stands in the way.
     [[nodiscard]] bool IsConvertible() const;
     [[nodiscard]] std::vector<Converter::Subtitles::Entities::SubtitleTrack> ListLeftOut() const;

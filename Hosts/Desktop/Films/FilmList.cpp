@@ -349,6 +349,8 @@ QVariant FilmList::data(QModelIndex const& index, int role) const
         QStringList lines{QString::fromStdString(film.GetPath().utf8string())};
         for (FilmProblem const& problem : film.ListProblems())
             lines << problem.sentence;
+        for (FilmRemark const& remark : film.ListRemarks())
+            lines << remark.sentence;
         return lines.join(QLatin1Char('\n'));
     }
     case Qt::AccessibleDescriptionRole:
@@ -356,6 +358,8 @@ QVariant FilmList::data(QModelIndex const& index, int role) const
         QStringList sentences{film.DescribeChoice()};
         for (FilmProblem const& problem : film.ListProblems())
             sentences << problem.sentence;
+        for (FilmRemark const& remark : film.ListRemarks())
+            sentences << remark.sentence;
         return sentences.join(QLatin1Char('\n'));
     }
     case FilmRole:

@@ -35,4 +35,12 @@ struct FilmProblem
     std::vector<Remedy> remedies;
 };
 
+/// What converting a film as it stands changes in one of its subtitle tracks; does not stand in the way.
+struct FilmRemark
+{
+    QString sentence;
+    std::vector<Remedy> remedies; ///< ways to have the track as it is
+    bool isLoss = false;          ///< something of the track does not come back
+};
+
 } // namespace Korvex::Desktop

@@ -8,8 +8,10 @@
 #include "Subtitles/Entities/Language.h"
 #include "Subtitles/Entities/SubtitleCollection.h"
 
+#include "Conf/IFormatCodecSubtitle.h"
 #include "Core/Error.h"
 
+#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -18,6 +20,7 @@ namespace Korvex::Desktop
 {
 
 namespace Language = Converter::Subtitles::Entities::Language;
+using Codec = Conf::IFormatCodecSubtitle;
 using Converter::Subtitles::Entities::SubtitleCollection;
 using Converter::Subtitles::Entities::SubtitleCollectionMode;
 using Converter::Subtitles::Entities::SubtitleTrack;
@@ -172,6 +175,71 @@ std::vector<FilmProblem> FilmWords::ListProblems(SubtitleCollection const& colle
             problems.push_back(writer.WriteUnreadable(drawn->second));
     }
     return problems;
+}
+
+namespace
+{
+
+class RemarkWriter
+{
+    Q_DECLARE_TR_FUNCTIONS(Korvex::Desktop::FilmWords)
+public:
+    explicit RemarkWriter(Hosts::SoftPlan const& plan) : m_plan(plan) {}
+
+    void Append(Hosts::SoftRewrite const& rewrite, std::vector<FilmRemark>& remarks) const
+    {
+        SubtitleTrack const& track = rewrite.track;
+        QString const name = FilmWords::NameTrack(track);
+        if (LosesStyles(rewrite))
+            remarks.push_back(WriteLoss(rewrite));
+        if (rewrite.hasShift)
+            remarks.push_back({tr("%1 is moved by %2 s.").arg(name, QLocale().toString(track.synchronizationOffset)),
+                               {{Remedy::Kind::ResetOffset, tr("Set its offset to 0"), {}, track.id}}});
+        if (rewrite.hasEncoding)
+            remarks.push_back(
+                {tr("%1 is read as %2.").arg(name, QString::fromStdString(GetDisplayText(track.encoding))), {}});
+    }
+
+private:
+    [[nodiscard]] bool LosesStyles(Hosts::SoftRewrite const& rewrite) const
+    {
+        std::string const& codecId = rewrite.track.codecId;
+        bool const hasStyles = codecId == Codec::CODEC_ID_ASS || codecId == Codec::CODEC_ID_SSA;
+        auto const& allowed = m_plan.allowedCodecIds;
+        return hasStyles && std::find(allowed.begin(), allowed.end(), Codec::CODEC_ID_ASS) == allowed.end();
+    }
+
+    [[nodiscard]] FilmRemark WriteLoss(Hosts::SoftRewrite const& rewrite) const
+    {
+        FilmRemark written;
+        written.isLoss = true;
+        written.sentence = tr("%1 goes into %2 as plain text and loses its styles.")
+                               .arg(FilmWords::NameTrack(rewrite.track), NameFormat(m_plan.formatId));
+        if (!rewrite.formatIds.empty())
+        {
+            std::string const& better = rewrite.formatIds.front();
+            written.remedies.push_back(
+                {Remedy::Kind::ChooseFormat, tr("Choose %1").arg(NameFormat(better)), better, {}});
+        }
+        written.remedies.push_back({Remedy::Kind::BurnTrack, tr("Draw it in"), {}, rewrite.track.id});
+        return written;
+    }
+
+    Hosts::SoftPlan const& m_plan;
+};
+
+} // namespace
+
+std::vector<FilmRemark> FilmWords::ListRemarks(SubtitleCollection const& collection, Hosts::SoftPlan const& plan)
+{
+    std::vector<FilmRemark> remarks;
+    if (collection.mode != SubtitleCollectionMode::AllSoftSubtitles)
+        return remarks;
+    RemarkWriter const writer(plan);
+    for (Hosts::SoftRewrite const& rewrite : plan.rewrites)
+        writer.Append(rewrite, remarks);
+    std::stable_partition(remarks.begin(), remarks.end(), [](FilmRemark const& remark) { return remark.isLoss; });
+    return remarks;
 }
 
 } // namespace Korvex::Desktop

@@ -45,6 +45,9 @@ public:
     [[nodiscard]] static std::vector<FilmProblem> ListProblems(Collection const& collection,
                                                                Hosts::SoftPlan const& plan,
                                                                std::map<TrackID, Core::Error> const& reasons);
+    /// What becomes of tracks that are written anew, losses first; that the text of one comes whole in another codec
+    /// is none.
+    [[nodiscard]] static std::vector<FilmRemark> ListRemarks(Collection const& collection, Hosts::SoftPlan const& plan);
 };
 
 } // namespace Korvex::Desktop

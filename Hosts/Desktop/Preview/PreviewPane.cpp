@@ -8,6 +8,7 @@
 
 #include <QEvent>
 #include <QPointer>
+#include <QStringList>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -84,17 +85,30 @@ private:
             subject.frameLength = microseconds(std::llround(1e6 / video->framesPerSecond));
         subject.subtitles = film.GetMixerSettings();
         if (!subject.subtitles)
-            subject.hint = DescribeUndrawn(film.GetCollection());
+            subject.hint = DescribeUndrawn(film);
         return subject;
     }
 
-    [[nodiscard]] static QString DescribeUndrawn(SubtitleCollection const& collection)
+    [[nodiscard]] static QString DescribeUndrawn(Film const& film)
     {
+        if (auto const problems = film.ListProblems(); !problems.empty())
+            return problems.front().sentence;
+        SubtitleCollection const collection = film.GetCollection();
         if (collection.tracks.empty())
             return tr("There are no subtitles. Add a subtitle file to see it drawn in.");
         if (collection.mode == SubtitleCollectionMode::AllSoftSubtitles)
-            return tr("All tracks stay switchable. Choose one to see it drawn in.");
+            return DescribeSwitchable(film.ListRemarks());
         return tr("Choose a track to see it drawn in.");
+    }
+
+    [[nodiscard]] static QString DescribeSwitchable(std::vector<FilmRemark> const& remarks)
+    {
+        if (remarks.empty())
+            return tr("All tracks stay switchable. Choose one to see it drawn in.");
+        QStringList sentences{tr("All tracks stay switchable.")};
+        for (FilmRemark const& remark : remarks)
+            sentences << remark.sentence;
+        return sentences.join(QLatin1Char(' '));
     }
 
     PreviewPane& m_pane;

@@ -154,6 +154,16 @@ void DescribeProblem(Film const& film, FilmRow& row)
     row.hasOutput = false;
 }
 
+/// That tracks are moved or read differently is what somebody asked for; that they lose something is not.
+void DescribeLoss(Film const& film, FilmRow& row)
+{
+    std::vector<FilmRemark> const remarks = film.ListRemarks();
+    if (remarks.empty() || !remarks.front().isLoss)
+        return;
+    row.mark = Mark::Warning;
+    row.sentence = remarks.front().sentence;
+}
+
 } // namespace
 
 FilmRow DescribeFilm(Film const& film, ConversionQueue const& queue)
@@ -179,6 +189,8 @@ FilmRow DescribeFilm(Film const& film, ConversionQueue const& queue)
     std::optional<ConversionStatus> const status = queue.FindStatus(film.GetId());
     if (!status || !DescribeConversion(*status, queue.IsPaused(), row))
         DescribeProblem(film, row);
+    if (row.sentence.isEmpty())
+        DescribeLoss(film, row);
     return row;
 }
 

@@ -122,6 +122,7 @@ void Notices::Update()
     {
         AppendProblems(notices);
         AppendConversion(notices);
+        AppendRemarks(notices);
     }
     AppendBatch(notices);
     AppendNews(notices);
@@ -164,6 +165,31 @@ void Notices::AppendConversion(std::vector<Notice>& notices)
                            m_closedRemarks.insert(film);
                            Update();
                        }});
+}
+
+void Notices::AppendRemarks(std::vector<Notice>& notices)
+{
+    FilmId const film = m_film->GetId();
+    std::optional<ConversionStatus> const status = m_queue.FindStatus(film);
+    if (status && (status->state == ConversionState::Waiting || status->state == ConversionState::Preparing ||
+                   status->state == ConversionState::Running))
+        return; // too late to change it
+    for (FilmRemark const& remark : m_film->ListRemarks())
+    {
+        if (remark.remedies.empty() || m_acceptedRemarks.count({film, remark.sentence}) != 0)
+            continue; // the preview's hint tells it, too
+        Notice notice;
+        notice.mark = remark.isLoss ? Mark::Warning : Mark::News;
+        notice.sentence = remark.sentence;
+        for (Remedy const& remedy : remark.remedies)
+            notice.buttons.push_back({remedy.label, [this, remedy] { Take(remedy); }});
+        notice.close = [this, film, sentence = remark.sentence]
+        {
+            m_acceptedRemarks.emplace(film, sentence);
+            Update();
+        };
+        notices.push_back(std::move(notice));
+    }
 }
 
 void Notices::AppendBatch(std::vector<Notice>& notices)

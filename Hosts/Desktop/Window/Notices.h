@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 #include <set>
+#include <utility>
 #include <vector>
 
 namespace Korvex::Converter::Subtitles::Adapters
@@ -26,8 +27,8 @@ class FilmList;
 class NoticeBar;
 
 /// Decides what the notice bar says: first what stands in the way of the film that is shown, with the ways out as
-/// buttons; then how its last conversion went; then how all went; then news, which the user may close. What tells of
-/// success goes by itself. GUI thread.
+/// buttons; then how its last conversion went; then what the next one changes; then how all went; then news. Remarks
+/// and news the user may close. What tells of success goes by itself. GUI thread.
 class Notices final : public QObject
 {
     Q_OBJECT
@@ -62,6 +63,7 @@ private:
     void Update();
     void AppendProblems(std::vector<Notice>& notices);
     void AppendConversion(std::vector<Notice>& notices);
+    void AppendRemarks(std::vector<Notice>& notices);
     void AppendBatch(std::vector<Notice>& notices);
     void AppendNews(std::vector<Notice>& notices);
     void Take(Remedy const& remedy);
@@ -71,8 +73,9 @@ private:
     NoticeBar& m_bar;
     QPointer<Film> m_film;
     QMetaObject::Connection m_filmChanged;
-    std::set<FilmId> m_closedRemarks;   ///< films whose last conversion's remarks were closed
-    std::optional<BatchReport> m_batch; ///< until something is converted again
+    std::set<FilmId> m_closedRemarks;                       ///< films whose last conversion's remarks were closed
+    std::set<std::pair<FilmId, QString>> m_acceptedRemarks; ///< on what a conversion changes
+    std::optional<BatchReport> m_batch;                     ///< until something is converted again
     struct NewsItem
     {
         int number;

@@ -22,6 +22,7 @@ namespace
 
 using Converter::Subtitles::ReadCoreSettings;
 using Converter::Subtitles::Entities::SubtitleCollectionMode;
+using Converter::Subtitles::Entities::SubtitleEncoding;
 using Desktop::Film;
 using Desktop::FilmState;
 using Desktop::Remedy;
@@ -188,6 +189,38 @@ TEST_F(FilmTest, AnOffsetThatABitmapCannotCarryIsSaidAndTakenBack)
     ASSERT_TRUE(reset);
     film.Apply(*reset);
     EXPECT_TRUE(film.IsConvertible());
+}
+
+TEST_F(FilmTest, WhatWritingTracksAnewChangesIsSaidBeforeItIsDone)
+{
+    Film& film = Open(MakeFilm("film.mkv", {MakeSubtitle("subrip", "ger"), MakeSubtitle("ass", "fre")}));
+    ioPath const russian = WriteText("added.srt", RUSSIAN_SRT);
+    film.AddSubtitleFiles({russian});
+    film.SetEncoding(SubtitleTrackID(russian), SubtitleEncoding::Windows1251);
+    film.SetOffset(SubtitleTrackID(2U), -2.5);
+    EXPECT_THAT(film.ListRemarks(), IsEmpty()) << "what is drawn in loses nothing";
+    film.ChooseAllSoft();
+    SetFormat("mp4");
+    EXPECT_TRUE(film.IsConvertible());
+    auto const say = [&film]
+    {
+        std::vector<std::string> sentences;
+        for (Desktop::FilmRemark const& remark : film.ListRemarks())
+            sentences.push_back((remark.isLoss ? "loss: " : "") + remark.sentence.toStdString());
+        return sentences;
+    };
+    EXPECT_THAT(say(), ElementsAre("loss: Track 3 (ASS, French) goes into MP4 as plain text and loses its styles.",
+                                   "Track 2 (SubRip, German) is moved by -2.5 s.",
+                                   AllOf(HasSubstr("added.srt (SubRip) is read as"), HasSubstr("1251"))));
+    EXPECT_THAT(m_list.index(0).data(Qt::ToolTipRole).toString().toStdString(), HasSubstr("loses its styles"));
+    ASSERT_EQ(film.ListRemarks().at(0).remedies.size(), 2U);
+    EXPECT_EQ(film.ListRemarks().at(0).remedies.at(0).formatId, "matroska");
+
+    film.Apply(film.ListRemarks().at(1).remedies.at(0));
+    film.SetEncoding(SubtitleTrackID(russian), SubtitleEncoding::Auto);
+    EXPECT_THAT(say(), ElementsAre(HasSubstr("loss: "))) << "plain text comes whole into MP4";
+    SetFormat("matroska");
+    EXPECT_THAT(say(), IsEmpty());
 }
 
 TEST_F(FilmTest, ThePanelsEditTheFilmThatTheyShowAndNoOther)
