@@ -158,6 +158,7 @@ void MainWindow::ConnectFilms()
     connect(m_control, &ConversionControl::ProblemFound, m_filmPane, &FilmListPane::SelectFilm);
     connect(m_notices, &Notices::ShowRequested, m_filmPane, &FilmListPane::SelectFilm);
     connect(m_control, &ConversionControl::BatchEnded, m_notices, &Notices::ShowBatch);
+    connect(&m_program.queue, &ConversionQueue::StatusChanged, this, &MainWindow::LookForFilms);
     connect(m_notices, &Notices::ConvertRequested, this,
             [this](FilmId id)
             {
@@ -209,6 +210,13 @@ void MainWindow::ShowFilm(Film* film)
     m_preview->ShowFilm(film);
     m_textHelp->ShowFilm(film);
     m_notices->ShowFilm(film);
+}
+
+void MainWindow::LookForFilms(FilmId converted)
+{
+    std::optional<ConversionStatus> const status = m_program.queue.FindStatus(converted);
+    if (status && status->state == ConversionState::Failed)
+        m_program.films.CheckFiles();
 }
 
 void MainWindow::EnablePanel()

@@ -73,6 +73,8 @@ private:
     void RestorePlaces();
     void KeepPlaces();
     void ShowFilm(Film* film);
+    /// After a conversion that failed, which may be because its film has gone.
+    void LookForFilms(FilmId converted);
     void EnablePanel();
     void ShowSubtitles(Film* film, QRect const& button);
     void Retranslate();

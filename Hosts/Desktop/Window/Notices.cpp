@@ -148,7 +148,8 @@ void Notices::AppendConversion(std::vector<Notice>& notices)
     std::optional<ConversionStatus> const status = m_queue.FindStatus(film);
     if (!status)
         return;
-    if (status->state == ConversionState::Failed)
+    // Of a film that has gone the way out is above.
+    if (status->state == ConversionState::Failed && m_film->GetState() != FilmState::Missing)
         notices.push_back({Mark::Error,
                            status->sentence,
                            {{tr("Try again"), [this, film] { Q_EMIT ConvertRequested(film); }}},

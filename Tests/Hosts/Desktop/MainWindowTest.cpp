@@ -13,6 +13,7 @@
 #include <QColor>
 #include <QColorDialog>
 #include <QComboBox>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -251,6 +252,26 @@ TEST_F(MainWindowTest, OnlyWhatTellsOfSuccessGoesByItself)
     EXPECT_FALSE(timer.isActive());
     QTest::qWait(200);
     EXPECT_TRUE(notice.isVisible());
+}
+
+TEST_F(MainWindowTest, WhatAConversionChangesOrMissesIsToldAtOnce)
+{
+    Film& film = AddFilm(MakeFilm("Film.mkv", {MakeSubtitle("ass", "en")}));
+    Show(film);
+    ChooseFormat(QStringLiteral("MP4"));
+    auto const& sentence = Get<QLabel>("noticeSentence");
+    WaitUntil([&sentence] { return sentence.text().contains(QLatin1String("loses its styles")); });
+    WaitUntil([this] { return Get<QLabel>("previewHint").text().contains(QLatin1String("loses its styles")); });
+    WaitUntil([this] { return ListNoticeButtons().size() == 2; });
+    ForEachTheme([this](QString const& theme)
+                 { SaveScreenshot(GetWindow(), QStringLiteral("window-remark-") + theme); });
+    PressNoticeButton(QStringLiteral("Choose Matroska"));
+    WaitUntil([this] { return !Get<QWidget>("noticeBar").isVisible(); });
+
+    ASSERT_TRUE(QFile::remove(QString::fromStdString(film.GetPath().utf8string())));
+    Click("convertAllButton");
+    WaitUntil([&film] { return film.GetState() == Desktop::FilmState::Missing; });
+    WaitUntil([this] { return ListNoticeButtons() == QStringList{QStringLiteral("Locate...")}; });
 }
 
 TEST_F(MainWindowTest, FilmsObeyTheKeyboard)
