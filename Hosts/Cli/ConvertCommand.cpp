@@ -162,7 +162,7 @@ void Convert(Plan const& plan, Plan::Job const& job, Services& services, Reporte
 
     ConversionRequest request = session.MakeRequest();
     request.output = job.output;
-    request.overwrite = plan.overwrite;
+    request.takenName = plan.overwrite ? Core::TakenName::Replace : Core::TakenName::Refuse;
     Proc::TranscodeReport const report =
         ConversionRun(services.GetTranscoder(), reporter).Run(request, console.isInterrupted);
     for (Proc::Warning const& warning : report.warnings)

@@ -66,6 +66,30 @@ std::string Shortened(std::string name, std::size_t mostBytes)
     return name;
 }
 
+/// "film.mkv", "film (2).mkv", "film (3).mkv" ...; longer numbers are years: "film (1999) (2).mkv".
+ioPath NextName(ioPath const& path)
+{
+    constexpr std::size_t MOST_DIGITS = 2;
+    std::string stem = path.Stem();
+    int number = 1;
+    std::size_t const open = stem.rfind(" (");
+    if (open != std::string::npos && stem.back() == ')')
+    {
+        std::string const digits = stem.substr(open + 2, stem.size() - open - 3);
+        bool const isNumber = !digits.empty() && digits.size() <= MOST_DIGITS &&
+                              digits.find_first_not_of("0123456789") == std::string::npos;
+        if (isNumber)
+        {
+            number = std::stoi(digits);
+            stem.resize(open);
+        }
+    }
+    std::string const extension = path.Extension();
+    std::string const name =
+        stem + " (" + std::to_string(number + 1) + ")" + (extension.empty() ? std::string() : "." + extension);
+    return path.Parent().empty() ? ioPath(name) : path.Parent() / name;
+}
+
 } // namespace
 
 bool FileExists(ioPath const& path)
@@ -188,6 +212,20 @@ Status CommitFile(ioPath const& temporary, ioPath const& target, bool overwrite)
     if (error == std::errc::file_exists)
         return MakeError(ErrorCode::OutputExists, target);
     return WriteError(target, error);
+}
+
+Result<ioPath> CommitFile(ioPath const& temporary, ioPath const& target, TakenName takenName)
+{
+    Status failed = CommitFile(temporary, target, takenName == TakenName::Replace);
+    ioPath name = target;
+    while (failed && failed->code == ErrorCode::OutputExists && takenName == TakenName::NextFree)
+    {
+        name = NextName(name);
+        failed = CommitFile(temporary, name, false);
+    }
+    if (failed)
+        return *failed;
+    return name;
 }
 
 void RemoveFile(ioPath const& path)

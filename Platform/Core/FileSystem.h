@@ -2,6 +2,7 @@
 
 #include "Core/Export.h"
 #include "Core/Result.h"
+#include "Core/TakenName.h"
 #include "Core/ioPath.h"
 
 #include <cstddef>
@@ -48,6 +49,9 @@ struct FileStamp
 /// Makes the file's bytes durable, then gives it its final name in one step. With `overwrite` an existing target is
 /// replaced, else the call fails with OutputExists (also when the target appeared meanwhile).
 [[nodiscard]] KORVEX_PLATFORM_API Status CommitFile(ioPath const& temporary, ioPath const& target, bool overwrite);
+/// As above; returns the name that the file really got.
+[[nodiscard]] KORVEX_PLATFORM_API Result<ioPath> CommitFile(ioPath const& temporary, ioPath const& target,
+                                                            TakenName takenName);
 /// Removes a file if it is there.
 KORVEX_PLATFORM_API void RemoveFile(ioPath const& path);
 

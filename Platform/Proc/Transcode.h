@@ -3,6 +3,7 @@
 #include "Core/Export.h"
 #include "Core/RefCounted.h"
 #include "Core/Result.h"
+#include "Core/TakenName.h"
 #include "Proc/Warning.h"
 
 #include <chrono>
@@ -29,7 +30,8 @@ struct SettingsTranscode
     std::string audioCodecId;      ///< empty: copy where the container can carry it, else "aac"
     int crf = 20;                  ///< constant rate factor of libx264, 0 (lossless) to 51
     std::string preset = "medium"; ///< libx264's name
-    bool overwrite = false;        ///< replace an existing output
+    /// Looked at when the job is made and again when the output is whole.
+    Core::TakenName takenName = Core::TakenName::Refuse;
 };
 
 struct TranscodeProgress
@@ -45,7 +47,7 @@ struct TranscodeReport
 {
     std::optional<Core::Error> error; ///< ErrorCode::Cancelled after a cancel
     std::vector<Warning> warnings;    ///< about what is in the output but not as expected
-    ioPath output;
+    ioPath output;                    ///< the name that was really written
     std::chrono::microseconds duration{0};
 };
 

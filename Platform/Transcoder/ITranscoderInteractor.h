@@ -3,6 +3,7 @@
 #include "Core/EventPublisher.h"
 #include "Core/Export.h"
 #include "Core/Result.h"
+#include "Core/TakenName.h"
 #include "Transcoder/Preset.h"
 
 #include <cstdint>
@@ -36,7 +37,7 @@ struct ConversionRequest
     Preset preset;
     std::shared_ptr<Proc::SettingsSubtitleSoft const> soft;
     std::shared_ptr<Proc::SettingsSubtitleMixer const> mixer;
-    bool overwrite = false;
+    Core::TakenName takenName = Core::TakenName::Refuse;
 };
 
 using ConversionId = std::uint32_t;

@@ -37,7 +37,7 @@ Proc::SettingsTranscode MakeSettings(ConversionRequest const& request)
     settings.audioCodecId = request.preset.audioCodecId;
     settings.crf = request.preset.crf;
     settings.preset = request.preset.encoderPreset;
-    settings.overwrite = request.overwrite;
+    settings.takenName = request.takenName;
     return settings;
 }
 

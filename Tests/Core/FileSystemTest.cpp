@@ -41,6 +41,27 @@ TEST_F(FileSystemTest, WritesAsideAndNeverOverAnExistingFileUnasked)
     EXPECT_EQ(ListFolder(m_folder), std::vector<std::string>{"фильм.srt"}) << "no temporary file may stay behind";
 }
 
+TEST_F(FileSystemTest, AFinishedFileStandsUnderTheNextFreeNameWhereItsOwnIsTaken)
+{
+    auto const commit = [this](std::string const& name)
+    {
+        EXPECT_FALSE(WriteFile(Path("done"), "new", true));
+        auto const written = CommitFile(Path("done"), Path(name), TakenName::NextFree);
+        EXPECT_TRUE(written && Content(*written) == "new");
+        return written ? written->FileName() : "failed: " + ToSentence(written.GetError());
+    };
+    for (char const* taken : {"film.mkv", "film (2).mkv", "film (1999).mkv", "plain", "() (.mkv"})
+        ASSERT_FALSE(WriteFile(Path(taken), "old", false));
+    EXPECT_EQ(commit("free.mkv"), "free.mkv");
+    EXPECT_EQ(commit("film.mkv"), "film (3).mkv");
+    EXPECT_EQ(commit("film (2).mkv"), "film (4).mkv");
+    EXPECT_EQ(commit("film (1999).mkv"), "film (1999) (2).mkv") << "a year is no number";
+    EXPECT_EQ(commit("plain"), "plain (2)");
+    EXPECT_EQ(commit("() (.mkv"), "() ( (2).mkv");
+    EXPECT_EQ(Content(Path("film.mkv")), "old");
+    EXPECT_EQ(Content(Path("film (2).mkv")), "old");
+}
+
 TEST_F(FileSystemTest, SaysWhyAFileCannotBeReadOrWritten)
 {
     ASSERT_FALSE(WriteFile(Path("big"), std::string(5000, 'x'), false));

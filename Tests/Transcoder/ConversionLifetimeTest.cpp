@@ -48,7 +48,7 @@ TEST(ConversionLifetimeTest, RealConversionsMayBeCancelledAndDestroyedAtAnyMomen
     Entities::ConversionRequest request;
     request.item.path = folder / "in.mkv";
     request.preset.formatId = "matroska";
-    request.overwrite = true;
+    request.takenName = Core::TakenName::Replace;
 
     std::mt19937 random(1); // NOLINT(cert-msc51-cpp): the same moments each time; threads bring the variety
     for (int round = 0; round < 24; ++round)

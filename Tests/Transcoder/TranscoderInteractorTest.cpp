@@ -149,7 +149,7 @@ TEST_F(TranscoderInteractorTest, TheRequestReachesTheJobWhole)
     m_request.output = "out.mp4";
     m_request.preset = {"mp4", "h264", "aac", 7, "slow"};
     m_request.mixer = std::make_shared<Proc::SettingsSubtitleMixer>();
-    m_request.overwrite = true;
+    m_request.takenName = Core::TakenName::NextFree;
     ASSERT_TRUE(interactor->StartConversion(m_request, m_listener));
 
     EXPECT_EQ(m_settings.input, ioPath("in.mkv"));
@@ -161,7 +161,7 @@ TEST_F(TranscoderInteractorTest, TheRequestReachesTheJobWhole)
     EXPECT_EQ(m_settings.preset, "slow");
     EXPECT_EQ(m_settings.mixer, m_request.mixer);
     EXPECT_EQ(m_settings.soft, nullptr);
-    EXPECT_TRUE(m_settings.overwrite);
+    EXPECT_EQ(m_settings.takenName, Core::TakenName::NextFree);
 }
 
 TEST_F(TranscoderInteractorTest, ARefusedJobIsAnErrorAndNoConversion)

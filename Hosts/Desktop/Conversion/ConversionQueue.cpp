@@ -288,6 +288,7 @@ private:
     {
         m_conversion.reset();
         ConversionStatus& status = m_items.at(*m_current).status;
+        status.output = report.output;
         for (Proc::Warning const& warning : report.warnings)
         {
             status.notes.append(Describe(warning));

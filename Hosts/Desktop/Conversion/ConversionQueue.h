@@ -51,7 +51,7 @@ public:
     ~ConversionQueue() override;
 
     /// A film that is waiting or running already is not added again. Where the job's output exists by the time it
-    /// begins, the next free name is taken; `ConversionStatus::output` tells it.
+    /// begins or ends, the next free name is taken; `ConversionStatus::output` tells it.
     void Add(ConversionJob job);
     /// Whatever state it is in; what runs says a moment later that it was cancelled.
     void Cancel(FilmId film);

@@ -96,6 +96,7 @@ std::optional<ConversionRequest> MakeConversionRequest(Hosts::HostServices& serv
     request.preset = job.preset;
     request.soft = settings.soft;
     request.mixer = settings.mixer;
+    request.takenName = Core::TakenName::NextFree;
     return request;
 }
 

@@ -60,7 +60,7 @@ Conversion::~Conversion()
     m_control.Finish();
 }
 
-Core::Status Conversion::Run(WrittenSink const& onWritten)
+Core::Result<ioPath> Conversion::Run(WrittenSink const& onWritten)
 {
     try
     {
@@ -74,8 +74,8 @@ Core::Status Conversion::Run(WrittenSink const& onWritten)
     JoinThreads();
     // After this a cancel comes too late, so that no file stands there that was reported as cancelled.
     if (!m_control.Finish())
-        return m_control.GetError();
-    return m_output->Commit(m_settings.overwrite);
+        return *m_control.GetError();
+    return m_output->Commit(m_settings.takenName);
 }
 
 Core::Status Conversion::Execute(WrittenSink const& onWritten)

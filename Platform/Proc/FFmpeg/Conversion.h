@@ -25,8 +25,9 @@ public:
     Conversion(SettingsTranscode const& settings, InputFile const& input, StreamMap& plan, JobControl& control);
     ~Conversion();
 
-    /// Until the output stands under its final name or has failed to; a cancel comes back as an error too.
-    [[nodiscard]] Core::Status Run(WrittenSink const& onWritten);
+    /// Until the output stands under its final name, which it returns, or has failed to; a cancel comes back as an
+    /// error too.
+    [[nodiscard]] Core::Result<ioPath> Run(WrittenSink const& onWritten);
 
     /// True when jumps in the input's clock were closed, so that its stated duration says little. After `Run`.
     [[nodiscard]] bool HasClosedJumps() const { return m_demuxing && m_demuxing->HasClosedJumps(); }

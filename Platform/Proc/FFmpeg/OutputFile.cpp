@@ -227,14 +227,14 @@ Core::Status OutputFile::WriteTrailer()
     return Core::SUCCESS;
 }
 
-Core::Status OutputFile::Commit(bool overwrite)
+Core::Result<ioPath> OutputFile::Commit(Core::TakenName takenName)
 {
     if (int const result = avio_closep(&m_context->pb); result < 0)
         return WriteFailed("avio_close", result);
     m_context.reset();
-    Core::Status failed = Core::CommitFile(m_temporary, m_target, overwrite);
-    m_isCommitted = !failed;
-    return failed;
+    Core::Result<ioPath> name = Core::CommitFile(m_temporary, m_target, takenName);
+    m_isCommitted = static_cast<bool>(name);
+    return name;
 }
 
 Core::Error OutputFile::WriteFailed(char const* function, int averror) const

@@ -5,6 +5,7 @@
 #include "Proc/FFmpeg/StreamMap.h"
 
 #include "Core/Result.h"
+#include "Core/TakenName.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -50,8 +51,8 @@ public:
     /// A packet of stream `index`, in its own `time_base`. Those of one stream come in rising order of decoding.
     [[nodiscard]] Core::Status Write(std::size_t index, AVPacket& packet);
     [[nodiscard]] Core::Status WriteTrailer();
-    /// Closes the file and gives it its final name.
-    [[nodiscard]] Core::Status Commit(bool overwrite);
+    /// Closes the file and gives it its final name, which it returns.
+    [[nodiscard]] Core::Result<ioPath> Commit(Core::TakenName takenName);
 
 private:
     OutputFile(ContainerRule const& rule, ioPath target);

@@ -206,7 +206,11 @@ private:
         bool isEstimate = m_input->Context().duration_estimation_method == AVFMT_DURATION_FROM_BITRATE;
         {
             Conversion conversion(m_settings, *m_input, m_plan, control);
-            report.error = conversion.Run([&](std::chrono::microseconds time) { meter.Advance(time); });
+            auto const written = conversion.Run([&](std::chrono::microseconds time) { meter.Advance(time); });
+            if (written)
+                report.output = *written;
+            else
+                report.error = written.GetError();
             isEstimate = isEstimate || conversion.HasClosedJumps();
         }
         m_input.reset();
@@ -290,7 +294,8 @@ private:
 Core::Result<boost::intrusive_ptr<ITranscodeJob>> MakeTranscodeJob(SettingsTranscode const& settings,
                                                                    TranscodeChecks checks)
 {
-    if (Core::Status failed = Core::CheckOutput(settings.output, InputsOf(settings), settings.overwrite))
+    bool const mayExist = settings.takenName != Core::TakenName::Refuse;
+    if (Core::Status failed = Core::CheckOutput(settings.output, InputsOf(settings), mayExist))
         return *failed;
     auto state = std::make_shared<JobState>(settings);
     Core::Status const failed = checks == TranscodeChecks::Now ? state->Open() : Core::SUCCESS;

@@ -188,6 +188,18 @@ TEST_F(ConversionQueueTest, AnOutputThatExistsByNowIsNeverOverwritten)
     EXPECT_EQ(ListOutputs(), (std::vector<std::string>{"film (2).mkv", "film (3).mkv", "film.mkv"}));
     EXPECT_EQ(*Core::ReadFile(m_folder / "out/film.mkv", 100), "somebody else's");
     EXPECT_EQ(m_queue->FindStatus(2)->output, m_folder / "out/film (3).mkv");
+
+    // Somebody is quicker while it is being converted: the work is kept.
+    m_onStatus = [&](FilmId, ConversionStatus const& status)
+    {
+        if (status.state == ConversionState::Running)
+            static_cast<void>(Core::WriteFile(m_folder / "out/film (4).mkv", "somebody else's", false));
+    };
+    m_queue->Add(MakeJob(3, film, {}, SubtitleCollectionMode::ModeNone));
+    ASSERT_TRUE(RunToEnd());
+    EXPECT_EQ(StateOf(3), ConversionState::Done) << qPrintable(m_queue->FindStatus(3)->sentence);
+    EXPECT_EQ(m_queue->FindStatus(3)->output, m_folder / "out/film (5).mkv");
+    EXPECT_EQ(*Core::ReadFile(m_folder / "out/film (4).mkv", 100), "somebody else's");
 }
 
 TEST_F(ConversionQueueTest, AFilmThatBreaksOffIsDoneAndSaysWhere)

@@ -88,7 +88,7 @@ TEST(BurnConversionTest, PicturesAreThoseOfThePreviewAndOtherwiseUntouched)
         MakeMedia(folder / "in.mkv", film);
         Proc::SettingsTranscode settings = BurnSettings(folder / "in.mkv", folder / "out.mkv", "matroska", text);
         settings.crf = 0;
-        settings.overwrite = true;
+        settings.takenName = Core::TakenName::Replace;
         Conversion const done = Convert(settings);
         ASSERT_TRUE(done.Succeeded()) << done.Words();
 
@@ -129,7 +129,7 @@ TEST(BurnConversionTest, VariableRateKeepsItsTimesAndTheLastPictureItsDuration)
     {
         ioPath const path = folder / (std::string("out.") + format);
         Proc::SettingsTranscode settings = BurnSettings(folder / "in.mp4", path, format, WriteSubtitles(folder));
-        settings.overwrite = true;
+        settings.takenName = Core::TakenName::Replace;
         settings.preset = "medium"; // which looks ahead and reorders
         Conversion const done = Convert(settings);
         ASSERT_TRUE(done.Succeeded()) << done.Words();
@@ -161,7 +161,7 @@ TEST(BurnConversionTest, TurnedPicturesStandUprightWithTheTextAtTheirFoot)
         { return component == 0 ? (x < 60 && y < 60 ? 200 : 40) : 128; };
         MakeMedia(folder / "in.mp4", film);
         Proc::SettingsTranscode settings = BurnSettings(folder / "in.mp4", folder / "out.mp4", "mp4", text);
-        settings.overwrite = true;
+        settings.takenName = Core::TakenName::Replace;
         settings.crf = 5;
         Conversion const done = Convert(settings);
         ASSERT_TRUE(done.Succeeded()) << done.Words();
