@@ -33,6 +33,8 @@ namespace
 
 constexpr int PROGRESS_STEPS = 1000;
 constexpr int GROUP_SPACING = 12; ///< pixels, between a field and the next label
+constexpr int NARROWEST_FOLDER = 140;
+constexpr int WIDEST_FOLDER = 320;
 constexpr std::array<Quality, 4> QUALITIES{Quality::AsSource, Quality::High, Quality::Medium, Quality::Small};
 
 QString ToText(std::string const& utf8)
@@ -74,7 +76,7 @@ QString QualityHelp(Quality quality)
 }
 
 /// Makes the box wide enough for each of its texts: all of them are short.
-void FitTexts(QComboBox& box)
+void FitBox(QComboBox& box)
 {
     GUI::FixComboBox(&box);
     int longest = 0;
@@ -148,8 +150,8 @@ public:
             m_quality->setItemData(row, QualityHelp(quality), Qt::ToolTipRole);
         }
         m_quality->setToolTip(QualityHelp(m_settings.quality));
-        FitTexts(*m_format);
-        FitTexts(*m_quality);
+        FitBox(*m_format);
+        FitBox(*m_quality);
         m_folderLabel->setText(OutputBar::tr("&Save"));
         m_beside->setText(OutputBar::tr("Beside each film"));
         m_choose->setText(OutputBar::tr("Choose a folder..."));
@@ -163,6 +165,37 @@ public:
         m_cancel->setToolTip(OutputBar::tr("Stop converting; half-written files are removed"));
         ShowFolder();
         ShowConversion(m_summary);
+        FitTexts();
+    }
+
+    void FitTexts()
+    {
+        FitProgress();
+        ChooseRows();
+    }
+
+    /// One row where everything has room in it. What is shown while films are converted counts at all times, so that
+    /// nothing jumps when that begins.
+    void ChooseRows()
+    {
+        int const spacing = m_rows->spacing();
+        int const wanted = m_rows->contentsMargins().left() + m_settingsRow->sizeHint().width() -
+                           m_folder->sizeHint().boundedTo(m_folder->maximumSize()).width() + NARROWEST_FOLDER +
+                           GROUP_SPACING + 2 * spacing + m_progressWidth + m_pause->sizeHint().width() +
+                           m_cancel->sizeHint().width() + 2 * spacing + m_convertCurrent->sizeHint().width() + spacing +
+                           m_convertAll->sizeHint().width() + m_rows->contentsMargins().right();
+        bool const isOneRow = wanted <= m_bar.contentsRect().width();
+        m_rows->setDirection(isOneRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+        m_gap->changeSize(isOneRow ? GROUP_SPACING : 0, 0);
+        m_rows->invalidate();
+    }
+
+    /// In two rows, however it lies at the moment.
+    [[nodiscard]] int NarrowestWidth() const
+    {
+        QMargins const margins = m_rows->contentsMargins() + m_bar.contentsMargins();
+        return margins.left() + margins.right() +
+               std::max(m_settingsRow->minimumSize().width(), m_actionsRow->minimumSize().width());
     }
 
 private:
@@ -180,6 +213,7 @@ private:
         m_folder = new GUI::ComboBoxButton(&m_bar);
         m_folder->setObjectName(QStringLiteral("outputFolderButton"));
         m_folder->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        m_folder->setMaximumWidth(WIDEST_FOLDER);
         m_folderMenu = new QMenu(m_folder);
         m_folderMenu->setObjectName(QStringLiteral("outputFolderMenu"));
         m_beside = m_folderMenu->addAction(QString());
@@ -197,6 +231,7 @@ private:
         m_progress->setTextVisible(false);
         m_progressText = new KLabel(m_conversion);
         m_progressText->setObjectName(QStringLiteral("totalProgressLabel"));
+        m_progressText->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         m_pause = MakeButton("pauseButton");
         m_cancel = MakeButton("cancelButton");
 
@@ -232,26 +267,29 @@ private:
         conversion->addWidget(m_pause);
         conversion->addWidget(m_cancel);
 
-        auto* settings = new QHBoxLayout;
+        m_settingsRow = new QHBoxLayout;
         for (auto const& [label, field] : {std::pair<QLabel*, QWidget*>{m_formatLabel, m_format},
                                            {m_qualityLabel, m_quality},
                                            {m_folderLabel, m_folder}})
         {
-            settings->addWidget(label);
-            settings->addWidget(field, field == m_folder ? 1 : 0);
+            m_settingsRow->addWidget(label);
+            m_settingsRow->addWidget(field, field == m_folder ? 1 : 0);
             if (field != m_folder)
-                settings->addSpacing(GROUP_SPACING);
+                m_settingsRow->addSpacing(GROUP_SPACING);
         }
 
-        auto* actions = new QHBoxLayout;
-        actions->addWidget(m_conversion, 1);
-        actions->addStretch();
-        actions->addWidget(m_convertCurrent);
-        actions->addWidget(m_convertAll);
+        m_settingsRow->addStretch();
+        m_actionsRow = new QHBoxLayout;
+        m_actionsRow->addWidget(m_conversion, 1);
+        m_actionsRow->addStretch();
+        m_actionsRow->addWidget(m_convertCurrent);
+        m_actionsRow->addWidget(m_convertAll);
 
-        auto* rows = new QVBoxLayout(&m_bar);
-        rows->addLayout(settings);
-        rows->addLayout(actions);
+        m_rows = new QVBoxLayout(&m_bar);
+        m_rows->addLayout(m_settingsRow);
+        m_gap = new QSpacerItem(0, 0, QSizePolicy::Fixed, QSizePolicy::Fixed);
+        m_rows->addItem(m_gap);
+        m_rows->addLayout(m_actionsRow, 1);
 
         std::array<QWidget*, 7> const order{m_format, m_quality,        m_folder,    m_pause,
                                             m_cancel, m_convertCurrent, m_convertAll};
@@ -319,11 +357,28 @@ private:
         m_beside->setChecked(!m_settings.folder);
     }
 
+    /// For the longest text, so that the bar does not change with every minute.
+    void FitProgress()
+    {
+        constexpr std::chrono::minutes LONG_TIME{11 * 60 + 39};
+        constexpr std::chrono::seconds SHORT_TIME{1};
+        int widest = 0;
+        for (std::chrono::seconds const left : {std::chrono::seconds(LONG_TIME), SHORT_TIME})
+            widest = std::max(widest, m_progressText->fontMetrics().horizontalAdvance(OutputBar::tr("%1, %2").arg(
+                                          OutputBar::tr("%1 %").arg(100), FormatTimeLeft(left))));
+        m_progressWidth = widest;
+    }
+
     OutputBar& m_bar;
     OutputSettings m_settings;
     std::optional<ConversionSummary> m_summary;
 
     // Children of the bar.
+    QBoxLayout* m_rows = nullptr;
+    QHBoxLayout* m_settingsRow = nullptr;
+    QHBoxLayout* m_actionsRow = nullptr;
+    int m_progressWidth = 0;      ///< that is wanted for it in one row
+    QSpacerItem* m_gap = nullptr; ///< between the two where they are one row
     QLabel* m_formatLabel = nullptr;
     KComboBox* m_format = nullptr;
     QLabel* m_qualityLabel = nullptr;
@@ -370,11 +425,25 @@ void OutputBar::ShowConversion(std::optional<ConversionSummary> const& summary)
     m_impl->ShowConversion(summary);
 }
 
+QSize OutputBar::minimumSizeHint() const
+{
+    return {m_impl ? m_impl->NarrowestWidth() : 0, KFrame::minimumSizeHint().height()};
+}
+
+void OutputBar::resizeEvent(QResizeEvent* event)
+{
+    KFrame::resizeEvent(event);
+    m_impl->ChooseRows();
+}
+
 void OutputBar::changeEvent(QEvent* event)
 {
     KFrame::changeEvent(event);
     if (event->type() == QEvent::LanguageChange && m_impl)
         m_impl->Retranslate();
+    bool const isOtherFont = event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange;
+    if (isOtherFont && m_impl)
+        m_impl->FitTexts();
 }
 
 } // namespace Korvex::Desktop

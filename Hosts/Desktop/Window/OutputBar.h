@@ -36,6 +36,9 @@ public:
     /// None: nothing is being converted.
     void ShowConversion(std::optional<ConversionSummary> const& summary);
 
+    /// As narrow as two rows can be.
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
 Q_SIGNALS:
     /// By the user.
     void SettingsChanged(Korvex::Desktop::OutputSettings const& settings);
@@ -48,6 +51,7 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     class Impl;
