@@ -84,6 +84,8 @@ private:
         if (video->framesPerSecond > 0.0)
             subject.frameLength = microseconds(std::llround(1e6 / video->framesPerSecond));
         subject.subtitles = film.GetMixerSettings();
+        if (auto const drawn = film.GetDrawnTrack(); drawn && subject.subtitles)
+            subject.track = drawn->id.ToString();
         if (!subject.subtitles)
             subject.hint = DescribeUndrawn(film);
         return subject;

@@ -146,6 +146,10 @@ void PreviewStage::resizeEvent(QResizeEvent* event)
 void PreviewStage::Show(PreviewSubject const& subject)
 {
     bool const isOther = subject.film != m_subject.film;
+    bool const isOtherTrack = isOther || subject.track != m_subject.track;
+    // What a film comes with is no choice of the moment.
+    bool const isChosen = isOtherTrack && !isOther && m_subject.sentence.isEmpty() && !subject.track.empty();
+    m_isLineWanted = isChosen || (m_isLineWanted && !isOtherTrack);
     if (isOther)
     {
         m_timesLeft[m_subject.film.utf8string()] = m_time;
@@ -157,7 +161,7 @@ void PreviewStage::Show(PreviewSubject const& subject)
     m_subject = subject;
     if (m_subject.sentence.isEmpty())
         m_time = std::clamp(m_time, microseconds(0), std::max(m_subject.duration, microseconds(0)));
-    if (isOther || !m_subject.subtitles)
+    if (isOtherTrack || !m_subject.subtitles)
         m_cues.reset();
     if (!m_subject.subtitles || isOther)
         m_isReadingTrack = false;
@@ -179,7 +183,9 @@ void PreviewStage::SetTime(microseconds time)
     if (inside == m_time)
         return;
     m_time = inside;
+    m_isLineWanted = false;
     ShowTime();
+    ShowHint();
     Request();
 }
 
@@ -219,6 +225,7 @@ void PreviewStage::Take(PreviewAnswer const& answer)
     {
         m_cues = answer.cues;
         m_strip->SetCues(m_cues);
+        GoToLineIfWanted();
     }
     m_isReadingTrack = !answer.isComplete;
     m_failure = answer.failure;
@@ -238,6 +245,19 @@ void PreviewStage::GoToCue(CueDirection direction)
         return;
     if (auto const there = FindCue(*m_cues, m_time, direction))
         SetTime(*there);
+}
+
+void PreviewStage::GoToLineIfWanted()
+{
+    if (!std::exchange(m_isLineWanted, false) || !m_cues || IsLineShown())
+        return;
+    GoToCue(FindCue(*m_cues, m_time, CueDirection::Next) ? CueDirection::Next : CueDirection::Previous);
+}
+
+bool PreviewStage::IsLineShown() const
+{
+    return std::any_of(m_cues->begin(), m_cues->end(),
+                       [this](Proc::CueSpan const& cue) { return cue.start <= m_time && m_time < cue.end; });
 }
 
 void PreviewStage::ShowTime()
@@ -260,8 +280,25 @@ void PreviewStage::ShowTime()
 
 void PreviewStage::ShowHint()
 {
-    m_hint->setText(m_isReadingTrack ? tr("The subtitles are being read.") : m_subject.hint);
+    if (m_isReadingTrack)
+        m_hint->setText(tr("The subtitles are being read."));
+    else if (m_cues && m_subject.subtitles && !m_failure)
+        m_hint->setText(DescribeNoLine());
+    else
+        m_hint->setText(m_subject.hint);
     FitHint();
+}
+
+QString PreviewStage::DescribeNoLine() const
+{
+    if (m_cues->empty())
+        return tr("This track has no lines.");
+    if (IsLineShown())
+        return {};
+    auto const name = [](QShortcut const& keys) { return keys.key().toString(QKeySequence::NativeText); };
+    return FindCue(*m_cues, m_time, CueDirection::Next)
+               ? tr("No line here: %1 goes to the next one.", "keys").arg(name(*m_nextKeys))
+               : tr("No line here: %1 goes to the one before.", "keys").arg(name(*m_previousKeys));
 }
 
 void PreviewStage::FitHint()

@@ -45,12 +45,14 @@ struct PreviewSubject
     std::chrono::microseconds duration{0};
     std::chrono::microseconds frameLength{40000};
     std::shared_ptr<Proc::SettingsSubtitleMixer const> subtitles; ///< drawn in; null: none
+    std::string track;                                            ///< identifies what is drawn in; empty: nothing is
     QString sentence; ///< shown in place of the picture, which is not looked for then
     QString hint;     ///< why nothing is drawn, or what can be done about it
 };
 
 /// Picture, slider, strip of cues and buttons for one subject after the other; each comes back at the time at which it
-/// was left. GUI thread.
+/// was left. Where another track of the film that is shown gets drawn in and has no line at that time, the nearest one
+/// is gone to, so that there is something to see of it. GUI thread.
 class PreviewStage final : public QWidget
 {
     Q_OBJECT
@@ -78,6 +80,9 @@ private:
     void Request();
     void Take(PreviewAnswer const& answer);
     void GoToCue(CueDirection direction);
+    void GoToLineIfWanted();
+    [[nodiscard]] bool IsLineShown() const;
+    [[nodiscard]] QString DescribeNoLine() const;
     void ShowTime();
     void ShowHint();
     void FitHint();
@@ -92,6 +97,7 @@ private:
         m_wanted;
     std::uint64_t m_newest = 0; ///< number of the newest request; 0: nothing is wanted
     bool m_isReadingTrack = false;
+    bool m_isLineWanted = false; ///< once it is known where the lines are
 
     std::unique_ptr<PreviewThread> m_thread;
     PreviewCanvas* m_canvas = nullptr;

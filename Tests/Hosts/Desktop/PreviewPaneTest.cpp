@@ -161,6 +161,41 @@ TEST_F(PreviewPaneTest, GoesToCuesByButtonKeyAndClickAndStepsByKeys)
     EXPECT_EQ(Find<QLabel>("previewTimes").text().toStdString(), "00:00 / 00:02");
 }
 
+TEST_F(PreviewPaneTest, GoesToALineOfTheTrackThatTheUserChoosesAndSaysWhereThereIsNone)
+{
+    Film& film = ShowTextDrawn();
+    auto const hint = [this] { return Find<QLabel>("previewHint").text().toStdString(); };
+    EXPECT_EQ(hint(), "");
+    m_pane.SetTime(milliseconds(1200));
+    EXPECT_EQ(hint(), "No line here: Ctrl+Right goes to the next one.");
+    m_pane.SetTime(milliseconds(1900));
+    EXPECT_EQ(hint(), "No line here: Ctrl+Left goes to the one before.");
+    SaveScreenshot(m_pane, "preview-pane-no-line");
+
+    // The look of the same track, and a track that is drawn in when the film comes, move nothing.
+    film.SetLook({40, QFont("Sans", 34), {}, {}, Converter::Subtitles::Entities::SubtitleAlign::Top});
+    Settle();
+    EXPECT_EQ(m_pane.GetTime(), milliseconds(1900));
+    m_pane.ShowFilm(nullptr);
+    m_pane.ShowFilm(&film);
+    Settle();
+    EXPECT_EQ(m_pane.GetTime(), milliseconds(1900));
+
+    ioPath const elsewhere = WriteText("other.srt", "1\n00:00:00,600 --> 00:00:01,000\nElsewhere\n");
+    SubtitleTrackID const other(elsewhere);
+    film.AddSubtitleFiles({elsewhere});
+    film.ChooseTrack(other);
+    Settle();
+    EXPECT_EQ(m_pane.GetTime(), milliseconds(800)) << "there is no line after 1.9 seconds";
+    film.ChooseTrack(SubtitleTrackID(m_folder / "said.srt"));
+    Settle();
+    EXPECT_EQ(m_pane.GetTime(), milliseconds(800)) << "a line is shown there";
+    m_pane.SetTime(milliseconds(0));
+    film.ChooseTrack(other);
+    Settle();
+    EXPECT_EQ(m_pane.GetTime(), milliseconds(800));
+}
+
 TEST_F(PreviewPaneTest, SaysWhyThereIsNothingToSee)
 {
     EXPECT_EQ(Sentence(), "Drop films here.");
