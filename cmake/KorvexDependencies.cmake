@@ -2,6 +2,9 @@
 
 find_package(Threads REQUIRED)
 find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets LinguistTools)
+if(UNIX AND NOT APPLE)
+    find_package(Qt5 5.15 REQUIRED COMPONENTS DBus)
+endif()
 find_package(Boost 1.74 REQUIRED COMPONENTS filesystem)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(FFMPEG REQUIRED IMPORTED_TARGET

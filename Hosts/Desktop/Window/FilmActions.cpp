@@ -139,10 +139,14 @@ bool FilmActions::ConfirmRemoval(std::vector<Film*> const& films) const
 void FilmActions::Reveal(FilmId film)
 {
     std::optional<ConversionStatus> const status = m_parts.queue.FindStatus(film);
-    if (!status || status->output.empty() || RevealFile(status->output))
+    if (!status || status->output.empty())
         return;
-    m_parts.notices.AddNews(Mark::Warning, tr("No file manager could be started: the film is \"%1\".")
-                                               .arg(QString::fromStdString(status->output.utf8string())));
+    QString const name = QString::fromStdString(status->output.utf8string());
+    RevealFile(status->output, *this,
+               [this, name] {
+                   m_parts.notices.AddNews(Mark::Warning,
+                                           tr("No file manager could be started: the film is \"%1\".").arg(name));
+               });
 }
 
 void FilmActions::ApplyChoiceToAll(FilmId id)

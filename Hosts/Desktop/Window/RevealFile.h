@@ -1,5 +1,9 @@
 #pragma once
 
+#include <functional>
+
+class QObject;
+
 namespace Korvex
 {
 class ioPath;
@@ -8,7 +12,9 @@ class ioPath;
 namespace Korvex::Desktop
 {
 
-/// Opens the folder of the file in the desktop's file manager. False when there is no file manager.
-bool RevealFile(ioPath const& file);
+/// Shows the file in the desktop's file manager: selected where the file manager can do that, else its folder. Waits
+/// for nobody. GUI thread.
+/// @param onFailure there is no file manager; from the event loop or at once, and not after `context` has gone
+void RevealFile(ioPath const& file, QObject& context, std::function<void()> const& onFailure);
 
 } // namespace Korvex::Desktop
