@@ -133,8 +133,21 @@ public:
         if (state == FilmState::Reading)
             return {};
         SubtitleCollection const collection = subtitles.GetCollection();
-        return FilmWords::ListProblems(collection, Hosts::MakeSoftPlan(m_services, media, collection, m_formatId),
-                                       m_addedFiles.GetReasons());
+        auto problems = FilmWords::ListProblems(
+            collection, Hosts::MakeSoftPlan(m_services, media, collection, m_formatId), m_addedFiles.GetReasons());
+        // The panels show no subtitles then: it has to be said why.
+        if (!problems.empty() && HasLostTracks(collection))
+            problems.front().sentence =
+                tr("%1 %2", "two sentences")
+                    .arg(problems.front().sentence, tr("As it stands no subtitles would go out."));
+        return problems;
+    }
+
+    [[nodiscard]] QString DescribeChoice() const
+    {
+        SubtitleCollection const collection = subtitles.GetCollection();
+        return state == FilmState::Ready && HasLostTracks(collection) ? tr("No subtitles, as it stands")
+                                                                      : FilmWords::DescribeChoice(collection);
     }
 
     [[nodiscard]] std::vector<FilmRemark> ListRemarks() const
@@ -183,6 +196,13 @@ public:
     FilmSubtitles subtitles;
 
 private:
+    /// All tracks are wanted and the module lets none out, because one of them does not fit.
+    [[nodiscard]] static bool HasLostTracks(SubtitleCollection const& collection)
+    {
+        return collection.mode == SubtitleCollectionMode::AllSoftSubtitles && !collection.tracks.empty() &&
+               !Converter::Subtitles::ReadCoreSettings(collection).soft;
+    }
+
     void TellChange()
     {
         if (m_wasRead)
@@ -293,7 +313,7 @@ std::shared_ptr<Proc::SettingsSubtitleMixer const> Film::GetMixerSettings() cons
 
 QString Film::DescribeChoice() const
 {
-    return FilmWords::DescribeChoice(GetCollection());
+    return m_impl->DescribeChoice();
 }
 
 std::vector<FilmProblem> Film::ListProblems() const

@@ -82,7 +82,8 @@ public:
     [[nodiscard]] std::optional<Converter::Subtitles::Entities::SubtitleTrack> GetDrawnTrack() const;
     /// What is drawn into its picture; null: nothing. The object stays as it is; edits make a new one.
     [[nodiscard]] std::shared_ptr<Proc::SettingsSubtitleMixer const> GetMixerSettings() const;
-    /// The choice in words: "No subtitles", "All 3 tracks", "Drawn in: film.ru.srt [Russian]".
+    /// The choice in words: "No subtitles", "All 3 tracks", "Drawn in: film.ru.srt [Russian]"; as
+    /// the panels show it, where not all tracks fit.
     [[nodiscard]] QString DescribeChoice() const;
     [[nodiscard]] std::vector<FilmProblem> ListProblems() const;
     /// What converting it as it stands changes in its tracks.
