@@ -56,6 +56,7 @@ DroppedFiles SortDropped(std::vector<ioPath> const& paths)
             sorted.films.push_back(path);
             continue;
         }
+        sorted.folders.push_back(path);
         for (std::string const& name : Core::ListFolder(path))
             if (IsFilmFileName(name) && Core::FileExists(path / name))
                 sorted.films.push_back(path / name);

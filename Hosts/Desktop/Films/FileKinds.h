@@ -18,9 +18,10 @@ struct DroppedFiles
 {
     std::vector<ioPath> films; ///< everything that is no subtitle file
     std::vector<ioPath> subtitles;
+    std::vector<ioPath> folders; ///< that were looked into
 };
 
-/// Looks at the disk.
+/// Looks at the disk. Any thread.
 [[nodiscard]] DroppedFiles SortDropped(std::vector<ioPath> const& paths);
 
 } // namespace Korvex::Desktop

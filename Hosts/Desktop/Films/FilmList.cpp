@@ -253,12 +253,10 @@ std::vector<Film*> FilmList::Add(std::vector<ioPath> const& paths)
     return films;
 }
 
-std::vector<ioPath> FilmList::AddDropped(std::vector<ioPath> const& paths, Film* current)
+std::vector<ioPath> FilmList::AddSubtitleFiles(std::vector<ioPath> const& files, Film* current)
 {
-    DroppedFiles const dropped = SortDropped(paths);
-    Add(dropped.films);
     std::vector<ioPath> homeless;
-    for (ioPath const& file : dropped.subtitles)
+    for (ioPath const& file : files)
     {
         Film* const named = m_impl->FindByName(file);
         Film* const film = named != nullptr ? named : current;

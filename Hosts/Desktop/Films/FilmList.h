@@ -27,9 +27,8 @@ public:
 
     /// Adds the films; a path that is in the list already is skipped. Returns the films of all the paths.
     std::vector<Film*> Add(std::vector<ioPath> const& paths);
-    /// Adds whatever was dropped or opened: films, the films in folders, and subtitle files, which go to the film of
-    /// their name, else to `current` (null: none). Returns the files that found no film.
-    std::vector<ioPath> AddDropped(std::vector<ioPath> const& paths, Film* current);
+    /// Subtitle files go to the film of their name, else to `current` (null: none). Returns those that found no film.
+    std::vector<ioPath> AddSubtitleFiles(std::vector<ioPath> const& files, Film* current);
     /// Also while it is being read. Not from inside one of the film's own signals.
     void Remove(FilmId id);
     /// The film is at another place now: it is read there, and its choices are made again. False: another film of the

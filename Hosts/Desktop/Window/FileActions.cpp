@@ -5,14 +5,14 @@
 #include "Desktop/Window/FilmListPane.h"
 #include "Desktop/Window/Notices.h"
 
-#include "Core/FileSystem.h"
-
 #include <QAction>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPointer>
 #include <QStandardPaths>
 #include <QStringList>
+#include <QTimer>
 
 #include <algorithm>
 #include <iterator>
@@ -59,27 +59,66 @@ FileActions::~FileActions() = default;
 
 void FileActions::Take(std::vector<ioPath> const& paths, Film* target)
 {
-    int const before = m_films.rowCount();
+    Film const* const film = target != nullptr ? target : m_pane.GetCurrentFilm();
+    FilmId const id = film != nullptr ? film->GetId() : 0;
+    m_fileThread.Add(FileThread::Urgency::Soon,
+                     [this, paths, id]() -> FileThread::Delivery
+                     {
+                         return [this, dropped = SortDropped(paths), id]
+                         {
+                             m_intakes.push_back({dropped, id, m_films.rowCount(), 0});
+                             if (m_intakes.size() == 1)
+                                 AddSome();
+                         };
+                     });
+}
+
+void FileActions::AddSome()
+{
+    constexpr int LONGEST_MS = 15;
+    QElapsedTimer passed;
+    passed.start();
+    Intake& intake = m_intakes.front();
+    while (intake.next < intake.dropped.films.size() && passed.elapsed() < LONGEST_MS)
+    {
+        int const rows = m_films.rowCount();
+        Film const& film = *m_films.Add({intake.dropped.films[intake.next++]}).front();
+        if (m_films.rowCount() > rows && rows == intake.rowsBefore)
+            m_pane.SelectFilm(film.GetId());
+    }
+    if (intake.next == intake.dropped.films.size())
+    {
+        Finish(intake);
+        m_intakes.pop_front();
+        if (m_intakes.empty())
+            return;
+        m_intakes.front().rowsBefore = m_films.rowCount();
+    }
+    QTimer::singleShot(0, this, &FileActions::AddSome);
+}
+
+void FileActions::Finish(Intake const& intake)
+{
+    Film* const target = m_films.Find(intake.target);
     std::vector<ioPath> const homeless =
-        m_films.AddDropped(paths, target != nullptr ? target : m_pane.GetCurrentFilm());
-    if (m_films.rowCount() > before)
-        m_pane.SelectFilm(m_films.GetFilms().at(static_cast<std::size_t>(before))->GetId());
-    else
-        NoteEmptyFolders(paths);
-    if (m_films.rowCount() == before && target != nullptr)
-        m_pane.SelectFilm(target->GetId());
+        m_films.AddSubtitleFiles(intake.dropped.subtitles, target != nullptr ? target : m_pane.GetCurrentFilm());
+    if (m_films.rowCount() == intake.rowsBefore)
+    {
+        NoteEmptyFolders(intake.dropped.folders);
+        if (target != nullptr)
+            m_pane.SelectFilm(target->GetId());
+    }
     for (ioPath const& file : homeless)
         m_notices.AddNews(
             Mark::Warning,
             tr("\"%1\" needs a film to go with: add the film first.").arg(QString::fromStdString(file.FileName())));
 }
 
-void FileActions::NoteEmptyFolders(std::vector<ioPath> const& paths)
+void FileActions::NoteEmptyFolders(std::vector<ioPath> const& folders)
 {
-    for (ioPath const& path : paths)
-        if (Core::FolderExists(path))
-            m_notices.AddNews(Mark::Warning,
-                              tr("No new film was found in \"%1\": choose a folder with films.").arg(ToText(path)));
+    for (ioPath const& folder : folders)
+        m_notices.AddNews(Mark::Warning,
+                          tr("No new film was found in \"%1\": choose a folder with films.").arg(ToText(folder)));
 }
 
 void FileActions::ChooseFilms()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Desktop/Films/FileKinds.h"
+#include "Desktop/Films/FileThread.h"
 #include "Desktop/Films/Film.h"
 
 #include "Core/ioPath.h"
@@ -7,6 +9,8 @@
 #include <QObject>
 #include <QString>
 
+#include <cstddef>
+#include <deque>
 #include <vector>
 
 class QWidget;
@@ -29,7 +33,7 @@ public:
     ~FileActions() override;
 
     /// Whatever was dropped or named: the first new film is shown, subtitle files without a film of their name go to
-    /// `target`; null: to the film that is shown.
+    /// `target`; null: to the film that is shown. Comes from the event loop, many films a few at a time.
     void Take(std::vector<ioPath> const& paths, Film* target = nullptr);
     void ChooseFilms();
     void ChooseSubtitles();
@@ -37,13 +41,26 @@ public:
     void Locate(FilmId film);
 
 private:
-    void NoteEmptyFolders(std::vector<ioPath> const& paths);
+    /// What was dropped at once and is being added.
+    struct Intake
+    {
+        DroppedFiles dropped;
+        FilmId target = 0;
+        int rowsBefore = 0;
+        std::size_t next = 0; ///< of the films
+    };
+
+    void AddSome();
+    void Finish(Intake const& intake);
+    void NoteEmptyFolders(std::vector<ioPath> const& folders);
 
     FilmList& m_films;
     FilmListPane& m_pane;
     Notices& m_notices;
     QWidget& m_window;
     QString m_folder; ///< of the last dialog
+    std::deque<Intake> m_intakes;
+    FileThread m_fileThread;
 };
 
 } // namespace Korvex::Desktop

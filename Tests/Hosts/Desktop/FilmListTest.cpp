@@ -1,5 +1,7 @@
 #include "Hosts/Desktop/FilmFixture.h"
 
+#include "Desktop/Films/FileKinds.h"
+
 #include "Core/FileSystem.h"
 #include "Proc/MediaInfo.h"
 
@@ -21,6 +23,14 @@ using testing::HasSubstr;
 
 class FilmListTest : public FilmFixture
 {
+protected:
+    /// Returns the subtitle files that found no film.
+    std::vector<ioPath> AddDropped(std::vector<ioPath> const& paths, Film* current)
+    {
+        Desktop::DroppedFiles const dropped = Desktop::SortDropped(paths);
+        m_list.Add(dropped.films);
+        return m_list.AddSubtitleFiles(dropped.subtitles, current);
+    }
 };
 
 TEST_F(FilmListTest, FilmsAreReadAsideOnceEachAndShowTheirPicture)
@@ -38,7 +48,7 @@ TEST_F(FilmListTest, FilmsAreReadAsideOnceEachAndShowTheirPicture)
     ASSERT_TRUE(QFile::link(QString::fromStdString((m_folder / "wide.mkv").utf8string()), link));
 
     QSignalSpy inserted(&m_list, &QAbstractItemModel::rowsInserted);
-    m_list.AddDropped({m_folder / "wide.mkv", m_folder / "folder", m_folder / "link.mkv"}, nullptr);
+    AddDropped({m_folder / "wide.mkv", m_folder / "folder", m_folder / "link.mkv"}, nullptr);
     EXPECT_EQ(inserted.count(), 2);
     ASSERT_EQ(m_list.rowCount(), 2);
     EXPECT_EQ(m_list.GetFilms().front()->GetState(), FilmState::Reading) << "adding waits for nothing";
@@ -73,11 +83,11 @@ TEST_F(FilmListTest, DroppedSubtitlesGoToTheFilmOfTheirNameElseToTheCurrentOne)
     ioPath const other = WriteText("elsewhere/other.srt", HELLO_SRT);
     // The films are still being read when their files come.
     auto const films = m_list.Add({m_folder / "film.mkv", m_folder / "film two.mkv"});
-    EXPECT_THAT(m_list.AddDropped({named, other}, films.front()), testing::IsEmpty());
+    EXPECT_THAT(AddDropped({named, other}, films.front()), testing::IsEmpty());
     ioPath const sequel = WriteText("elsewhere/film 2.srt", HELLO_SRT);
     ioPath const part = WriteText("elsewhere/film - 2.srt", HELLO_SRT);
-    EXPECT_THAT(m_list.AddDropped({other, sequel, part}, nullptr), ElementsAre(other, sequel, part));
-    EXPECT_THAT(m_list.AddDropped({WriteText("elsewhere/FILM - my [own].ass", "")}, nullptr), testing::IsEmpty());
+    EXPECT_THAT(AddDropped({other, sequel, part}, nullptr), ElementsAre(other, sequel, part));
+    EXPECT_THAT(AddDropped({WriteText("elsewhere/FILM - my [own].ass", "")}, nullptr), testing::IsEmpty());
     WaitUntil([&] { return films.back()->GetState() == FilmState::Ready; });
     EXPECT_EQ(films.front()->GetCollection().tracks.count(SubtitleTrackID(other)), 1U);
     EXPECT_EQ(films.front()->GetCollection().tracks.size(), 2U);
