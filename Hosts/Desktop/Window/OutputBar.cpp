@@ -364,8 +364,8 @@ private:
         constexpr std::chrono::seconds SHORT_TIME{1};
         int widest = 0;
         for (std::chrono::seconds const left : {std::chrono::seconds(LONG_TIME), SHORT_TIME})
-            widest = std::max(widest, m_progressText->fontMetrics().horizontalAdvance(OutputBar::tr("%1, %2").arg(
-                                          OutputBar::tr("%1 %").arg(100), FormatTimeLeft(left))));
+            widest = std::max(widest, m_progressText->fontMetrics().horizontalAdvance(
+                                          OutputBar::tr("%1, %2").arg(FormatPercent(1.0), FormatTimeLeft(left))));
         m_progressWidth = widest;
     }
 
