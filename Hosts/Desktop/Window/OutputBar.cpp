@@ -122,6 +122,7 @@ public:
     {
         m_summary = summary;
         m_conversion->setVisible(summary.has_value());
+        ChooseRows();
         if (!summary)
             return;
         m_progress->setValue(static_cast<int>(std::floor(summary->fraction * PROGRESS_STEPS)));
@@ -174,19 +175,23 @@ public:
         ChooseRows();
     }
 
-    /// One row where everything has room in it. What is shown while films are converted counts at all times, so that
-    /// nothing jumps when that begins.
+    /// One row where everything that is shown has room in it.
     void ChooseRows()
     {
         int const spacing = m_rows->spacing();
-        int const wanted = m_rows->contentsMargins().left() + m_settingsRow->sizeHint().width() -
-                           m_folder->sizeHint().boundedTo(m_folder->maximumSize()).width() + NARROWEST_FOLDER +
-                           GROUP_SPACING + 2 * spacing + m_progressWidth + m_pause->sizeHint().width() +
-                           m_cancel->sizeHint().width() + 2 * spacing + m_convertCurrent->sizeHint().width() + spacing +
-                           m_convertAll->sizeHint().width() + m_rows->contentsMargins().right();
-        bool const isOneRow = wanted <= m_bar.contentsRect().width();
-        m_rows->setDirection(isOneRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-        m_gap->changeSize(isOneRow ? GROUP_SPACING : 0, 0);
+        QMargins const margins = m_rows->contentsMargins();
+        int const folderWidth = m_folder->sizeHint().boundedTo(m_folder->maximumSize()).width();
+        int wanted = margins.left() + m_settingsRow->sizeHint().width() - folderWidth + NARROWEST_FOLDER +
+                     GROUP_SPACING + 2 * spacing + m_convertCurrent->sizeHint().width() + spacing +
+                     m_convertAll->sizeHint().width() + margins.right();
+        if (m_summary)
+            wanted += m_progressWidth + m_pause->sizeHint().width() + m_cancel->sizeHint().width() + 3 * spacing;
+        auto const direction =
+            wanted <= m_bar.contentsRect().width() ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
+        if (direction == m_rows->direction())
+            return;
+        m_rows->setDirection(direction);
+        m_gap->changeSize(direction == QBoxLayout::LeftToRight ? GROUP_SPACING : 0, 0);
         m_rows->invalidate();
     }
 

@@ -116,6 +116,17 @@ TEST_F(OutputBarTest, FitsANarrowWindowInGermanAndInBothThemes)
     }
     QApplication::processEvents();
     EXPECT_EQ(Button("convertAllButton").text(), QStringLiteral("&Convert all")) << "back at run time";
+
+    m_bar.resize(1280, m_bar.sizeHint().height());
+    QApplication::processEvents();
+    EXPECT_LT(Button("convertAllButton").y(), Find<QComboBox>("formatCombo").geometry().bottom()) << "one row";
+    Testing::SaveScreenshot(m_bar, "output-bar-wide");
+    m_bar.resize(1700, m_bar.sizeHint().height());
+    m_bar.ShowConversion(summary);
+    QApplication::processEvents();
+    EXPECT_LT(Button("convertAllButton").y(), Find<QComboBox>("formatCombo").geometry().bottom());
+    EXPECT_LE(Button("outputFolderButton").width(), 320);
+    Testing::SaveScreenshot(m_bar, "output-bar-wide-converting");
 }
 
 TEST_F(OutputBarTest, TellsWhatTheUserDoesAndNothingElse)
