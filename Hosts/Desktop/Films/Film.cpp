@@ -133,14 +133,8 @@ public:
         if (state == FilmState::Reading)
             return {};
         SubtitleCollection const collection = subtitles.GetCollection();
-        auto problems = FilmWords::ListProblems(
-            collection, Hosts::MakeSoftPlan(m_services, media, collection, m_formatId), m_addedFiles.GetReasons());
-        // The panels show no subtitles then: it has to be said why.
-        if (!problems.empty() && HasLostTracks(collection))
-            problems.front().sentence =
-                tr("%1 %2", "two sentences")
-                    .arg(problems.front().sentence, tr("As it stands no subtitles would go out."));
-        return problems;
+        return FilmWords::ListProblems(collection, Hosts::MakeSoftPlan(m_services, media, collection, m_formatId),
+                                       m_addedFiles.GetReasons());
     }
 
     [[nodiscard]] QString DescribeChoice() const

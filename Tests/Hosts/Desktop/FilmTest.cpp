@@ -52,9 +52,9 @@ TEST_F(FilmTest, TheWishForAllTracksOutlivesAContainerThatCannotCarryThem)
     EXPECT_EQ(film.DescribeChoice().toStdString(), "All 2 track(s)");
 
     SetFormat("mp4");
-    EXPECT_THAT(ListSentences(film),
-                ElementsAre("Track 3 (PGS, English) cannot go into MP4: choose Matroska, draw it in, or leave it out. "
-                            "As it stands no subtitles would go out."));
+    EXPECT_THAT(
+        ListSentences(film),
+        ElementsAre("Track 3 (PGS, English) cannot go into MP4: choose Matroska, draw it in, or leave it out."));
     EXPECT_EQ(film.DescribeChoice().toStdString(), "No subtitles, as it stands") << "which is what the panels show";
     auto const format = FindRemedy(film, Remedy::Kind::ChooseFormat);
     ASSERT_TRUE(format);
