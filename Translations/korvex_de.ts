@@ -783,6 +783,10 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <source>Locate...</source>
         <translation type="unfinished">Suchen...</translation>
     </message>
+    <message>
+        <source>No subtitles, as it stands</source>
+        <translation type="unfinished">So keine Untertitel</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::FilmActions</name>
@@ -1157,6 +1161,20 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     <message>
         <source>The subtitles are being read.</source>
         <translation type="unfinished">Die Untertitel werden gelesen.</translation>
+    </message>
+    <message>
+        <source>This track has no lines.</source>
+        <translation type="unfinished">Diese Spur enthält keine Zeilen.</translation>
+    </message>
+    <message>
+        <source>No line here: %1 goes to the next one.</source>
+        <comment>keys</comment>
+        <translation type="unfinished">Hier ist keine Zeile: %1 führt zur nächsten.</translation>
+    </message>
+    <message>
+        <source>No line here: %1 goes to the one before.</source>
+        <comment>keys</comment>
+        <translation type="unfinished">Hier ist keine Zeile: %1 führt zur vorigen.</translation>
     </message>
 </context>
 <context>

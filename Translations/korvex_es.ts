@@ -783,6 +783,10 @@ Se basa en Qt, FFmpeg y libass.</translation>
         <source>Locate...</source>
         <translation type="unfinished">Localizar...</translation>
     </message>
+    <message>
+        <source>No subtitles, as it stands</source>
+        <translation type="unfinished">Tal como está, sin subtítulos</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::FilmActions</name>
@@ -1157,6 +1161,20 @@ Se basa en Qt, FFmpeg y libass.</translation>
     <message>
         <source>The subtitles are being read.</source>
         <translation type="unfinished">Los subtítulos se están leyendo.</translation>
+    </message>
+    <message>
+        <source>This track has no lines.</source>
+        <translation type="unfinished">Esta pista no tiene líneas.</translation>
+    </message>
+    <message>
+        <source>No line here: %1 goes to the next one.</source>
+        <comment>keys</comment>
+        <translation type="unfinished">Aquí no hay ninguna línea: %1 va a la siguiente.</translation>
+    </message>
+    <message>
+        <source>No line here: %1 goes to the one before.</source>
+        <comment>keys</comment>
+        <translation type="unfinished">Aquí no hay ninguna línea: %1 va a la anterior.</translation>
     </message>
 </context>
 <context>

@@ -783,6 +783,10 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <source>Locate...</source>
         <translation type="unfinished">Localiser...</translation>
     </message>
+    <message>
+        <source>No subtitles, as it stands</source>
+        <translation type="unfinished">En l’état, aucun sous-titre</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::FilmActions</name>
@@ -1157,6 +1161,20 @@ Il repose sur Qt, FFmpeg et libass.</translation>
     <message>
         <source>The subtitles are being read.</source>
         <translation type="unfinished">Les sous-titres sont en cours de lecture.</translation>
+    </message>
+    <message>
+        <source>This track has no lines.</source>
+        <translation type="unfinished">Cette piste ne contient aucune réplique.</translation>
+    </message>
+    <message>
+        <source>No line here: %1 goes to the next one.</source>
+        <comment>keys</comment>
+        <translation type="unfinished">Aucune réplique ici&#xa0;: %1 va à la suivante.</translation>
+    </message>
+    <message>
+        <source>No line here: %1 goes to the one before.</source>
+        <comment>keys</comment>
+        <translation type="unfinished">Aucune réplique ici&#xa0;: %1 va à la précédente.</translation>
     </message>
 </context>
 <context>

@@ -775,6 +775,10 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <source>Locate...</source>
         <translation type="unfinished">場所を指定...</translation>
     </message>
+    <message>
+        <source>No subtitles, as it stands</source>
+        <translation type="unfinished">このままでは字幕なし</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::FilmActions</name>
@@ -1147,6 +1151,20 @@ Qt、FFmpeg、libass を利用しています。</translation>
     <message>
         <source>The subtitles are being read.</source>
         <translation type="unfinished">字幕を読み込んでいます。</translation>
+    </message>
+    <message>
+        <source>This track has no lines.</source>
+        <translation type="unfinished">このトラックには字幕の行がありません。</translation>
+    </message>
+    <message>
+        <source>No line here: %1 goes to the next one.</source>
+        <comment>keys</comment>
+        <translation type="unfinished">ここには字幕がありません。%1 で次の字幕へ移動します。</translation>
+    </message>
+    <message>
+        <source>No line here: %1 goes to the one before.</source>
+        <comment>keys</comment>
+        <translation type="unfinished">ここには字幕がありません。%1 で前の字幕へ移動します。</translation>
     </message>
 </context>
 <context>

@@ -791,6 +791,10 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <source>Locate...</source>
         <translation type="unfinished">Wskaż...</translation>
     </message>
+    <message>
+        <source>No subtitles, as it stands</source>
+        <translation type="unfinished">W tej postaci bez napisów</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::FilmActions</name>
@@ -1167,6 +1171,20 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
     <message>
         <source>The subtitles are being read.</source>
         <translation type="unfinished">Trwa odczytywanie napisów.</translation>
+    </message>
+    <message>
+        <source>This track has no lines.</source>
+        <translation type="unfinished">Ta ścieżka nie ma żadnych kwestii.</translation>
+    </message>
+    <message>
+        <source>No line here: %1 goes to the next one.</source>
+        <comment>keys</comment>
+        <translation type="unfinished">Tu nie ma kwestii: %1 przechodzi do następnej.</translation>
+    </message>
+    <message>
+        <source>No line here: %1 goes to the one before.</source>
+        <comment>keys</comment>
+        <translation type="unfinished">Tu nie ma kwestii: %1 przechodzi do poprzedniej.</translation>
     </message>
 </context>
 <context>

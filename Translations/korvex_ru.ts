@@ -791,6 +791,10 @@ It is built on Qt, FFmpeg and libass.</source>
         <source>Locate...</source>
         <translation type="unfinished">Указать...</translation>
     </message>
+    <message>
+        <source>No subtitles, as it stands</source>
+        <translation type="unfinished">Пока без субтитров</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::FilmActions</name>
@@ -1167,6 +1171,20 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>The subtitles are being read.</source>
         <translation type="unfinished">Субтитры читаются.</translation>
+    </message>
+    <message>
+        <source>This track has no lines.</source>
+        <translation type="unfinished">В этой дорожке нет реплик.</translation>
+    </message>
+    <message>
+        <source>No line here: %1 goes to the next one.</source>
+        <comment>keys</comment>
+        <translation type="unfinished">Здесь нет реплики: %1 — перейти к следующей.</translation>
+    </message>
+    <message>
+        <source>No line here: %1 goes to the one before.</source>
+        <comment>keys</comment>
+        <translation type="unfinished">Здесь нет реплики: %1 — перейти к предыдущей.</translation>
     </message>
 </context>
 <context>

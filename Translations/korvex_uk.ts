@@ -791,6 +791,10 @@ It is built on Qt, FFmpeg and libass.</source>
         <source>Locate...</source>
         <translation type="unfinished">Вказати...</translation>
     </message>
+    <message>
+        <source>No subtitles, as it stands</source>
+        <translation type="unfinished">Поки без субтитрів</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::FilmActions</name>
@@ -1167,6 +1171,20 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>The subtitles are being read.</source>
         <translation type="unfinished">Субтитри читаються.</translation>
+    </message>
+    <message>
+        <source>This track has no lines.</source>
+        <translation type="unfinished">У цій доріжці немає реплік.</translation>
+    </message>
+    <message>
+        <source>No line here: %1 goes to the next one.</source>
+        <comment>keys</comment>
+        <translation type="unfinished">Тут немає репліки: %1 — перейти до наступної.</translation>
+    </message>
+    <message>
+        <source>No line here: %1 goes to the one before.</source>
+        <comment>keys</comment>
+        <translation type="unfinished">Тут немає репліки: %1 — перейти до попередньої.</translation>
     </message>
 </context>
 <context>

@@ -775,6 +775,10 @@ It is built on Qt, FFmpeg and libass.</source>
         <source>Locate...</source>
         <translation type="unfinished">定位...</translation>
     </message>
+    <message>
+        <source>No subtitles, as it stands</source>
+        <translation type="unfinished">目前无字幕</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::FilmActions</name>
@@ -1147,6 +1151,20 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>The subtitles are being read.</source>
         <translation type="unfinished">正在读取字幕。</translation>
+    </message>
+    <message>
+        <source>This track has no lines.</source>
+        <translation type="unfinished">此轨道没有字幕行。</translation>
+    </message>
+    <message>
+        <source>No line here: %1 goes to the next one.</source>
+        <comment>keys</comment>
+        <translation type="unfinished">此处没有字幕：按 %1 转到下一条。</translation>
+    </message>
+    <message>
+        <source>No line here: %1 goes to the one before.</source>
+        <comment>keys</comment>
+        <translation type="unfinished">此处没有字幕：按 %1 转到上一条。</translation>
     </message>
 </context>
 <context>
