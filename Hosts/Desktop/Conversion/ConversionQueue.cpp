@@ -232,7 +232,10 @@ private:
         if (*prepared)
         {
             for (Hosts::RewrittenTrack const& rewritten : **prepared)
+            {
                 item.status.notes += DescribeRewritten(rewritten, item.job.preset.formatId);
+                item.status.hasLosses = item.status.hasLosses || IsLossy(rewritten);
+            }
             Hosts::PutIn(**prepared, item.job.collection);
             refusal = Convert(item);
         }
@@ -292,6 +295,7 @@ private:
         for (Proc::Warning const& warning : report.warnings)
         {
             status.notes.append(Describe(warning));
+            status.hasLosses = status.hasLosses || IsLossy(warning);
             if (warning.code == Proc::WarningCode::EndsEarly)
                 status.earlyEnd = ConversionStatus::EarlyEnd{warning.done, warning.total};
         }

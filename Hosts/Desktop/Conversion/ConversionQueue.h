@@ -29,8 +29,9 @@ struct ConversionStatus
     std::optional<double> fraction; ///< 0..1; not set while unknown
     std::optional<std::chrono::seconds> remaining;
     ioPath output;
-    QString sentence;  ///< why it failed
-    QStringList notes; ///< what is otherwise than expected, one sentence each
+    QString sentence;       ///< why it failed
+    QStringList notes;      ///< what is worth knowing of the output, one sentence each
+    bool hasLosses = false; ///< something of the film or its subtitles is not in the output, or not as it was
     /// Where the film broke off and where it should have ended; none when the output is as long as the film.
     struct EarlyEnd
     {

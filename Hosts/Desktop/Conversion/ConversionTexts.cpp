@@ -5,11 +5,17 @@
 #include "Common/Sentences.h"
 #include "Common/SoftPlan.h"
 
+#include "Subtitles/Entities/SubtitleCodecs.h"
+
+#include "Proc/Warning.h"
+
 #include <QCoreApplication>
 #include <QLocale>
 
 namespace Korvex::Desktop
 {
+
+namespace Entities = Converter::Subtitles::Entities;
 
 namespace
 {
@@ -55,6 +61,21 @@ QStringList DescribeRewritten(Hosts::RewrittenTrack const& rewritten, std::strin
                                static_cast<int>(written.leftOutCues))
                          .arg(track));
     return notes;
+}
+
+bool IsLossy(Hosts::RewrittenTrack const& rewritten)
+{
+    Proc::ExportedSubtitle const& written = rewritten.written;
+    bool const losesLook = rewritten.track && !Entities::IsRestylableSubtitleCodec(written.sourceCodecId) &&
+                           Entities::IsRestylableSubtitleCodec(written.codecId);
+    return losesLook || written.replacedBytes > 0 || written.skippedCues > 0;
+}
+
+/// Cues of no duration are nothing that anybody would see.
+bool IsLossy(Proc::Warning const& warning)
+{
+    return warning.code != Proc::WarningCode::PictureEncodedAnew &&
+           warning.code != Proc::WarningCode::CuesWithoutDuration;
 }
 
 } // namespace Korvex::Desktop

@@ -134,7 +134,7 @@ void ConversionControl::ReportBatch()
         else if (status->state == ConversionState::Done)
         {
             report.converted.push_back(entry);
-            if (film != nullptr && !status->notes.isEmpty())
+            if (film != nullptr && status->hasLosses)
                 report.remarked.push_back(entry);
         }
     }

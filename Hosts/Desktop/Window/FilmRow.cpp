@@ -101,7 +101,7 @@ void DescribeOutput(ConversionStatus const& status, FilmRow& row)
 {
     row.hasOutput = true;
     row.remarks = status.notes.join(QLatin1Char('\n'));
-    row.mark = status.notes.isEmpty() ? Mark::Success : Mark::Warning;
+    row.mark = status.hasLosses ? Mark::Warning : Mark::Success;
     if (status.earlyEnd)
     {
         auto const [done, total] = *status.earlyEnd;

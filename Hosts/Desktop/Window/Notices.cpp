@@ -157,7 +157,7 @@ void Notices::AppendConversion(std::vector<Notice>& notices)
                            {}});
     if (status->notes.isEmpty() || m_closedRemarks.count(film) != 0)
         return;
-    notices.push_back({Mark::Warning,
+    notices.push_back({status->hasLosses ? Mark::Warning : Mark::News,
                        JoinRemarks(*status),
                        {},
                        false,

@@ -168,6 +168,7 @@ TEST_F(ConversionQueueTest, EachFilmGetsTheSubtitlesThatWereChosenAndAFailedOneS
     EXPECT_EQ(CodecsOf(m_folder / "out/drawn.mp4"), (Codecs{"h264"}));
     EXPECT_EQ(CodecsOf(m_folder / "out/plain.mkv"), (Codecs{"mpeg4"}));
     EXPECT_EQ(m_queue->FindStatus(1)->notes.size(), 1);
+    EXPECT_FALSE(m_queue->FindStatus(1)->hasLosses) << "another form is no loss";
     EXPECT_EQ(m_queue->FindStatus(1)->output, m_folder / "out/soft.mp4");
     QString const cannotCarry = m_queue->FindStatus(2)->sentence;
     EXPECT_TRUE(cannotCarry.contains("pictures.mkv") && cannotCarry.contains("Matroska")) << cannotCarry.toStdString();
@@ -215,6 +216,7 @@ TEST_F(ConversionQueueTest, AFilmThatBreaksOffIsDoneAndSaysWhere)
     ConversionStatus const status = *m_queue->FindStatus(1);
     EXPECT_EQ(status.state, ConversionState::Done) << status.sentence.toStdString();
     ASSERT_TRUE(status.earlyEnd);
+    EXPECT_TRUE(status.hasLosses);
     EXPECT_EQ(status.earlyEnd->total, 20s);
     EXPECT_TRUE(status.earlyEnd->done > 2s && status.earlyEnd->done < 18s);
     EXPECT_FALSE(m_queue->FindStatus(2)->earlyEnd);
