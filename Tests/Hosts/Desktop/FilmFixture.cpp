@@ -54,7 +54,7 @@ void FilmFixture::SetFormat(std::string const& formatId)
 
 void FilmFixture::WaitUntil(std::function<bool()> const& condition)
 {
-    EXPECT_TRUE(QTest::qWaitFor(condition, 10'000));
+    EXPECT_TRUE(QTest::qWaitFor(condition, 60'000));
 }
 
 std::vector<std::string> FilmFixture::ListSentences(Film const& film)

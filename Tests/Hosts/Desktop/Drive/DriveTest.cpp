@@ -174,7 +174,6 @@ TEST_F(DriveTest, FromDropToFilmWithTextDrawnIn)
                    });
 
     QImage const bare = m_program.WaitForPicture("a film", [](QImage const&) { return true; });
-    m_program.Click("nextCueButton");
     m_program.WaitForPicture("white text", [](QImage const& now) { return FindInk(now, &IsWhite).pixels > 200; });
     Photograph("chosen");
     EXPECT_EQ(FindYellow(bare).pixels, 0);
@@ -264,7 +263,6 @@ TEST_F(DriveTest, NoticeSaysWhatCannotGoOutAndDrawsItInAtAClick)
     m_program.ClickText("noticeButton", "Draw it in");
     WaitUntilDrawn(*film, "2");
     m_program.WaitUntilHidden("noticeBar");
-    m_program.Click("nextCueButton");
     m_program.WaitForPicture("the bitmap in it", [](QImage const& now) { return FindInk(now, &IsWhite).pixels > 200; });
     Photograph("drawn-in");
 }

@@ -36,7 +36,6 @@ void Photograph(char const* film, char const* subtitles, ioPath const& session)
     Choose(person, "ctrl+shift+o", program, subtitles);
     person.WaitFor("the subtitles to be drawn in", [opened] { return opened->GetDrawnTrack().has_value(); });
     program.WaitUntilShown("textSample");
-    program.Click("nextCueButton");
     program.Click("textColorPicker");
     program.EnterInto("QColorDialog", QStringLiteral("#ffe08a"));
     program.Accept("QColorDialog");
