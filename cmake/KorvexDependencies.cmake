@@ -1,7 +1,7 @@
 # Everything that is not the project's own, found here and nowhere else.
 
 find_package(Threads REQUIRED)
-find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets LinguistTools)
+find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Network Widgets LinguistTools)
 if(UNIX AND NOT APPLE)
     find_package(Qt5 5.15 REQUIRED COMPONENTS DBus)
 endif()
@@ -14,6 +14,7 @@ pkg_check_modules(FONTCONFIG REQUIRED IMPORTED_TARGET fontconfig)
 pkg_check_modules(UCHARDET REQUIRED IMPORTED_TARGET uchardet)
 pkg_check_modules(GLOG REQUIRED IMPORTED_TARGET libglog)
 find_package(Iconv REQUIRED)
+find_package(QuaZip-Qt5 1.3 REQUIRED)
 
 # The dependency-injection container: the installed library when there is one, else the project's own header with the
 # same public builder interface.

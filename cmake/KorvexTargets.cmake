@@ -37,7 +37,9 @@ endfunction()
 
 # What every test runs in. The sanitizers' suppressions name libraries of the system; a blanket option
 # (ignore_noninstrumented_modules) would also hide what the project's own code does through memcpy or std::string.
-set(KORVEX_TEST_ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+# Online services point at a closed port of this machine, so that no test can reach a real one by accident.
+set(KORVEX_TEST_ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8"
+    "KORVEX_OPENSUBTITLES_URL=http://127.0.0.1:9/api/v1" "KORVEX_OPENSUBTITLES_LEGACY_URL=http://127.0.0.1:9")
 if(KORVEX_SANITIZE MATCHES "thread")
     list(APPEND KORVEX_TEST_ENVIRONMENT "TSAN_OPTIONS=suppressions=${CMAKE_CURRENT_LIST_DIR}/tsan-suppressions.txt")
 endif()

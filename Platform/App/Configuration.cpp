@@ -7,6 +7,7 @@
 #include <QVariant>
 
 #include <array>
+#include <mutex>
 
 namespace Korvex::App
 {
@@ -29,6 +30,19 @@ constexpr std::array<TextSetting, 3> TEXT_SETTINGS{{
     {"opensubtitles/api_key", "KORVEX_OPENSUBTITLES_API_KEY", &Configuration::openSubtitlesApiKey},
     {"opensubtitles/legacy_url", "KORVEX_OPENSUBTITLES_LEGACY_URL", &Configuration::openSubtitlesLegacyUrl},
 }};
+
+/// What the host set, if it did.
+struct ActiveConfiguration
+{
+    std::mutex mutex;
+    std::optional<Configuration> value;
+};
+
+ActiveConfiguration& GetActive()
+{
+    static ActiveConfiguration active;
+    return active;
+}
 
 class FeatureSettings final : public IFeatureSettings
 {
@@ -71,8 +85,10 @@ Configuration LoadConfiguration(ioPath const& file, EnvironmentLookup const& env
     for (TextSetting const& setting : TEXT_SETTINGS)
     {
         auto const variable = environment(setting.variable);
-        configuration.*setting.field =
-            variable ? *variable : settings.value(QLatin1String(setting.key)).toString().toStdString();
+        if (variable)
+            configuration.*setting.field = *variable;
+        else if (settings.contains(QLatin1String(setting.key)))
+            configuration.*setting.field = settings.value(QLatin1String(setting.key)).toString().toStdString();
     }
     if (!configuration.openSubtitlesApiKey.empty())
         configuration.features[VERSION_1_FEATURE] = true;
@@ -80,6 +96,21 @@ Configuration LoadConfiguration(ioPath const& file, EnvironmentLookup const& env
     for (QString const& feature : settings.childKeys())
         configuration.features[feature.toStdString()] = settings.value(feature).toBool();
     return configuration;
+}
+
+Configuration GetActiveConfiguration()
+{
+    ActiveConfiguration& active = GetActive();
+    std::lock_guard const lock(active.mutex);
+    return active.value ? *active.value
+                        : LoadConfiguration(FindConfigurationFile(&LookUpEnvironment), &LookUpEnvironment);
+}
+
+void SetActiveConfiguration(Configuration const& configuration)
+{
+    ActiveConfiguration& active = GetActive();
+    std::lock_guard const lock(active.mutex);
+    active.value = configuration;
 }
 
 CustomizationManager::CustomizationManager(Configuration const& configuration)

@@ -8,7 +8,9 @@ set(INCLUDE_GROUPS
     "GLOG=^glog/"
     "QT_CORE=^Q(Buffer|ByteArray|CoreApplication|DateTime|Dir|Event|EventLoop|File|FileInfo|Json[A-Za-z]*|Locale|MetaObject|MetaType|Object|Pointer|Settings|StandardPaths|String|StringList|TextStream|Thread|Timer|Translator|Url|UrlQuery|Variant|tEndian)$"
     "QT_GUI=^Q(Font|Color|Image|ImageWriter|FontDatabase|GuiApplication|Painter|Transform)$"
-    "QT_MODEL=^Q(AbstractListModel|RegularExpression|Size|Collator|Hash|LibraryInfo|MimeData|SaveFile|Set|SysInfo|TemporaryDir|tGlobal|PersistentModelIndex)$"
+    "QT_MODEL=^Q(AbstractListModel|List|RegularExpression|Size|Collator|Hash|LibraryInfo|MimeData|SaveFile|Set|SysInfo|TemporaryDir|tGlobal|PersistentModelIndex)$"
+    "QT_NETWORK=^Q(Network[A-Za-z]*|Ssl[A-Za-z]*|Tcp[A-Za-z]*|Host[A-Za-z]*)$"
+    "QUAZIP=^quazip"
     "QT_WIDGETS=^Q[A-Z][A-Za-z]*$"
     "FFMPEG=^lib(av[a-z]*|sw[a-z]*)/"
     "ASS=^(ass/|fontconfig/)"
@@ -19,8 +21,9 @@ set(INCLUDE_GROUPS
 set(INCLUDE_RULES
     # folder                                  allowed
     "Modules/Subtitles/Entities|^Subtitles/Entities/ ^Core/(ioPath|EventPublisher|EventHandlerList)\\.h QT_CORE QT_GUI BOOST"
-    "Modules/Subtitles/UseCases|^Subtitles/(Entities|UseCases)/ ^Transcoder/ ^Core/(ioPath|FileSystem|ScopedObservation)\\.h QT_CORE BOOST_POINTERS GLOG CONTAINER"
+    "Modules/Subtitles/UseCases|^Subtitles/(Entities|UseCases)/ ^Transcoder/ ^Core/(ioPath|FileSystem|ScopedObservation|EventPublisher|EventHandlerList)\\.h ^QRegularExpression$ QT_CORE BOOST_POINTERS GLOG CONTAINER"
     "Modules/Subtitles/Adapters|^Subtitles/(Entities|UseCases|Adapters)/ ^Proc/[A-Za-z]+\\.h ^Core/ ^Conf/ ^App/ QT_CORE QT_GUI BOOST_POINTERS GLOG CONTAINER"
+    "Modules/Subtitles/Details/OnlineSearch|^Subtitles/(Entities|UseCases)/ ^Subtitles/Details/OnlineSearch/ ^Subtitles/Version\\.h ^Core/ ^App/Configuration\\.h QT_CORE QT_MODEL QT_NETWORK QUAZIP GLOG CONTAINER"
     "Modules/Subtitles/Details|^Subtitles/(Entities|UseCases|Adapters|Details)/ ^Core/(ioPath|EventHandlerList|EventPublisher|ScopedObservation)\\.h ^Conf/ ^App/ ^Gui/ QT_WIDGETS GLOG CONTAINER"
     "Modules/Subtitles|^Subtitles/"
     "Platform/Conf|^Conf/ ^Core/"
@@ -40,5 +43,5 @@ set(INCLUDE_RULES
     "Hosts/Desktop/Preview|^Desktop/(Words|Films|Preview)/ ^Subtitles/Subtitles\\.h ^Subtitles/Entities/ ^Subtitles/Adapters/(HostBridge|SubtitleEncodingNames)\\.h ^(App|Core|Conf|Proc|Transcoder)/[A-Za-z]+\\.h ^Common/ ^Gui/ QT_WIDGETS"
     "Hosts/Desktop/TextHelp|^Desktop/(Words|Films|TextHelp)/ ^Subtitles/Subtitles\\.h ^Subtitles/Entities/ ^Subtitles/Adapters/(HostBridge|SubtitleEncodingNames)\\.h ^(App|Core|Conf|Proc|Transcoder)/[A-Za-z]+\\.h ^Common/ ^Gui/ QT_WIDGETS"
     "Hosts/Desktop|^Subtitles/Subtitles\\.h ^Subtitles/Entities/ ^Subtitles/Adapters/(HostBridge|SubtitleEncodingNames|IEditingPanel|IItemPanel|IMessagesView)\\.h ^Subtitles/Details/(EditingPanel|ItemPanel)\\.h ^Subtitles/UseCases/Composition\\.h ^(App|Core|Conf|Proc|Transcoder|Gui)/[A-Za-z]+\\.h ^(Desktop|Common)/ QT_WIDGETS GLOG CONTAINER"
-    "Hosts|^Subtitles/Subtitles\\.h ^Subtitles/Entities/ ^Subtitles/UseCases/(Composition|ISubtitleController|I[A-Z][A-Za-z]*Factory)\\.h ^Subtitles/Adapters/(HostBridge|SubtitleEncodingNames)\\.h ^(App|Core|Conf|Proc|Transcoder)/[A-Za-z]+\\.h ^(Cli|Common)/ ^(io|shellapi|unistd|windows)\\.h QT_CORE QT_GUI GLOG CONTAINER"
+    "Hosts|^Subtitles/Subtitles\\.h ^Subtitles/Entities/ ^Subtitles/UseCases/(Composition|ISubtitleController|IOnline[A-Z][A-Za-z]*|IServerReportSource|SearchRequest|SearchResult|I[A-Z][A-Za-z]*Factory)\\.h ^Subtitles/Adapters/(HostBridge|SubtitleEncodingNames)\\.h ^(App|Core|Conf|Proc|Transcoder)/[A-Za-z]+\\.h ^(Cli|Common)/ ^(io|shellapi|unistd|windows)\\.h QT_CORE QT_GUI GLOG CONTAINER"
 )

@@ -63,6 +63,17 @@ public:
         return Start(collection, [&] { return m_service->StartSearch(request); });
     }
 
+    Status StartSuggest(SubtitleCollectionID collection, QString const& text)
+    {
+        return Start(collection, [&] { return m_service->AutoSuggest(SearchTags::TITLE, text); });
+    }
+
+    [[nodiscard]] ServerReport GetServerReport() const
+    {
+        auto const* const source = dynamic_cast<IServerReportSource const*>(m_service.get());
+        return source ? source->GetServerReport() : ServerReport();
+    }
+
     Status Download(SubtitleCollectionID collection, std::vector<std::shared_ptr<SearchResult>> const& results,
                     ioPath const& folder)
     {
@@ -81,11 +92,14 @@ public:
         Report([&](auto* observer, SubtitleCollectionID id) { observer->OnSearchResults(id, results); });
     }
 
-    void OnAutoSuggestResults(std::vector<QString> const& /*suggestions*/) override {}
-
-    void OnSubtitlesDownloaded(std::shared_ptr<SearchResult> const& /*result*/, ioPath const& file) override
+    void OnAutoSuggestResults(std::vector<QString> const& suggestions) override
     {
-        Report([&](auto* observer, SubtitleCollectionID id) { observer->OnSubtitlesDownloaded(id, file); });
+        Report([&](auto* observer, SubtitleCollectionID id) { observer->OnSuggestions(id, suggestions); });
+    }
+
+    void OnSubtitlesDownloaded(std::shared_ptr<SearchResult> const& result, ioPath const& file) override
+    {
+        Report([&](auto* observer, SubtitleCollectionID id) { observer->OnSubtitlesDownloaded(id, result, file); });
     }
 
     void OnOperationFinished() override
@@ -194,6 +208,11 @@ Status OnlineDownloaderInteractor::StartSearch(SubtitleCollectionID collection, 
     return m_impl->StartSearch(collection, request);
 }
 
+Status OnlineDownloaderInteractor::StartSuggest(SubtitleCollectionID collection, QString const& text)
+{
+    return m_impl->StartSuggest(collection, text);
+}
+
 Status OnlineDownloaderInteractor::Download(SubtitleCollectionID collection,
                                             std::vector<std::shared_ptr<SearchResult>> const& results,
                                             ioPath const& folder)
@@ -204,6 +223,11 @@ Status OnlineDownloaderInteractor::Download(SubtitleCollectionID collection,
 bool OnlineDownloaderInteractor::Cancel()
 {
     return m_impl->Cancel();
+}
+
+ServerReport OnlineDownloaderInteractor::GetServerReport() const
+{
+    return m_impl->GetServerReport();
 }
 
 } // namespace Korvex::Converter::Subtitles::UseCases

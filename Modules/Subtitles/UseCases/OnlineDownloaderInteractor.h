@@ -28,10 +28,13 @@ public:
     SearchRequest MakeQuery(Entities::SubtitleSearchMediaInfoSettings const& media) const override;
     IOnlineSearchController::Status StartSearch(Entities::SubtitleCollectionID collection,
                                                 SearchRequest const& request) override;
+    IOnlineSearchController::Status StartSuggest(Entities::SubtitleCollectionID collection,
+                                                 QString const& text) override;
     IOnlineSearchController::Status Download(Entities::SubtitleCollectionID collection,
                                              std::vector<std::shared_ptr<SearchResult>> const& results,
                                              ioPath const& folder) override;
     bool Cancel() override;
+    ServerReport GetServerReport() const override;
 
 private:
     class Impl;

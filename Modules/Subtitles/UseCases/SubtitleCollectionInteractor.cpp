@@ -214,7 +214,8 @@ public:
 
     // The other services
 
-    void OnSubtitlesDownloaded(Entities::SubtitleCollectionID collection, ioPath const& file) override
+    void OnSubtitlesDownloaded(Entities::SubtitleCollectionID collection,
+                               std::shared_ptr<SearchResult> const& /*result*/, ioPath const& file) override
     {
         if (collection == m_collection->collectionId)
             AddFiles({file});

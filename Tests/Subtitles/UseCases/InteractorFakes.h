@@ -100,16 +100,18 @@ public:
     bool IsAvailable() const override { return true; }
     UseCases::SearchRequest MakeQuery(Entities::SubtitleSearchMediaInfoSettings const&) const override { return {}; }
     Status StartSearch(Entities::SubtitleCollectionID, UseCases::SearchRequest const&) override { return {}; }
+    Status StartSuggest(Entities::SubtitleCollectionID, QString const&) override { return {}; }
     Status Download(Entities::SubtitleCollectionID, std::vector<std::shared_ptr<UseCases::SearchResult>> const&,
                     ioPath const&) override
     {
         return {};
     }
     bool Cancel() override { return false; }
+    UseCases::ServerReport GetServerReport() const override { return {}; }
 
     void Deliver(Entities::SubtitleCollectionID collection, ioPath const& file)
     {
-        m_observers.Notify([&](auto* observer) { observer->OnSubtitlesDownloaded(collection, file); });
+        m_observers.Notify([&](auto* observer) { observer->OnSubtitlesDownloaded(collection, nullptr, file); });
     }
     void Fail(Entities::SubtitleCollectionID collection, QString const& message)
     {

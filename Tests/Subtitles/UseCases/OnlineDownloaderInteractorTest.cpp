@@ -31,7 +31,8 @@ public:
 class OnlineDownloaderInteractorTest : public testing::Test, public IOnlineDownloaderInteractorObserver
 {
 protected:
-    void OnSubtitlesDownloaded(Entities::SubtitleCollectionID collection, ioPath const& file) override
+    void OnSubtitlesDownloaded(Entities::SubtitleCollectionID collection, std::shared_ptr<SearchResult> const&,
+                               ioPath const& file) override
     {
         EXPECT_EQ(collection, m_film);
         m_events.push_back("file " + file.utf8string());
