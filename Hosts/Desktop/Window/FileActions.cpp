@@ -59,14 +59,15 @@ FileActions::~FileActions() = default;
 
 void FileActions::Take(std::vector<ioPath> const& paths, Film* target)
 {
-    Film const* const film = target != nullptr ? target : m_pane.GetCurrentFilm();
-    FilmId const id = film != nullptr ? film->GetId() : 0;
+    Film const* const shown = m_pane.GetCurrentFilm();
+    FilmId const shownId = shown != nullptr ? shown->GetId() : 0;
+    FilmId const targetId = target != nullptr ? target->GetId() : shownId;
     m_fileThread.Add(FileThread::Urgency::Soon,
-                     [this, paths, id]() -> FileThread::Delivery
+                     [this, paths, shownId, targetId]() -> FileThread::Delivery
                      {
-                         return [this, dropped = SortDropped(paths), id]
+                         return [this, dropped = SortDropped(paths), shownId, targetId]
                          {
-                             m_intakes.push_back({dropped, id, m_films.rowCount(), 0});
+                             m_intakes.push_back({dropped, targetId, shownId, m_films.rowCount(), 0});
                              if (m_intakes.size() == 1)
                                  AddSome();
                          };
@@ -84,7 +85,7 @@ void FileActions::AddSome()
         int const rows = m_films.rowCount();
         Film const& film = *m_films.Add({intake.dropped.films[intake.next++]}).front();
         if (m_films.rowCount() > rows && rows == intake.rowsBefore)
-            m_pane.SelectFilm(film.GetId());
+            Select(intake, film);
     }
     if (intake.next == intake.dropped.films.size())
     {
@@ -105,13 +106,21 @@ void FileActions::Finish(Intake const& intake)
     if (m_films.rowCount() == intake.rowsBefore)
     {
         NoteEmptyFolders(intake.dropped.folders);
-        if (target != nullptr)
-            m_pane.SelectFilm(target->GetId());
+        if (target != nullptr && !intake.dropped.subtitles.empty())
+            Select(intake, *target);
     }
     for (ioPath const& file : homeless)
         m_notices.AddNews(
             Mark::Warning,
             tr("\"%1\" needs a film to go with: add the film first.").arg(QString::fromStdString(file.FileName())));
+}
+
+void FileActions::Select(Intake const& intake, Film const& film)
+{
+    // Sorting the files may take seconds on a slow disk.
+    Film const* const shown = m_pane.GetCurrentFilm();
+    if (shown == &film || (shown != nullptr ? shown->GetId() : 0) == intake.shownAt)
+        m_pane.SelectFilm(film.GetId());
 }
 
 void FileActions::NoteEmptyFolders(std::vector<ioPath> const& folders)

@@ -45,13 +45,16 @@ private:
     struct Intake
     {
         DroppedFiles dropped;
-        FilmId target = 0;
+        FilmId target = 0;  ///< of the subtitle files; 0: whichever film is shown
+        FilmId shownAt = 0; ///< the film that was shown when the files came; 0: none
         int rowsBefore = 0;
         std::size_t next = 0; ///< of the films
     };
 
     void AddSome();
     void Finish(Intake const& intake);
+    /// Unless the user has chosen another film meanwhile.
+    void Select(Intake const& intake, Film const& film);
     void NoteEmptyFolders(std::vector<ioPath> const& folders);
 
     FilmList& m_films;

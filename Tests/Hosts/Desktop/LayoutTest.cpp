@@ -116,14 +116,8 @@ protected:
 
     void LookAtWindow()
     {
-        // A film that comes into the list late may take the selection once more.
-        WaitUntil(
-            [this]
-            {
-                if (!Get<QWidget>("noticeBar").isVisible())
-                    Show(*m_noticed);
-                return Get<QWidget>("noticeBar").isVisible();
-            });
+        Show(*m_noticed);
+        WaitUntil([this] { return Get<QWidget>("noticeBar").isVisible(); });
         auto& bar = *GetWindow().findChild<Desktop::OutputBar*>();
         bar.ShowConversion(Desktop::ConversionSummary{0.42, std::chrono::minutes(83), false});
         LookAt(GetWindow(), "notice");

@@ -181,6 +181,22 @@ TEST_F(MainWindowTest, FromDropToConvertedFilm)
     WaitUntil([&] { return GetQueue().FindStatus(film.GetId())->output != output; });
 }
 
+TEST_F(MainWindowTest, FilesThatComeLateLeaveTheChosenFilm)
+{
+    Film& first = AddFilm(MakeFilm("First.mkv"));
+    Film& second = AddFilm(MakeFilm("Second.mkv"));
+    auto const& list = Get<QListView>("filmListView");
+    Show(first);
+    GetWindow().AddFiles({second.GetPath(), MakeFilm("Third.mkv")});
+    Show(second);
+    WaitUntil([&list] { return list.model()->rowCount() == 3; });
+    GetWindow().AddFiles({first.GetPath()});
+    QTest::qWait(50);
+    EXPECT_EQ(list.currentIndex().row(), 1);
+    GetWindow().AddFiles({MakeFilm("Fourth.mkv")});
+    WaitUntil([&list] { return list.currentIndex().row() == 3; });
+}
+
 TEST_F(MainWindowTest, NoticeOffersWaysOutThatWork)
 {
     Film& first = AddFilm(MakeFilm("First.mkv", {MakeSubtitle("hdmv_pgs_subtitle", "en")}));
