@@ -1,18 +1,16 @@
 #include "Subtitles/UseCases/SubtitleCollectionInteractor.h"
 
 #include "Subtitles/UseCases/CollectionRules.h"
+#include "Subtitles/UseCases/ExternalTracks.h"
 #include "Subtitles/UseCases/IMessagesController.h"
 #include "Subtitles/UseCases/IOnlineDownloaderInteractor.h"
 #include "Subtitles/UseCases/ISubtitleCollectionPresenter.h"
 #include "Subtitles/UseCases/ISubtitleController.h"
-#include "Subtitles/UseCases/SidecarLookup.h"
 
 #include "Subtitles/Entities/ISubtitlesInteractor.h"
-#include "Subtitles/Entities/SubtitleCodecs.h"
 #include "Subtitles/Entities/SubtitleSearchMediaInfoSettings.h"
 #include "Subtitles/Entities/TrackOrder.h"
 
-#include "Core/FileSystem.h"
 #include "Core/ScopedObservation.h"
 #include "Transcoder/ITranscoderInteractor.h"
 
@@ -73,12 +71,7 @@ public:
     void AddFiles(std::vector<ioPath> const& paths)
     {
         std::vector<SubtitleTrack> tracks;
-        for (ioPath const& path : paths)
-        {
-            SubtitleTrack track(path);
-            track.title = path.FileName();
-            tracks.push_back(std::move(track));
-        }
+        std::transform(paths.begin(), paths.end(), std::back_inserter(tracks), &MakeExternalTrack);
         if (InsertExternalTracks(std::move(tracks)))
             FinishAdding(Selection::AddedTrack);
     }
@@ -278,12 +271,7 @@ private:
             if (m_collection->tracks.count(track.id) != 0)
                 continue;
             isAnyNew = true;
-            if (track.codecId.empty())
-                track.codecId = m_controller->DetermineSubtitleCodec(track.path);
-            track.codecName = m_controller->GetCodecName(track.codecId);
-            track.isExternal = true;
-            track.encodingEditable = Entities::IsTextSubtitleCodec(track.codecId);
-            track.styleEditable = Entities::IsRestylableSubtitleCodec(track.codecId);
+            CompleteExternalTrack(track, *m_controller);
             m_collection->mode = SubtitleCollectionMode::SelectedTrack;
             m_collection->withoutSubtitles = 0;
             m_collection->currentTrack = track.id;
@@ -329,34 +317,13 @@ private:
     /// Files that lie beside the film are offered; they never change what the user chose.
     void AddSidecars(ioPath const& media)
     {
-        if (m_controller->PathIsDVD(media))
-            return;
-        std::vector<SubtitleTrack> tracks;
-        for (SubtitleTrack& track : FindSidecars(media, *m_controller))
-        {
-            if (IsListed(track.path))
-                continue;
-            track.codecId = m_controller->DetermineSubtitleCodec(track.path);
-            // An unreadable file that nobody asked for must not keep the other tracks from going out.
-            if (!track.codecId.empty())
-                tracks.push_back(std::move(track));
-        }
-
         Choice const choice{m_collection->mode, m_collection->withoutSubtitles, m_collection->currentTrack};
-        if (!InsertExternalTracks(std::move(tracks)))
+        if (!InsertExternalTracks(FindNewSidecars(media, *m_collection, *m_controller)))
             return;
         m_collection->mode = choice.mode;
         m_collection->withoutSubtitles = choice.withoutSubtitles;
         m_collection->currentTrack = choice.currentTrack;
         FinishAdding(Selection::KeptChoice);
-    }
-
-    /// Whether a file is among the tracks under any spelling of its path.
-    [[nodiscard]] bool IsListed(ioPath const& path) const
-    {
-        return std::any_of(m_collection->tracks.begin(), m_collection->tracks.end(),
-                           [&](auto const& entry)
-                           { return entry.second.isExternal && Core::IsSameFile(entry.second.path, path); });
     }
 
     [[nodiscard]] bool ComputeSoftPossible(SubtitleCollection const& collection) const
