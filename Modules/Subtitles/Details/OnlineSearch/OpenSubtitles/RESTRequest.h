@@ -4,6 +4,7 @@
 
 #include "Subtitles/Entities/Export.h"
 
+#include <QByteArray>
 #include <QString>
 
 class QJsonDocument;
@@ -36,6 +37,10 @@ public:
     [[nodiscard]] static QUrl DowncaseUrl(QUrl const& url);
 
 protected:
+    /// `ParseReply` reads what this makes of a body that is not empty, before anything else looks at it: a version
+    /// whose servers put something around the JSON cuts it off here.
+    [[nodiscard]] virtual QByteArray PrepareBody(QByteArray const& body) const { return body; }
+
     /// Keeps the outcome and returns the status; a failure's text is logged.
     Status Fail(Status status, QString const& error);
 
