@@ -1,0 +1,68 @@
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/ServiceText.h"
+
+#include <array>
+#include <optional>
+#include <utility>
+
+namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
+{
+
+namespace
+{
+
+/// "&" and ";" included, no reference that is resolved here is longer: "&#x10FFFF;".
+constexpr int LONGEST_REFERENCE = 10;
+
+/// A character that may stand in a line of text; control characters and halves of surrogate pairs may not.
+bool IsTextCharacter(uint code)
+{
+    bool const isControl = code < 0x20 || (code >= 0x7F && code < 0xA0);
+    bool const isSurrogate = code >= 0xD800 && code <= 0xDFFF;
+    return !isControl && !isSurrogate && code <= 0x10FFFF;
+}
+
+/// @param name what stands between "&" and ";"
+std::optional<QString> ResolveReference(QStringView name)
+{
+    static std::array<std::pair<char const*, char16_t>, 6> const NAMED = {
+        {{"amp", u'&'}, {"lt", u'<'}, {"gt", u'>'}, {"quot", u'"'}, {"apos", u'\''}, {"nbsp", u' '}}};
+    for (auto const& [known, character] : NAMED)
+    {
+        if (name == QLatin1String(known))
+            return QString(QChar(character));
+    }
+    if (!name.startsWith(u'#'))
+        return std::nullopt;
+    bool const isHexadecimal = name.mid(1).startsWith(u'x', Qt::CaseInsensitive);
+    bool isNumber = false;
+    uint const code = name.mid(isHexadecimal ? 2 : 1).toString().toUInt(&isNumber, isHexadecimal ? 16 : 10);
+    if (!isNumber)
+        return std::nullopt;
+    return IsTextCharacter(code) ? QString::fromUcs4(&code, 1) : QStringLiteral(" ");
+}
+
+} // namespace
+
+QString ReadPlainLine(QString const& text)
+{
+    QString line;
+    line.reserve(text.size());
+    for (int i = 0; i < text.size(); ++i)
+    {
+        QChar const character = text.at(i);
+        int const end = character == u'&' ? text.midRef(i, LONGEST_REFERENCE).indexOf(u';') : -1;
+        auto const resolved = end > 0 ? ResolveReference(QStringView(text).mid(i + 1, end - 1)) : std::nullopt;
+        if (resolved)
+        {
+            line += *resolved;
+            i += end;
+        }
+        else
+        {
+            line += character.category() == QChar::Other_Control ? QChar(u' ') : character;
+        }
+    }
+    return line.simplified();
+}
+
+} // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
