@@ -1,11 +1,10 @@
 #pragma once
 
-#include <QByteArray>
-#include <QList>
-#include <QPair>
-#include <QString>
-#include <QUrl>
+#include "Support/OnlineServer/HttpMessage.h"
 
+#include <QString>
+
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -15,48 +14,16 @@
 namespace Korvex::Testing
 {
 
-using HttpHeaders = QList<QPair<QByteArray, QByteArray>>;
-
-/// One request as it arrived, byte for byte.
-struct HttpRequest
-{
-    QByteArray method; ///< "GET"
-    QByteArray target; ///< path and query as on the wire: "/api/v1/subtitles?query=up"
-    HttpHeaders headers;
-    QByteArray body;
-
-    /// The header's value, whatever the case of its name; empty when it is missing.
-    [[nodiscard]] QByteArray Header(QByteArray const& name) const;
-};
-
-/// What is sent back, and how badly.
-struct HttpReply
-{
-    int status = 200;
-    QByteArray body;
-    HttpHeaders headers; ///< Content-Length and Connection are added
-    QByteArray contentType = "application/json; charset=utf-8";
-
-    int delayMs = 0;     ///< before the first byte
-    int pauseMs = 0;     ///< between two pieces of the body
-    int pieceBytes = 0;  ///< size of a piece; 0: all at once
-    bool isGzip = false; ///< body sent compressed, with Content-Encoding
-    bool isDeflate = false;
-    qint64 dropAfterBytes = -1; ///< of the body; then the connection is closed. -1: never
-    bool neverAnswers = false;  ///< the connection stays open in silence
-    bool isChunked = false;     ///< chunked transfer in place of Content-Length
-};
-
-/// Answers on 127.0.0.1 from a thread of its own, so that tests may block. Any thread may call it.
+/// Answers on 127.0.0.1 from a thread of its own, so that tests may block. Any thread may call it. Wants a
+/// QCoreApplication. Ends at once, also with clients connected and requests unanswered.
 class OnlineServer final
 {
 public:
     using Handler = std::function<HttpReply(HttpRequest const&)>; ///< called on the server's thread
+    using Interceptor = std::function<std::unique_ptr<HttpReply>(HttpRequest const&)>;
 
-    /// Plays both services with the project's own film library (`OnlineLibrary.h`).
-    OnlineServer();
-    /// Answers every request with the handler.
-    explicit OnlineServer(Handler handler);
+    /// Answers every request with the handler. Throws std::runtime_error when the port (0: any free one) is taken.
+    explicit OnlineServer(Handler handler, quint16 port = 0);
     ~OnlineServer();
     OnlineServer(OnlineServer const&) = delete;
     OnlineServer& operator=(OnlineServer const&) = delete;
@@ -68,13 +35,16 @@ public:
     /// What `KORVEX_OPENSUBTITLES_LEGACY_URL` wants.
     [[nodiscard]] QString GetLegacyUrl() const;
 
-    /// Every request so far, in order of arrival.
+    /// Every request since the last ForgetRequests(), in order of arrival. Long runs forget now and then.
     [[nodiscard]] std::vector<HttpRequest> GetRequests() const;
     void ForgetRequests();
+    /// Blocks until at least so many requests have arrived; false when they did not in that time.
+    [[nodiscard]] bool WaitForRequests(std::size_t count, std::chrono::milliseconds limit) const;
 
     /// From now on this comes before the handler: a reply it returns is sent, an empty one leaves the request to the
-    /// handler. An empty function ends it.
-    void Intercept(std::function<std::unique_ptr<HttpReply>(HttpRequest const&)> interceptor);
+    /// handler. An empty function ends it; once this has returned, the function before is not running any more (unless
+    /// it is the one that called).
+    void Intercept(Interceptor interceptor);
 
 private:
     class Impl;
