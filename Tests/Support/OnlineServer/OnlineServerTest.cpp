@@ -136,7 +136,7 @@ TEST_F(OnlineServerTest, FailsAsAsked)
     OnlineServer server([](HttpRequest const&) { return HttpReply{200, "0123456789"}; });
     auto const ask = [&server](HttpReply const& wanted)
     {
-        server.Intercept([&wanted](HttpRequest const&) { return std::make_unique<HttpReply>(wanted); });
+        server.Intercept([wanted](HttpRequest const&) { return std::make_unique<HttpReply>(wanted); });
         RawClient client(server);
         client.Send("GET / HTTP/1.1\r\n\r\n");
         return client.ReadToEnd();
