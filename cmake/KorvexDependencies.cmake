@@ -15,6 +15,7 @@ pkg_check_modules(UCHARDET REQUIRED IMPORTED_TARGET uchardet)
 pkg_check_modules(GLOG REQUIRED IMPORTED_TARGET libglog)
 find_package(Iconv REQUIRED)
 find_package(QuaZip-Qt5 1.3 REQUIRED)
+find_package(ZLIB REQUIRED)
 
 # The dependency-injection container: the installed library when there is one, else the project's own header with the
 # same public builder interface.
