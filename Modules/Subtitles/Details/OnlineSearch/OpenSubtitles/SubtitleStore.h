@@ -2,6 +2,8 @@
 
 #include "Subtitles/Entities/Export.h"
 
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/NotASubtitle.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleFileName.h"
 #include "Subtitles/UseCases/IOnlineSearchController.h"
 
 #include "Core/ioPath.h"
@@ -9,21 +11,9 @@
 #include <QByteArray>
 #include <QString>
 
-#include <optional>
-
 /// From the bytes that a service sent to a file on disk. Any thread; nothing throws.
 namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
 {
-
-/// A file name that every system takes, made of the last component of what a server calls a file: no separators, no
-/// control characters, no device names, no dots or blanks at the ends, at most 200 bytes of UTF-8. `extension` (without
-/// a dot) is added where the name has no extension of a subtitle file. Never empty.
-[[nodiscard]] KVSUBTITLES_API QString CleanFileName(QString const& serverName, QString const& extension);
-
-/// Why these bytes are no subtitle file: empty, an HTML page, JSON, an archive, or nothing but an advertisement of the
-/// service. Empty when they may be one, in whatever encoding. The text is a short phrase for a sentence: "an HTML page
-/// (\"Service unavailable\")".
-[[nodiscard]] KVSUBTITLES_API std::optional<QString> FindWhatItIsInstead(QByteArray const& bytes);
 
 /// How storing a file ended.
 struct StoredFile
@@ -33,8 +23,9 @@ struct StoredFile
     ioPath path;   ///< where the file really is
 };
 
-/// Writes the bytes aside and gives them their name in one step; a name that is taken gets a number. Makes the folder
-/// where it is missing. What is no subtitle is refused as a server error and not stored.
+/// Writes the bytes aside and gives them their name (cleaned) in one step; a name that is taken gets a number. Makes
+/// the folder where it is missing. What is no subtitle is refused as a server error and not stored. Failures are logged
+/// and leave nothing behind.
 [[nodiscard]] KVSUBTITLES_API StoredFile StoreSubtitle(QByteArray const& bytes, ioPath const& folder,
                                                        QString const& fileName);
 
