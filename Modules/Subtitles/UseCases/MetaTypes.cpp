@@ -6,8 +6,9 @@ namespace Korvex::Converter::Subtitles::UseCases
 namespace
 {
 
-// Registered when the library is loaded, so that the type is known by name to queued signals of any host.
+// Registered when the library is loaded, so that the types are known by name to queued signals of any host.
 [[maybe_unused]] int const STATUS_TYPE = qRegisterMetaType<IOnlineSearchController::Status>();
+[[maybe_unused]] int const SERVER_REPORT_TYPE = qRegisterMetaType<ServerReport>();
 
 } // namespace
 

@@ -32,7 +32,12 @@ class RESTSearchWorker;
 /// failure, by `OnOperationFailed`, each exactly once. A cancelled operation lets its running request end and is then
 /// forgotten in silence; until then start calls answer `Busy`.
 ///
-/// Destroying the engine waits at most five seconds for the worker.
+/// Observers may start, cancel and unregister from inside a notification, and even delete the engine; the observers
+/// after that one hear nothing any more. As with every event handler list, one that is unregistered during a
+/// notification still receives it, so whoever unregisters another has to keep it alive until the notification ends.
+///
+/// Thread: the owner's for every call. Destroying the engine waits at most five seconds for the worker, and gives up
+/// one that does not come to an end.
 class KVSUBTITLES_API RESTSearchEngine : public QObject,
                                          public UseCases::IOnlineSearchController,
                                          public UseCases::IServerReportSource
@@ -73,8 +78,15 @@ private:
     void WaitForWorker();
     void OnRequestFinished(std::shared_ptr<INetworkOperation> const& operation);
     void OnRequestFailed(UseCases::IOnlineSearchController::Status status);
+    void OnReported(UseCases::ServerReport const& report);
 
-    Core::EventHandlerList<UseCases::IOnlineSearchControllerObserver> m_observers;
+    Status StartFirstRequest();
+    /// False when an observer deleted this engine: nothing of it may be touched then.
+    template <typename Callable>
+    [[nodiscard]] bool Tell(Callable const& callable);
+
+    using Observers = Core::EventHandlerList<UseCases::IOnlineSearchControllerObserver>;
+    std::shared_ptr<Observers> m_observers; ///< shared with a running notification, which may outlive the engine
     std::deque<std::shared_ptr<INetworkOperation>> m_queue; ///< the front one runs
     std::shared_ptr<INetworkManager> m_networkManager;
     QThread* m_workerThread;

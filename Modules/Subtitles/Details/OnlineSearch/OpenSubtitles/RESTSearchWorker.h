@@ -1,13 +1,13 @@
 #pragma once
 
-#include "Subtitles/UseCases/IOnlineSearchController.h"
-#include "Subtitles/UseCases/IServerReportSource.h"
+#include "Subtitles/UseCases/MetaTypes.h"
 
+#include <QByteArray>
+#include <QNetworkReply>
 #include <QObject>
+#include <QPointer>
 
 #include <memory>
-
-class QNetworkReply;
 
 namespace Korvex::Converter::Subtitles::Details
 {
@@ -22,7 +22,9 @@ class RESTSearchEngine;
 
 /// Runs the engine's operations on its own thread, one at a time. The engine sets an operation and asks for work by a
 /// queued signal; the outcome comes back by queued signals: `Reported` when the server said something, then exactly one
-/// of `Finished` and `Error` (none for a reply that ended as a cancelled one).
+/// of `Finished` and `Error` (nothing at all for a reply that ended as a cancelled one).
+///
+/// Made on the engine's thread and moved to its own before the first request; every slot runs there.
 class RESTSearchWorker final : public QObject
 {
     Q_OBJECT
@@ -42,14 +44,22 @@ Q_SIGNALS:
 
 public Q_SLOTS:
     void DoWork();
+    /// The last thing on the worker's thread: gives up the reply that is still awaited, in silence.
+    void OnThreadFinished();
 
 private:
     void OnReplyReady(QNetworkReply* reply);
     void OnReplyError(QNetworkReply* reply);
+    /// True for the reply that is awaited, once: a reply that tells of its end twice is heard once.
+    bool TakeReply(QNetworkReply* reply);
+
+    void EmitFinished();
+    void EmitError(UseCases::IOnlineSearchController::Status status);
 
     RESTSearchEngine& m_engine;
     std::shared_ptr<INetworkManager> m_networkManager;
     std::shared_ptr<INetworkOperation> m_operation;
+    QPointer<QNetworkReply> m_reply; ///< awaited
 };
 
 } // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles

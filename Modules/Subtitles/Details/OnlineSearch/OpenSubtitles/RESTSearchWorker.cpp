@@ -1,0 +1,139 @@
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/RESTSearchWorker.h"
+
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/QueueHandOver.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/RESTSearchEngine.h"
+
+#include "Subtitles/Details/OnlineSearch/INetworkManager.h"
+#include "Subtitles/Details/OnlineSearch/INetworkOperation.h"
+
+#include <QNetworkRequest>
+#include <QUrlQuery>
+
+namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
+{
+
+namespace
+{
+
+using Status = UseCases::IOnlineSearchController::Status;
+
+Status ToStatus(QNetworkReply::NetworkError const error)
+{
+    switch (error)
+    {
+    case QNetworkReply::HostNotFoundError:
+    case QNetworkReply::TimeoutError:
+    case QNetworkReply::TemporaryNetworkFailureError:
+    case QNetworkReply::NetworkSessionFailedError:
+    case QNetworkReply::UnknownNetworkError:
+        return Status::NoConnection;
+    case QNetworkReply::ConnectionRefusedError:
+    case QNetworkReply::RemoteHostClosedError:
+    case QNetworkReply::ContentNotFoundError:
+    case QNetworkReply::ContentGoneError:
+    case QNetworkReply::InternalServerError:
+    case QNetworkReply::OperationNotImplementedError:
+    case QNetworkReply::ServiceUnavailableError:
+    case QNetworkReply::UnknownServerError:
+        return Status::ServerError;
+    default:
+        return Status::NetworkError;
+    }
+}
+
+} // namespace
+
+RESTSearchWorker::RESTSearchWorker(RESTSearchEngine& engine, std::shared_ptr<INetworkManager> const& networkManager)
+    : m_engine(engine),
+      m_networkManager(networkManager)
+{
+    connect(&m_engine, &RESTSearchEngine::QueueRequest, this, &RESTSearchWorker::DoWork, Qt::QueuedConnection);
+}
+
+RESTSearchWorker::~RESTSearchWorker() = default;
+
+void RESTSearchWorker::SetRequest(std::shared_ptr<INetworkOperation> operation)
+{
+    m_operation = std::move(operation);
+}
+
+std::shared_ptr<INetworkOperation> RESTSearchWorker::GetRequest() const
+{
+    return m_operation;
+}
+
+void RESTSearchWorker::DoWork()
+{
+    TakeFromQueue(this);
+    if (!m_networkManager->IsNetworkAccessible())
+        return EmitError(Status::NoConnection);
+
+    auto const request = m_operation->CreateRequest();
+    if (m_operation->GetStatus() != Status::Success)
+        return EmitError(m_operation->GetStatus());
+
+    auto* const reply = m_operation->GetType() == INetworkOperation::Type::HttpPost
+                            ? m_networkManager->Post(request, m_operation->GetQueryParams())
+                            : m_networkManager->Get(request);
+    if (reply == nullptr)
+        return EmitError(Status::NetworkError);
+
+    m_reply = reply;
+    if (reply->error() != QNetworkReply::NoError)
+        return OnReplyError(reply);
+    if (reply->isFinished())
+        return OnReplyReady(reply);
+    connect(reply, &QNetworkReply::finished, this, [this, reply] { OnReplyReady(reply); });
+    connect(reply, &QNetworkReply::errorOccurred, this, [this, reply] { OnReplyError(reply); });
+}
+
+void RESTSearchWorker::OnReplyReady(QNetworkReply* const reply)
+{
+    if (reply->error() != QNetworkReply::NoError || !TakeReply(reply))
+        return;
+    m_operation->ParseReply(*reply);
+    EmitFinished();
+    reply->deleteLater();
+}
+
+void RESTSearchWorker::OnReplyError(QNetworkReply* const reply)
+{
+    if (!TakeReply(reply))
+        return;
+    auto const error = reply->error();
+    reply->deleteLater();
+    if (error != QNetworkReply::OperationCanceledError)
+        EmitError(ToStatus(error));
+}
+
+bool RESTSearchWorker::TakeReply(QNetworkReply* const reply)
+{
+    if (m_reply != reply)
+        return false;
+    m_reply.clear();
+    return true;
+}
+
+void RESTSearchWorker::EmitFinished()
+{
+    auto const operation = m_operation; // the engine may set the next one before the signal has returned
+    QueueGiving const giving(this);
+    Q_EMIT Finished(operation);
+}
+
+void RESTSearchWorker::EmitError(Status const status)
+{
+    QueueGiving const giving(this);
+    Q_EMIT Error(status);
+}
+
+void RESTSearchWorker::OnThreadFinished()
+{
+    if (m_reply == nullptr)
+        return;
+    m_reply->disconnect(this);
+    m_reply->deleteLater();
+    m_reply.clear();
+}
+
+} // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles

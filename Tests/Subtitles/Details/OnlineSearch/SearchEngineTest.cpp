@@ -1,0 +1,461 @@
+#include "FakeNetwork.h"
+
+#include "Subtitles/Details/OnlineSearch/INetworkOperation.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/RESTSearchEngine.h"
+
+#include "Subtitles/Entities/SearchTags.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QTest>
+#include <QThread>
+#include <QTimer>
+
+#include <mutex>
+
+namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
+{
+namespace
+{
+
+using Status = UseCases::IOnlineSearchController::Status;
+using Korvex::Testing::FakeNetworkManager;
+using Korvex::Testing::FakeReply;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using Reply = QNetworkReply;
+
+/// The text of everything that happened, from both threads, in order.
+class Diary
+{
+public:
+    void Write(std::string line)
+    {
+        std::lock_guard const lock(m_mutex);
+        m_lines.push_back(std::move(line));
+    }
+    [[nodiscard]] std::vector<std::string> Take()
+    {
+        std::lock_guard const lock(m_mutex);
+        return std::exchange(m_lines, {});
+    }
+
+private:
+    std::mutex m_mutex;
+    std::vector<std::string> m_lines;
+};
+
+class FakeOperation final : public INetworkOperation
+{
+public:
+    FakeOperation(Diary& diary, std::string name) : m_diary(diary), m_name(std::move(name)) {}
+
+    QNetworkRequest CreateRequest() override
+    {
+        Note("request");
+        status = builtStatus;
+        QNetworkRequest request(QUrl(QString::fromStdString("http://127.0.0.1/" + m_name)));
+        request.setRawHeader("Api-Key", "SecretKey");
+        return request;
+    }
+    Status ParseReply(QNetworkReply& reply) override
+    {
+        Note("parse " + reply.readAll().toStdString());
+        return status = parsedStatus;
+    }
+    [[nodiscard]] QUrlQuery GetQueryParams() const override
+    {
+        Note("form");
+        return QUrlQuery(QStringLiteral("file_id=7"));
+    }
+    [[nodiscard]] Type GetType() const override
+    {
+        Note("type");
+        return type;
+    }
+    [[nodiscard]] Status GetStatus() const override
+    {
+        Note("status");
+        return status;
+    }
+    [[nodiscard]] QString GetError() const override { return QStringLiteral("error of ") + m_name.c_str(); }
+    void NotifySuccess(UseCases::IOnlineSearchControllerObserver& observer) override
+    {
+        observer.OnAutoSuggestResults({QString::fromStdString(m_name)});
+    }
+
+    Type type = Type::HttpGet;
+    Status status = Status::Success;
+    Status builtStatus = Status::Success;
+    Status parsedStatus = Status::Success;
+    bool isNoted = false;
+
+private:
+    void Note(std::string const& call) const
+    {
+        if (isNoted)
+            m_diary.Write(m_name + ": " + call);
+    }
+
+    Diary& m_diary;
+    std::string m_name;
+};
+
+class TestedEngine final : public RESTSearchEngine
+{
+public:
+    using RESTSearchEngine::RESTSearchEngine;
+
+    /// What the next start call queues.
+    std::vector<std::shared_ptr<INetworkOperation>> next;
+
+protected:
+    void AddSearchRequest(UseCases::SearchRequest const&) override { AppendNext(); }
+    void AddAutoSuggestRequest(QString const&) override { AppendNext(); }
+    void AddDownloadRequest(std::shared_ptr<UseCases::SearchResult> const&, ioPath const&) override { AppendNext(); }
+
+private:
+    void AppendNext()
+    {
+        for (auto& operation : std::exchange(next, {}))
+            Append(std::move(operation));
+    }
+};
+
+class RecordingObserver final : public UseCases::IOnlineSearchControllerObserver
+{
+public:
+    RecordingObserver(Diary& diary, std::string name) : m_diary(diary), m_name(std::move(name)) {}
+
+    void OnSearchResults(std::vector<std::shared_ptr<UseCases::SearchResult>> const&) override { Note("results"); }
+    void OnAutoSuggestResults(std::vector<QString> const& suggestions) override
+    {
+        Note("hears of " + suggestions.at(0).toStdString());
+    }
+    void OnSubtitlesDownloaded(std::shared_ptr<UseCases::SearchResult> const&, ioPath const&) override { Note("file"); }
+    void OnOperationFinished() override { Note("finished"); }
+    void OnOperationFailed(Status status, QString const& message) override
+    {
+        Note("failed " + std::to_string(status) + (message.isEmpty() ? "" : " " + message.toStdString()));
+    }
+
+    std::function<void(std::string const& event)> reaction; ///< called once
+
+private:
+    void Note(std::string const& event)
+    {
+        EXPECT_EQ(QThread::currentThread(), qApp->thread());
+        m_diary.Write(m_name + " " + event);
+        if (reaction)
+            std::exchange(reaction, nullptr)(event);
+    }
+
+    Diary& m_diary;
+    std::string m_name;
+};
+
+class SearchEngineTest : public testing::Test
+{
+protected:
+    void Create(FakeNetworkManager::Script script)
+    {
+        network = std::make_shared<FakeNetworkManager>(std::move(script));
+        engine = std::make_unique<TestedEngine>(network);
+        engine->RegisterEventHandler(&first);
+        engine->RegisterEventHandler(&second);
+    }
+
+    std::shared_ptr<FakeOperation> Queue(std::string name)
+    {
+        auto operation = std::make_shared<FakeOperation>(diary, std::move(name));
+        engine->next.push_back(operation);
+        return operation;
+    }
+
+    [[nodiscard]] bool WaitUntilIdle()
+    {
+        return QTest::qWaitFor([this] { return engine == nullptr || !engine->HasPendingRequest(); });
+    }
+
+    /// Runs one operation and returns what was heard until the engine was idle and its worker had nothing left to say.
+    std::vector<std::string> RunOne()
+    {
+        EXPECT_EQ(engine->StartSearch({}), Status::Success);
+        EXPECT_TRUE(WaitUntilIdle());
+        QTest::qWait(5);
+        return diary.Take();
+    }
+
+    int argumentCount = 0;
+    QCoreApplication application{argumentCount, nullptr};
+    Diary diary;
+    RecordingObserver first{diary, "first"};
+    RecordingObserver second{diary, "second"};
+    std::shared_ptr<FakeNetworkManager> network;
+    std::unique_ptr<TestedEngine> engine;
+};
+
+FakeNetworkManager::Script EndLater(int delayMs, Reply::NetworkError error = Reply::NoError)
+{
+    return [delayMs, error](FakeReply& reply)
+    {
+        reply.SetBody("[]");
+        QTimer::singleShot(delayMs, &reply, [&reply, error] { reply.End(error); });
+    };
+}
+
+FakeNetworkManager::Script BeOver(Reply::NetworkError error = Reply::NoError)
+{
+    return [error](FakeReply& reply)
+    {
+        reply.SetBody("[]");
+        reply.BeOver(error);
+    };
+}
+
+TEST_F(SearchEngineTest, RunsTheOperationsOneAfterTheOtherInAFixedOrderOfCalls)
+{
+    Create(EndLater(1));
+    auto const link = Queue("link");
+    auto const file = Queue("file");
+    link->type = INetworkOperation::Type::HttpPost;
+    link->isNoted = file->isNoted = true;
+
+    EXPECT_THAT(RunOne(), ElementsAre("link: request", "link: status", "link: type", "link: form", "link: parse []",
+                                      "link: status", "first hears of link", "second hears of link", //
+                                      "file: request", "file: status", "file: type", "file: parse []", "file: status",
+                                      "first hears of file", "second hears of file", //
+                                      "first finished", "second finished"));
+    EXPECT_EQ(network->postedForm, QStringLiteral("file_id=7"));
+    EXPECT_EQ(network->aliveReplyCount, 0);
+}
+
+TEST_F(SearchEngineTest, StartsOnlyWhatItCan)
+{
+    Create(EndLater(20));
+    EXPECT_FALSE(engine->CancelOperation());
+    EXPECT_EQ(engine->DownloadSubtitles({}, {}), Status::Success);
+    EXPECT_EQ(engine->AutoSuggest("title", {}), Status::UnsupportedSearch);
+    EXPECT_FALSE(engine->HasPendingRequest());
+
+    Queue("a");
+    EXPECT_EQ(engine->AutoSuggest(Entities::SearchTags::TITLE, {}), Status::Success);
+    Queue("rejected");
+    EXPECT_EQ(engine->AutoSuggest("title", {}), Status::Busy);
+    EXPECT_EQ(engine->StartSearch({}), Status::Busy);
+    EXPECT_EQ(engine->DownloadSubtitles({nullptr}, {}), Status::Busy);
+    EXPECT_EQ(engine->next.size(), 1U);
+    engine->next.clear();
+    ASSERT_TRUE(WaitUntilIdle());
+    EXPECT_THAT(diary.Take(),
+                ElementsAre("first hears of a", "second hears of a", "first finished", "second finished"));
+}
+
+TEST_F(SearchEngineTest, CancelledOperationEndsInSilenceAndKeepsTheEngineBusyUntilThen)
+{
+    for (auto const error : {Reply::NoError, Reply::HostNotFoundError})
+    {
+        Create(EndLater(20, error));
+        Queue("a");
+        Queue("b");
+        ASSERT_EQ(engine->StartSearch({}), Status::Success);
+        EXPECT_TRUE(engine->CancelOperation());
+        EXPECT_EQ(engine->StartSearch({}), Status::Busy);
+        EXPECT_TRUE(engine->CancelOperation());
+        ASSERT_TRUE(WaitUntilIdle());
+        EXPECT_THAT(diary.Take(), IsEmpty());
+        EXPECT_EQ(network->requestCount, 1);
+        EXPECT_FALSE(engine->CancelOperation());
+    }
+    Create(EndLater(1));
+    Queue("c");
+    EXPECT_THAT(RunOne(), ElementsAre("first hears of c", "second hears of c", "first finished", "second finished"));
+}
+
+TEST_F(SearchEngineTest, OneFailureEndsTheWholeOperation)
+{
+    Create(EndLater(1));
+    Queue("a");
+    Queue("b")->parsedStatus = Status::FileError;
+    Queue("c");
+    EXPECT_THAT(RunOne(), ElementsAre("first hears of a", "second hears of a", "first failed 7 error of b",
+                                      "second failed 7 error of b"));
+    EXPECT_EQ(network->requestCount, 2);
+}
+
+TEST_F(SearchEngineTest, SendsNothingForWhatCannotBeAsked)
+{
+    Create(EndLater(1));
+    Queue("a")->builtStatus = Status::InvalidRequest;
+    EXPECT_THAT(RunOne(), ElementsAre("first failed 2", "second failed 2"));
+    network->isAccessible = false;
+    Queue("b")->builtStatus = Status::InvalidRequest;
+    EXPECT_THAT(RunOne(), ElementsAre("first failed 3", "second failed 3"));
+    EXPECT_EQ(network->requestCount, 0);
+
+    Create(nullptr);
+    Queue("c");
+    EXPECT_THAT(RunOne(), ElementsAre("first failed 1", "second failed 1"));
+}
+
+TEST_F(SearchEngineTest, ReportsEachTransportErrorOnceWhetherItComesAtOnceOrLater)
+{
+    std::map<Reply::NetworkError, Status> const expected{
+        {Reply::HostNotFoundError, Status::NoConnection},
+        {Reply::TimeoutError, Status::NoConnection},
+        {Reply::TemporaryNetworkFailureError, Status::NoConnection},
+        {Reply::NetworkSessionFailedError, Status::NoConnection},
+        {Reply::UnknownNetworkError, Status::NoConnection},
+        {Reply::ConnectionRefusedError, Status::ServerError},
+        {Reply::RemoteHostClosedError, Status::ServerError},
+        {Reply::ContentNotFoundError, Status::ServerError},
+        {Reply::ContentGoneError, Status::ServerError},
+        {Reply::InternalServerError, Status::ServerError},
+        {Reply::OperationNotImplementedError, Status::ServerError},
+        {Reply::ServiceUnavailableError, Status::ServerError},
+        {Reply::UnknownServerError, Status::ServerError},
+        {Reply::SslHandshakeFailedError, Status::NetworkError},
+        {Reply::TooManyRedirectsError, Status::NetworkError},
+        {Reply::InsecureRedirectError, Status::NetworkError},
+        {Reply::ContentAccessDenied, Status::NetworkError},
+        {Reply::AuthenticationRequiredError, Status::NetworkError},
+        {Reply::UnknownContentError, Status::NetworkError},
+        {Reply::ProtocolUnknownError, Status::NetworkError},
+        {Reply::ProxyNotFoundError, Status::NetworkError},
+    };
+    for (auto const& [error, status] : expected)
+    {
+        for (bool const isOver : {true, false})
+        {
+            SCOPED_TRACE(error);
+            Create(isOver ? BeOver(error) : EndLater(0, error));
+            Queue("a");
+            Queue("b");
+            auto const failed = "failed " + std::to_string(status);
+            EXPECT_THAT(RunOne(), ElementsAre("first " + failed, "second " + failed));
+            EXPECT_EQ(network->aliveReplyCount, 0);
+            EXPECT_EQ(network->requestCount, 1);
+        }
+    }
+    Create(BeOver());
+    Queue("over without an error");
+    EXPECT_EQ(RunOne().size(), 4U);
+}
+
+TEST_F(SearchEngineTest, AReplyThatEndsAsCancelledSaysNothingAndLeavesTheQueueAsItIs)
+{
+    Create(EndLater(0, Reply::OperationCanceledError));
+    Queue("a");
+    ASSERT_EQ(engine->StartSearch({}), Status::Success);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return network->requestCount == 1 && network->aliveReplyCount == 0; }));
+    QTest::qWait(5);
+    EXPECT_THAT(diary.Take(), IsEmpty());
+    EXPECT_TRUE(engine->HasPendingRequest());
+    EXPECT_EQ(engine->StartSearch({}), Status::Busy);
+}
+
+TEST_F(SearchEngineTest, ObserversMayStartCancelAndUnregisterFromWithin)
+{
+    Create(EndLater(1));
+    Queue("a");
+    Queue("b");
+    first.reaction = [this](auto&)
+    {
+        EXPECT_EQ(engine->StartSearch({}), Status::Busy);
+        EXPECT_TRUE(engine->CancelOperation());
+    };
+    EXPECT_THAT(RunOne(), ElementsAre("first hears of a", "second hears of a"));
+
+    Queue("c");
+    first.reaction = [this](auto&)
+    {
+        engine->UnregisterEventHandler(&second);
+        first.reaction = [this](auto& event)
+        {
+            EXPECT_EQ(event, "finished");
+            Queue("d");
+            EXPECT_EQ(engine->StartSearch({}), Status::Success);
+        };
+    };
+    EXPECT_THAT(RunOne(), ElementsAre("first hears of c", "second hears of c", "first finished", "first hears of d",
+                                      "first finished"));
+}
+
+TEST_F(SearchEngineTest, AnObserverMayDeleteTheEngine)
+{
+    for (auto const& [error, events] : std::map<Reply::NetworkError, std::string>{
+             {Reply::NoError, "first hears of a"}, {Reply::HostNotFoundError, "first failed 3"}})
+    {
+        Create(EndLater(1, error));
+        Queue("a");
+        first.reaction = [this](auto&) { engine.reset(); };
+        ASSERT_EQ(engine->StartSearch({}), Status::Success);
+        ASSERT_TRUE(WaitUntilIdle());
+        EXPECT_THAT(diary.Take(), ElementsAre(events));
+    }
+}
+
+TEST_F(SearchEngineTest, GoesAtOnceWhenARequestHangsAndTakesItsReplyAlong)
+{
+    std::atomic<QThread*> replyThread{nullptr};
+    std::atomic<QThread*> deletingThread{nullptr};
+    Create(
+        [&](FakeReply& reply)
+        {
+            replyThread = QThread::currentThread();
+            QObject::connect(
+                &reply, &QObject::destroyed, &reply, [&] { deletingThread = QThread::currentThread(); },
+                Qt::DirectConnection);
+        });
+    Queue("a");
+    ASSERT_EQ(engine->StartSearch({}), Status::Success);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return network->requestCount == 1; }));
+
+    QElapsedTimer timer;
+    timer.start();
+    engine.reset();
+    EXPECT_LT(timer.elapsed(), 1000);
+    EXPECT_EQ(network->aliveReplyCount, 0);
+    EXPECT_EQ(deletingThread.load(), replyThread.load());
+    EXPECT_NE(deletingThread.load(), qApp->thread());
+    EXPECT_EQ(network.use_count(), 1);
+}
+
+TEST_F(SearchEngineTest, GivesUpAWorkerThatDoesNotComeToAnEnd)
+{
+    Create([](FakeReply&) { QThread::sleep(7); });
+    Queue("a");
+    ASSERT_EQ(engine->StartSearch({}), Status::Success);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return network->requestCount == 1; }));
+    QPointer<QThread> const thread = engine->findChild<QThread*>();
+    ASSERT_NE(thread, nullptr);
+
+    QElapsedTimer timer;
+    timer.start();
+    testing::internal::CaptureStderr();
+    engine.reset();
+    auto const log = testing::internal::GetCapturedStderr();
+    EXPECT_THAT(log, testing::HasSubstr("Worker thread is not responding and will be terminated."));
+    EXPECT_GE(timer.elapsed(), 4900);
+    EXPECT_LT(timer.elapsed(), 6500);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return thread == nullptr; })) << "the thread object deletes itself";
+    EXPECT_EQ(network.use_count(), 1) << "the worker went with its thread";
+    EXPECT_THAT(diary.Take(), IsEmpty());
+}
+
+TEST_F(SearchEngineTest, ItsTypesTravelByName)
+{
+    Create(nullptr);
+    EXPECT_TRUE(QMetaType::isRegistered(
+        QMetaType::type("std::shared_ptr<Korvex::Converter::Subtitles::Details::INetworkOperation>")));
+    EXPECT_TRUE(QMetaType::isRegistered(
+        QMetaType::type("Korvex::Converter::Subtitles::UseCases::IOnlineSearchController::Status")));
+    EXPECT_TRUE(QMetaType::isRegistered(QMetaType::type("Korvex::Converter::Subtitles::UseCases::ServerReport")));
+}
+
+} // namespace
+} // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
