@@ -1,0 +1,152 @@
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_1/RESTSearchRequest.h"
+
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_1/JsonFields.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_1/Languages.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_1/RESTProtocol.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_1/RESTSearchResultData.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_1/SearchResultFacts.h"
+
+#include "Subtitles/Entities/SearchTags.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStringList>
+#include <QUrl>
+
+#include <limits>
+#include <map>
+
+namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_1
+{
+
+using Entities::SearchTags;
+
+namespace
+{
+
+/// Null for a tag that the service cannot search by.
+QString const* FindQueryKey(std::string const& tag)
+{
+    static std::map<std::string, QString> const KEYS = {
+        {SearchTags::TITLE, RESTProtocol::QUERY_KEY_TITLE},
+        {SearchTags::IMDB_ID, RESTProtocol::QUERY_KEY_IMDB_ID},
+        {SearchTags::SEASON_NUMBER, RESTProtocol::QUERY_KEY_SEASON},
+        {SearchTags::EPISODE_NUMBER, RESTProtocol::QUERY_KEY_EPISODE},
+    };
+    auto const found = KEYS.find(tag);
+    return found == KEYS.end() ? nullptr : &found->second;
+}
+
+/// The service knows numbers by their digits alone and redirects from everything else.
+QString StripNumber(QString const& value)
+{
+    QString digits = value.startsWith(QLatin1String("tt"), Qt::CaseInsensitive) ? value.mid(2) : value;
+    for (QChar const character : digits)
+    {
+        if (character < QLatin1Char('0') || character > QLatin1Char('9'))
+            return value;
+    }
+    while (digits.size() > 1 && digits.startsWith(QLatin1Char('0')))
+        digits.remove(0, 1);
+    return digits;
+}
+
+QString JoinLanguages(std::set<Entities::Language::LanguageID> const& languages)
+{
+    QStringList codes;
+    for (auto const language : languages)
+        codes << Languages::GetLetterCode(language);
+    codes.removeAll(QString());
+    return codes.join(QLatin1Char(','));
+}
+
+} // namespace
+
+RESTSearchRequest::RESTSearchRequest(RESTNetworkConfiguration const& configuration,
+                                     UseCases::SearchRequest const& request)
+    : RESTRequest(configuration),
+      m_request(request)
+{
+}
+
+RESTSearchRequest::~RESTSearchRequest() = default;
+
+QUrl RESTSearchRequest::CreateQuery(QString const& baseUrl)
+{
+    std::map<QString, QString> pairs; // in the order in which the service wants them
+    for (auto const& [tag, text] : m_request.tags)
+    {
+        QString const* const key = FindQueryKey(tag);
+        if (key == nullptr)
+            return Refuse(QStringLiteral("Invalid or unsupported search tags were provided"));
+        QString const value = ToValue(QString::fromStdString(text));
+        pairs[*key] = tag == SearchTags::TITLE ? value : StripNumber(value);
+    }
+    pairs[RESTProtocol::QUERY_KEY_LANGUAGE] = JoinLanguages(m_request.languages);
+
+    QString url = QStringLiteral("%1/%2").arg(baseUrl, RESTProtocol::QUERY_SEARCH);
+    QChar separator = QLatin1Char('?');
+    for (auto const& [key, value] : pairs)
+    {
+        if (value.isEmpty())
+            continue;
+        url += separator + QStringLiteral("%2=%3").arg(key, value);
+        separator = QLatin1Char('&');
+    }
+    return QUrl(url, QUrl::TolerantMode);
+}
+
+INetworkOperation::Status RESTSearchRequest::ParseJsonReply(QJsonDocument const& document)
+{
+    m_results.clear();
+    // What a "null" was read as: nothing found.
+    if (document.isArray() && document.array().isEmpty())
+        return Status::Success;
+    QJsonValue const data = document.object().value(QStringLiteral("data"));
+    if (!data.isArray())
+        return Fail(Status::ServerError, QStringLiteral("Invalid server response format: not an array"));
+    for (QJsonValue const& element : data.toArray())
+    {
+        auto result = ParseJsonObject(element);
+        if (IsResultValid(result))
+            m_results.push_back(std::move(result));
+    }
+    return Status::Success;
+}
+
+std::shared_ptr<UseCases::SearchResult> RESTSearchRequest::ParseJsonObject(QJsonValue const& element)
+{
+    QJsonObject const attributes = element.toObject().value(QStringLiteral("attributes")).toObject();
+    QJsonObject const file = attributes.value(QStringLiteral("files")).toArray().at(0).toObject();
+
+    auto result = std::make_shared<RESTSearchResultData>();
+    result->format = ReadText(attributes, RESTProtocol::RESULT_KEY_FORMAT).trimmed();
+    result->fileId =
+        ReadInteger(file, RESTProtocol::RESULT_KEY_FILE_ID, 1, std::numeric_limits<int>::max()).value_or(0);
+    result->fileName = ReadText(file, RESTProtocol::RESULT_KEY_FILE_NAME).trimmed();
+    if (result->fileName.isEmpty())
+        result->fileName = ReadText(attributes, RESTProtocol::RESULT_KEY_RELEASE).trimmed();
+
+    QString const format = result->format.isEmpty() ? FindFormat(result->fileName) : result->format.toLower();
+    if (!format.isEmpty())
+        result->tags[SearchTags::FILE_FORMAT] = format.toStdString();
+    result->facts = ReadFacts(attributes, file);
+    result->facts.serviceId = QString::number(result->fileId);
+    if (result->facts.isHearingImpaired)
+        result->tags[SearchTags::HEARING_IMPAIRED] = "1";
+    return result;
+}
+
+bool RESTSearchRequest::IsResultValid(std::shared_ptr<UseCases::SearchResult> const& result)
+{
+    auto const* const data = dynamic_cast<RESTSearchResultData const*>(result.get());
+    return data != nullptr && !data->fileName.isEmpty() && data->fileId != 0;
+}
+
+void RESTSearchRequest::NotifySuccess(UseCases::IOnlineSearchControllerObserver& observer)
+{
+    observer.OnSearchResults(m_results);
+}
+
+} // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_1
