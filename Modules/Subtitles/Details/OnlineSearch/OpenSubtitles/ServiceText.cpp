@@ -1,5 +1,6 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/ServiceText.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <utility>
@@ -12,6 +13,7 @@ namespace
 
 /// "&" and ";" included, no reference that is resolved here is longer: "&#x10FFFF;".
 constexpr int LONGEST_REFERENCE = 10;
+constexpr int LONGEST_TAG = 300;
 
 /// A character that may stand in a line of text; control characters and halves of surrogate pairs may not.
 bool IsTextCharacter(uint code)
@@ -41,6 +43,29 @@ std::optional<QString> ResolveReference(QStringView name)
     return IsTextCharacter(code) ? QString::fromUcs4(&code, 1) : QStringLiteral(" ");
 }
 
+/// How long the tag is that the text begins with; 0 when it begins with none that formats text, since release groups
+/// set their names in angle brackets, too.
+int MeasureTag(QStringView text)
+{
+    static std::array<char const*, 15> const NAMES = {"a",  "b",   "br", "div", "em",   "font",   "hr", "i",
+                                                      "li", "img", "p",  "s",   "span", "strong", "u"};
+    int const end = static_cast<int>(text.left(std::min<qsizetype>(LONGEST_TAG, text.size())).toString().indexOf(u'>'));
+    if (end < 0)
+        return 0;
+    int const begin = text.mid(1).startsWith(u'/') ? 2 : 1;
+    int nameEnd = begin;
+    while (nameEnd < end && text.at(nameEnd).isLetter())
+        ++nameEnd;
+    QChar const next = text.at(nameEnd);
+    if (next != u'>' && next != u'/' && !next.isSpace())
+        return 0;
+    QStringView const name = text.mid(begin, nameEnd - begin);
+    bool const isKnown =
+        std::any_of(NAMES.begin(), NAMES.end(),
+                    [name](char const* known) { return name.compare(QLatin1String(known), Qt::CaseInsensitive) == 0; });
+    return isKnown ? end + 1 : 0;
+}
+
 } // namespace
 
 QString ReadPlainLine(QString const& text)
@@ -52,7 +77,13 @@ QString ReadPlainLine(QString const& text)
         QChar const character = text.at(i);
         int const end = character == u'&' ? text.midRef(i, LONGEST_REFERENCE).indexOf(u';') : -1;
         auto const resolved = end > 0 ? ResolveReference(QStringView(text).mid(i + 1, end - 1)) : std::nullopt;
-        if (resolved)
+        int const tagLength = character == u'<' ? MeasureTag(QStringView(text).mid(i)) : 0;
+        if (tagLength > 0)
+        {
+            line += QChar(u' ');
+            i += tagLength - 1;
+        }
+        else if (resolved)
         {
             line += *resolved;
             i += end;

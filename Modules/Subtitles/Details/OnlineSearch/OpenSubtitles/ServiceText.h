@@ -8,8 +8,8 @@ namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
 {
 
 /// The services hand out titles and comments as their web pages hold them. This is the plain text: character
-/// references resolved once (the named ones of markup, the numbered ones of Unicode; others stay as they are), control
-/// characters, line breaks and runs of blanks folded into single blanks, none at the ends.
+/// references resolved once (the named ones of markup, the numbered ones of Unicode; others stay as they are), tags
+/// that format text, control characters, line breaks and runs of blanks folded into single blanks, none at the ends.
 [[nodiscard]] KVSUBTITLES_API QString ReadPlainLine(QString const& text);
 
 } // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
