@@ -6,7 +6,7 @@ set(INCLUDE_GROUPS
     "BOOST_POINTERS=^boost/(smart_ptr|core)/"
     "BOOST=^boost/"
     "GLOG=^glog/"
-    "QT_CORE=^Q(Buffer|ByteArray|CoreApplication|DateTime|Dir|Event|EventLoop|File|FileInfo|Json[A-Za-z]*|Locale|MetaObject|MetaType|Object|Pointer|Settings|StandardPaths|String|StringList|TextStream|Thread|ThreadStorage|Timer|Translator|Url|UrlQuery|Variant|tEndian)$"
+    "QT_CORE=^Q(Buffer|ByteArray|CoreApplication|CryptographicHash|DateTime|Dir|Event|EventLoop|File|FileInfo|Json[A-Za-z]*|Locale|MetaObject|MetaType|Object|Pointer|Settings|StandardPaths|String|StringList|TextStream|Thread|ThreadStorage|Timer|Translator|Url|UrlQuery|Variant|tEndian)$"
     "QT_GUI=^Q(Font|Color|Image|ImageWriter|FontDatabase|GuiApplication|Painter|Transform)$"
     "QT_MODEL=^Q(AbstractListModel|List|RegularExpression|Size|Collator|Hash|LibraryInfo|MimeData|SaveFile|Set|SysInfo|TemporaryDir|tGlobal|PersistentModelIndex)$"
     "QT_NETWORK=^Q(Network[A-Za-z]*|Ssl[A-Za-z]*|Tcp[A-Za-z]*|Host[A-Za-z]*)$"
