@@ -1,5 +1,7 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/NotASubtitle.h"
 
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/ServiceText.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -67,12 +69,9 @@ QString DecodeHead(QByteArray const& bytes)
 }
 
 /// One line of what others wrote, fit to stand in a sentence: `<what> ("<quote>")`.
-QString Describe(QString const& what, QString quote)
+QString Describe(QString const& what, QString const& text)
 {
-    std::replace_if(
-        quote.begin(), quote.end(), [](QChar character) { return !character.isPrint(); }, QLatin1Char(' '));
-    quote.replace(QLatin1Char('"'), QLatin1Char('\''));
-    quote = quote.simplified();
+    QString quote = ReadPlainLine(text).replace(QLatin1Char('"'), QLatin1Char('\''));
     if (quote.isEmpty())
         return what;
     if (quote.size() > MOST_QUOTED_CHARACTERS)
@@ -99,15 +98,6 @@ QString SkipPreamble(QString const& text)
     }
 }
 
-QString UnescapeMarkup(QString text)
-{
-    static constexpr std::array<std::array<char const*, 2>, 6> ENTITIES = {
-        {{"&lt;", "<"}, {"&gt;", ">"}, {"&quot;", "'"}, {"&#39;", "'"}, {"&nbsp;", " "}, {"&amp;", "&"}}};
-    for (auto const& [entity, character] : ENTITIES)
-        text.replace(QLatin1String(entity), QLatin1String(character), Qt::CaseInsensitive);
-    return text;
-}
-
 /// SAMI and TTML are markup as well, and some files begin within it.
 std::optional<QString> FindPage(QString const& head)
 {
@@ -123,7 +113,7 @@ std::optional<QString> FindPage(QString const& head)
     if (!isError && (!PAGE.match(start).hasMatch() || SAMI.match(start).hasMatch()))
         return std::nullopt;
     return Describe(isError ? QStringLiteral("an XML error") : QStringLiteral("an HTML page"),
-                    UnescapeMarkup(TITLE.match(start).captured(1)));
+                    TITLE.match(start).captured(1));
 }
 
 QString FindMessage(QJsonObject const& object)

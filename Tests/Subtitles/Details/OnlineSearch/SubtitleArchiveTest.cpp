@@ -1,0 +1,231 @@
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleArchive.h"
+
+#include <gtest/gtest.h>
+#include <quacrc32.h>
+
+#include <QCryptographicHash>
+
+#include <random>
+#include <thread>
+#include <vector>
+
+namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
+{
+
+namespace
+{
+
+using Status = UseCases::IOnlineSearchController::Status;
+
+/// One file of an archive; the numbers may contradict the bytes.
+struct Entry
+{
+    QByteArray name;
+    QByteArray data;
+    quint32 attributes = 0; ///< of Unix in the upper half
+    quint16 flags = 0;
+    bool isDeflated = false;
+    qint64 statedSize = -1; ///< the true one when negative
+    quint32 checksumError = 0;
+};
+
+void Append(QByteArray& bytes, quint64 value, int count)
+{
+    for (int at = 0; at < count; ++at)
+        bytes += static_cast<char>(value >> (8 * at));
+}
+
+/// What local header and directory share, from the needed version to the lengths of name and extra field.
+QByteArray MakeHeader(Entry const& entry, int packedSize)
+{
+    QByteArray bytes;
+    Append(bytes, 20, 2);
+    Append(bytes, entry.flags, 2);
+    Append(bytes, entry.isDeflated ? 8 : 0, 2);
+    Append(bytes, 0, 4);
+    Append(bytes, QuaCrc32().calculate(entry.data) + entry.checksumError, 4);
+    Append(bytes, static_cast<quint64>(packedSize), 4);
+    Append(bytes, static_cast<quint64>(entry.statedSize < 0 ? entry.data.size() : entry.statedSize), 4);
+    Append(bytes, static_cast<quint64>(entry.name.size()), 2);
+    Append(bytes, 0, 2);
+    return bytes;
+}
+
+/// Writes what no decent tool would.
+QByteArray MakeArchive(std::vector<Entry> const& entries)
+{
+    QByteArray archive;
+    QByteArray directory;
+    for (Entry const& entry : entries)
+    {
+        // Between the length and the zlib header before it and the checksum behind it lies the bare stream.
+        QByteArray const packed = entry.isDeflated ? qCompress(entry.data, 1).mid(6).chopped(4) : entry.data;
+        QByteArray const header = MakeHeader(entry, packed.size());
+        directory += "PK\x01\x02";
+        Append(directory, 0x0314, 2);
+        directory += header;
+        Append(directory, 0, 6);
+        Append(directory, entry.attributes, 4);
+        Append(directory, static_cast<quint64>(archive.size()), 4);
+        directory += entry.name;
+        archive += "PK\x03\x04" + header + entry.name + packed;
+    }
+    int const offset = archive.size();
+    archive += directory + "PK\x05\x06";
+    Append(archive, 0, 4);
+    Append(archive, entries.size(), 2);
+    Append(archive, entries.size(), 2);
+    Append(archive, static_cast<quint64>(directory.size()), 4);
+    Append(archive, static_cast<quint64>(offset), 4);
+    Append(archive, 0, 2);
+    return archive;
+}
+
+ArchiveWish MakeWish(QString const& name, QString const& format = "srt", int disc = 1, int discs = 1)
+{
+    ArchiveWish wish;
+    wish.fileName = name;
+    wish.format = format;
+    wish.discNumber = disc;
+    wish.discCount = discs;
+    return wish;
+}
+
+/// The bytes of the chosen file, or the status of the failure.
+std::string Take(std::vector<Entry> const& entries, ArchiveWish const& wish)
+{
+    auto const unpacked = UnpackSubtitle(MakeArchive(entries), wish);
+    EXPECT_EQ(unpacked.error.isEmpty(), unpacked.status == Status::Success);
+    if (unpacked.status == Status::Success)
+        return unpacked.bytes.toStdString();
+    return unpacked.status == Status::ServerError ? "ServerError" : "FileError";
+}
+
+} // namespace
+
+TEST(SubtitleArchiveTest, ChoosesTheFileThatIsMeant)
+{
+    std::vector<Entry> const discs = {{"info.nfo", "n"},
+                                      {"sub/Movie.CD2.srt", "two"},
+                                      {"sub/Movie.CD1.srt", "one"},
+                                      {"Movie.CD1.sub", "one of the other format"}};
+    EXPECT_EQ(Take(discs, MakeWish("Movie.CD2.srt")), "two");
+    EXPECT_EQ(Take(discs, MakeWish("MOVIE.cd1.SRT")), "one");
+    EXPECT_EQ(Take(discs, MakeWish("other.srt", "srt", 2, 2)), "two");
+    EXPECT_EQ(Take(discs, MakeWish("other.sub", "sub")), "one of the other format");
+    EXPECT_EQ(Take(discs, MakeWish("other.srt")), "ServerError") << "two are equally good";
+    EXPECT_EQ(Take(discs, MakeWish("Movie.CD2.ass", "ass")), "ServerError");
+    EXPECT_EQ(Take(discs, MakeWish("info.nfo", "nfo")), "ServerError");
+    EXPECT_EQ(Take({{"b.srt", "second"}, {"A.srt", "first"}}, MakeWish("x", "srt", 2, 2)), "second");
+    EXPECT_EQ(Take({{"x.srt", "first of two"}, {"x.srt", "second"}}, MakeWish("x.srt")), "first of two");
+    EXPECT_EQ(Take({{"readme.txt", "?"}}, MakeWish("x.srt")), "ServerError");
+    EXPECT_EQ(Take({{"readme.txt", "?"}, {"film.sami", "text"}}, MakeWish("x", "smi")), "text");
+
+    ArchiveWish wish = MakeWish("Movie.CD2.srt");
+    wish.md5 = QCryptographicHash::hash("one", QCryptographicHash::Md5).toHex().toUpper();
+    EXPECT_EQ(Take(discs, wish), "one") << "the hash decides against the name";
+    wish.md5 = QByteArray(32, '0');
+    EXPECT_EQ(Take(discs, wish), "two");
+}
+
+TEST(SubtitleArchiveTest, TakesNamesOfUnknownCodePagesForWhatTheyAre)
+{
+    QString const wanted = QString::fromUtf8("Фильм S01E02.srt");
+    std::vector<Entry> const entries = {{"\xD4\xE8\xEB\xFC\xEC S01E01.srt", "one"},
+                                        {"\xD4\xE8\xEB\xFC\xEC S01E02.srt", "two"}};
+    EXPECT_EQ(Take(entries, MakeWish(wanted)), "two");
+    EXPECT_EQ(Take({{"x.srt", "x"}, {wanted.toUtf8(), "plain"}}, MakeWish(wanted)), "plain");
+    EXPECT_EQ(Take({{"x.srt", "x"}, {wanted.toUtf8(), "marked", 0, 0x0800}}, MakeWish(wanted)), "marked");
+    EXPECT_EQ(Take({{"", "nameless"}}, MakeWish(wanted)), "nameless");
+    auto const hostile = UnpackSubtitle(MakeArchive({{"../../\xFF\xFE/etc/x.srt", "x"}}), MakeWish("x.srt"));
+    EXPECT_EQ(hostile.bytes, "x");
+}
+
+TEST(SubtitleArchiveTest, LeavesAsideWhatIsNoFileToTake)
+{
+    constexpr quint32 LINK = 0xA1FFU << 16U;
+    constexpr quint32 PIPE = 0x1180U << 16U;
+    std::vector<Entry> const entries = {
+        {"a/x.srt/", ""},
+        {"b/x.srt", "/etc/passwd", LINK},
+        {"c/x.srt", "", PIPE},
+        {"d/x.srt", "secret", 0, 1},
+        {"__MACOSX/x.srt", "m"},
+        {"e/._x.srt", "m"},
+        {"f/x.srt", MakeArchive({{"x.srt", "inner"}})},
+        {"x.srt.zip", "z"},
+    };
+    EXPECT_EQ(Take(entries, MakeWish("x.srt")), "ServerError");
+    auto withFile = entries;
+    withFile.push_back({"g/x.srt", "file"});
+    EXPECT_EQ(Take(withFile, MakeWish("x.srt")), "file");
+}
+
+TEST(SubtitleArchiveTest, BelievesNoHeaderAndStopsAtItsLimits)
+{
+    QByteArray const text(100000, 'x');
+    EXPECT_TRUE(Take({{"x.srt", text, 0, 0, true}}, MakeWish("x.srt")) == text.toStdString());
+    EXPECT_EQ(Take({{"x.srt", text, 0, 0, true, 10}}, MakeWish("x.srt")), "FileError");
+    EXPECT_EQ(Take({{"x.srt", text, 0, 0, true, 200000}}, MakeWish("x.srt")), "FileError");
+    EXPECT_EQ(Take({{"x.srt", text, 0, 0, false, -1, 1}}, MakeWish("x.srt")), "FileError") << "wrong checksum";
+
+    QByteArray const bomb(17 << 20, 'x');
+    EXPECT_EQ(Take({{"x.srt", bomb, 0, 0, true}}, MakeWish("x.srt")), "ServerError");
+    EXPECT_EQ(Take({{"x.srt", bomb, 0, 0, true, 1000}}, MakeWish("x.srt")), "FileError");
+    std::vector<Entry> many(5, {"bomb.srt", bomb.left(15 << 20), 0, 0, true});
+    many.push_back({"x.srt", "wanted"});
+    ArchiveWish wish = MakeWish("x.srt");
+    wish.md5 = QCryptographicHash::hash("nothing", QCryptographicHash::Md5).toHex();
+    EXPECT_EQ(Take(many, wish), "wanted") << "hashing gives up, the name is left";
+
+    EXPECT_EQ(Take(std::vector<Entry>(1000, {"x.srt", "x"}), MakeWish("x.srt")), "x");
+    EXPECT_EQ(Take(std::vector<Entry>(1001, {"x.srt", "x"}), MakeWish("x.srt")), "ServerError");
+}
+
+TEST(SubtitleArchiveTest, SaysWhatIsNoArchive)
+{
+    auto const unpack = [](QByteArray const& bytes)
+    {
+        auto const unpacked = UnpackSubtitle(bytes, MakeWish("x.srt"));
+        EXPECT_EQ(unpacked.status, Status::FileError);
+        return unpacked.error.toStdString();
+    };
+    EXPECT_EQ(unpack(""), "The archive cannot be opened: it is an empty file");
+    EXPECT_EQ(unpack("<html><title>Quota</title>"), "The archive cannot be opened: it is an HTML page (\"Quota\")");
+    EXPECT_EQ(unpack(MakeArchive({})), "The archive cannot be opened: it is an empty ZIP archive");
+    EXPECT_EQ(unpack("1\n00:00:01,000 --> 00:00:02,000\nx"),
+              "The archive cannot be opened: it is damaged or no ZIP archive");
+    QByteArray const archive = MakeArchive({{"x.srt", "text"}});
+    EXPECT_EQ(unpack(archive.chopped(30)), "The archive cannot be opened: it is damaged or no ZIP archive");
+    EXPECT_EQ(unpack(archive.chopped(10)), "The archive cannot be opened: its directory is damaged");
+    EXPECT_EQ(UnpackSubtitle("#!/bin/sh\n" + archive, MakeWish("x.srt")).bytes, "text") << "self-extracting";
+}
+
+TEST(SubtitleArchiveTest, GivesTheBytesOrAnErrorForEveryDamage)
+{
+    QByteArray text;
+    for (int line = 0; line < 200; ++line)
+        text += QByteArray::number(line * line) + "\n";
+    QByteArray const archive = MakeArchive({{"info.nfo", "n"}, {"x.srt", text, 0, 0, true}, {"y.srt", text}});
+    auto const damageAll = [&archive, &text](unsigned seed)
+    {
+        std::mt19937 random(seed);
+        for (int round = 0; round < 500; ++round)
+        {
+            QByteArray damaged =
+                archive.left(round % 4 == 0 ? static_cast<int>(random() % archive.size()) : archive.size());
+            for (unsigned flips = 1 + random() % 3; flips > 0 && !damaged.isEmpty(); --flips)
+                damaged[static_cast<int>(random() % damaged.size())] = static_cast<char>(random());
+            auto const unpacked = UnpackSubtitle(damaged, MakeWish("x.srt"));
+            EXPECT_TRUE(unpacked.status != Status::Success || unpacked.bytes == text);
+            EXPECT_EQ(unpacked.status == Status::Success, unpacked.error.isEmpty());
+        }
+    };
+    std::vector<std::thread> threads;
+    for (unsigned seed = 1; seed <= 4; ++seed)
+        threads.emplace_back(damageAll, seed);
+    for (auto& thread : threads)
+        thread.join();
+}
+
+} // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
