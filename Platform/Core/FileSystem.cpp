@@ -66,6 +66,18 @@ std::string Shortened(std::string name, std::size_t mostBytes)
     return name;
 }
 
+/// Of a file whose bytes are on the disk already: waiting for them once is enough, however many names are tried.
+Status GiveName(ioPath const& temporary, ioPath const& name, bool overwrite)
+{
+    std::error_code const error =
+        overwrite ? PlatformFile::ReplaceFile(temporary, name) : PlatformFile::RenameWithoutReplacing(temporary, name);
+    if (!error)
+        return SUCCESS;
+    if (error == std::errc::file_exists)
+        return MakeError(ErrorCode::OutputExists, name);
+    return WriteError(name, error);
+}
+
 /// "film.mkv", "film (2).mkv", "film (3).mkv" ...; longer numbers are years: "film (1999) (2).mkv".
 ioPath NextName(ioPath const& path)
 {
@@ -203,15 +215,9 @@ ioPath MakeTemporaryPath(ioPath const& target)
 
 Status CommitFile(ioPath const& temporary, ioPath const& target, bool overwrite)
 {
-    std::error_code error = PlatformFile::Synchronize(temporary);
-    if (!error)
-        error = overwrite ? PlatformFile::ReplaceFile(temporary, target)
-                          : PlatformFile::RenameWithoutReplacing(temporary, target);
-    if (!error)
-        return SUCCESS;
-    if (error == std::errc::file_exists)
-        return MakeError(ErrorCode::OutputExists, target);
-    return WriteError(target, error);
+    if (std::error_code const error = PlatformFile::Synchronize(temporary))
+        return WriteError(target, error);
+    return GiveName(temporary, target, overwrite);
 }
 
 Result<ioPath> CommitFile(ioPath const& temporary, ioPath const& target, TakenName takenName)
@@ -221,7 +227,7 @@ Result<ioPath> CommitFile(ioPath const& temporary, ioPath const& target, TakenNa
     while (failed && failed->code == ErrorCode::OutputExists && takenName == TakenName::NextFree)
     {
         name = NextName(name);
-        failed = CommitFile(temporary, name, false);
+        failed = GiveName(temporary, name, false);
     }
     if (failed)
         return *failed;
