@@ -43,6 +43,7 @@ struct Console
     std::ostream& err;
     bool isErrTerminal = false;          ///< a progress bar can be drawn on `err`
     std::function<bool()> isInterrupted; ///< asked often; true once the user wants the job to stop
+    int outColumns = 0;                  ///< of the terminal that `out` is shown on; 0 when it is none
 };
 
 /// The core's sentence, in the words of the command line where they differ.

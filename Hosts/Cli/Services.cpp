@@ -5,9 +5,8 @@
 namespace Korvex::Cli
 {
 
-Services::Services()
-    : HostServices(App::LoadConfiguration(App::FindConfigurationFile(&App::LookUpEnvironment), &App::LookUpEnvironment))
-{
-}
+Services::Services() : Services(App::LoadConfiguration()) {}
+
+Services::Services(App::Configuration const& configuration) : HostServices(configuration) {}
 
 } // namespace Korvex::Cli

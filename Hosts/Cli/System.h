@@ -15,6 +15,9 @@ void CatchInterrupts();
 /// True when standard error is shown to a person.
 [[nodiscard]] bool IsStandardErrorTerminal();
 
+/// How many columns the terminal has that shows standard output to a person; 0 when it goes elsewhere.
+[[nodiscard]] int GetStandardOutputColumns();
+
 /// The words of the command line in UTF-8, without the program's name.
 [[nodiscard]] std::vector<std::string> GetWords(int argumentCount, char** arguments);
 

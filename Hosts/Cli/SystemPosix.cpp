@@ -2,6 +2,7 @@
 
 #include <csignal>
 
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace Korvex::Cli
@@ -39,6 +40,12 @@ bool IsInterruptRequested()
 bool IsStandardErrorTerminal()
 {
     return isatty(STDERR_FILENO) == 1;
+}
+
+int GetStandardOutputColumns()
+{
+    winsize size = {};
+    return isatty(STDOUT_FILENO) == 1 && ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
 }
 
 std::vector<std::string> GetWords(int argumentCount, char** arguments)

@@ -56,6 +56,13 @@ bool IsStandardErrorTerminal()
     return _isatty(_fileno(stderr)) != 0;
 }
 
+int GetStandardOutputColumns()
+{
+    CONSOLE_SCREEN_BUFFER_INFO info = {};
+    bool const isConsole = GetConsoleScreenBufferInfo(GetStdHandle(STD_OUTPUT_HANDLE), &info) != 0;
+    return isConsole ? info.srWindow.Right - info.srWindow.Left + 1 : 0;
+}
+
 std::vector<std::string> GetWords(int, char**)
 {
     int count = 0;

@@ -3,6 +3,7 @@
 #include "Cli/System.h"
 
 #include "Common/Logging.h"
+#include "Common/SystemProxy.h"
 
 #include <QCoreApplication>
 
@@ -17,8 +18,9 @@ int main(int argumentCount, char** arguments)
     std::vector<std::string> const words = GetWords(argumentCount, arguments);
     QCoreApplication const application(argumentCount, arguments);
     Korvex::Hosts::LogErrorsToStandardError(arguments[0]);
+    Korvex::Hosts::UseSystemProxy();
     CatchInterrupts();
 
-    Console console{std::cout, std::cerr, IsStandardErrorTerminal(), &IsInterruptRequested};
+    Console console{std::cout, std::cerr, IsStandardErrorTerminal(), &IsInterruptRequested, GetStandardOutputColumns()};
     return Run(words, console);
 }

@@ -2,6 +2,7 @@
 
 #include "Subtitles/Entities/ISubtitleCollectionInteractorPool.h"
 #include "Subtitles/Subtitles.h"
+#include "Subtitles/UseCases/IOnlineDownloaderInteractor.h"
 #include "Subtitles/UseCases/ISubtitleController.h"
 
 #include "App/Configuration.h"
@@ -17,6 +18,7 @@ namespace Korvex::Hosts
 
 using Converter::Gui::GUIContainer;
 using Converter::Subtitles::Entities::ISubtitleCollectionInteractorPool;
+using Converter::Subtitles::UseCases::IOnlineDownloaderInteractor;
 using Converter::Subtitles::UseCases::ISubtitleController;
 using Converter::Transcoder::TranscoderInteractor;
 using Converter::Transcoder::Entities::ITranscoderInteractor;
@@ -32,6 +34,8 @@ struct HostServices::Impl
 
 HostServices::HostServices(App::Configuration const& configuration) : m_impl(std::make_unique<Impl>())
 {
+    // Components read it when they are made.
+    App::SetActiveConfiguration(configuration);
     Proc::RegisterFactories();
     m_impl->gui = std::make_shared<GUIContainer>();
     m_impl->transcoder = std::make_shared<TranscoderInteractor>();
@@ -67,6 +71,11 @@ GUIContainer& HostServices::GetGuiContainer() const
 std::set<std::string> HostServices::GetAllowedSoftCodecIds(std::string const& formatId) const
 {
     return m_impl->controller->GetAllowedSoftCodecIds(formatId);
+}
+
+std::shared_ptr<IOnlineDownloaderInteractor> HostServices::GetOnlineDownloader() const
+{
+    return m_impl->container->resolve<IOnlineDownloaderInteractor>();
 }
 
 Hypodermic::Container& HostServices::GetContainer() const

@@ -29,6 +29,11 @@ namespace Korvex::Converter::Subtitles::Entities
 class ISubtitleCollectionInteractorPool;
 } // namespace Korvex::Converter::Subtitles::Entities
 
+namespace Korvex::Converter::Subtitles::UseCases
+{
+class IOnlineDownloaderInteractor;
+} // namespace Korvex::Converter::Subtitles::UseCases
+
 namespace Korvex::Hosts
 {
 
@@ -38,6 +43,7 @@ namespace Korvex::Hosts
 class HostServices
 {
 public:
+    /// The configuration becomes the one in force in this process.
     explicit HostServices(App::Configuration const& configuration);
     ~HostServices();
     HostServices(HostServices const&) = delete;
@@ -48,6 +54,9 @@ public:
     [[nodiscard]] Converter::Gui::GUIContainer& GetGuiContainer() const;
     /// The subtitle codecs that a container may carry as switchable streams, as the module has it.
     [[nodiscard]] std::set<std::string> GetAllowedSoftCodecIds(std::string const& formatId) const;
+    /// The one that the whole process shares; the service under it starts when it is first asked for.
+    [[nodiscard]] std::shared_ptr<Converter::Subtitles::UseCases::IOnlineDownloaderInteractor>
+    GetOnlineDownloader() const;
     /// For components that only some hosts need.
     [[nodiscard]] Hypodermic::Container& GetContainer() const;
 

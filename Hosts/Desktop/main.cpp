@@ -2,6 +2,7 @@
 #include "Desktop/Window/RunningProgram.h"
 
 #include "Common/Logging.h"
+#include "Common/SystemProxy.h"
 
 #include "Gui/Icons.h"
 #include "Gui/LookAndFeelManager.h"
@@ -91,6 +92,7 @@ int main(int argumentCount, char** arguments)
 
     Desktop::PrepareToolkit();
     Hosts::LogErrorsToStandardError(arguments[0]);
+    Hosts::UseSystemProxy();
     QApplication const application(argumentCount, arguments);
 
     std::vector<ioPath> files;

@@ -29,8 +29,7 @@ TEST(UsageTest, WrongCommandLinesEndWithCode2AndASentenceThatSaysWhatIsWrong)
     std::vector<WrongLine> const lines{
         {{}, "Usage:"},
         {{"transmute", "a.mkv"}, "There is no command \"transmute\""},
-        {{"search", "a.mkv"}, "There is no command \"search\""},
-        {{"help", "search"}, "no help on \"search\""},
+        {{"help", "transmute"}, "no help on \"transmute\""},
         {{"tracks"}, "at least one file"},
         {{"tracks", "--colour", "a.mkv"}, "--colour does not exist"},
         {{"tracks", "--json=yes", "a.mkv"}, "--json takes no value"},
@@ -70,6 +69,23 @@ TEST(UsageTest, WrongCommandLinesEndWithCode2AndASentenceThatSaysWhatIsWrong)
         {{"preview", "a.mkv", "--at", "1", "-o", "b.png", "--offset", "2"}, "no effect on a picture without --burn"},
         {{"extract", "a.mkv", "-o", "b.srt"}, "--track ID"},
         {{"extract", "a.mkv", "b.mkv", "--track", "2", "-o", "b.srt"}, "exactly one input"},
+        {{"search"}, "what to look for"},
+        {{"search", "--season", "1", "--episode", "2"}, "what to look for"},
+        {{"search", "a.mkv", "b.mkv"}, "quotation marks"},
+        {{"search", "--title", " "}, "--title needs a title"},
+        {{"search", "--title", "Up", "--language", "en,klingon"}, "\"klingon\" is none"},
+        {{"search", "--title", "Up", "--season", "1"}, "--season and --episode go together"},
+        {{"search", "--title", "Up", "--episode", "1"}, "--season and --episode go together"},
+        {{"search", "--title", "Up", "--year", "99"}, "from 1870 to 2200"},
+        {{"search", "--imdb", "nm0133093"}, "such as tt0133093, not \"nm0133093\""},
+        {{"search", "--imdb", "tt0000000"}, "such as tt0133093"},
+        {{"search", "--imdb", "12345678901"}, "such as tt0133093"},
+        {{"search", "--title", "Up", "--timeout", "0"}, "from 1 to 3600, not \"0\""},
+        {{"suggest", " "}, "how the title begins"},
+        {{"download", "--title", "Up", "--output-dir", "d"}, "--pick N"},
+        {{"download", "--title", "Up", "--pick", "1"}, "--output-dir DIR"},
+        {{"download", "--title", "Up", "--pick", "1,,2", "--output-dir", "d"}, "separated by commas"},
+        {{"config", "a.conf"}, "takes no files"},
     };
     for (WrongLine const& line : lines)
     {
@@ -80,11 +96,10 @@ TEST(UsageTest, WrongCommandLinesEndWithCode2AndASentenceThatSaysWhatIsWrong)
     }
 }
 
-TEST(UsageTest, HelpNamesEveryOptionOfEveryCommandAndNothingThatDoesNotWork)
+TEST(UsageTest, HelpNamesEveryOptionOfEveryCommand)
 {
     auto const overview = RunCli({"help"});
     EXPECT_EQ(overview.exitCode, 0);
-    EXPECT_EQ(overview.out.find("search"), std::string::npos);
     for (auto const& command : MakeCommands())
     {
         std::string const name(command->Name());
