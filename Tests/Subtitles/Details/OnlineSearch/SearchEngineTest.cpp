@@ -346,6 +346,70 @@ TEST_F(SearchEngineTest, ReportsEachTransportErrorOnceWhetherItComesAtOnceOrLate
     EXPECT_EQ(RunOne().size(), 4U);
 }
 
+TEST_F(SearchEngineTest, TheServersWordsAreThereWhenTheFailureIsTold)
+{
+    using Reason = UseCases::ServerReport::Reason;
+    QByteArray body;
+    int httpStatus = 0;
+    auto error = Reply::NoError;
+    Create(
+        [&](FakeReply& reply)
+        {
+            reply.SetBody(body, httpStatus);
+            reply.SetHeader("Download-Quota", "5");
+            QTimer::singleShot(0, &reply, [&] { reply.End(error); });
+        });
+    UseCases::ServerReport told;
+    auto const run = [&](Status parsed)
+    {
+        told = {};
+        auto const operation = Queue("a");
+        operation->parsedStatus = parsed;
+        first.reaction = [&](auto&) { told = engine->GetServerReport(); };
+        RunOne();
+        return operation;
+    };
+
+    body = R"({"message":"no more for SecretKey"})";
+    httpStatus = 406;
+    error = Reply::UnknownContentError;
+    run(Status::Success);
+    EXPECT_EQ(told.reason, Reason::QuotaUsedUp);
+    EXPECT_EQ(told.message, QStringLiteral("no more for ***"));
+
+    // What was understood is not read again: only its headers count.
+    httpStatus = 200;
+    error = Reply::NoError;
+    run(Status::Success);
+    EXPECT_EQ(told.httpStatus, 200);
+    EXPECT_EQ(told.message, QString());
+    EXPECT_EQ(told.remainingDownloads, 5);
+
+    // A page in place of what was asked for.
+    body = "<html><title>Maintenance</title>";
+    run(Status::ServerError);
+    EXPECT_EQ(told.message, QStringLiteral("Maintenance"));
+    EXPECT_EQ(told.reason, Reason::None);
+    Queue("file")->parsedStatus = Status::ServerError;
+    ASSERT_EQ(engine->DownloadSubtitles({nullptr}, {}), Status::Success);
+    ASSERT_TRUE(WaitUntilIdle());
+    EXPECT_EQ(engine->GetServerReport().reason, Reason::NotASubtitle);
+
+    // The answers to a POST speak of the quota.
+    body = R"({"link":"x","remaining":3})";
+    Queue("link")->type = INetworkOperation::Type::HttpPost;
+    RunOne();
+    EXPECT_EQ(engine->GetServerReport().remainingDownloads, 3);
+
+    EXPECT_EQ(engine->DownloadSubtitles({}, {}), Status::Success);
+    EXPECT_EQ(engine->GetServerReport().httpStatus, 0) << "an accepted start forgets";
+    httpStatus = 0;
+    error = Reply::ConnectionRefusedError;
+    run(Status::Success);
+    EXPECT_EQ(told.httpStatus, 0);
+    EXPECT_EQ(told.remainingDownloads, std::nullopt);
+}
+
 TEST_F(SearchEngineTest, AReplyThatEndsAsCancelledSaysNothingAndLeavesTheQueueAsItIs)
 {
     Create(EndLater(0, Reply::OperationCanceledError));

@@ -72,7 +72,7 @@ RESTSearchEngine::Status RESTSearchEngine::StartSearch(UseCases::SearchRequest c
     if (HasPendingRequest())
         return Status::Busy;
     AddSearchRequest(request);
-    return StartFirstRequest();
+    return StartFirstRequest(OperationKind::Query);
 }
 
 RESTSearchEngine::Status RESTSearchEngine::AutoSuggest(std::string const& tag, QString const& text)
@@ -82,7 +82,7 @@ RESTSearchEngine::Status RESTSearchEngine::AutoSuggest(std::string const& tag, Q
     if (tag != Entities::SearchTags::TITLE)
         return Status::UnsupportedSearch;
     AddAutoSuggestRequest(text);
-    return StartFirstRequest();
+    return StartFirstRequest(OperationKind::Query);
 }
 
 RESTSearchEngine::Status
@@ -93,7 +93,7 @@ RESTSearchEngine::DownloadSubtitles(std::vector<std::shared_ptr<UseCases::Search
         return Status::Busy;
     for (auto const& result : results)
         AddDownloadRequest(result, folder);
-    return StartFirstRequest();
+    return StartFirstRequest(OperationKind::Download);
 }
 
 bool RESTSearchEngine::CancelOperation()
@@ -120,8 +120,9 @@ void RESTSearchEngine::Append(std::shared_ptr<INetworkOperation> operation)
         m_queue.push_back(std::move(operation));
 }
 
-RESTSearchEngine::Status RESTSearchEngine::StartFirstRequest()
+RESTSearchEngine::Status RESTSearchEngine::StartFirstRequest(OperationKind const kind)
 {
+    m_operationKind = kind;
     m_isCanceled = false;
     m_serverReport = {};
     StartNextRequest();
@@ -197,8 +198,12 @@ void RESTSearchEngine::OnRequestFailed(UseCases::IOnlineSearchController::Status
 void RESTSearchEngine::OnReported(UseCases::ServerReport const& report)
 {
     TakeFromQueue(m_worker.get());
-    if (HasPendingRequest() && !m_isCanceled)
-        m_serverReport = report;
+    if (!HasPendingRequest() || m_isCanceled)
+        return;
+    m_serverReport = report;
+    // Only the one who started the operation knows whether a file was asked for.
+    if (m_operationKind != OperationKind::Download && report.reason == UseCases::ServerReport::Reason::NotASubtitle)
+        m_serverReport.reason = UseCases::ServerReport::Reason::None;
 }
 
 template <typename Callable>

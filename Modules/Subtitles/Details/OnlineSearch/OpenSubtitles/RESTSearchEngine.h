@@ -80,7 +80,12 @@ private:
     void OnRequestFailed(UseCases::IOnlineSearchController::Status status);
     void OnReported(UseCases::ServerReport const& report);
 
-    Status StartFirstRequest();
+    enum class OperationKind
+    {
+        Query,
+        Download,
+    };
+    Status StartFirstRequest(OperationKind kind);
     /// False when an observer deleted this engine: nothing of it may be touched then.
     template <typename Callable>
     [[nodiscard]] bool Tell(Callable const& callable);
@@ -92,6 +97,7 @@ private:
     QThread* m_workerThread;
     std::unique_ptr<RESTSearchWorker> m_worker;
     bool m_isCanceled = false;
+    OperationKind m_operationKind = OperationKind::Query;
     UseCases::ServerReport m_serverReport;
 };
 

@@ -1,7 +1,9 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/RESTSearchWorker.h"
 
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/NotASubtitle.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/QueueHandOver.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/RESTSearchEngine.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/ServerReply.h"
 
 #include "Subtitles/Details/OnlineSearch/INetworkManager.h"
 #include "Subtitles/Details/OnlineSearch/INetworkOperation.h"
@@ -16,6 +18,21 @@ namespace
 {
 
 using Status = UseCases::IOnlineSearchController::Status;
+
+/// What a server has to say stands at the beginning.
+constexpr qint64 MOST_WORDS_BYTES = 64 * 1024;
+
+/// 0 when there was no reply of a server.
+int GetHttpStatus(QNetworkReply const& reply)
+{
+    return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+}
+
+/// A page or a notice in place of what was asked for. Archives and the like are files, right or wrong.
+bool IsPage(QByteArray const& beginning)
+{
+    return !beginning.isEmpty() && !FindFileSignature(beginning) && FindWhatItIsInstead(beginning);
+}
 
 Status ToStatus(QNetworkReply::NetworkError const error)
 {
@@ -69,12 +86,13 @@ void RESTSearchWorker::DoWork()
         return EmitError(Status::NoConnection);
 
     auto const request = m_operation->CreateRequest();
-    if (m_operation->GetStatus() != Status::Success)
-        return EmitError(m_operation->GetStatus());
+    m_secret = request.rawHeader("Api-Key");
+    if (auto const status = m_operation->GetStatus(); status != Status::Success)
+        return EmitError(status);
 
-    auto* const reply = m_operation->GetType() == INetworkOperation::Type::HttpPost
-                            ? m_networkManager->Post(request, m_operation->GetQueryParams())
-                            : m_networkManager->Get(request);
+    m_isPost = m_operation->GetType() == INetworkOperation::Type::HttpPost;
+    auto* const reply =
+        m_isPost ? m_networkManager->Post(request, m_operation->GetQueryParams()) : m_networkManager->Get(request);
     if (reply == nullptr)
         return EmitError(Status::NetworkError);
 
@@ -91,7 +109,17 @@ void RESTSearchWorker::OnReplyReady(QNetworkReply* const reply)
 {
     if (reply->error() != QNetworkReply::NoError || !TakeReply(reply))
         return;
-    m_operation->ParseReply(*reply);
+    auto const beginning = reply->peek(MOST_WORDS_BYTES);
+    auto const status = m_operation->ParseReply(*reply);
+
+    // A reply that was understood is the operation's; the answers to a POST speak of the quota, too.
+    bool const isRefused = status == Status::ServerError;
+    bool const hasWords = isRefused || (m_isPost && beginning.trimmed().startsWith('{'));
+    auto report =
+        ReadServerReport(GetHttpStatus(*reply), reply->rawHeaderPairs(), hasWords ? beginning : QByteArray(), m_secret);
+    if (isRefused && report.reason == UseCases::ServerReport::Reason::None && IsPage(beginning))
+        report.reason = UseCases::ServerReport::Reason::NotASubtitle;
+    EmitReported(report);
     EmitFinished();
     reply->deleteLater();
 }
@@ -102,8 +130,13 @@ void RESTSearchWorker::OnReplyError(QNetworkReply* const reply)
         return;
     auto const error = reply->error();
     reply->deleteLater();
-    if (error != QNetworkReply::OperationCanceledError)
-        EmitError(ToStatus(error));
+    if (error == QNetworkReply::OperationCanceledError)
+        return;
+    // What came of a body before the transport failed is no refusal of the server's.
+    bool const hasWords = GetHttpStatus(*reply) >= 400;
+    EmitReported(ReadServerReport(GetHttpStatus(*reply), reply->rawHeaderPairs(),
+                                  hasWords ? reply->peek(MOST_WORDS_BYTES) : QByteArray(), m_secret));
+    EmitError(ToStatus(error));
 }
 
 bool RESTSearchWorker::TakeReply(QNetworkReply* const reply)
@@ -112,6 +145,14 @@ bool RESTSearchWorker::TakeReply(QNetworkReply* const reply)
         return false;
     m_reply.clear();
     return true;
+}
+
+void RESTSearchWorker::EmitReported(UseCases::ServerReport const& report)
+{
+    if (report.httpStatus == 0)
+        return;
+    QueueGiving const giving(this);
+    Q_EMIT Reported(report);
 }
 
 void RESTSearchWorker::EmitFinished()

@@ -53,6 +53,7 @@ private:
     /// True for the reply that is awaited, once: a reply that tells of its end twice is heard once.
     bool TakeReply(QNetworkReply* reply);
 
+    void EmitReported(UseCases::ServerReport const& report);
     void EmitFinished();
     void EmitError(UseCases::IOnlineSearchController::Status status);
 
@@ -60,6 +61,8 @@ private:
     std::shared_ptr<INetworkManager> m_networkManager;
     std::shared_ptr<INetworkOperation> m_operation;
     QPointer<QNetworkReply> m_reply; ///< awaited
+    bool m_isPost = false;           ///< as the current operation said
+    QByteArray m_secret;             ///< the key that the request carried, which no report may show
 };
 
 } // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles

@@ -1,0 +1,226 @@
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/ServerReply.h"
+
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/NotASubtitle.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/ServiceText.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLocale>
+#include <QRegularExpression>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
+{
+
+namespace
+{
+
+using UseCases::ServerReport;
+using Headers = QList<QNetworkReply::RawHeaderPair>;
+
+constexpr int MOST_CHARACTERS = 300;
+constexpr int MOST_CHARACTERS_BEFORE_TITLE = 16384;
+
+QByteArray FindHeader(Headers const& headers, char const* name)
+{
+    auto const found =
+        std::find_if(headers.begin(), headers.end(),
+                     [name](auto const& header) { return header.first.compare(name, Qt::CaseInsensitive) == 0; });
+    return found == headers.end() ? QByteArray() : found->second.trimmed();
+}
+
+std::optional<int> ToCount(QVariant const& value)
+{
+    bool isNumber = false;
+    auto const number = value.toDouble(&isNumber);
+    if (!isNumber || std::isnan(number))
+        return std::nullopt;
+    return static_cast<int>(std::clamp(number, 0.0, double(std::numeric_limits<int>::max())));
+}
+
+/// One line without the key, cut where it gets long. The key goes first, so that no half of it is left at the cut.
+QString ToLine(QString const& words, QByteArray const& secret)
+{
+    static QRegularExpression const DIRECTIONS(QStringLiteral("[\\x{202A}-\\x{202E}\\x{2066}-\\x{2069}]"));
+    auto line = ReadPlainLine(words).remove(DIRECTIONS);
+    if (auto const key = QString::fromUtf8(secret); !key.isEmpty())
+    {
+        line.replace(key, QStringLiteral("***"), Qt::CaseInsensitive);
+        if (line.contains(key, Qt::CaseInsensitive))
+            return {};
+    }
+    if (line.size() <= MOST_CHARACTERS)
+        return line;
+    int const end = MOST_CHARACTERS - 1;
+    return line.left(line.at(end - 1).isHighSurrogate() ? end - 1 : end) + QChar(0x2026);
+}
+
+/// A text, a list of them, or an object that names what is wrong with each field.
+QString ReadJsonWords(QJsonValue const& value)
+{
+    if (value.isString())
+        return value.toString().trimmed();
+    QStringList words;
+    for (auto const& element : value.toArray())
+        words += ReadJsonWords(element);
+    auto const object = value.toObject();
+    for (auto field = object.begin(); field != object.end(); ++field)
+    {
+        auto const text = ReadJsonWords(field.value());
+        bool const isName = field.key() == QLatin1String("message") || field.key() == QLatin1String("error") ||
+                            field.key() == QLatin1String("title") || field.key() == QLatin1String("detail");
+        if (!text.isEmpty())
+            words += isName ? text : field.key() + QLatin1String(": ") + text;
+    }
+    words.removeAll(QString());
+    return words.join(QLatin1String("; "));
+}
+
+QString FindMessage(QJsonObject const& object)
+{
+    for (auto const* key : {"message", "error", "errors"})
+    {
+        if (auto words = ReadJsonWords(object.value(QLatin1String(key))); !words.isEmpty())
+            return words;
+    }
+    return {};
+}
+
+QString FindTitle(QString const& markup)
+{
+    static QRegularExpression const TITLE(QStringLiteral("<(title|h1|message)\\b[^<>]*>(.*?)</\\1\\s*>"),
+                                          QRegularExpression::CaseInsensitiveOption |
+                                              QRegularExpression::DotMatchesEverythingOption);
+    static QRegularExpression const TAG(QStringLiteral("<[^<>]*>"));
+    for (auto match = TITLE.globalMatch(markup.left(MOST_CHARACTERS_BEFORE_TITLE)); match.hasNext();)
+    {
+        auto title = match.next().captured(2).replace(TAG, QStringLiteral(" ")).trimmed();
+        if (!title.isEmpty())
+            return title;
+    }
+    return {};
+}
+
+QString Decode(QByteArray const& body)
+{
+    auto text = QString::fromUtf8(body);
+    return text.contains(QChar(QChar::ReplacementCharacter)) ? QString::fromLatin1(body) : text;
+}
+
+bool IsMarkup(QString const& text)
+{
+    static QRegularExpression const PAGE(QStringLiteral("^\\s*<|<(?:!doctype|html|head|title)\\b"),
+                                         QRegularExpression::CaseInsensitiveOption);
+    return PAGE.match(text).hasMatch();
+}
+
+/// The text of a body that is no JSON and no markup. Files are not words: neither binary ones nor cues.
+QString FindPlainWords(QByteArray const& body, QString const& text)
+{
+    bool const isFile = body.contains('\0') || FindFileSignature(body) || text.contains(QLatin1String("-->"));
+    bool const isJson = text.startsWith(QLatin1Char('{')) || text.startsWith(QLatin1Char('['));
+    return isFile || isJson ? QString() : text;
+}
+
+/// "Wed, 21 Oct 2015 07:28:00 GMT"; invalid when it is nothing of the kind.
+QDateTime ReadHttpDate(QByteArray const& text)
+{
+    auto time = QLocale::c().toDateTime(QString::fromLatin1(text), QStringLiteral("ddd, dd MMM yyyy hh:mm:ss 'GMT'"));
+    time.setTimeSpec(Qt::UTC);
+    return time;
+}
+
+/// Against the server's own clock where it tells it.
+QDateTime GetServerTime(Headers const& headers)
+{
+    auto const date = ReadHttpDate(FindHeader(headers, "Date"));
+    return date.isValid() ? date : QDateTime::currentDateTimeUtc();
+}
+
+std::optional<int> FindRetryAfter(int httpStatus, Headers const& headers)
+{
+    auto const retryAfter = FindHeader(headers, "Retry-After");
+    if (auto const seconds = ToCount(retryAfter))
+        return seconds;
+    if (auto const time = ReadHttpDate(retryAfter); time.isValid())
+        return ToCount(GetServerTime(headers).secsTo(time));
+    if (httpStatus != 429)
+        return std::nullopt;
+    for (auto const* name : {"RateLimit-Reset", "X-RateLimit-Reset"})
+    {
+        if (auto const seconds = ToCount(FindHeader(headers, name)))
+        {
+            constexpr int FIRST_POINT_IN_TIME = 1000000000; // larger values count from 1970
+            return *seconds < FIRST_POINT_IN_TIME
+                       ? seconds
+                       : ToCount(GetServerTime(headers).secsTo(QDateTime::fromSecsSinceEpoch(*seconds, Qt::UTC)));
+        }
+    }
+    return std::nullopt;
+}
+
+/// The field of its own, else the time that the message names.
+QDateTime FindResetTime(QJsonObject const& object, QString const& message)
+{
+    static QRegularExpression const NAMED(
+        QStringLiteral("(\\d{4}-\\d\\d-\\d\\d)[ T](\\d\\d:\\d\\d:\\d\\d) ?(?:UTC|Z)"));
+    auto text = object.value(QLatin1String("reset_time_utc")).toString();
+    if (text.isEmpty())
+    {
+        auto const match = NAMED.match(message);
+        text = match.captured(1) + QLatin1Char('T') + match.captured(2);
+    }
+    auto time = QDateTime::fromString(text, Qt::ISODateWithMs);
+    if (time.timeSpec() == Qt::LocalTime)
+        time.setTimeSpec(Qt::UTC);
+    return time.toUTC();
+}
+
+ServerReport::Reason FindReason(ServerReport const& report, bool isPage)
+{
+    using Reason = ServerReport::Reason;
+    static QRegularExpression const AGENT(QStringLiteral("\\buser.?agent\\b"),
+                                          QRegularExpression::CaseInsensitiveOption);
+    if (report.httpStatus == 429)
+        return Reason::TooManyRequests;
+    if (report.httpStatus == 406 || (report.httpStatus >= 400 && report.remainingDownloads == 0))
+        return Reason::QuotaUsedUp;
+    // The service itself never answers with a page: what does stands before it, and has not looked at the key.
+    if (report.httpStatus == 401 || report.httpStatus == 403)
+        return isPage || AGENT.match(report.message).hasMatch() ? Reason::None : Reason::WrongKey;
+    bool const isGatewayError = report.httpStatus >= 520 && report.httpStatus <= 526;
+    if ((report.httpStatus >= 502 && report.httpStatus <= 504) || isGatewayError)
+        return Reason::Unavailable;
+    return Reason::None;
+}
+
+} // namespace
+
+ServerReport ReadServerReport(int const httpStatus, Headers const& headers, QByteArray const& body,
+                              QByteArray const& secret)
+{
+    auto const text = Decode(body).trimmed();
+    auto const document = QJsonDocument::fromJson(body);
+    auto const object = document.isArray() ? document.array().at(0).toObject() : document.object();
+    bool const isPage = document.isNull() && IsMarkup(text);
+    auto const words = isPage ? FindTitle(text) : !document.isNull() ? FindMessage(object) : FindPlainWords(body, text);
+
+    ServerReport report;
+    report.httpStatus = httpStatus;
+    report.message = ToLine(words, secret);
+    auto const remaining = object.value(QLatin1String("remaining"));
+    report.remainingDownloads =
+        ToCount(remaining.isUndefined() ? QVariant(FindHeader(headers, "Download-Quota")) : remaining.toVariant());
+    report.resetTime = ToLine(object.value(QLatin1String("reset_time")).toString(), secret);
+    report.resetsAt = FindResetTime(object, words);
+    report.retryAfterSeconds = FindRetryAfter(httpStatus, headers);
+    report.reason = FindReason(report, isPage);
+    return report;
+}
+
+} // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
