@@ -1,24 +1,17 @@
 #pragma once
 
 #include "Subtitles/Details/OnlineSearch/INetworkManager.h"
+#include "Subtitles/Details/OnlineSearch/NetworkLimits.h"
 
 #include "Subtitles/Entities/Export.h"
 
-#include <QtGlobal>
-
-#include <chrono>
-#include <memory>
+namespace Korvex::App
+{
+struct Configuration;
+}
 
 namespace Korvex::Converter::Subtitles::Details
 {
-
-/// What the network manager holds every exchange to.
-struct NetworkLimits
-{
-    std::chrono::milliseconds timeout{30000}; ///< for one exchange, from sending to the last byte, redirects included
-    qint64 replyBytes = 16 * 1024 * 1024;     ///< of a body, after decompression
-    int redirects = 5;
-};
 
 enum class PostBody
 {
@@ -31,8 +24,9 @@ enum class PostBody
 /// and take no key to another host, and a request without a user agent names the program and its version. A broken
 /// certificate is a failure.
 ///
-/// Thread: any. Each thread that asks has an access manager of its own, made at its first request and deleted when the
-/// thread ends; a reply lives on the thread that asked.
+/// Thread: any. Each thread that asks has an access manager of its own, made at its first request and deleted there
+/// when the thread ends; a reply lives on the thread that asked, which needs an event loop. Replies are the caller's
+/// and may outlive this object.
 class KVSUBTITLES_API NetworkManagerQt final : public INetworkManager
 {
 public:
@@ -49,8 +43,10 @@ public:
     QNetworkReply* Post(QNetworkRequest const& request, QUrlQuery const& form) override;
 
 private:
-    class Impl;
-    std::unique_ptr<Impl> m_impl;
+    explicit NetworkManagerQt(App::Configuration const& configuration);
+
+    NetworkLimits const m_limits;
+    PostBody const m_postBody;
 };
 
 } // namespace Korvex::Converter::Subtitles::Details
