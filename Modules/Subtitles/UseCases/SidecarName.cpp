@@ -40,6 +40,12 @@ bool IsNumber(std::string const& word)
     return std::all_of(word.begin(), word.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
+/// "cd1": subtitles that come in several files, one for each disc.
+bool IsPart(std::string const& word)
+{
+    return word.size() > 2 && BeginsWith(word, "cd") && IsNumber(word.substr(2));
+}
+
 /// The short name of a language that is written out in English; empty for any other word.
 std::string ShortNameOf(std::string const& englishName)
 {
@@ -102,7 +108,7 @@ private:
         else if (HEARING_IMPAIRED.count(word) != 0 || (word == "hi" && HasLanguage()))
             m_labels.marks.isHearingImpaired = true;
         else
-            return NEUTRAL.count(word) != 0 || (HasLanguage() && IsNumber(word));
+            return NEUTRAL.count(word) != 0 || IsPart(word) || (HasLanguage() && IsNumber(word));
         return true;
     }
 

@@ -20,8 +20,8 @@ struct SidecarLabels
 ///
 /// A name belongs to the film when it is the film's base name, or that name followed by marks that are all understood:
 /// a language (a code of the language table, or its English name), "forced", "sdh", "cc", "hi" after a language,
-/// "commentary", "sub" and the like, a number after a language. Letter case and the way accents are composed do not
-/// count. "Movie 2.srt" thus never belongs to "Movie".
+/// "commentary", "sub" and the like, "cd1", a number after a language. Letter case and the way accents are composed do
+/// not count. "Movie 2.srt" thus never belongs to "Movie".
 class KVSUBTITLES_API SidecarName
 {
 public:
