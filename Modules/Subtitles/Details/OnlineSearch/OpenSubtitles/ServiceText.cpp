@@ -1,5 +1,7 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/ServiceText.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -94,6 +96,12 @@ QString ReadPlainLine(QString const& text)
         }
     }
     return line.simplified();
+}
+
+QString ReadImdbDigits(QString const& id)
+{
+    static QRegularExpression const IMDB_ID(QStringLiteral(R"(\A(?:tt)?0*([1-9][0-9]{0,9})\z)"));
+    return IMDB_ID.match(id).captured(1);
 }
 
 } // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles

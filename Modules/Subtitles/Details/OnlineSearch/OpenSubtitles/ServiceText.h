@@ -12,4 +12,8 @@ namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
 /// that format text, control characters, line breaks and runs of blanks folded into single blanks, none at the ends.
 [[nodiscard]] KVSUBTITLES_API QString ReadPlainLine(QString const& text);
 
+/// The digits of an IMDb id without leading zeros, written with or without "tt" before them. Empty for anything but one
+/// number above 0 of at most ten digits.
+[[nodiscard]] KVSUBTITLES_API QString ReadImdbDigits(QString const& id);
+
 } // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
