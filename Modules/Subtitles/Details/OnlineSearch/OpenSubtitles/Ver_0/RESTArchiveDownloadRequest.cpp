@@ -1,9 +1,9 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTArchiveDownloadRequest.h"
 
+#include "Subtitles/Details/OnlineSearch/BodyDecoder.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleArchive.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleStore.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/ArchiveLink.h"
-#include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/GzipFile.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTSearchResultData.h"
 
 #include "Subtitles/Entities/SearchTags.h"
@@ -20,6 +20,13 @@ namespace
 {
 
 constexpr int LARGEST_SUBTITLE_BYTES = 16 * 1024 * 1024;
+
+QByteArray const GZIP = QByteArrayLiteral("gzip");
+
+bool IsGzip(QByteArray const& bytes)
+{
+    return bytes.startsWith("\x1F\x8B");
+}
 
 bool IsZip(QByteArray const& bytes)
 {
@@ -80,11 +87,11 @@ RESTArchiveDownloadRequest::Status RESTArchiveDownloadRequest::ParseJsonReply(QJ
 
 RESTArchiveDownloadRequest::Status RESTArchiveDownloadRequest::StorePackedFile(QByteArray const& body)
 {
-    auto const subtitle = UnpackGzip(body, LARGEST_SUBTITLE_BYTES);
-    if (!subtitle)
+    BodyDecoder decoder(GZIP, LARGEST_SUBTITLE_BYTES);
+    if (decoder.Append(body) != BodyDecoder::Outcome::Accepted || !decoder.IsComplete())
         return Fail(Status::FileError,
                     QStringLiteral("The packed file of %1 cannot be opened").arg(m_result->fileName));
-    return Store(*subtitle);
+    return Store(decoder.TakeBody());
 }
 
 RESTArchiveDownloadRequest::Status RESTArchiveDownloadRequest::StoreMember(QByteArray const& body)

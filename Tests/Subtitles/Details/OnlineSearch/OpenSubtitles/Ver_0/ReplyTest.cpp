@@ -1,0 +1,243 @@
+#include "Subtitles/Details/OnlineSearch/FakeNetwork.h"
+
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTAutoSuggestRequest.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTSearchRequest.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTSearchResultData.h"
+
+#include "Subtitles/Entities/SearchTags.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_0
+{
+namespace
+{
+
+using Entities::SearchTags;
+using Entities::Language::LanguageID;
+using testing::ElementsAre;
+using Status = UseCases::IOnlineSearchController::Status;
+using Result = std::shared_ptr<RESTSearchResultData>;
+
+/// Keeps what one operation tells.
+class Listener final : public UseCases::IOnlineSearchControllerObserver
+{
+public:
+    void OnSearchResults(std::vector<std::shared_ptr<UseCases::SearchResult>> const& hits) override
+    {
+        for (auto const& hit : hits)
+            results.push_back(std::dynamic_pointer_cast<RESTSearchResultData>(hit));
+    }
+    void OnAutoSuggestResults(std::vector<QString> const& texts) override { suggestions = texts; }
+    void OnSubtitlesDownloaded(std::shared_ptr<UseCases::SearchResult> const&, ioPath const&) override {}
+    void OnOperationFinished() override {}
+    void OnOperationFailed(Status, QString const&) override {}
+
+    std::vector<Result> results;
+    std::vector<QString> suggestions;
+};
+
+/// What an operation makes of a body.
+struct Reading
+{
+    Status status = Status::Success;
+    QString error;
+    std::vector<Result> results;
+    std::vector<QString> suggestions;
+};
+
+Reading Read(RESTRequest& request, QByteArray const& body)
+{
+    std::atomic<int> aliveCount{0};
+    Korvex::Testing::FakeReply reply(QNetworkRequest(), aliveCount);
+    reply.SetBody(body);
+    Reading reading;
+    reading.status = request.ParseReply(reply);
+    EXPECT_EQ(reading.status, request.GetStatus());
+    reading.error = request.GetError();
+    Listener listener;
+    request.NotifySuccess(listener);
+    reading.results = listener.results;
+    reading.suggestions = listener.suggestions;
+    return reading;
+}
+
+Reading ReadSearch(QByteArray const& body)
+{
+    RESTSearchRequest request({}, UseCases::SearchRequest{{{SearchTags::TITLE, "x"}}, {}});
+    return Read(request, body);
+}
+
+/// A row of the least that can be shown and downloaded, with other members added or put in place of its own.
+QByteArray Row(QByteArray const& members = {})
+{
+    QJsonObject row =
+        QJsonDocument::fromJson(R"({"SubFileName":"a.srt","ZipDownloadLink":"https:\/\/dl\/1"})").object();
+    QJsonObject const added = QJsonDocument::fromJson('{' + members + '}').object();
+    for (auto member = added.begin(); member != added.end(); ++member)
+        row.insert(member.key(), member.value());
+    return QJsonDocument(row).toJson(QJsonDocument::Compact);
+}
+
+TEST(LegacyReplyTest, FindsTheArrayInWhatServersSend)
+{
+    for (QByteArray const& body : {QByteArray("null"), QByteArray("[]"), QByteArray(" null\r\n"),
+                                   QByteArray("<b>Warning</b>: Undefined offset $rows[0][]\n[ ]\n")})
+    {
+        EXPECT_EQ(ReadSearch(body).status, Status::Success) << body.toStdString();
+        EXPECT_TRUE(ReadSearch(body).results.empty());
+    }
+    for (QByteArray const& before :
+         {QByteArray(), QByteArray("\xEF\xBB\xBF \n"), QByteArray("<br />\n<b>Notice</b>: $row[3] in {main} [x]\n")})
+    {
+        auto const reading = ReadSearch(before + "[ " + Row() + "]");
+        EXPECT_EQ(reading.status, Status::Success) << before.toStdString();
+        EXPECT_EQ(reading.results.size(), 1u);
+    }
+    QByteArray const whole = "[" + Row() + "," + Row() + "]";
+    for (QByteArray const& body : {whole.left(whole.size() - 1), whole.left(whole.size() / 2),
+                                   QByteArray("<html><title>Down</title></html>"), QByteArray("[1,"), QByteArray("{}"),
+                                   QByteArray(R"({"error":"unauthorized"})"), QByteArray("\"text\""), QByteArray()})
+    {
+        auto const reading = ReadSearch(body);
+        EXPECT_EQ(reading.status, Status::ServerError) << body.toStdString();
+        EXPECT_TRUE(reading.results.empty());
+        EXPECT_EQ(reading.error.isEmpty(), body.isEmpty()) << body.toStdString();
+    }
+}
+
+TEST(LegacyReplyTest, KeepsEveryGoodRowBesideBadOnes)
+{
+    auto const reading = ReadSearch(
+        "[null,7,\"x\",[],{},true," + Row(R"("SubFileName":"")") + "," + Row(R"("SubFileName":null)") + "," +
+        Row(R"("ZipDownloadLink":"file:\/\/\/etc\/passwd")") + "," + Row(R"("ZipDownloadLink":["https:\/\/dl\/1"])") +
+        "," + Row(R"("SubFileName":"gz.srt","ZipDownloadLink":"","SubDownloadLink":"http:\/\/dl\/2.gz")") + "," +
+        Row(R"("SubFileName":"odd","SubDownloadsCnt":{},"SubRating":"inf","SubSumVotes":-1,"SubAddDate":"0000-00-00 00:00:00",
+                "MovieFPS":"0.000","MovieYear":1e300,"SubActualCD":"3","SubSumCD":"2","SubHD":[1],"MovieName":12,
+                "MovieKind":"episode","SeriesSeason":"x","SeriesEpisode":-2,"IDMovieImdb":0.5,"SubFormat":null,
+                "SubLanguageID":"xyz","ISO639":"PB","IDSubtitleFile":1952848198,"SubHearingImpaired":1,"SubFromTrusted":true)") +
+        ",{\"SubFileName\":\"\xE9.srt\",\"ZipDownloadLink\":\"https://dl/1\"}]");
+    EXPECT_EQ(reading.status, Status::Success);
+    ASSERT_EQ(reading.results.size(), 3u);
+    EXPECT_EQ(reading.results[0]->archiveLink, QStringLiteral("http://dl/2.gz"));
+    EXPECT_EQ(reading.results[2]->fileName, QStringLiteral("\uFFFD.srt"));
+
+    auto const& odd = *reading.results[1];
+    auto const& facts = odd.facts;
+    EXPECT_TRUE(odd.tags.empty());
+    EXPECT_FALSE(facts.downloadCount || facts.rating || facts.voteCount || facts.framesPerSecond || facts.year ||
+                 facts.season || facts.episode || facts.uploaded.isValid() || facts.isHighDefinition);
+    EXPECT_TRUE(facts.isHearingImpaired && facts.isFromTrusted);
+    EXPECT_EQ(facts.discNumber, 1);
+    EXPECT_EQ(facts.discCount, 1);
+    EXPECT_EQ(facts.title, QStringLiteral("12"));
+    EXPECT_EQ(facts.imdbId, "");
+    EXPECT_EQ(facts.language, LanguageID::PortugueseBR);
+    EXPECT_EQ(facts.languageCode, QStringLiteral("xyz"));
+    EXPECT_EQ(facts.serviceId, QStringLiteral("1952848198"));
+}
+
+TEST(LegacyReplyTest, ReadsTextsAsTheyAreMeant)
+{
+    auto const results =
+        ReadSearch(
+            "[" + Row(R"("SubFileName":"a.SrT","MovieName":"Tom &amp; J&eacute;rry&#039;s &#x22;&#0;Tale&quot;",
+        "MovieKind":"movie","SubAuthorComment":"one\r\n\ttwo &amp;lt;","MovieReleaseName":" Up.2009 ")") +
+            "," +
+            Row(R"("MovieName":"&quot;Game of Thrones&quot; The Kingsroad","MovieKind":"episode","SeriesSeason":"0",
+        "SeriesEpisode":"2","IDMovieImdb":"0","SeriesIMDBParent":"0944947","SubFormat":"SUB")") +
+            "]")
+            .results;
+    ASSERT_EQ(results.size(), 2u);
+    EXPECT_EQ(results[0]->facts.title, QStringLiteral("Tom & J&eacute;rry's \" Tale\""));
+    EXPECT_EQ(results[0]->facts.comment, QStringLiteral("one two &lt;"));
+    EXPECT_EQ(results[0]->facts.release, QStringLiteral("Up.2009"));
+    EXPECT_EQ(results[0]->tags.at(SearchTags::FILE_FORMAT), "srt");
+    EXPECT_EQ(results[1]->facts.title, QStringLiteral("Game of Thrones"));
+    EXPECT_EQ(results[1]->facts.season, 0);
+    EXPECT_EQ(results[1]->facts.imdbId, "944947");
+    EXPECT_EQ(results[1]->tags.at(SearchTags::FILE_FORMAT), "sub");
+}
+
+TEST(LegacyReplyTest, FoldsSuggestions)
+{
+    RESTAutoSuggestRequest request({}, QStringLiteral("up"));
+    auto const reading = Read(request, R"(Notice: x[1] [{"name":"Up","year":"2009","id":1},{"name":"Up"},{"name":7},{},
+        "Up there",{"name":"Tom &amp; Jerry","kind":"tv"},{"name":" "}])");
+    EXPECT_EQ(reading.status, Status::Success);
+    EXPECT_THAT(reading.suggestions, ElementsAre(QStringLiteral("Up"), QStringLiteral("Tom & Jerry")));
+    EXPECT_EQ(Read(request, "<html></html>").status, Status::ServerError);
+    EXPECT_TRUE(Read(request, "{\"name\":\"Up\"}").suggestions.empty());
+}
+
+TEST(LegacyReplyTest, ReadsEveryRecordedReply)
+{
+    QByteArray const replies = qgetenv("KORVEX_TEST_REPLIES");
+    if (replies.isEmpty())
+        GTEST_SKIP() << "KORVEX_TEST_REPLIES names no folder of recorded replies.";
+    QDir const folder(QString::fromLocal8Bit(replies));
+    QFile index(folder.filePath(QStringLiteral("INDEX.json")));
+    ASSERT_TRUE(index.open(QIODevice::ReadOnly));
+
+    std::vector<Result> all;
+    for (QJsonValue const& entry : QJsonDocument::fromJson(index.readAll()).array())
+    {
+        QString const name = entry.toObject().value(QStringLiteral("file")).toString();
+        if (!name.startsWith(QStringLiteral("v0/")))
+            continue;
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+        auto const reading = ReadSearch(file.readAll());
+        EXPECT_EQ(reading.status, Status::Success) << name.toStdString();
+        EXPECT_EQ(static_cast<int>(reading.results.size()), entry.toObject().value(QStringLiteral("rows")).toInt());
+        all.insert(all.end(), reading.results.begin(), reading.results.end());
+    }
+
+    auto const count = [&](auto const& holds) {
+        return std::count_if(all.begin(), all.end(),
+                             [&](Result const& result) { return holds(*result, result->facts); });
+    };
+    using Data = RESTSearchResultData;
+    using Facts = UseCases::SearchResultFacts;
+    EXPECT_EQ(all.size(), 66u);
+    EXPECT_EQ(count([](Data const& data, Facts const&) { return data.tags.at(SearchTags::FILE_FORMAT) == "srt"; }), 65);
+    EXPECT_EQ(count([](Data const& data, Facts const&) { return data.subtitleHash.size() == 32; }), 66);
+    EXPECT_EQ(count([](Data const& data, Facts const&) { return data.encoding == QStringLiteral("CP1250"); }), 8);
+    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.language == LanguageID::None; }), 0);
+    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.language == LanguageID::English; }), 23);
+    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.isHearingImpaired; }), 11);
+    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.isHashMatch; }), 22);
+    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.isHighDefinition; }), 44);
+    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.isFromTrusted; }), 16);
+    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.rating.has_value(); }), 17);
+    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.framesPerSecond.has_value(); }), 49);
+    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.season && facts.episode; }), 18);
+    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.discCount == 3; }), 3);
+    EXPECT_EQ(
+        count([](Data const&, Facts const& facts) { return facts.title.contains(u'"') || facts.title.isEmpty(); }), 0);
+    EXPECT_EQ(count([](Data const&, Facts const& facts)
+                    { return facts.uploaded.isValid() && facts.downloadCount && facts.year && !facts.imdbId.empty(); }),
+              66);
+
+    auto const kingsroad =
+        std::find_if(all.begin(), all.end(),
+                     [](Result const& result) { return result->facts.serviceId == QStringLiteral("1952848198"); });
+    ASSERT_NE(kingsroad, all.end());
+    Facts const& facts = (*kingsroad)->facts;
+    EXPECT_EQ(facts.title, QStringLiteral("Game of Thrones"));
+    EXPECT_EQ(facts.season, 1);
+    EXPECT_EQ(facts.episode, 2);
+    EXPECT_EQ(facts.imdbId, "1668746");
+    EXPECT_EQ(facts.downloadCount, 2339161);
+    EXPECT_EQ(facts.rating, 6.9);
+    EXPECT_EQ(facts.voteCount, 8);
+    EXPECT_EQ(facts.uploaded, QDateTime(QDate(2011, 4, 25), QTime(6, 39, 10), Qt::UTC));
+    EXPECT_EQ((*kingsroad)->archiveLink,
+              QStringLiteral("https://dl.opensubtitles.org/en/download/src-api/vrf-f5450bba/subad/4167735"));
+}
+
+} // namespace
+} // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_0
