@@ -113,7 +113,7 @@ TEST(LegacyRequestAddressTest, SendsTheLinkOfAnArchiveAsItWasGiven)
 {
     auto const result = std::make_shared<RESTSearchResultData>();
     result->archiveLink =
-        QStringLiteral("https://dl.example.org/en/download/src-api/vrf-19dE/sid-aBcD%2f,Q/subad/4167735");
+        QStringLiteral("https://dl.example.org/en/download/src-api/vrf-19dE/sid-aBcD%2F,Q/subad/4167735");
     RESTArchiveDownloadRequest request(Configure("https://rest.example.org"), result, "folder");
     QNetworkRequest const sent = request.CreateRequest();
     EXPECT_EQ(sent.url().toEncoded().toStdString(), result->archiveLink.toStdString());
