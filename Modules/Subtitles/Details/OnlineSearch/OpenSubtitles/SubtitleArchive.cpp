@@ -81,6 +81,13 @@ bool IsPlainFile(QuaZipFileInfo64 const& info, QString const& name)
     return !isFolder && !info.isEncrypted() && (type == 0 || type == UNIX_FILE);
 }
 
+/// Damaged archives send their reader anywhere; it hears of that by the result, without a warning on standard error.
+class Memory final : public QBuffer
+{
+public:
+    bool seek(qint64 position) override { return position >= 0 && position <= size() && QBuffer::seek(position); }
+};
+
 /// An archive in memory, read member by member.
 class Archive final
 {
@@ -147,7 +154,7 @@ public:
     }
 
 private:
-    QBuffer m_device; ///< outlives its reader
+    Memory m_device; ///< outlives its reader
     QuaZip m_zip;
     qint64 m_workBytes = 0;
 };
