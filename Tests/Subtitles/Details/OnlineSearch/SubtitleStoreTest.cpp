@@ -225,7 +225,7 @@ TEST_F(SubtitleStoreTest, WritesIntoAFolderOfItsOwnMakingAndNeverOverANeighbour)
 TEST_F(SubtitleStoreTest, KeepsAllFilesOfOneNameStoredAtOnce)
 {
     constexpr int THREADS = 8;
-    constexpr int FILES = 40;
+    constexpr int FILES = 25;
     std::vector<std::thread> threads;
     std::array<std::vector<StoredFile>, THREADS> stored;
     for (int thread = 0; thread < THREADS; ++thread)
