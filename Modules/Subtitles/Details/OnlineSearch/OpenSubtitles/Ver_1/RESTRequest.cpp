@@ -11,6 +11,12 @@ namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_1
 namespace
 {
 
+// The policy that took its place says more than a request has to decide.
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+constexpr auto FOLLOW_REDIRECTS = QNetworkRequest::FollowRedirectsAttribute;
+QT_WARNING_POP
+
 QByteArray const JSON_TYPE = QByteArrayLiteral("application/json");
 
 /// What separates parameters, or a query from what follows it. A percent sign stays: at worst it stands for a
@@ -49,10 +55,7 @@ QUrl RESTRequest::Refuse(QString const& reason)
 QNetworkRequest RESTRequest::AddressTo(QUrl const& url) const
 {
     QNetworkRequest request(url);
-    QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED // the policy that replaces it says more than is for a request to decide
-        request.setAttribute(QNetworkRequest::FollowRedirectsAttribute, true);
-    QT_WARNING_POP
+    request.setAttribute(FOLLOW_REDIRECTS, true);
     request.setHeader(QNetworkRequest::ContentTypeHeader, JSON_TYPE);
     request.setRawHeader(QByteArrayLiteral("Accept"), JSON_TYPE);
     if (IsSameOrigin(url, QUrl(m_configuration.baseUrl)))
