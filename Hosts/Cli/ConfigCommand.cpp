@@ -102,17 +102,16 @@ std::vector<OptionGroup> ConfigCommand::Options() const
 std::string_view ConfigCommand::Notes() const
 {
     return "An API key is shown by its last four characters at most. The file looks like\n"
-           "this; KORVEX_CONFIG names another one. Variables that are set go over it:\n"
+           "this; KORVEX_CONFIG names another one:\n"
            "\n"
            "  [opensubtitles]\n"
-           "  url = https://...         KORVEX_OPENSUBTITLES_URL\n"
-           "  api_key = ...             KORVEX_OPENSUBTITLES_API_KEY\n"
-           "  legacy_url = https://...  KORVEX_OPENSUBTITLES_LEGACY_URL\n"
-           "  timeout = 30              KORVEX_OPENSUBTITLES_TIMEOUT\n"
-           "  json_body = false         KORVEX_OPENSUBTITLES_JSON_BODY\n"
+           "  api_key = 0123456789abcdef\n"
+           "  timeout = 30\n"
            "  [features]\n"
-           "  USE_OPENSUBTITLES_VER_1 = false\n"
+           "  USE_OPENSUBTITLES_VER_1 = true\n"
            "\n"
+           "These variables go over it: KORVEX_OPENSUBTITLES_URL, ..._API_KEY,\n"
+           "..._LEGACY_URL, ..._TIMEOUT, ..._JSON_BODY. docs/online.md explains each.\n"
            "With an API key version 1 of the service is asked, without one the older one.\n";
 }
 
