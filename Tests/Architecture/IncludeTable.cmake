@@ -22,7 +22,7 @@ set(INCLUDE_GROUPS
 set(INCLUDE_RULES
     # folder                                  allowed
     "Modules/Subtitles/Entities|^Subtitles/Entities/ ^Core/(ioPath|EventPublisher|EventHandlerList)\\.h QT_CORE QT_GUI BOOST"
-    "Modules/Subtitles/UseCases|^Subtitles/(Entities|UseCases)/ ^Transcoder/ ^Core/(ioPath|FileSystem|ScopedObservation|EventPublisher|EventHandlerList)\\.h ^Q(Hash|RegularExpression|Set)$ QT_CORE BOOST_POINTERS GLOG CONTAINER"
+    "Modules/Subtitles/UseCases|^Subtitles/(Entities|UseCases)/ ^Transcoder/ ^App/ICustomizationManager\\.h ^Core/(ioPath|FileSystem|ScopedObservation|EventPublisher|EventHandlerList)\\.h ^Q(Hash|RegularExpression|Set)$ QT_CORE BOOST_POINTERS GLOG CONTAINER"
     "Modules/Subtitles/Adapters|^Subtitles/(Entities|UseCases|Adapters)/ ^Proc/[A-Za-z]+\\.h ^Core/ ^Conf/ ^App/ QT_CORE QT_GUI BOOST_POINTERS GLOG CONTAINER"
     "Modules/Subtitles/Details/OnlineSearch|^Subtitles/(Entities|UseCases)/ ^Subtitles/Details/OnlineSearch/ ^Subtitles/Version\\.h ^Core/ ^App/Configuration\\.h QT_CORE QT_MODEL QT_NETWORK QUAZIP ZLIB GLOG CONTAINER"
     "Modules/Subtitles/Details|^Subtitles/(Entities|UseCases|Adapters|Details)/ ^Core/(ioPath|EventHandlerList|EventPublisher|ScopedObservation)\\.h ^Conf/ ^App/ ^Gui/ QT_WIDGETS GLOG CONTAINER"

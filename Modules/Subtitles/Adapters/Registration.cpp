@@ -5,6 +5,8 @@
 #include "Subtitles/Adapters/ItemPresenter.h"
 #include "Subtitles/Adapters/MessagesController.h"
 #include "Subtitles/Adapters/OnlineDownloaderController.h"
+#include "Subtitles/Adapters/SearchDialogStatisticHandler.h"
+#include "Subtitles/Adapters/StatisticTrackerAdapter.h"
 #include "Subtitles/Adapters/SubtitleCollectionPresenter.h"
 #include "Subtitles/Adapters/SubtitleController.h"
 #include "Subtitles/Adapters/SubtitleStreamAdapter.h"
@@ -13,6 +15,7 @@
 #include "Subtitles/UseCases/RegistrationGroups.h"
 
 #include "App/GUIContainer.h"
+#include "App/IStatisticTracker.h"
 
 #include "Hypodermic/Container.h"
 #include "Hypodermic/ContainerBuilder.h"
@@ -61,6 +64,12 @@ void RegisterGroupOne(Hypodermic::ContainerBuilder& builder)
     builder.registerType<MessagesController>().as<UseCases::IMessagesController>();
     builder.registerType<OnlineDownloaderController>().as<UseCases::IOnlineDownloaderController>();
     builder.registerType<SubtitleStreamAdapter>().as<UseCases::ISubtitleStreamAdapter>();
+    builder.registerType<StatisticTrackerAdapter>().as<IStatisticTrackerAdapter>().singleInstance();
+}
+
+void RegisterGroupTwo(Hypodermic::ContainerBuilder& builder)
+{
+    builder.registerType<SearchDialogStatisticHandler>().as<ISearchDialogStatisticHandler>().singleInstance();
 }
 
 void RegisterGroupThree(Hypodermic::ContainerBuilder& builder)

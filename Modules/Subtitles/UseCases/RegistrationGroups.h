@@ -21,12 +21,17 @@ void RegisterGroupThree(Hypodermic::ContainerBuilder& builder);
 namespace Adapters
 {
 void RegisterGroupOne(Hypodermic::ContainerBuilder& builder);
+void RegisterGroupTwo(Hypodermic::ContainerBuilder& builder);
 void RegisterGroupThree(Hypodermic::ContainerBuilder& builder);
 } // namespace Adapters
 
 namespace Details
 {
 void RegisterGroupOne(Hypodermic::ContainerBuilder& builder);
+void RegisterGroupTwo(Hypodermic::ContainerBuilder& builder);
+/// The end of group two is one of these.
+void RegisterLegacyClient(Hypodermic::ContainerBuilder& builder);
+void RegisterVersion1Client(Hypodermic::ContainerBuilder& builder);
 void RegisterGroupThree(Hypodermic::ContainerBuilder& builder);
 } // namespace Details
 

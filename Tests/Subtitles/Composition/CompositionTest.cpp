@@ -3,6 +3,10 @@
 #include "Subtitles/Adapters/IEditingPanel.h"
 #include "Subtitles/Adapters/IExternalSubtitlesDialog.h"
 #include "Subtitles/Adapters/IItemPanel.h"
+#include "Subtitles/Details/OnlineSearch/INetworkManager.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/IRESTRequestFactory.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTSearchEngine.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_1/RESTSearchEngine.h"
 #include "Subtitles/Entities/ISubtitleImpl.h"
 #include "Subtitles/Subtitles.h"
 #include "Subtitles/UseCases/IAdaptersFactory.h"
@@ -11,10 +15,12 @@
 #include "Subtitles/UseCases/IMessagesController.h"
 #include "Subtitles/UseCases/IOnlineDownloaderController.h"
 #include "Subtitles/UseCases/IOnlineDownloaderInteractor.h"
+#include "Subtitles/UseCases/IOnlineSearchMetadataFiller.h"
 #include "Subtitles/UseCases/ISubtitleCollectionPresenter.h"
 #include "Subtitles/UseCases/ISubtitleController.h"
 #include "Subtitles/UseCases/ISubtitleStreamAdapter.h"
 
+#include "App/Configuration.h"
 #include "App/GUIContainer.h"
 
 #include "Hypodermic/Container.h"
@@ -25,13 +31,14 @@ namespace Korvex::Converter::Subtitles
 namespace
 {
 
-std::shared_ptr<Hypodermic::Container> BuildModule()
+std::shared_ptr<Hypodermic::Container>
+BuildModule(std::shared_ptr<App::ICustomizationManager> const& customization = nullptr)
 {
     Hypodermic::ContainerBuilder builder;
     builder.registerInstance(std::make_shared<Testing::FakeTranscoder>())
         .as<Transcoder::Entities::ITranscoderInteractor>();
     builder.registerInstance(std::make_shared<Gui::GUIContainer>());
-    FillBuilder(builder, nullptr);
+    FillBuilder(builder, customization);
     auto container = builder.build();
     InitFactories(container);
     return container;
@@ -69,6 +76,32 @@ TEST(CompositionTest, RegistersEveryInterfaceOnce)
     auto const factory = container->resolve<UseCases::IAdaptersFactory>();
     EXPECT_NE(factory->CreateEditingPresenter(), factory->CreateEditingPresenter());
     EXPECT_NE(factory->CreateItemPresenter(), factory->CreateItemPresenter());
+}
+
+TEST(CompositionTest, TheFeatureChoosesTheOnlineClient)
+{
+    using namespace Details::OpenSubtitles;
+    auto const build = [](std::map<std::string, bool> const& features)
+    {
+        App::Configuration configuration;
+        configuration.features = features;
+        return BuildModule(std::make_shared<App::CustomizationManager>(configuration));
+    };
+    for (auto const& legacy : {BuildModule(), build({}), build({{"USE_OPENSUBTITLES_VER_1", false}})})
+    {
+        ExpectOneOfEach<UseCases::IOnlineSearchController, UseCases::IOnlineSearchMetadataFiller, IRESTRequestFactory>(
+            *legacy, Lifetime::EachAnew);
+        ExpectOne<Details::INetworkManager>(*legacy, Lifetime::Shared);
+        auto const engine = legacy->resolve<UseCases::IOnlineSearchController>();
+        EXPECT_NE(dynamic_cast<Ver_0::RESTSearchEngine*>(engine.get()), nullptr);
+    }
+    auto const version1 = build({{"USE_OPENSUBTITLES_VER_1", true}});
+    ExpectOneOfEach<UseCases::IOnlineSearchController, IRESTRequestFactory>(*version1, Lifetime::EachAnew);
+    ExpectOne<Details::INetworkManager>(*version1, Lifetime::Shared);
+    auto const engine = version1->resolve<UseCases::IOnlineSearchController>();
+    EXPECT_NE(dynamic_cast<Ver_1::RESTSearchEngine*>(engine.get()), nullptr);
+    EXPECT_TRUE(version1->resolveAll<UseCases::IOnlineSearchMetadataFiller>().empty());
+    EXPECT_TRUE(version1->resolve<UseCases::IOnlineDownloaderInteractor>()->IsAvailable());
 }
 
 TEST(CompositionTest, PoolUsesAnInteractorAgainOnceItIsFree)
