@@ -350,13 +350,15 @@ TEST_F(SearchEngineTest, TheServersWordsAreThereWhenTheFailureIsTold)
 {
     using Reason = UseCases::ServerReport::Reason;
     QByteArray body;
+    QByteArray quota = "5";
     int httpStatus = 0;
     auto error = Reply::NoError;
     Create(
         [&](FakeReply& reply)
         {
             reply.SetBody(body, httpStatus);
-            reply.SetHeader("Download-Quota", "5");
+            if (!quota.isEmpty())
+                reply.SetHeader("Download-Quota", quota);
             QTimer::singleShot(0, &reply, [&] { reply.End(error); });
         });
     UseCases::ServerReport told;
@@ -395,11 +397,14 @@ TEST_F(SearchEngineTest, TheServersWordsAreThereWhenTheFailureIsTold)
     ASSERT_TRUE(WaitUntilIdle());
     EXPECT_EQ(engine->GetServerReport().reason, Reason::NotASubtitle);
 
-    // The answers to a POST speak of the quota.
-    body = R"({"link":"x","remaining":3})";
+    // The answers to a POST speak of the quota, which the fetch of the file after it does not make forgotten.
+    body = R"({"link":"x","remaining":3,"message":"3 more"})";
+    quota.clear();
     Queue("link")->type = INetworkOperation::Type::HttpPost;
+    Queue("file");
     RunOne();
     EXPECT_EQ(engine->GetServerReport().remainingDownloads, 3);
+    EXPECT_EQ(engine->GetServerReport().message, QString());
 
     EXPECT_EQ(engine->DownloadSubtitles({}, {}), Status::Success);
     EXPECT_EQ(engine->GetServerReport().httpStatus, 0) << "an accepted start forgets";

@@ -34,6 +34,18 @@ void RegisterMetaTypes()
         qRegisterMetaType<UseCases::ServerReport>("Korvex::Converter::Subtitles::UseCases::ServerReport");
 }
 
+/// The quota outlives the reply that told it: the fetch of a file says nothing of it, the request for its link did.
+void TakeQuotaFrom(UseCases::ServerReport const& earlier, UseCases::ServerReport& report)
+{
+    if (!report.remainingDownloads)
+        report.remainingDownloads = earlier.remainingDownloads;
+    if (report.resetTime.isEmpty() && !report.resetsAt.isValid())
+    {
+        report.resetTime = earlier.resetTime;
+        report.resetsAt = earlier.resetsAt;
+    }
+}
+
 } // namespace
 
 RESTSearchEngine::RESTSearchEngine(std::shared_ptr<INetworkManager> const& networkManager)
@@ -133,6 +145,7 @@ void RESTSearchEngine::StartNextRequest()
 {
     if (!HasPendingRequest())
         return;
+    TakeReport({}); // words of the request before are none about this one
     m_worker->SetRequest(m_queue.front());
     QueueGiving const giving(m_worker.get());
     Q_EMIT QueueRequest();
@@ -200,10 +213,16 @@ void RESTSearchEngine::OnReported(UseCases::ServerReport const& report)
     TakeFromQueue(m_worker.get());
     if (!HasPendingRequest() || m_isCanceled)
         return;
-    m_serverReport = report;
+    TakeReport(report);
+}
+
+void RESTSearchEngine::TakeReport(UseCases::ServerReport report)
+{
+    TakeQuotaFrom(m_serverReport, report);
     // Only the one who started the operation knows whether a file was asked for.
     if (m_operationKind != OperationKind::Download && report.reason == UseCases::ServerReport::Reason::NotASubtitle)
-        m_serverReport.reason = UseCases::ServerReport::Reason::None;
+        report.reason = UseCases::ServerReport::Reason::None;
+    m_serverReport = std::move(report);
 }
 
 template <typename Callable>

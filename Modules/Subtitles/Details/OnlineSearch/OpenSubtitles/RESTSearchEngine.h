@@ -86,6 +86,7 @@ private:
         Download,
     };
     Status StartFirstRequest(OperationKind kind);
+    void TakeReport(UseCases::ServerReport report);
     /// False when an observer deleted this engine: nothing of it may be touched then.
     template <typename Callable>
     [[nodiscard]] bool Tell(Callable const& callable);

@@ -1,0 +1,391 @@
+#include "Support/OnlineServer/OnlineServer.h"
+
+#include "Subtitles/Details/OnlineSearch/INetworkOperation.h"
+#include "Subtitles/Details/OnlineSearch/NetworkManagerQt.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/RESTRequest.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/RESTSearchEngine.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QNetworkRequest>
+#include <QTest>
+#include <QThread>
+#include <QUrl>
+#include <QUrlQuery>
+
+#include <algorithm>
+#include <array>
+#include <deque>
+#include <iostream>
+#include <memory>
+#include <optional>
+#include <random>
+
+namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
+{
+namespace
+{
+
+using namespace std::chrono_literals;
+
+using Status = UseCases::IOnlineSearchController::Status;
+using Korvex::Testing::HttpReply;
+using Korvex::Testing::HttpRequest;
+
+/// How one request goes: what the server does, and what has to be heard of it.
+struct Fate
+{
+    char const* path; ///< "/<what the server does>"
+    std::optional<Status> outcome;
+    int httpStatus = 0; ///< in the engine's report when the failure is told
+};
+
+/// Nothing at all is heard of a fate without an outcome: the engine stays busy until it is destroyed.
+constexpr std::array<Fate, 16> FATES{{{"/at-once", Status::Success},
+                                      {"/late", Status::Success},
+                                      {"/later", Status::Success},
+                                      {"/in-pieces", Status::Success},
+                                      {"/broken", Status::ServerError, 200},
+                                      {"/empty", Status::ServerError, 200},
+                                      {"/page", Status::ServerError, 200},
+                                      {"/drop", Status::ServerError, 200},
+                                      {"/status/401", Status::NetworkError, 401},
+                                      {"/status/404", Status::ServerError, 404},
+                                      {"/status/406", Status::NetworkError, 406},
+                                      {"/status/429", Status::NetworkError, 429},
+                                      {"/status/503", Status::ServerError, 503},
+                                      {"/refused", Status::ServerError},
+                                      {"/invalid", Status::InvalidRequest},
+                                      {"/silence", std::nullopt}}};
+
+constexpr int GOOD_FATES = 4; ///< the first ones
+
+constexpr Fate TIME_OUT{"/silence", Status::NoConnection};
+
+HttpReply Play(HttpRequest const& request)
+{
+    HttpReply reply;
+    reply.body = R"([{"title":"up"}])";
+    auto const target = request.target;
+    if (target == "/late")
+        reply.delayMs = 2;
+    else if (target == "/later")
+        reply.delayMs = 9;
+    else if (target == "/in-pieces")
+        reply.pieceBytes = 5, reply.pauseMs = 1;
+    else if (target == "/broken")
+        reply.body = "[{";
+    else if (target == "/empty")
+        reply.body = "";
+    else if (target == "/page")
+        reply.body = "<html><title>Down</title></html>";
+    else if (target == "/drop")
+        reply.dropAfterBytes = 3;
+    else if (target == "/silence")
+        reply.neverAnswers = true;
+    else if (target.startsWith("/status/"))
+        reply.status = target.mid(8).toInt();
+    return reply;
+}
+
+class FatedRequest final : public RESTRequest
+{
+public:
+    FatedRequest(Fate const& fate, QString const& baseUrl)
+        : m_path(QString::fromLatin1(fate.path)),
+          m_baseUrl(m_path == QLatin1String("/refused") ? QStringLiteral("http://127.0.0.1:9") : baseUrl)
+    {
+    }
+
+    QUrl CreateQuery(QString const& baseUrl) override { return QUrl(baseUrl + m_path); }
+    QNetworkRequest CreateRequest() override
+    {
+        if (m_path == QLatin1String("/invalid"))
+            Fail(Status::InvalidRequest, {});
+        return QNetworkRequest(CreateQuery(m_baseUrl));
+    }
+    Status ParseJsonReply(QJsonDocument const&) override { return Status::Success; }
+    void NotifySuccess(UseCases::IOnlineSearchControllerObserver& observer) override
+    {
+        observer.OnAutoSuggestResults({m_path});
+    }
+
+private:
+    QString const m_path;
+    QString const m_baseUrl;
+};
+
+class FatedEngine final : public RESTSearchEngine
+{
+public:
+    FatedEngine(std::shared_ptr<INetworkManager> const& network, QString baseUrl)
+        : RESTSearchEngine(network),
+          m_baseUrl(std::move(baseUrl))
+    {
+    }
+
+    std::vector<Fate> next;
+
+protected:
+    void AddSearchRequest(UseCases::SearchRequest const&) override
+    {
+        for (auto const& fate : next)
+            Append(std::make_shared<FatedRequest>(fate, m_baseUrl));
+    }
+    void AddAutoSuggestRequest(QString const&) override {}
+    void AddDownloadRequest(std::shared_ptr<UseCases::SearchResult> const&, ioPath const&) override {}
+
+private:
+    QString const m_baseUrl;
+};
+
+/// What the whole run counts, so that it is seen to have tried everything.
+struct Counts
+{
+    int started = 0;
+    int rejected = 0;
+    int cancelled = 0;
+    int destroyedIdle = 0;
+    int destroyedRunning = 0;
+    int destroyedFromWithin = 0;
+    int finished = 0;
+    int failed = 0;
+};
+
+/// One engine after the other, and what still has to be heard of the current one.
+class Player final : public UseCases::IOnlineSearchControllerObserver
+{
+public:
+    Player(std::shared_ptr<INetworkManager> network, std::vector<Fate> fates, QString baseUrl, std::mt19937& random,
+           Counts& counts)
+        : m_network(std::move(network)),
+          m_fates(std::move(fates)),
+          m_baseUrl(std::move(baseUrl)),
+          m_random(random),
+          m_counts(counts)
+    {
+    }
+
+    /// One random step.
+    void Act()
+    {
+        if (m_engine == nullptr)
+            Create();
+        CheckIdle();
+        switch (Draw(m_isHanging ? 6 : 12))
+        {
+        case 0:
+            return Destroy();
+        case 1:
+        case 2:
+            return Cancel();
+        default:
+            return Start();
+        }
+    }
+
+    /// What is heard when nothing is done any more. Engines that wait for ever are destroyed.
+    void Settle()
+    {
+        if (m_isHanging)
+            return Destroy();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return m_engine == nullptr || !m_engine->HasPendingRequest(); }));
+        QTest::qWait(2);
+        CheckIdle();
+    }
+
+    void Destroy()
+    {
+        if (m_engine == nullptr)
+            return;
+        ++(m_engine->HasPendingRequest() ? m_counts.destroyedRunning : m_counts.destroyedIdle);
+        m_expected.clear();
+        m_isHanging = false;
+        QElapsedTimer timer;
+        timer.start();
+        m_engine.reset();
+        EXPECT_LT(timer.elapsed(), 4000) << "an event loop that is free ends at once";
+    }
+
+    void OnSearchResults(std::vector<std::shared_ptr<UseCases::SearchResult>> const&) override { Hear("results"); }
+    void OnSubtitlesDownloaded(std::shared_ptr<UseCases::SearchResult> const&, ioPath const&) override { Hear("file"); }
+    void OnAutoSuggestResults(std::vector<QString> const& suggestions) override
+    {
+        Hear(suggestions.at(0).toStdString());
+    }
+    void OnOperationFinished() override
+    {
+        ++m_counts.finished;
+        Hear("finished");
+    }
+    void OnOperationFailed(Status status, QString const&) override
+    {
+        ++m_counts.failed;
+        Hear("failed " + std::to_string(status) + ' ' + std::to_string(m_engine->GetServerReport().httpStatus));
+    }
+
+private:
+    int Draw(int count) { return std::uniform_int_distribution<int>(0, count - 1)(m_random); }
+
+    /// Half of them good ones, or hardly any operation would come to its end.
+    Fate DrawFate()
+    {
+        auto const count = static_cast<int>(m_fates.size());
+        return m_fates[static_cast<std::size_t>(Draw(Draw(2) == 0 ? count : std::min(count, GOOD_FATES)))];
+    }
+
+    void Create()
+    {
+        m_engine = std::make_unique<FatedEngine>(m_network, m_baseUrl);
+        m_engine->RegisterEventHandler(this);
+    }
+
+    void Start()
+    {
+        std::vector<Fate> fates(1 + static_cast<std::size_t>(Draw(3)));
+        for (auto& fate : fates)
+            fate = DrawFate();
+        bool const isBusy = m_engine->HasPendingRequest();
+        m_engine->next = fates;
+        EXPECT_EQ(m_engine->StartSearch({}), isBusy ? Status::Busy : Status::Success);
+        if (isBusy)
+        {
+            ++m_counts.rejected;
+            return;
+        }
+        ++m_counts.started;
+        EXPECT_TRUE(m_expected.empty());
+        Expect(fates);
+    }
+
+    void Expect(std::vector<Fate> const& fates)
+    {
+        for (auto const& fate : fates)
+        {
+            m_isHanging = !fate.outcome;
+            if (m_isHanging)
+                return;
+            if (fate.outcome != Status::Success)
+            {
+                m_expected.push_back("failed " + std::to_string(*fate.outcome) + ' ' + std::to_string(fate.httpStatus));
+                return;
+            }
+            m_expected.emplace_back(fate.path);
+        }
+        m_expected.emplace_back("finished");
+    }
+
+    void Cancel()
+    {
+        bool const isBusy = m_engine->HasPendingRequest();
+        EXPECT_EQ(m_engine->CancelOperation(), isBusy);
+        m_expected.clear();
+        m_counts.cancelled += isBusy ? 1 : 0;
+    }
+
+    void CheckIdle()
+    {
+        bool const isIdle = m_engine != nullptr && !m_engine->HasPendingRequest();
+        EXPECT_TRUE(!isIdle || m_expected.empty()) << "never told: " << m_expected.front();
+    }
+
+    void Hear(std::string const& event)
+    {
+        EXPECT_EQ(QThread::currentThread(), qApp->thread());
+        if (m_expected.empty() || m_expected.front() != event)
+        {
+            ADD_FAILURE() << "heard \"" << event << "\" in place of "
+                          << (m_expected.empty() ? "nothing" : m_expected.front());
+            return;
+        }
+        m_expected.pop_front();
+        React();
+    }
+
+    /// What observers do from inside a notification.
+    void React()
+    {
+        switch (Draw(20))
+        {
+        case 0:
+            ++m_counts.destroyedFromWithin;
+            return Destroy();
+        case 1:
+            return Cancel();
+        case 2:
+            return Start();
+        default:
+            return;
+        }
+    }
+
+    std::shared_ptr<INetworkManager> const m_network;
+    std::vector<Fate> const m_fates;
+    QString const m_baseUrl;
+    std::mt19937& m_random;
+    Counts& m_counts;
+    std::unique_ptr<FatedEngine> m_engine;
+    std::deque<std::string> m_expected;
+    bool m_isHanging = false; ///< a request that the server never answers is queued
+};
+
+int ReadNumber(char const* variable, int fallback)
+{
+    bool isNumber = false;
+    int const number = qEnvironmentVariableIntValue(variable, &isNumber);
+    return isNumber ? number : fallback;
+}
+
+/// The number of steps and the seed can be set from outside.
+TEST(EngineStressTest, EveryOutcomeIsToldOnceAndACancelledOneNever)
+{
+    int argumentCount = 0;
+    QCoreApplication const application(argumentCount, nullptr);
+    int const stepCount = ReadNumber("KORVEX_STRESS_STEPS", 5000);
+    int const seed = ReadNumber("KORVEX_STRESS_SEED", static_cast<int>(std::random_device()() & 0xFFFFFF));
+    SCOPED_TRACE("KORVEX_STRESS_SEED=" + std::to_string(seed));
+
+    std::mt19937 random(static_cast<std::mt19937::result_type>(seed));
+    Korvex::Testing::OnlineServer const server(&Play);
+    // Engines are many, the network manager is one; the impatient one is for time-outs alone, so that a machine under
+    // load makes no others.
+    auto const patient = std::make_shared<NetworkManagerQt>(NetworkLimits{120s}, PostBody::Form);
+    auto const impatient = std::make_shared<NetworkManagerQt>(NetworkLimits{15ms}, PostBody::Form);
+    Counts counts;
+    std::vector<std::unique_ptr<Player>> players;
+    for (int i = 0; i < 5; ++i)
+        players.push_back(std::make_unique<Player>(patient, std::vector<Fate>(FATES.begin(), FATES.end()),
+                                                   server.GetUrl(), random, counts));
+    players.push_back(
+        std::make_unique<Player>(impatient, std::vector<Fate>{TIME_OUT}, server.GetUrl(), random, counts));
+
+    std::uniform_int_distribution<std::size_t> anyPlayer(0, players.size() - 1);
+    std::uniform_int_distribution<int> pauseMs(-3, 2);
+    for (int step = 0; step < stepCount && !testing::Test::HasFailure(); ++step)
+    {
+        players[anyPlayer(random)]->Act();
+        if (int const pause = pauseMs(random); pause > 0)
+            QTest::qWait(pause);
+        else
+            QCoreApplication::processEvents();
+    }
+    for (auto const& player : players)
+        player->Settle();
+    for (auto const& player : players)
+        player->Destroy();
+
+    std::cout << counts.started << " started, " << counts.rejected << " rejected, " << counts.cancelled
+              << " cancelled, " << counts.finished << " finished, " << counts.failed << " failed; destroyed "
+              << counts.destroyedIdle << " idle, " << counts.destroyedRunning << " running, "
+              << counts.destroyedFromWithin << " from within\n";
+    EXPECT_EQ(patient.use_count(), 1 + 5);
+    for (int const count : {counts.started, counts.rejected, counts.cancelled, counts.finished, counts.failed,
+                            counts.destroyedIdle, counts.destroyedRunning, counts.destroyedFromWithin})
+        EXPECT_GT(count, 0);
+}
+
+} // namespace
+} // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
