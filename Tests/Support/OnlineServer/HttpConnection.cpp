@@ -13,6 +13,8 @@ namespace Korvex::Testing
 namespace
 {
 
+constexpr qint64 MAX_BYTES_BEHIND = 1'000'000;
+
 QByteArray GetReason(int status)
 {
     switch (status)
@@ -69,6 +71,12 @@ HttpConnection::HttpConnection(qintptr socketHandle, Answer answer, QObject* par
 {
     connect(&m_socket, &QTcpSocket::readyRead, this, &HttpConnection::ReadRequests);
     connect(&m_socket, &QTcpSocket::disconnected, this, &QObject::deleteLater);
+    connect(&m_socket, &QTcpSocket::bytesWritten, this,
+            [this]
+            {
+                if (m_isWaitingForClient)
+                    SendPieces();
+            });
     if (!m_socket.setSocketDescriptor(socketHandle))
     {
         deleteLater();
@@ -103,6 +111,7 @@ void HttpConnection::Begin(HttpRequest const& request)
              : m_reply.isGzip                  ? Gzip(m_reply.body)
              : m_reply.isDeflate               ? Deflate(m_reply.body)
                                                : m_reply.body;
+    m_totalBytes = m_body.size() * m_reply.bodyCount;
     if (m_reply.neverAnswers)
         return;
     if (m_reply.delayMs > 0)
@@ -133,7 +142,7 @@ void HttpConnection::SendHead()
     if (m_reply.isChunked)
         addIfMissing("Transfer-Encoding", "chunked");
     else
-        addIfMissing("Content-Length", QByteArray::number(m_body.size()));
+        addIfMissing("Content-Length", QByteArray::number(m_totalBytes));
     addIfMissing("Connection", m_isKeptAlive ? "keep-alive" : "close");
     m_isKeptAlive = FindHeader(headers, "Connection").toLower() != "close";
 
@@ -148,13 +157,16 @@ void HttpConnection::SendPieces()
 {
     if (m_socket.state() != QAbstractSocket::ConnectedState)
         return;
-    int const end = m_reply.dropAfterBytes < 0
-                        ? m_body.size()
-                        : static_cast<int>(std::min<qint64>(m_body.size(), m_reply.dropAfterBytes));
+    qint64 const end = m_reply.dropAfterBytes < 0 ? m_totalBytes : std::min(m_totalBytes, m_reply.dropAfterBytes);
     while (m_sentBytes < end)
     {
-        int const size = m_reply.pieceBytes > 0 ? std::min(m_reply.pieceBytes, end - m_sentBytes) : end - m_sentBytes;
-        QByteArray const piece = m_body.mid(m_sentBytes, size);
+        m_isWaitingForClient = m_socket.bytesToWrite() > MAX_BYTES_BEHIND;
+        if (m_isWaitingForClient)
+            return;
+        int const offset = static_cast<int>(m_sentBytes % m_body.size());
+        qint64 const most = std::min<qint64>(m_body.size() - offset, end - m_sentBytes);
+        int const size = static_cast<int>(m_reply.pieceBytes > 0 ? std::min<qint64>(m_reply.pieceBytes, most) : most);
+        QByteArray const piece = m_body.mid(offset, size);
         m_socket.write(m_reply.isChunked ? QByteArray::number(size, 16) + "\r\n" + piece + "\r\n" : piece);
         m_sentBytes += size;
         if (m_reply.pauseMs > 0 && m_sentBytes < end)

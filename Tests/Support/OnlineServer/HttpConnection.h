@@ -31,9 +31,11 @@ private:
     Answer const m_answer;
     HttpReader m_reader;
     HttpReply m_reply;
-    QByteArray m_body; ///< of the reply, as it goes over the wire apart from the chunks' frames
-    int m_sentBytes = 0;
+    QByteArray m_body;       ///< of the reply, as it goes over the wire apart from the chunks' frames
+    qint64 m_totalBytes = 0; ///< of the body as often as it is sent
+    qint64 m_sentBytes = 0;
     bool m_isReplying = false;
+    bool m_isWaitingForClient = false; ///< which has not taken enough of what was sent
     bool m_isKeptAlive = true;
 };
 

@@ -42,11 +42,12 @@ struct HttpReply
     HttpHeaders headers; ///< Content-Length and Connection are added where they are not among these
     QByteArray contentType = "application/json; charset=utf-8"; ///< no such header when empty
 
-    int delayMs = 0;                   ///< before the first byte
-    int pauseMs = 0;                   ///< between two pieces of the body
-    int pieceBytes = 0;                ///< size of a piece; 0: all at once
-    bool isGzip = false;               ///< body sent compressed, with Content-Encoding
-    bool isDeflate = false;            ///< the same with the other method
+    int delayMs = 0;        ///< before the first byte
+    int pauseMs = 0;        ///< between two pieces of the body
+    qint64 bodyCount = 1;   ///< how often the body is sent over; no more of it is in memory than the client is behind
+    int pieceBytes = 0;     ///< size of a piece; 0: all at once
+    bool isGzip = false;    ///< body sent compressed, with Content-Encoding
+    bool isDeflate = false; ///< the same with the other method
     qint64 dropAfterBytes = -1;        ///< of the body as sent; then the connection is closed. -1: never
     bool dropsInsteadOfAnswer = false; ///< the connection is closed (after the delay) before the first byte
     bool neverAnswers = false;         ///< the connection stays open in silence

@@ -1,6 +1,7 @@
 #include "Support/OnlineServer/OnlineServer.h"
 
 #include "Support/OnlineServer/HttpConnection.h"
+#include "Support/OnlineServer/OnlineLibrary.h"
 
 #include <QHostAddress>
 #include <QTcpServer>
@@ -138,6 +139,15 @@ private:
     std::recursive_mutex m_interceptorMutex;
     std::shared_ptr<Interceptor const> m_interceptor;
 };
+
+OnlineServer::OnlineServer() : OnlineServer(OnlineLibrarySettings()) {}
+
+OnlineServer::OnlineServer(OnlineLibrarySettings const& settings, quint16 port)
+    : OnlineServer([library = std::make_shared<OnlineLibrary>(settings)](HttpRequest const& request)
+                   { return library->Answer(request); },
+                   port)
+{
+}
 
 OnlineServer::OnlineServer(Handler handler, quint16 port) : m_impl(std::make_unique<Impl>(std::move(handler), port)) {}
 

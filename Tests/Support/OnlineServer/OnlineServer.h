@@ -14,6 +14,8 @@
 namespace Korvex::Testing
 {
 
+struct OnlineLibrarySettings;
+
 /// Answers on 127.0.0.1 from a thread of its own, so that tests may block. Any thread may call it. Wants a
 /// QCoreApplication. Ends at once, also with clients connected and requests unanswered.
 class OnlineServer final
@@ -22,6 +24,9 @@ public:
     using Handler = std::function<HttpReply(HttpRequest const&)>; ///< called on the server's thread
     using Interceptor = std::function<std::unique_ptr<HttpReply>(HttpRequest const&)>;
 
+    /// Plays both services (`OnlineLibrary.h`). Throws like the other.
+    OnlineServer();
+    explicit OnlineServer(OnlineLibrarySettings const& settings, quint16 port = 0);
     /// Answers every request with the handler. Throws std::runtime_error when the port (0: any free one) is taken.
     explicit OnlineServer(Handler handler, quint16 port = 0);
     ~OnlineServer();
