@@ -1,7 +1,9 @@
 #include "Subtitles/UseCases/OnlineDownloaderInteractor.h"
 
-#include "Subtitles/UseCases/IOnlineDownloaderController.h"
 #include "Subtitles/UseCases/IOnlineSearchMetadataFiller.h"
+#include "Subtitles/UseCases/OnlineFailureTexts.h"
+#include "Subtitles/UseCases/SearchPlan.h"
+#include "Subtitles/UseCases/SearchQuery.h"
 
 #include "Subtitles/Entities/SearchTags.h"
 #include "Subtitles/Entities/SubtitleSearchMediaInfoSettings.h"
@@ -10,7 +12,12 @@
 
 #include <QCoreApplication>
 
+#include <deque>
+#include <functional>
 #include <optional>
+#include <set>
+#include <tuple>
+#include <utility>
 
 namespace Korvex::Converter::Subtitles::UseCases
 {
@@ -20,14 +27,45 @@ using Entities::SubtitleCollectionID;
 using Entities::SubtitleSearchMediaInfoSettings;
 using Status = IOnlineSearchController::Status;
 
+namespace
+{
+
+char const* const SERVICE_NAME = "OpenSubtitles";
+
+/// Tells whether a hit has come before in the same search.
+class SeenResults
+{
+public:
+    bool Insert(SearchResult const& result)
+    {
+        SearchResultFacts const& facts = result.facts;
+        if (!facts.serviceId.isEmpty())
+            return m_seen.insert({facts.serviceId, {}, {}, 0}).second;
+        return m_seen.insert({result.fileName, facts.languageCode, facts.release, facts.discNumber}).second;
+    }
+
+private:
+    std::set<std::tuple<QString, QString, QString, int>> m_seen;
+};
+
+/// What runs on behalf of a collection.
+struct Operation
+{
+    SubtitleCollectionID collection;
+    ioPath folder;                ///< of a download
+    std::deque<SearchStep> steps; ///< searches still to come
+    SeenResults seen;
+    bool hasFoundInStep = false; ///< something, in the search that runs
+};
+
+} // namespace
+
 class OnlineDownloaderInteractor::Impl final : public IOnlineSearchControllerObserver
 {
 public:
-    Impl(std::shared_ptr<IOnlineDownloaderController> const& controller,
-         std::vector<std::shared_ptr<IOnlineSearchController>> const& services,
+    Impl(std::vector<std::shared_ptr<IOnlineSearchController>> const& services,
          std::vector<std::shared_ptr<IOnlineSearchMetadataFiller>> const& fillers)
-        : m_controller(controller),
-          m_service(services.empty() ? nullptr : services.front()),
+        : m_service(services.empty() ? nullptr : services.front()),
           m_fillers(fillers)
     {
         if (m_service)
@@ -41,18 +79,9 @@ public:
 
     [[nodiscard]] SearchRequest MakeQuery(SubtitleSearchMediaInfoSettings const& media) const
     {
-        SearchRequest request;
-        if (!media.imdbId.empty())
-            request.tags[SearchTags::IMDB_ID] = media.imdbId;
-        else if (!media.title.empty())
-            request.tags[SearchTags::TITLE] = media.title;
-        else
-            AddFingerprint(media, request);
-        if (!request.tags.empty() && media.season && media.episode)
-        {
-            request.tags[SearchTags::SEASON_NUMBER] = std::to_string(*media.season);
-            request.tags[SearchTags::EPISODE_NUMBER] = std::to_string(*media.episode);
-        }
+        SearchRequest request = MakeSearchRequest(DescribeFilm(media));
+        if (media.isDvd) // services know the fingerprints of files alone
+            return request;
         for (auto const& filler : m_fillers)
             filler->FillMetadata(media, request);
         return request;
@@ -60,12 +89,21 @@ public:
 
     Status StartSearch(SubtitleCollectionID collection, SearchRequest const& request)
     {
-        return Start(collection, [&] { return m_service->StartSearch(request); });
+        std::vector<SearchStep> const steps = PlanSearch(request);
+        Operation operation;
+        operation.collection = collection;
+        operation.steps.assign(steps.begin(), steps.end());
+        return Start(std::move(operation), [&] { return StartStep(); });
     }
 
     Status StartSuggest(SubtitleCollectionID collection, QString const& text)
     {
-        return Start(collection, [&] { return m_service->AutoSuggest(SearchTags::TITLE, text); });
+        Operation operation;
+        operation.collection = collection;
+        QString const title = QString::fromStdString(CleanTitle(text.toStdString()));
+        return Start(
+            std::move(operation), [&]
+            { return title.isEmpty() ? Status::InvalidRequest : m_service->AutoSuggest(SearchTags::TITLE, title); });
     }
 
     [[nodiscard]] ServerReport GetServerReport() const
@@ -77,19 +115,39 @@ public:
     Status Download(SubtitleCollectionID collection, std::vector<std::shared_ptr<SearchResult>> const& results,
                     ioPath const& folder)
     {
-        return Start(collection, [&] { return m_service->DownloadSubtitles(results, folder); });
+        Operation operation;
+        operation.collection = collection;
+        operation.folder = folder;
+        Status const status =
+            Start(std::move(operation), [&] { return m_service->DownloadSubtitles(results, folder); });
+        // The service says nothing more when there is nothing to do.
+        if (status == Status::Success && results.empty())
+            OnOperationFinished();
+        return status;
     }
 
     bool Cancel()
     {
-        bool const wasRunning = m_service && m_service->CancelOperation();
-        m_collection.reset();
+        bool const wasRunning = m_operation != nullptr;
+        m_operation.reset();
+        if (wasRunning)
+            m_service->CancelOperation();
         return wasRunning;
     }
 
     void OnSearchResults(std::vector<std::shared_ptr<SearchResult>> const& results) override
     {
-        Report([&](auto* observer, SubtitleCollectionID id) { observer->OnSearchResults(id, results); });
+        if (!m_operation)
+            return;
+        std::vector<std::shared_ptr<SearchResult>> fresh;
+        for (auto const& result : results)
+        {
+            if (m_operation->seen.Insert(*result))
+                fresh.push_back(result);
+        }
+        m_operation->hasFoundInStep = m_operation->hasFoundInStep || !results.empty();
+        if (!fresh.empty())
+            Report([&](auto* observer, SubtitleCollectionID id) { observer->OnSearchResults(id, fresh); });
     }
 
     void OnAutoSuggestResults(std::vector<QString> const& suggestions) override
@@ -104,80 +162,103 @@ public:
 
     void OnOperationFinished() override
     {
-        Finish([](auto* observer, SubtitleCollectionID id) { observer->OnOperationFinished(id); });
+        if (!m_operation)
+            return;
+        SkipNeedlessSteps();
+        if (m_operation->steps.empty())
+        {
+            auto const operation = std::exchange(m_operation, nullptr);
+            m_observers.Notify([&](auto* observer) { observer->OnOperationFinished(operation->collection); });
+        }
+        // The service's queue is empty already when it tells of the end, so that it takes the next search at once.
+        else if (Status const status = StartStep(); status != Status::Success)
+        {
+            OnOperationFailed(status, {});
+        }
     }
 
-    void OnOperationFailed(Status status, QString const& message) override
+    void OnOperationFailed(Status status, QString const& error) override
     {
-        Finish([&](auto* observer, SubtitleCollectionID id) { observer->OnOperationFailed(id, status, message); });
+        if (auto const operation = std::exchange(m_operation, nullptr))
+            Fail(*operation, status, error, GetServerReport());
     }
 
 private:
-    void AddFingerprint(SubtitleSearchMediaInfoSettings const& media, SearchRequest& request) const
-    {
-        auto const fingerprint = m_controller->DetermineFingerprint(media.path);
-        if (!fingerprint)
-            return;
-        request.tags[SearchTags::MOVIE_HASH_OS] = fingerprint->hash;
-        request.tags[SearchTags::MOVIE_BYTE_SIZE] = std::to_string(fingerprint->byteSize);
-    }
-
-    template <typename Operation>
-    Status Start(SubtitleCollectionID collection, Operation const& operation)
+    Status Start(Operation operation, std::function<Status()> const& start)
     {
         if (!m_service)
         {
             QString const message = QCoreApplication::translate(
                 "OnlineDownloaderInteractor", "No online subtitle service is set up; add its API key to the settings.");
-            return Refuse(collection, Status::UnsupportedSearch, message);
+            m_observers.Notify(
+                [&](auto* observer)
+                { observer->OnOperationFailed(operation.collection, Status::UnsupportedSearch, message); });
+            return Status::UnsupportedSearch;
         }
         // The service reports without saying for whom, so a second operation would take over the first one's results.
-        if (m_collection)
-            return Refuse(collection, Status::Busy, QString());
-        m_collection = collection;
-        Status const status = operation();
+        if (m_operation)
+            return Fail(operation, Status::Busy, {}, {});
+        m_operation = std::make_shared<Operation>(std::move(operation));
+        Status const status = start();
         if (status == Status::Success)
             return status;
-        m_collection.reset();
-        return Refuse(collection, status, QString());
+        auto const refused = std::exchange(m_operation, nullptr);
+        return refused ? Fail(*refused, status, {}, {}) : status;
     }
 
-    Status Refuse(SubtitleCollectionID collection, Status status, QString const& message)
+    /// What a service said with an earlier operation does not explain why it refuses this one: `report` is empty then.
+    Status Fail(Operation const& operation, Status status, QString const& error, ServerReport const& report)
     {
-        m_observers.Notify([&](auto* observer) { observer->OnOperationFailed(collection, status, message); });
+        QString const message =
+            DescribeOnlineFailure({status, error, report, QString::fromLatin1(SERVICE_NAME), operation.folder});
+        m_observers.Notify([&](auto* observer) { observer->OnOperationFailed(operation.collection, status, message); });
         return status;
     }
 
-    /// The service may also be driven by others; what nobody asked for here is not passed on.
+    Status StartStep()
+    {
+        if (m_operation->steps.empty())
+            return Status::InvalidRequest;
+        SearchRequest const request = m_operation->steps.front().request;
+        m_operation->steps.pop_front();
+        m_operation->hasFoundInStep = false;
+        return m_service->StartSearch(request);
+    }
+
+    void SkipNeedlessSteps()
+    {
+        auto& steps = m_operation->steps;
+        while (!steps.empty() && steps.front().isFallback && m_operation->hasFoundInStep)
+            steps.pop_front();
+    }
+
+    /// The service may also be driven by others; what nobody asked for here is not passed on. Nor does anyone hear
+    /// more once an observer has cancelled.
     template <typename Event>
     void Report(Event const& event)
     {
-        if (auto const collection = m_collection)
-            m_observers.Notify([&](auto* observer) { event(observer, *collection); });
+        auto const operation = m_operation;
+        if (!operation)
+            return;
+        m_observers.Notify(
+            [&](auto* observer)
+            {
+                if (m_operation == operation)
+                    event(observer, operation->collection);
+            });
     }
 
-    template <typename Event>
-    void Finish(Event const& event)
-    {
-        auto const collection = m_collection;
-        m_collection.reset();
-        if (collection)
-            m_observers.Notify([&](auto* observer) { event(observer, *collection); });
-    }
-
-    std::shared_ptr<IOnlineDownloaderController> m_controller;
     std::shared_ptr<IOnlineSearchController> m_service;
     std::vector<std::shared_ptr<IOnlineSearchMetadataFiller>> m_fillers;
-    std::optional<SubtitleCollectionID> m_collection; ///< for whom the running operation is
+    std::shared_ptr<Operation> m_operation; ///< the one that runs; null when none does
     Observers m_observers;
     std::optional<Core::ScopedObservation<IOnlineSearchControllerObserver>> m_observation;
 };
 
 OnlineDownloaderInteractor::OnlineDownloaderInteractor(
-    std::shared_ptr<IOnlineDownloaderController> const& controller,
     std::vector<std::shared_ptr<IOnlineSearchController>> const& services,
     std::vector<std::shared_ptr<IOnlineSearchMetadataFiller>> const& fillers)
-    : m_impl(std::make_unique<Impl>(controller, services, fillers))
+    : m_impl(std::make_unique<Impl>(services, fillers))
 {
 }
 

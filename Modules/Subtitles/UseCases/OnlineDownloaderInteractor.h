@@ -9,7 +9,6 @@
 namespace Korvex::Converter::Subtitles::UseCases
 {
 
-class IOnlineDownloaderController;
 class IOnlineSearchMetadataFiller;
 
 class KVSUBTITLES_API OnlineDownloaderInteractor final : public IOnlineDownloaderInteractor
@@ -17,8 +16,7 @@ class KVSUBTITLES_API OnlineDownloaderInteractor final : public IOnlineDownloade
 public:
     /// @param services the online services that are set up; the first one serves, none is allowed
     /// @param fillers adds what the service understands about files; none is allowed
-    OnlineDownloaderInteractor(std::shared_ptr<IOnlineDownloaderController> const& controller,
-                               std::vector<std::shared_ptr<IOnlineSearchController>> const& services,
+    OnlineDownloaderInteractor(std::vector<std::shared_ptr<IOnlineSearchController>> const& services,
                                std::vector<std::shared_ptr<IOnlineSearchMetadataFiller>> const& fillers);
     ~OnlineDownloaderInteractor() override;
 

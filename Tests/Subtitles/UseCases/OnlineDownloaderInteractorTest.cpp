@@ -1,11 +1,31 @@
 #include "Subtitles/UseCases/OnlineDownloaderInteractor.h"
 
+#include "Subtitles/Entities/SearchTags.h"
+#include "Subtitles/Entities/SubtitleSearchMediaInfoSettings.h"
+#include "Subtitles/UseCases/IOnlineSearchMetadataFiller.h"
+
+#include "Core/EventHandlerList.h"
+
+#include <functional>
+
 namespace Korvex::Converter::Subtitles::UseCases
 {
 namespace
 {
 
-class FakeService final : public IOnlineSearchController
+using Entities::SearchTags;
+
+std::string Describe(SearchRequest const& request)
+{
+    std::string text;
+    for (auto const& [tag, value] : request.tags)
+        text += (text.empty() ? "" : " ") + tag + "=" + value;
+    return text;
+}
+
+/// Keeps the rules of the real one: busy until an operation has ended, idle already when it tells so, silent once
+/// cancelled.
+class FakeService final : public IOnlineSearchController, public IServerReportSource
 {
 public:
     void RegisterEventHandler(IOnlineSearchControllerObserver* observer) override
@@ -16,66 +36,222 @@ public:
     {
         observers.UnregisterEventHandler(observer);
     }
-    Status StartSearch(SearchRequest const&) override { return answer; }
-    Status AutoSuggest(std::string const&, QString const&) override { return answer; }
-    Status DownloadSubtitles(std::vector<std::shared_ptr<SearchResult>> const&, ioPath const&) override
+    Status StartSearch(SearchRequest const& request) override { return Start(Describe(request)); }
+    Status AutoSuggest(std::string const&, QString const& text) override { return Start(text.toStdString()); }
+    Status DownloadSubtitles(std::vector<std::shared_ptr<SearchResult>> const& results, ioPath const&) override
     {
-        return answer;
+        return results.empty() ? Success : Start("download");
     }
-    bool CancelOperation() override { return true; }
+    bool CancelOperation() override { return isCanceled = isBusy; }
+    ServerReport GetServerReport() const override { return report; }
+
+    void End()
+    {
+        isBusy = false;
+        Tell([](auto* observer) { observer->OnOperationFinished(); });
+    }
+    void Fail(Status status)
+    {
+        Tell([&](auto* observer) { observer->OnOperationFailed(status, "its own words"); });
+        isBusy = false;
+    }
+    void Find(std::vector<std::shared_ptr<SearchResult>> const& results)
+    {
+        Tell([&](auto* observer) { observer->OnSearchResults(results); });
+    }
 
     Core::EventHandlerList<IOnlineSearchControllerObserver> observers;
-    Status answer = Success;
+    std::vector<std::string> started;
+    ServerReport report;
+    Status refusal = Success;
+    bool isBusy = false;
+    bool isCanceled = false;
+
+private:
+    Status Start(std::string const& what)
+    {
+        if (isBusy)
+            return Busy;
+        if (refusal != Success)
+            return refusal;
+        started.push_back(what);
+        isBusy = true;
+        isCanceled = false;
+        return Success;
+    }
+    template <typename Event>
+    void Tell(Event const& event)
+    {
+        if (!isCanceled)
+            observers.Notify(event);
+    }
 };
+
+class FakeFiller final : public IOnlineSearchMetadataFiller
+{
+public:
+    void FillMetadata(Entities::SubtitleSearchMediaInfoSettings const&, SearchRequest& request) override
+    {
+        request.tags[SearchTags::MOVIE_HASH_OS] = "0123456789abcdef";
+        request.tags[SearchTags::MOVIE_BYTE_SIZE] = "131072";
+    }
+};
+
+std::shared_ptr<SearchResult> MakeResult(char const* id, char const* name = "a.srt")
+{
+    auto result = std::make_shared<SearchResult>();
+    result->facts.serviceId = QString::fromLatin1(id);
+    result->fileName = QString::fromLatin1(name);
+    return result;
+}
 
 class OnlineDownloaderInteractorTest : public testing::Test, public IOnlineDownloaderInteractorObserver
 {
 protected:
-    void OnSubtitlesDownloaded(Entities::SubtitleCollectionID collection, std::shared_ptr<SearchResult> const&,
+    OnlineDownloaderInteractorTest() { m_interactor.RegisterEventHandler(this); }
+
+    void OnSearchResults(Entities::SubtitleCollectionID,
+                         std::vector<std::shared_ptr<SearchResult>> const& results) override
+    {
+        std::string ids;
+        for (auto const& result : results)
+            ids += " " + result->facts.serviceId.toStdString();
+        m_events.push_back("found" + ids);
+        if (m_onResults)
+            m_onResults();
+    }
+    void OnSuggestions(Entities::SubtitleCollectionID, std::vector<QString> const& titles) override
+    {
+        m_events.push_back("titles " + std::to_string(titles.size()));
+    }
+    void OnSubtitlesDownloaded(Entities::SubtitleCollectionID, std::shared_ptr<SearchResult> const&,
                                ioPath const& file) override
     {
-        EXPECT_EQ(collection, m_film);
         m_events.push_back("file " + file.utf8string());
     }
-    void OnOperationFinished(Entities::SubtitleCollectionID) override { m_events.push_back("finished"); }
+    void OnOperationFinished(Entities::SubtitleCollectionID collection) override
+    {
+        EXPECT_EQ(collection, m_film);
+        m_events.push_back("finished");
+    }
     void OnOperationFailed(Entities::SubtitleCollectionID, IOnlineSearchController::Status status,
                            QString const& message) override
     {
-        m_events.push_back("failed " + std::to_string(status) + (message.isEmpty() ? "" : " with a sentence"));
+        EXPECT_TRUE(message.endsWith(QLatin1Char('.'))) << message.toStdString();
+        m_events.push_back("failed " + std::to_string(status));
+    }
+    std::vector<std::string> TakeEvents() { return std::exchange(m_events, {}); }
+
+    static SearchRequest FullRequest()
+    {
+        SearchRequest request;
+        request.tags = {{SearchTags::TITLE, "Tom & Jerry"}, {SearchTags::IMDB_ID, "tt0133093"},
+                        {SearchTags::MOVIE_HASH_OS, "01"},  {SearchTags::MOVIE_BYTE_SIZE, "2"},
+                        {SearchTags::SEASON_NUMBER, "2"},   {SearchTags::EPISODE_NUMBER, "5"},
+                        {SearchTags::RELEASE_YEAR, "1999"}};
+        return request;
     }
 
+    using Events = std::vector<std::string>;
     Entities::SubtitleCollectionID m_film;
-    std::vector<std::string> m_events;
+    Events m_events;
+    std::function<void()> m_onResults;
     std::shared_ptr<FakeService> m_service = std::make_shared<FakeService>();
+    OnlineDownloaderInteractor m_interactor{{m_service}, {std::make_shared<FakeFiller>()}};
 };
 
-TEST_F(OnlineDownloaderInteractorTest, ReportsToTheFilmThatAsked)
+TEST_F(OnlineDownloaderInteractorTest, AsksOneAfterTheOtherAndReportsNothingTwice)
 {
-    OnlineDownloaderInteractor interactor(nullptr, {m_service}, {});
-    interactor.RegisterEventHandler(this);
-    m_service->observers.Notify([](auto* observer) { observer->OnOperationFinished(); });
-    EXPECT_TRUE(m_events.empty()) << "nobody asked here";
+    EXPECT_EQ(m_interactor.StartSearch(m_film, FullRequest()), IOnlineSearchController::Success);
+    m_service->Find({MakeResult("1"), MakeResult("2")});
+    m_service->End();
+    m_service->Find({});
+    m_service->End();
+    m_service->Find({MakeResult("2"), MakeResult("3"), MakeResult("", "b.srt"), MakeResult("", "b.srt")});
+    m_service->End();
+    EXPECT_EQ(m_service->started,
+              (Events{"MOVIE_BYTE_SIZE=2 MOVIE_HASH_OS=01", "EPISODE_NUMBER=5 IMDB_ID=133093 SEASON_NUMBER=2",
+                      "EPISODE_NUMBER=5 SEASON_NUMBER=2 TITLE=Tom Jerry"}));
+    EXPECT_EQ(TakeEvents(), (Events{"found 1 2", "found 3 ", "finished"}));
 
-    EXPECT_EQ(interactor.Download(m_film, {}, "folder"), IOnlineSearchController::Success);
-    EXPECT_EQ(interactor.StartSearch(Entities::SubtitleCollectionID(), {}), IOnlineSearchController::Busy);
-    m_service->observers.Notify([](auto* observer) { observer->OnSubtitlesDownloaded(nullptr, "folder/a.srt"); });
-    m_service->observers.Notify([](auto* observer) { observer->OnOperationFinished(); });
-    EXPECT_EQ(m_events, (std::vector<std::string>{"failed 5", "file folder/a.srt", "finished"}));
-
-    m_events.clear();
-    m_service->answer = IOnlineSearchController::NoConnection;
-    EXPECT_EQ(interactor.StartSearch(m_film, {}), IOnlineSearchController::NoConnection);
-    m_service->answer = IOnlineSearchController::Success;
-    EXPECT_EQ(interactor.StartSearch(m_film, {}), IOnlineSearchController::Success) << "a refusal leaves it idle";
-    EXPECT_EQ(m_events, std::vector<std::string>{"failed 3"});
+    m_service->started.clear();
+    m_interactor.StartSearch(m_film, FullRequest());
+    m_service->End();
+    m_service->Find({MakeResult("1")});
+    m_service->End();
+    EXPECT_EQ(m_service->started.size(), 2U) << "the IMDb id found something";
+    EXPECT_EQ(TakeEvents(), (Events{"found 1", "finished"})) << "a new search may find the same again";
 }
 
-TEST_F(OnlineDownloaderInteractorTest, SaysThatNoServiceIsSetUp)
+TEST_F(OnlineDownloaderInteractorTest, EndsAtTheFirstFailureAndKeepsWhatWasFound)
 {
-    OnlineDownloaderInteractor interactor(nullptr, {}, {});
-    interactor.RegisterEventHandler(this);
-    EXPECT_EQ(interactor.StartSearch(m_film, {}), IOnlineSearchController::UnsupportedSearch);
-    EXPECT_EQ(m_events, std::vector<std::string>{"failed 6 with a sentence"});
+    m_interactor.StartSearch(m_film, FullRequest());
+    m_service->Find({MakeResult("1")});
+    m_service->End();
+    m_service->Fail(IOnlineSearchController::ServerError);
+    EXPECT_EQ(TakeEvents(), (Events{"found 1", "failed 4"}));
+    EXPECT_EQ(m_service->started.size(), 2U);
+
+    m_interactor.StartSearch(m_film, FullRequest());
+    m_service->refusal = IOnlineSearchController::UnsupportedSearch;
+    m_service->End();
+    EXPECT_EQ(TakeEvents(), Events{"failed 6"}) << "a later search is refused";
+    EXPECT_EQ(m_interactor.StartSearch(m_film, FullRequest()), IOnlineSearchController::UnsupportedSearch);
+    m_service->refusal = IOnlineSearchController::Success;
+    EXPECT_EQ(m_interactor.StartSearch(m_film, FullRequest()), IOnlineSearchController::Success);
+    EXPECT_EQ(m_interactor.StartSearch(m_film, FullRequest()), IOnlineSearchController::Busy);
+    EXPECT_EQ(TakeEvents(), (Events{"failed 6", "failed 5"}));
+}
+
+TEST_F(OnlineDownloaderInteractorTest, IsSilentOnceCancelled)
+{
+    EXPECT_FALSE(m_interactor.Cancel());
+    m_interactor.StartSearch(m_film, FullRequest());
+    EXPECT_TRUE(m_interactor.Cancel());
+    EXPECT_EQ(m_interactor.StartSuggest(m_film, "win"), IOnlineSearchController::Busy) << "its reply is still to come";
+    EXPECT_EQ(TakeEvents(), Events{"failed 5"});
+    m_service->Find({MakeResult("1")});
+    m_service->End();
+    EXPECT_EQ(m_interactor.StartSuggest(m_film, "win"), IOnlineSearchController::Success);
+    EXPECT_TRUE(TakeEvents().empty());
+    m_service->End();
+    EXPECT_EQ(TakeEvents(), Events{"finished"});
+
+    m_onResults = [&] { m_interactor.Cancel(); };
+    m_interactor.StartSearch(m_film, FullRequest());
+    m_service->Find({MakeResult("1")});
+    m_service->isCanceled = false; // a service that tells of the end all the same
+    m_service->End();
+    EXPECT_EQ(TakeEvents(), Events{"found 1"});
+    EXPECT_FALSE(m_service->isBusy) << "no further search";
+}
+
+TEST_F(OnlineDownloaderInteractorTest, EndsWhatHasNothingToDo)
+{
+    EXPECT_EQ(m_interactor.Download(m_film, {}, "folder"), IOnlineSearchController::Success);
+    EXPECT_EQ(TakeEvents(), Events{"finished"});
+    EXPECT_EQ(m_interactor.StartSearch(m_film, {}), IOnlineSearchController::InvalidRequest);
+    EXPECT_EQ(m_interactor.StartSuggest(m_film, " & "), IOnlineSearchController::InvalidRequest);
+    EXPECT_EQ(TakeEvents(), (Events{"failed 2", "failed 2"}));
+    m_service->End();
+    EXPECT_TRUE(TakeEvents().empty()) << "nobody asked here";
+
+    OnlineDownloaderInteractor none({}, {});
+    none.RegisterEventHandler(this);
+    EXPECT_EQ(none.StartSearch(m_film, FullRequest()), IOnlineSearchController::UnsupportedSearch);
+    EXPECT_EQ(TakeEvents(), Events{"failed 6"});
+}
+
+TEST_F(OnlineDownloaderInteractorTest, LeavesTheFingerprintToFillersAndDiscsWithoutOne)
+{
+    Entities::SubtitleSearchMediaInfoSettings media;
+    media.path = "no-such-folder/Northern.Lights.S02E05.2015.mkv";
+    media.year = 2014;
+    EXPECT_EQ(Describe(m_interactor.MakeQuery(media)),
+              "EPISODE_NUMBER=5 MOVIE_BYTE_SIZE=131072 MOVIE_HASH_OS=0123456789abcdef SEASON_NUMBER=2 "
+              "TITLE=Northern Lights");
+    media.isDvd = true;
+    EXPECT_EQ(Describe(m_interactor.MakeQuery(media)), "EPISODE_NUMBER=5 SEASON_NUMBER=2 TITLE=Northern Lights");
 }
 
 } // namespace

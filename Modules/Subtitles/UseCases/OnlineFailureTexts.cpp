@@ -1,0 +1,133 @@
+#include "Subtitles/UseCases/OnlineFailureTexts.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+namespace Korvex::Converter::Subtitles::UseCases
+{
+
+namespace
+{
+
+using Reason = ServerReport::Reason;
+using Status = IOnlineSearchController::Status;
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(OnlineDownloaderInteractor)
+};
+
+/// Fills in all at once: what stands in for one place may itself look like a place ("100 %1").
+template <typename... Texts>
+QString Fill(QString const& sentence, Texts const&... texts)
+{
+    return sentence.arg(texts...);
+}
+
+/// The server's words in brackets with a blank in front; nothing when it said nothing.
+QString QuoteServer(OnlineFailure const& failure)
+{
+    QString const words = failure.report.message.simplified();
+    return words.isEmpty() ? QString() : Fill(Texts::tr(" (it says: \"%1\")"), words);
+}
+
+QString DescribeUsedUpQuota(OnlineFailure const& failure)
+{
+    QString const words = QuoteServer(failure);
+    QString const& service = failure.serviceName;
+    if (failure.report.resetsAt.isValid())
+    {
+        QString const time = QLocale().toString(failure.report.resetsAt.toLocalTime(), QLocale::ShortFormat);
+        return Fill(Texts::tr("Your downloads at %1 are used up%2; download again after %3."), service, words, time);
+    }
+    if (!failure.report.resetTime.isEmpty())
+        return Fill(Texts::tr("Your downloads at %1 are used up%2; download again in %3."), service, words,
+                    failure.report.resetTime.simplified());
+    return Fill(Texts::tr("Your downloads at %1 are used up%2; download again tomorrow."), service, words);
+}
+
+QString DescribeTooManyRequests(OnlineFailure const& failure)
+{
+    QString const words = QuoteServer(failure);
+    if (auto const seconds = failure.report.retryAfterSeconds; seconds && *seconds > 0)
+        return Fill(Texts::tr("%1 was asked too often%2; try again in %n second(s).", nullptr, *seconds),
+                    failure.serviceName, words);
+    return Fill(Texts::tr("%1 was asked too often%2; try again in a minute."), failure.serviceName, words);
+}
+
+/// Empty where the server gave no reason of a kind that is known.
+QString DescribeReason(OnlineFailure const& failure)
+{
+    QString const words = QuoteServer(failure);
+    switch (failure.report.reason)
+    {
+    case Reason::WrongKey:
+        return Fill(Texts::tr("%1 did not accept the API key%2; set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the "
+                              "environment or as api_key in the configuration file."),
+                    failure.serviceName, words);
+    case Reason::QuotaUsedUp:
+        return DescribeUsedUpQuota(failure);
+    case Reason::TooManyRequests:
+        return DescribeTooManyRequests(failure);
+    case Reason::NotASubtitle:
+        return Fill(Texts::tr("%1 sent something else in place of the subtitle%2; choose another one, or try again "
+                              "later."),
+                    failure.serviceName, words);
+    case Reason::Unavailable:
+        return Fill(Texts::tr("%1 is down or overloaded at the moment%2; try again later."), failure.serviceName,
+                    words);
+    case Reason::None:
+        break;
+    }
+    return {};
+}
+
+QString DescribeFileError(OnlineFailure const& failure)
+{
+    QString const error = failure.error.simplified();
+    QString const detail = error.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(error);
+    return Fill(Texts::tr("The subtitle could not be stored in \"%1\"%2; make sure that the folder may be written and "
+                          "has room, or choose another one."),
+                QString::fromStdString(failure.folder.utf8string()), detail);
+}
+
+/// What the server said, else the client's own account.
+QString QuoteCause(OnlineFailure const& failure)
+{
+    QString const words = QuoteServer(failure);
+    QString const error = failure.error.simplified();
+    return words.isEmpty() && !error.isEmpty() ? QStringLiteral(" (%1)").arg(error) : words;
+}
+
+} // namespace
+
+QString DescribeOnlineFailure(OnlineFailure const& failure)
+{
+    QString const& service = failure.serviceName;
+    switch (failure.status)
+    {
+    case Status::Busy:
+        return Texts::tr("Another search or download has not ended yet; try again in a moment.");
+    case Status::FileError:
+        return DescribeFileError(failure);
+    case Status::InvalidRequest:
+        return Fill(Texts::tr("%1 cannot look for this%2; type a title or an IMDb id."), service, QuoteCause(failure));
+    case Status::UnsupportedSearch:
+        return Fill(Texts::tr("%1 cannot search in this way; look for a title or an IMDb id."), service);
+    default:
+        break;
+    }
+    if (QString const sentence = DescribeReason(failure); !sentence.isEmpty())
+        return sentence;
+    switch (failure.status)
+    {
+    case Status::NoConnection:
+        return Fill(Texts::tr("%1 cannot be reached; check the connection to the network and try again."), service);
+    case Status::ServerError:
+        return Fill(Texts::tr("%1 could not answer%2; try again later."), service, QuoteCause(failure));
+    default:
+        return Fill(Texts::tr("The connection to %1 failed%2; try again later."), service, QuoteCause(failure));
+    }
+}
+
+} // namespace Korvex::Converter::Subtitles::UseCases
