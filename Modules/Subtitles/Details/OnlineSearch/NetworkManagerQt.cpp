@@ -11,6 +11,8 @@
 #include <QThreadStorage>
 #include <QUrlQuery>
 
+#include <exception>
+
 namespace Korvex::Converter::Subtitles::Details
 {
 
@@ -24,11 +26,11 @@ class ThreadAccess final
 {
 public:
     ThreadAccess() : m_manager(new QNetworkAccessManager) {}
-    /// Some systems clean up after a terminated thread from another one. The manager is left alone then: it may have
-    /// been stopped in the middle of anything.
+    /// The manager of a terminated thread is left alone: it may have been stopped in the middle of anything. Such a
+    /// thread unwinds as from an exception; where it does not, another thread cleans up after it.
     ~ThreadAccess()
     {
-        if (m_manager->thread() == QThread::currentThread())
+        if (std::uncaught_exceptions() == 0 && m_manager->thread() == QThread::currentThread())
             delete m_manager;
     }
     ThreadAccess(ThreadAccess const&) = delete;

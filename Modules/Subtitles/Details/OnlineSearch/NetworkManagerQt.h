@@ -25,8 +25,8 @@ enum class PostBody
 /// certificate is a failure.
 ///
 /// Thread: any. Each thread that asks has an access manager of its own, made at its first request and deleted there
-/// when the thread ends; a reply lives on the thread that asked, which needs an event loop. Replies are the caller's
-/// and may outlive this object.
+/// when the thread ends (left alone when it is terminated); a reply lives on the thread that asked, which needs an
+/// event loop. Replies are the caller's and may outlive this object.
 class KVSUBTITLES_API NetworkManagerQt final : public INetworkManager
 {
 public:

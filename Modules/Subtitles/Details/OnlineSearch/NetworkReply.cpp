@@ -4,6 +4,7 @@
 #include "Subtitles/Details/OnlineSearch/RedirectRules.h"
 
 #include <QSslError>
+#include <QThread>
 #include <QUrl>
 
 #include <algorithm>
@@ -81,7 +82,9 @@ NetworkReply::NetworkReply(QNetworkAccessManager& manager, QNetworkAccessManager
 
 NetworkReply::~NetworkReply()
 {
-    ReleaseInner();
+    // Another thread deletes what a terminated one left: its exchange cannot be touched from there.
+    if (thread() == QThread::currentThread())
+        ReleaseInner();
 }
 
 void NetworkReply::Send(QNetworkRequest const& request)
@@ -156,7 +159,8 @@ bool NetworkReply::HasWholeBody() const
 {
     if (m_decoder && !m_decoder->IsComplete())
         return false;
-    // The access manager takes a close for the end when it arrives together with the first bytes of the reply.
+    // The access manager takes a close that arrives together with the head for the end of the body. Of a chunked body
+    // without compression nothing is left by which that could be told.
     qint64 const announcedBytes = m_inner->header(QNetworkRequest::ContentLengthHeader).toLongLong();
     return m_receivedBytes >= announcedBytes || GetHttpStatus(*m_inner) == HTTP_NOT_MODIFIED;
 }
