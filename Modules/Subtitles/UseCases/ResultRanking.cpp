@@ -111,7 +111,8 @@ private:
     [[nodiscard]] bool HasOtherTitle() const
     {
         std::string const title = m_facts.title.toStdString();
-        if (m_film.title.empty() || (title.empty() && m_release.title.empty() && m_file.title.empty()))
+        // A bare file name ("english.srt") is no witness against the film.
+        if (m_film.title.empty() || (title.empty() && m_facts.release.isEmpty()))
             return false;
         for (std::string const& wanted : {m_film.title, m_film.release.title})
         {
