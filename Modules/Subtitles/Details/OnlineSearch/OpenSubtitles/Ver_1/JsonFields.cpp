@@ -23,16 +23,15 @@ QString ReadText(QJsonObject const& object, QString const& key)
 std::optional<qint64> ReadInteger(QJsonObject const& object, QString const& key)
 {
     QJsonValue const value = object.value(key);
-    if (value.isString())
+    bool isWhole = value.isString();
+    qint64 number = isWhole ? value.toString().trimmed().toLongLong(&isWhole) : 0;
+    if (double const written = value.toDouble(); value.isDouble() && std::abs(written) < EXACT_LIMIT)
     {
-        bool isNumber = false;
-        qint64 const number = value.toString().trimmed().toLongLong(&isNumber);
-        return isNumber ? std::optional<qint64>(number) : std::nullopt;
+        number = static_cast<qint64>(written);
+        isWhole = std::trunc(written) == written;
     }
-    double const number = value.toDouble(0.5);
-    if (std::trunc(number) != number || std::abs(number) > EXACT_LIMIT)
-        return std::nullopt;
-    return static_cast<qint64>(number);
+    return isWhole && std::abs(static_cast<double>(number)) < EXACT_LIMIT ? std::optional<qint64>(number)
+                                                                          : std::nullopt;
 }
 
 std::optional<int> ReadInteger(QJsonObject const& object, QString const& key, int minimum, int maximum)

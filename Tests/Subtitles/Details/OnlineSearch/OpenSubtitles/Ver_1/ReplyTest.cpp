@@ -111,6 +111,9 @@ TEST(OpenSubtitlesVer1, TakesNothingForWhatIsNotSaid)
     EXPECT_EQ(film->tags.count(SearchTags::FILE_FORMAT), 0U);
     EXPECT_EQ(ReadHit(R"("format":"SUB")")->tags.at(SearchTags::FILE_FORMAT), "sub");
     EXPECT_EQ(ReadHit(R"("new_download_count":5,"download_count":"7")")->facts.downloadCount, 12);
+    EXPECT_EQ(
+        ReadHit(R"("new_download_count":9007199254740993,"download_count":"9223372036854775807")")->facts.downloadCount,
+        std::nullopt);
 }
 
 /// A good element among bad ones is found, whatever the bad ones hold.
@@ -200,6 +203,15 @@ TEST(OpenSubtitlesVer1, ReadsWhatTheServiceReallySent)
     }
     EXPECT_EQ(hitCount, 228U);
     EXPECT_EQ(downloadCount, 4045640);
+    for (QString const& name : QDir(folder + QStringLiteral("/v1")).entryList({QStringLiteral("*.json")}))
+    {
+        Listener listener;
+        RESTSearchRequest search({}, {});
+        RESTAutoSuggestRequest suggest({}, QStringLiteral("x"));
+        Read(search, load(name), listener);
+        Read(suggest, load(name), listener);
+        EXPECT_LE(listener.suggestions.size(), 24U) << name.toStdString();
+    }
     EXPECT_EQ(ReadHits(load("subtitles-query-ptbr-11.json")).front()->facts.language, LanguageID::PortugueseBR);
     auto const episodes = ReadHits(load("subtitles-query-episode-hu-3.json"));
     ASSERT_EQ(episodes.size(), 3U);
