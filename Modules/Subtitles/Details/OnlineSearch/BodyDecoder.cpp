@@ -95,7 +95,7 @@ BodyDecoder::Outcome BodyDecoder::Keep(char const* bytes, qint64 count)
 
 BodyDecoder::Outcome BodyDecoder::Inflate(QByteArray const& piece)
 {
-    std::array<unsigned char, STEP_BYTES> step{};
+    std::array<unsigned char, STEP_BYTES> step; // left as it is: clearing it would cost more than a small piece
     m_stream->next_in = reinterpret_cast<unsigned char*>(const_cast<char*>(piece.constData()));
     m_stream->avail_in = static_cast<unsigned>(piece.size());
     bool isOutputFull = false;

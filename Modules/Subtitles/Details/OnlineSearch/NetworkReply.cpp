@@ -123,7 +123,9 @@ void NetworkReply::OnBodyArrived()
         CompleteOverLimit();
         break;
     case BodyDecoder::Outcome::Corrupt:
-        Complete(ProtocolFailure, QStringLiteral("The server sent a damaged compressed reply."));
+        // Of a refusal the status says more than what is left of its text.
+        if (GetHttpStatus(*m_inner) < HTTP_ERRORS_FROM)
+            Complete(ProtocolFailure, QStringLiteral("The server sent a damaged compressed reply."));
         break;
     }
 }
