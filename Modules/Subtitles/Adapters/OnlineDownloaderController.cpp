@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QFile>
+#include <QFileInfo>
 #include <QString>
 #include <QtEndian>
 
@@ -32,14 +33,20 @@ std::optional<std::uint64_t> SumBlock(QFile& file, qint64 offset)
 /// The services' own way: size plus the words of the first and the last 64 KiB, modulo 2^64.
 std::optional<UseCases::MediaFingerprint> OnlineDownloaderController::DetermineFingerprint(ioPath const& path) const
 {
-    QFile file(QString::fromStdString(path.utf8string()));
-    if (!file.open(QIODevice::ReadOnly) || file.size() < 2 * BLOCK_BYTES)
+    QString const name = QString::fromStdString(path.utf8string());
+    if (!QFileInfo(name).isFile()) // opening a pipe would wait for whoever writes to it
+        return std::nullopt;
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return std::nullopt;
+    qint64 const byteSize = file.size(); // once: a file that is still being written has another one the next moment
+    if (byteSize < 2 * BLOCK_BYTES)
         return std::nullopt;
     auto const first = SumBlock(file, 0);
-    auto const last = SumBlock(file, file.size() - BLOCK_BYTES);
+    auto const last = SumBlock(file, byteSize - BLOCK_BYTES);
     if (!first || !last)
         return std::nullopt;
-    auto const size = static_cast<std::uint64_t>(file.size());
+    auto const size = static_cast<std::uint64_t>(byteSize);
     QString const hash = QStringLiteral("%1").arg(size + *first + *last, 16, 16, QLatin1Char('0'));
     return UseCases::MediaFingerprint{hash.toStdString(), size};
 }
