@@ -1,5 +1,6 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTArchiveDownloadRequest.h"
 
+#include "Subtitles/Details/OnlineSearch/BodyDecoder.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleArchive.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleStore.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/ArchiveLink.h"
@@ -17,6 +18,15 @@ namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_0
 
 namespace
 {
+
+constexpr int LARGEST_SUBTITLE_BYTES = 16 * 1024 * 1024;
+
+QByteArray const GZIP = QByteArrayLiteral("gzip");
+
+bool IsGzip(QByteArray const& bytes)
+{
+    return bytes.startsWith("\x1F\x8B");
+}
 
 bool IsZip(QByteArray const& bytes)
 {
@@ -61,6 +71,8 @@ RESTArchiveDownloadRequest::Status RESTArchiveDownloadRequest::ParseReply(QNetwo
     m_status = Status::Success;
     m_error.clear();
     QByteArray const body = reply.readAll();
+    if (IsGzip(body))
+        return StorePackedFile(body);
     if (IsZip(body))
         return StoreMember(body);
     if (auto const instead = FindWhatItIsInstead(body))
@@ -71,6 +83,15 @@ RESTArchiveDownloadRequest::Status RESTArchiveDownloadRequest::ParseReply(QNetwo
 RESTArchiveDownloadRequest::Status RESTArchiveDownloadRequest::ParseJsonReply(QJsonDocument const& /*document*/)
 {
     return Fail(Status::ServerError, QStringLiteral("Invalid server response format: not an archive"));
+}
+
+RESTArchiveDownloadRequest::Status RESTArchiveDownloadRequest::StorePackedFile(QByteArray const& body)
+{
+    BodyDecoder decoder(GZIP, LARGEST_SUBTITLE_BYTES);
+    if (decoder.Append(body) != BodyDecoder::Outcome::Accepted || !decoder.IsComplete())
+        return Fail(Status::FileError,
+                    QStringLiteral("The packed file of %1 cannot be opened").arg(m_result->fileName));
+    return Store(decoder.TakeBody());
 }
 
 RESTArchiveDownloadRequest::Status RESTArchiveDownloadRequest::StoreMember(QByteArray const& body)

@@ -17,7 +17,7 @@ namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_0
 struct RESTSearchResultData;
 
 /// Fetches the archive of one result and stores the result's own file out of it; a set on several discs has one archive
-/// for all its files.
+/// for all its files. A link to the packed file alone, which some rows have instead, is as good.
 class KVSUBTITLES_API RESTArchiveDownloadRequest final : public RESTRequest
 {
 public:
@@ -35,6 +35,7 @@ public:
     void NotifySuccess(UseCases::IOnlineSearchControllerObserver& observer) override;
 
 private:
+    Status StorePackedFile(QByteArray const& body);
     Status StoreMember(QByteArray const& body);
     Status Store(QByteArray const& subtitle);
 

@@ -10,6 +10,12 @@ namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_0
 namespace
 {
 
+// The policy that took its place says more than a request has to decide.
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+constexpr auto FOLLOW_REDIRECTS = QNetworkRequest::FollowRedirectsAttribute;
+QT_WARNING_POP
+
 /// Where the array begins behind text that may hold brackets of its own ("Undefined offset: $row[3] in ..."): the first
 /// bracket that opens an array of objects, or an empty array that ends the body. -1 when there is none.
 int FindArray(QString const& body)
@@ -37,10 +43,7 @@ QNetworkRequest RESTRequest::MakeRequest(QUrl const& url)
         return QNetworkRequest();
     }
     QNetworkRequest request(url);
-    QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED // the policy that replaces it says more than is for a request to decide
-        request.setAttribute(QNetworkRequest::FollowRedirectsAttribute, true);
-    QT_WARNING_POP
+    request.setAttribute(FOLLOW_REDIRECTS, true);
     request.setHeader(QNetworkRequest::UserAgentHeader, m_configuration.userAgent);
     return request;
 }

@@ -45,6 +45,9 @@ public:
         return isInteger ? QString::number(static_cast<qint64>(number)) : QString::number(number);
     }
 
+    /// As a list shows it.
+    [[nodiscard]] QString Line(QString const& key) const { return ReadPlainLine(Text(key)); }
+
     /// Not negative.
     [[nodiscard]] std::optional<std::int64_t> Count(QString const& key) const
     {
@@ -84,8 +87,8 @@ QString ReadFormat(RESTSearchResultData const& result)
 
 void ReadLanguage(Row const& row, UseCases::SearchResultFacts& facts)
 {
-    QString const letterCode = row.Text(RESTProtocol::RESULT_KEY_LANGUAGE);
-    QString const isoCode = row.Text(RESTProtocol::RESULT_KEY_LANGUAGE_ISO);
+    QString const letterCode = row.Line(RESTProtocol::RESULT_KEY_LANGUAGE);
+    QString const isoCode = row.Line(RESTProtocol::RESULT_KEY_LANGUAGE_ISO);
     facts.languageCode = letterCode.isEmpty() ? isoCode : letterCode;
     facts.language = Languages::GetLanguage(letterCode);
     if (facts.language == LanguageID::None)
@@ -98,7 +101,7 @@ void ReadFilm(Row const& row, UseCases::SearchResultFacts& facts)
     static QRegularExpression const EPISODE_NAME(QStringLiteral(R"(\A"\s*([^"]*[^"\s])\s*")"));
     static QString const EPISODE = QStringLiteral("episode");
 
-    facts.title = ReadPlainLine(row.Text(RESTProtocol::RESULT_KEY_MOVIE_NAME));
+    facts.title = row.Line(RESTProtocol::RESULT_KEY_MOVIE_NAME);
     facts.year = row.Number(RESTProtocol::RESULT_KEY_MOVIE_YEAR, 1);
     facts.imdbId = ReadImdbDigits(row.Text(RESTProtocol::RESULT_KEY_IMDB_ID)).toStdString();
     if (row.Text(RESTProtocol::RESULT_KEY_MOVIE_KIND) != EPISODE)
@@ -126,8 +129,8 @@ void ReadStanding(Row const& row, UseCases::SearchResultFacts& facts)
 
 void ReadKind(Row const& row, UseCases::SearchResultFacts& facts)
 {
-    facts.release = ReadPlainLine(row.Text(RESTProtocol::RESULT_KEY_RELEASE));
-    facts.comment = ReadPlainLine(row.Text(RESTProtocol::RESULT_KEY_AUTHOR_COMMENT));
+    facts.release = row.Line(RESTProtocol::RESULT_KEY_RELEASE);
+    facts.comment = row.Line(RESTProtocol::RESULT_KEY_AUTHOR_COMMENT);
     facts.framesPerSecond = row.Measure(RESTProtocol::RESULT_KEY_FRAME_RATE, FASTEST_FRAME_RATE);
     facts.isHearingImpaired = row.Flag(RESTProtocol::RESULT_KEY_HEARING_IMPAIRED);
     facts.isForeignPartsOnly = row.Flag(RESTProtocol::RESULT_KEY_FOREIGN_PARTS_ONLY);
@@ -161,7 +164,7 @@ std::shared_ptr<RESTSearchResultData> ReadSearchRow(QJsonObject const& object)
     if (!format.isEmpty())
         result->tags[Entities::SearchTags::FILE_FORMAT] = format.toStdString();
 
-    result->facts.serviceId = row.Text(RESTProtocol::RESULT_KEY_FILE_ID);
+    result->facts.serviceId = row.Line(RESTProtocol::RESULT_KEY_FILE_ID);
     ReadLanguage(row, result->facts);
     ReadFilm(row, result->facts);
     ReadStanding(row, result->facts);
