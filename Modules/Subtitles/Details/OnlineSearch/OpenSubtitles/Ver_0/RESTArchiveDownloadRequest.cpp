@@ -76,7 +76,7 @@ RESTArchiveDownloadRequest::Status RESTArchiveDownloadRequest::ParseReply(QNetwo
     if (IsZip(body))
         return StoreMember(body);
     if (auto const instead = FindWhatItIsInstead(body))
-        return Fail(Status::ServerError, QStringLiteral("The server sent %1 in place of an archive").arg(*instead));
+        return Fail(Status::ServerError, QStringLiteral("The server sent %1 instead of an archive").arg(*instead));
     return StoreMember(body);
 }
 

@@ -196,31 +196,32 @@ TEST(LegacyReplyTest, ReadsEveryRecordedReply)
         all.insert(all.end(), reading.results.begin(), reading.results.end());
     }
 
-    auto const count = [&](auto const& holds) {
-        return std::count_if(all.begin(), all.end(),
-                             [&](Result const& result) { return holds(*result, result->facts); });
-    };
     using Data = RESTSearchResultData;
     using Facts = UseCases::SearchResultFacts;
     EXPECT_EQ(all.size(), 66u);
-    EXPECT_EQ(count([](Data const& data, Facts const&) { return data.tags.at(SearchTags::FILE_FORMAT) == "srt"; }), 65);
-    EXPECT_EQ(count([](Data const& data, Facts const&) { return data.subtitleHash.size() == 32; }), 66);
-    EXPECT_EQ(count([](Data const& data, Facts const&) { return data.encoding == QStringLiteral("CP1250"); }), 8);
-    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.language == LanguageID::None; }), 0);
-    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.language == LanguageID::English; }), 23);
-    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.isHearingImpaired; }), 11);
-    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.isHashMatch; }), 22);
-    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.isHighDefinition; }), 44);
-    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.isFromTrusted; }), 16);
-    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.rating.has_value(); }), 17);
-    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.framesPerSecond.has_value(); }), 49);
-    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.season && facts.episode; }), 18);
-    EXPECT_EQ(count([](Data const&, Facts const& facts) { return facts.discCount == 3; }), 3);
-    EXPECT_EQ(
-        count([](Data const&, Facts const& facts) { return facts.title.contains(u'"') || facts.title.isEmpty(); }), 0);
-    EXPECT_EQ(count([](Data const&, Facts const& facts)
-                    { return facts.uploaded.isValid() && facts.downloadCount && facts.year && !facts.imdbId.empty(); }),
-              66);
+    std::vector<std::pair<char const*, bool (*)(Data const&, Facts const&)>> const counts = {
+        {"65 srt", [](auto const& data, auto const&) { return data.tags.at(SearchTags::FILE_FORMAT) == "srt"; }},
+        {"66 hashes", [](auto const& data, auto const&) { return data.subtitleHash.size() == 32; }},
+        {"8 CP1250", [](auto const& data, auto const&) { return data.encoding == QStringLiteral("CP1250"); }},
+        {"0 unknown", [](auto const&, auto const& facts) { return facts.language == LanguageID::None; }},
+        {"23 English", [](auto const&, auto const& facts) { return facts.language == LanguageID::English; }},
+        {"11 impaired", [](auto const&, auto const& facts) { return facts.isHearingImpaired; }},
+        {"22 matches", [](auto const&, auto const& facts) { return facts.isHashMatch; }},
+        {"44 HD", [](auto const&, auto const& facts) { return facts.isHighDefinition; }},
+        {"16 trusted", [](auto const&, auto const& facts) { return facts.isFromTrusted; }},
+        {"17 rated", [](auto const&, auto const& facts) { return facts.rating.has_value(); }},
+        {"49 rates", [](auto const&, auto const& facts) { return facts.framesPerSecond.has_value(); }},
+        {"18 episodes", [](auto const&, auto const& facts) { return facts.season && facts.episode; }},
+        {"3 discs", [](auto const&, auto const& facts) { return facts.discCount == 3; }},
+        {"66 titles", [](auto const&, auto const& facts) { return !facts.title.isEmpty() && facts.title[0] != u'"'; }},
+        {"66 dates", [](auto const&, auto const& facts) { return facts.uploaded.isValid() && facts.year; }},
+        {"66 ids", [](auto const&, auto const& facts) { return facts.downloadCount && !facts.imdbId.empty(); }},
+    };
+    for (auto const& [expected, holds] : counts)
+        EXPECT_EQ(std::count_if(all.begin(), all.end(),
+                                [test = holds](auto const& result) { return test(*result, result->facts); }),
+                  std::atoi(expected))
+            << expected;
 
     auto const kingsroad =
         std::find_if(all.begin(), all.end(),
