@@ -81,16 +81,20 @@ QUrl RESTSearchRequest::CreateQuery(QString const& baseUrl)
         if (key == nullptr)
             return Refuse(QStringLiteral("Invalid or unsupported search tags were provided"));
         QString const value = ToValue(QString::fromStdString(text));
-        pairs[*key] = tag == SearchTags::TITLE ? value : StripNumber(value);
+        QString const stripped = tag == SearchTags::TITLE ? value : StripNumber(value);
+        if (!stripped.isEmpty())
+            pairs[*key] = stripped;
     }
-    pairs[RESTProtocol::QUERY_KEY_LANGUAGE] = JoinLanguages(m_request.languages);
+    if (pairs.empty() && !m_request.tags.empty()) // it would find everything
+        return Refuse(QStringLiteral("Empty user query"));
+    QString const languages = JoinLanguages(m_request.languages);
+    if (!languages.isEmpty())
+        pairs[RESTProtocol::QUERY_KEY_LANGUAGE] = languages;
 
     QString url = QStringLiteral("%1/%2").arg(baseUrl, RESTProtocol::QUERY_SEARCH);
     QChar separator = QLatin1Char('?');
     for (auto const& [key, value] : pairs)
     {
-        if (value.isEmpty())
-            continue;
         url += separator + QStringLiteral("%2=%3").arg(key, value);
         separator = QLatin1Char('&');
     }

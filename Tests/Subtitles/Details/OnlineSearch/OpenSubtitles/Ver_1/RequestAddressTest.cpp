@@ -89,6 +89,8 @@ TEST(OpenSubtitlesVer1, NoValueBreaksOutOfItsParameter)
     EXPECT_EQ(Search({{SearchTags::IMDB_ID, "tt12&order_by=x"}, {SearchTags::SEASON_NUMBER, "1#"}}),
               "subtitles?imdb_id=tt12%20order_by=x&season_number=1");
     EXPECT_EQ(Search({{SearchTags::TITLE, " \t"}, {SearchTags::EPISODE_NUMBER, "2"}}), "subtitles?episode_number=2");
+    EXPECT_EQ(Search({{SearchTags::TITLE, "&#"}, {SearchTags::IMDB_ID, "tt"}}, {LanguageID::English}),
+              "Empty user query");
     EXPECT_EQ(Suggest("AC/DC? &x=%1 #1;y"), "features?query=ac/dc?%20x=%251%201%20y");
     EXPECT_EQ(Suggest("Tom %26 Jerry + Co"), "features?query=tom%20%26%20jerry%20+%20co");
     EXPECT_EQ(Suggest("100% Wolf"), "features?query=100%25%20wolf");
