@@ -7,6 +7,7 @@
 #include "Subtitles/Entities/SearchTags.h"
 
 #include "App/Configuration.h"
+#include "Support/OnlineServer/OnlineLibrary.h"
 #include "Support/OnlineServer/OnlineServer.h"
 
 #include <gtest/gtest.h>
@@ -29,37 +30,30 @@ using Status = UseCases::IOnlineSearchController::Status;
 using Testing::HttpReply;
 using Testing::HttpRequest;
 using Testing::Listener;
+using Testing::OnlineLibrary;
+using Testing::OnlineLibrarySettings;
 using Testing::OnlineServer;
 
-QByteArray const SUBTITLE = "1\n00:00:01,000 --> 00:00:02,000\nThe tide is out.\n";
+OnlineLibrarySettings StrictSettings()
+{
+    OnlineLibrarySettings settings;
+    settings.redirectsEncodedBlanks = true;
+    return settings;
+}
 
-/// An engine on real sockets between a service and another server, which has the files.
+/// An engine on real sockets with a service that is particular about what it is asked.
 class OpenSubtitlesVer1Engine : public testing::Test
 {
 protected:
     OpenSubtitlesVer1Engine()
     {
         App::Configuration configuration;
-        configuration.openSubtitlesUrl = service.GetVersion1Url().toStdString() + "/";
-        configuration.openSubtitlesApiKey = "SecretKey";
+        configuration.openSubtitlesUrl = server.GetVersion1Url().toStdString() + "/";
+        configuration.openSubtitlesApiKey = "korvex-test-key";
         App::SetActiveConfiguration(configuration);
         engine = std::make_unique<RESTSearchEngine>(std::make_shared<NetworkManagerQt>(),
                                                     std::make_shared<RESTRequestFactory>());
         engine->RegisterEventHandler(&listener);
-    }
-
-    HttpReply Answer(HttpRequest const& request)
-    {
-        HttpReply reply;
-        if (request.target.startsWith("/api/v1/subtitles"))
-            reply.body = R"({"data":[null,{"attributes":{"language":"en",
-                "files":[{"file_id":815,"file_name":"Low.Tide"}]}}]})";
-        else if (request.target.startsWith("/api/v1/features"))
-            reply.body = R"({"data":[{"attributes":{"title":"Low Tide"}}]})";
-        else
-            reply.body = R"({"link":")" + files.GetUrl().toUtf8() +
-                         R"(/Signed/AbC%2Fd?Sig=Xy","file_name":"../Low: Tide.srt","remaining":0})";
-        return reply;
     }
 
     /// How the operation ended.
@@ -75,15 +69,16 @@ protected:
         return listener.status.value_or(Status::NetworkError);
     }
 
-    Status Search()
+    std::size_t Search(std::string const& title, LanguageID language = LanguageID::English)
     {
-        return Run(engine->StartSearch({{{SearchTags::TITLE, "Low Tide"}}, {LanguageID::English, LanguageID::French}}));
+        EXPECT_EQ(Run(engine->StartSearch({{{SearchTags::TITLE, title}}, {language}})), Status::Success) << title;
+        return listener.results.size();
     }
 
     int argumentCount = 0;
     QCoreApplication application{argumentCount, nullptr};
-    OnlineServer service{[this](HttpRequest const& request) { return Answer(request); }};
-    OnlineServer files{[](HttpRequest const&) { return HttpReply(200, SUBTITLE); }};
+    OnlineLibrary library{StrictSettings()};
+    OnlineServer server{[this](HttpRequest const& request) { return library.Answer(request); }};
     QTemporaryDir folder;
     Listener listener;
     std::unique_ptr<RESTSearchEngine> engine;
@@ -91,10 +86,13 @@ protected:
 
 TEST_F(OpenSubtitlesVer1Engine, SearchesAndDownloads)
 {
-    EXPECT_EQ(Run(engine->AutoSuggest(SearchTags::TITLE, QStringLiteral("Low"))), Status::Success);
-    EXPECT_EQ(listener.suggestions, std::vector<QString>{QStringLiteral("Low Tide")});
-    ASSERT_EQ(Search(), Status::Success);
-    ASSERT_EQ(listener.results.size(), 1U);
+    EXPECT_EQ(Run(engine->AutoSuggest(SearchTags::TITLE, QStringLiteral("The Lantern K"))), Status::Success);
+    EXPECT_EQ(listener.suggestions, std::vector<QString>{QStringLiteral("The Lantern Keeper")});
+    for (char const* title : {"50% Chance of Rain", "Étude in C#", "Salt & Ember", "Café Meridian"})
+        EXPECT_GT(Search(title), 0U) << title;
+    ASSERT_EQ(Search("The Lantern Keeper"), 4U);
+    server.ForgetRequests();
+    listener.results.resize(1);
     ioPath const target = ioPath(folder.path().toStdString()) / "new" / "folder";
     for (int i = 0; i < 2; ++i)
         ASSERT_EQ(Run(engine->DownloadSubtitles(listener.results, target)), Status::Success) << listener.message;
@@ -104,44 +102,34 @@ TEST_F(OpenSubtitlesVer1Engine, SearchesAndDownloads)
     for (QString const& path : listener.files)
     {
         QFile stored(path);
-        EXPECT_TRUE(stored.open(QIODevice::ReadOnly));
-        EXPECT_EQ(stored.readAll(), SUBTITLE);
-        EXPECT_TRUE(path.startsWith(folder.path() + QStringLiteral("/new/folder/Low_ Tide"))) << path.toStdString();
+        EXPECT_TRUE(stored.open(QIODevice::ReadOnly)) << path.toStdString();
+        EXPECT_TRUE(stored.readAll().contains("-->"));
+        EXPECT_TRUE(path.startsWith(folder.path() + QStringLiteral("/new/folder/The.Lantern.Keeper.2014")));
+        EXPECT_TRUE(path.endsWith(QStringLiteral(".srt")));
     }
-
-    auto const asked = service.GetRequests();
-    ASSERT_EQ(asked.size(), 4U);
-    EXPECT_EQ(asked[0].target, "/api/v1/features?query=low");
-    EXPECT_EQ(asked[1].target, "/api/v1/subtitles?languages=en,fr&query=low%20tide");
-    EXPECT_EQ(asked[2].method + ' ' + asked[2].target, "POST /api/v1/download");
-    EXPECT_EQ(asked[2].body, "file_id=815");
-    for (HttpRequest const& request : asked)
-    {
-        EXPECT_EQ(request.Header("Api-Key"), "SecretKey");
-        EXPECT_EQ(request.Header("Content-Type"), "application/json");
-        EXPECT_EQ(request.Header("Accept"), "application/json");
-        EXPECT_TRUE(request.Header("User-Agent").startsWith("Korvex "));
-    }
-    auto const fetched = files.GetRequests();
-    ASSERT_EQ(fetched.size(), 2U);
-    EXPECT_EQ(fetched[0].method + ' ' + fetched[0].target, "GET /Signed/AbC%2Fd?Sig=Xy");
-    EXPECT_EQ(fetched[0].Header("Api-Key"), "");
+    auto const requests = server.GetRequests();
+    ASSERT_EQ(requests.size(), 4U);
+    EXPECT_EQ(requests[0].method + ' ' + requests[0].target, "POST /api/v1/download");
+    EXPECT_EQ(requests[0].body, "file_id=" + listener.results.front()->facts.serviceId.toLatin1());
+    EXPECT_EQ(requests[0].Header("Content-Type"), "application/json");
+    EXPECT_EQ(requests[1].method, "GET");
 }
 
 TEST_F(OpenSubtitlesVer1Engine, StoresNothingThatIsNoSubtitleOrHasNoPlace)
 {
-    ASSERT_EQ(Search(), Status::Success);
+    ASSERT_GT(Search("Night Ferry"), 0U);
+    listener.results.resize(1);
     ioPath const target(folder.path().toStdString());
-    for (QByteArray const& body :
-         {QByteArray("<html><title>Quota</title></html>"), QByteArray(), QByteArray(R"({"message":"link expired"})")})
+    for (QByteArray const& body : {QByteArray("<html><title>Quota</title></html>"), QByteArray()})
     {
-        files.Intercept([body](HttpRequest const&) { return std::make_unique<HttpReply>(200, body); });
+        server.Intercept([body](HttpRequest const& request)
+                         { return request.method == "GET" ? std::make_unique<HttpReply>(200, body) : nullptr; });
         EXPECT_EQ(Run(engine->DownloadSubtitles(listener.results, target)), Status::ServerError);
         EXPECT_NE(listener.message, "");
     }
     EXPECT_TRUE(QDir(folder.path()).isEmpty());
 
-    files.Intercept({});
+    server.Intercept({});
     QFile taken(folder.filePath(QStringLiteral("taken")));
     ASSERT_TRUE(taken.open(QIODevice::WriteOnly));
     EXPECT_EQ(Run(engine->DownloadSubtitles(listener.results, target / "taken")), Status::FileError);
