@@ -80,7 +80,7 @@ public:
     [[nodiscard]] SearchRequest MakeQuery(SubtitleSearchMediaInfoSettings const& media) const
     {
         SearchRequest request = MakeSearchRequest(DescribeFilm(media));
-        if (media.isDvd) // services know the fingerprints of files alone
+        if (media.isDvd || media.path.empty()) // services know the fingerprints of files alone
             return request;
         for (auto const& filler : m_fillers)
             filler->FillMetadata(media, request);

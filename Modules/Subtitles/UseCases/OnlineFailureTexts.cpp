@@ -50,8 +50,8 @@ QString DescribeTooManyRequests(OnlineFailure const& failure)
 {
     QString const words = QuoteServer(failure);
     if (auto const seconds = failure.report.retryAfterSeconds; seconds && *seconds > 0)
-        return Fill(Texts::tr("%1 was asked too often%2; try again in %n second(s).", nullptr, *seconds),
-                    failure.serviceName, words);
+        return Fill(Texts::tr("%1 was asked too often%2; wait %3 s and try again."), failure.serviceName, words,
+                    QString::number(*seconds));
     return Fill(Texts::tr("%1 was asked too often%2; try again in a minute."), failure.serviceName, words);
 }
 
@@ -122,7 +122,10 @@ QString DescribeOnlineFailure(OnlineFailure const& failure)
     switch (failure.status)
     {
     case Status::NoConnection:
-        return Fill(Texts::tr("%1 cannot be reached; check the connection to the network and try again."), service);
+        return Fill(
+            Texts::tr(
+                "%1 cannot be reached or did not answer in time; check the connection to the network and try again."),
+            service);
     case Status::ServerError:
         return Fill(Texts::tr("%1 could not answer%2; try again later."), service, QuoteCause(failure));
     default:

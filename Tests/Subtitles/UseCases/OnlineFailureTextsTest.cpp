@@ -42,7 +42,7 @@ TEST(OnlineFailureTextsTest, SaysWhatHappenedAndWhatToDo)
 
     auto tooMany = MakeFailure(Status::NetworkError, Reason::TooManyRequests);
     tooMany.report.retryAfterSeconds = 7;
-    EXPECT_THAT(Words(tooMany), HasSubstr("try again in 7 second"));
+    EXPECT_THAT(Words(tooMany), HasSubstr("wait 7 s"));
 
     auto file = MakeFailure(Status::FileError);
     file.error = QStringLiteral("Failed to create temp directory");
