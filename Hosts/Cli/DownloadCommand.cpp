@@ -23,6 +23,7 @@
 namespace Korvex::Cli
 {
 
+using Converter::Subtitles::UseCases::RankedResult;
 using Converter::Subtitles::UseCases::SearchResult;
 
 namespace
@@ -73,30 +74,30 @@ void PrepareFolder(ioPath const& folder)
     Core::RemoveFile(probe);
 }
 
-/// A row's number, else an id as the search prints it.
-std::shared_ptr<SearchResult> FindPick(std::string const& pick, SearchResults const& results)
+/// The index of a row's number, else of an id as the search prints it.
+std::size_t FindPick(std::string const& pick, SearchResults const& results)
 {
     QString const text = ToJsonText(pick);
     bool isNumber = false;
     std::size_t const number = text.toULongLong(&isNumber);
     if (isNumber && number >= 1 && number <= results.size())
-        return results[number - 1];
-    auto const found =
-        std::find_if(results.begin(), results.end(),
-                     [&](std::shared_ptr<SearchResult> const& result) { return result->facts.serviceId == text; });
+        return number - 1;
+    auto const found = std::find_if(results.begin(), results.end(),
+                                    [&](RankedResult const& ranked) { return ranked.result->facts.serviceId == text; });
     if (found != results.end())
-        return *found;
+        return static_cast<std::size_t>(found - results.begin());
     throw Hosts::ChoiceError("The search found no row \"" + pick + "\"; pick " +
                              (results.size() == 1 ? "row 1" : "a row from 1 to " + std::to_string(results.size())) +
                              " or an id that \"korvex search\" prints.");
 }
 
-SearchResults FindPicks(std::vector<std::string> const& picks, SearchResults const& results)
+std::vector<std::shared_ptr<SearchResult>> FindPicks(std::vector<std::string> const& picks,
+                                                     SearchResults const& results)
 {
-    SearchResults picked;
+    std::vector<std::shared_ptr<SearchResult>> picked;
     for (std::string const& pick : picks)
     {
-        auto const result = FindPick(pick, results);
+        auto const& result = results[FindPick(pick, results)].result;
         if (std::find(picked.begin(), picked.end(), result) == picked.end())
             picked.push_back(result);
     }
@@ -132,21 +133,14 @@ ioPath Store(DownloadedFile const& file, ioPath const& input, DownloadChoice con
     throw Hosts::FileError(stored.GetError());
 }
 
-void Report(SearchResult const& result, int row, ioPath const& path, bool isJson, Console& console)
+void Report(std::shared_ptr<SearchResult> const& result, SearchResults const& results, ioPath const& path,
+            Console& console)
 {
-    if (!isJson)
-    {
-        console.out << "Wrote " << path.utf8string() << ".\n";
-        return;
-    }
-    QJsonObject object = ResultToJson(result, row);
+    auto const row = std::find_if(results.begin(), results.end(),
+                                  [&](RankedResult const& ranked) { return ranked.result == result; });
+    QJsonObject object = ResultToJson(*row, static_cast<int>(row - results.begin()) + 1);
     object.insert(QStringLiteral("file"), ToJsonText(path.utf8string()));
     WriteJsonLine(console.out, object);
-}
-
-int FindRow(SearchResults const& results, std::shared_ptr<SearchResult> const& result)
-{
-    return static_cast<int>(std::find(results.begin(), results.end(), result) - results.begin()) + 1;
 }
 
 } // namespace
@@ -188,10 +182,10 @@ ExitCode DownloadCommand::Run(Arguments const& arguments, Console& console)
     Services const services(configuration);
     OnlineRun run(services.GetOnlineDownloader(), console.isInterrupted);
     auto const request = run.MakeRequest(query);
-    SearchResults const results = run.Search(request);
+    SearchResults const results = run.Search(query, request);
     if (results.empty())
         throw OnlineError(DescribeNothingFound(request));
-    SearchResults const picked = FindPicks(choice.picks, results);
+    auto const picked = FindPicks(choice.picks, results);
 
     Hosts::WorkFolder workFolder;
     auto const folder = workFolder.Get();
@@ -205,7 +199,10 @@ ExitCode DownloadCommand::Run(Arguments const& arguments, Console& console)
         try
         {
             ioPath const path = Store(file, query.media.path, choice);
-            Report(*file.result, FindRow(results, file.result), path, choice.isJson, console);
+            if (choice.isJson)
+                Report(file.result, results, path, console);
+            else
+                console.out << "Wrote " << path.utf8string() << ".\n";
         }
         catch (Hosts::FileError const& error)
         {

@@ -21,9 +21,9 @@ constexpr int FIRST_FILM_YEAR = 1870;
 constexpr int LAST_YEAR = 2200;
 constexpr int MOST_EPISODES = 9999;
 
-std::set<Language::LanguageID> ReadLanguages(GivenOption const& option)
+std::vector<Language::LanguageID> ReadLanguages(GivenOption const& option)
 {
-    std::set<Language::LanguageID> languages;
+    std::vector<Language::LanguageID> languages;
     for (std::string const& name : ReadList(option))
     {
         Language::LanguageID const language = Language::GetLanguageFromShortName(name);
@@ -31,7 +31,8 @@ std::set<Language::LanguageID> ReadLanguages(GivenOption const& option)
             throw UsageError("The option --language takes languages such as en, rus or pt-BR, separated by commas, and "
                              "\"" +
                              name + "\" is none.");
-        languages.insert(language);
+        if (std::find(languages.begin(), languages.end(), language) == languages.end())
+            languages.push_back(language);
     }
     return languages;
 }
@@ -78,7 +79,8 @@ OptionGroup QueryOptions()
              {"--season", OptionValue::Required, "N", "The season of an episode."},
              {"--episode", OptionValue::Required, "N", "The episode within its season."},
              {"--year", OptionValue::Required, "Y", "The year; it puts the right film first and leaves none out."},
-             {"--language", OptionValue::Required, "L[,M]", "Languages such as en, rus or pt-BR; all when left out."}}};
+             {"--language", OptionValue::Required, "L[,M]",
+              "Languages such as en, rus or pt-BR, the most wanted first; all when left out."}}};
 }
 
 Option TimeoutOption()

@@ -7,7 +7,7 @@
 
 #include "App/Configuration.h"
 
-#include <set>
+#include <vector>
 
 /// What the commands that ask the online service have in common.
 namespace Korvex::Cli
@@ -18,8 +18,8 @@ struct Console;
 /// What a search goes by, as the command line says it.
 struct OnlineQuery
 {
-    Converter::Subtitles::Entities::SubtitleSearchMediaInfoSettings media;    ///< `path` stays empty without an input
-    std::set<Converter::Subtitles::Entities::Language::LanguageID> languages; ///< empty: all
+    Converter::Subtitles::Entities::SubtitleSearchMediaInfoSettings media; ///< `path` stays empty without an input
+    std::vector<Converter::Subtitles::Entities::Language::LanguageID> languages; ///< the most wanted first; none: all
 };
 
 /// "--title" and the others that describe the film.

@@ -5,12 +5,15 @@
 #include "Cli/TextWidth.h"
 #include "Common/Sentences.h"
 
+#include "Subtitles/UseCases/SearchQuery.h"
+
 #include <QEventLoop>
 #include <QTimer>
 
 namespace Korvex::Cli
 {
 
+using Converter::Subtitles::UseCases::RankedResult;
 using Converter::Subtitles::UseCases::SearchRequest;
 using Converter::Subtitles::UseCases::ServerReport;
 
@@ -37,16 +40,17 @@ SearchRequest OnlineRun::MakeRequest(OnlineQuery const& query) const
     if (request.tags.empty())
         throw UsageError("Nothing tells which film " + Hosts::Quoted(query.media.path) +
                          " is; add --title TITLE or --imdb ID.");
-    request.languages = query.languages;
+    request.languages.insert(query.languages.begin(), query.languages.end());
     return request;
 }
 
-std::vector<std::shared_ptr<OnlineRun::SearchResult>> OnlineRun::Search(SearchRequest const& request)
+std::vector<RankedResult> OnlineRun::Search(OnlineQuery const& query, SearchRequest const& request)
 {
     m_results.clear();
     Await([&] { m_interactor->StartSearch(m_collection, request); });
     ThrowFailure();
-    return std::move(m_results);
+    return Converter::Subtitles::UseCases::RankResults(
+        m_results, Converter::Subtitles::UseCases::DescribeFilm(query.media), query.languages);
 }
 
 std::vector<QString> OnlineRun::Suggest(QString const& text)

@@ -2,6 +2,7 @@
 
 #include "Subtitles/Entities/SubtitleCollectionID.h"
 #include "Subtitles/UseCases/IOnlineDownloaderInteractor.h"
+#include "Subtitles/UseCases/ResultRanking.h"
 
 #include "Core/ScopedObservation.h"
 
@@ -51,9 +52,9 @@ public:
 
     /// The query with what the film's file adds to it. Throws UsageError when nothing is there to search by.
     [[nodiscard]] Converter::Subtitles::UseCases::SearchRequest MakeRequest(OnlineQuery const& query) const;
-    /// In the order in which the best comes first. Throws OnlineError.
-    [[nodiscard]] std::vector<std::shared_ptr<SearchResult>>
-    Search(Converter::Subtitles::UseCases::SearchRequest const& request);
+    /// The best first. `request` is what `MakeRequest` made of the query. Throws OnlineError.
+    [[nodiscard]] std::vector<Converter::Subtitles::UseCases::RankedResult>
+    Search(OnlineQuery const& query, Converter::Subtitles::UseCases::SearchRequest const& request);
     /// Throws OnlineError.
     [[nodiscard]] std::vector<QString> Suggest(QString const& text);
     /// Into a folder that exists.

@@ -18,6 +18,8 @@ namespace Korvex::Cli
 {
 
 using Converter::Subtitles::Entities::SearchTags;
+using Converter::Subtitles::UseCases::MatchReason;
+using Converter::Subtitles::UseCases::RankedResult;
 using Converter::Subtitles::UseCases::SearchResult;
 using Converter::Subtitles::UseCases::SearchResultFacts;
 namespace Language = Converter::Subtitles::Entities::Language;
@@ -61,8 +63,14 @@ QString GetLanguageCode(SearchResultFacts const& facts)
     return shortName.empty() ? facts.languageCode : QString::fromStdString(shortName);
 }
 
-QString DescribeMarks(SearchResultFacts const& facts)
+bool IsMarked(RankedResult const& ranked, MatchReason reason)
 {
+    return std::find(ranked.reasons.begin(), ranked.reasons.end(), reason) != ranked.reasons.end();
+}
+
+QString DescribeMarks(RankedResult const& ranked)
+{
+    SearchResultFacts const& facts = ranked.result->facts;
     QStringList marks;
     auto const add = [&](bool isSet, char const* mark)
     {
@@ -77,11 +85,14 @@ QString DescribeMarks(SearchResultFacts const& facts)
     add(facts.isHighDefinition, "HD");
     if (facts.discCount > 1)
         marks.append(QStringLiteral("part %1 of %2").arg(facts.discNumber).arg(facts.discCount));
+    add(IsMarked(ranked, MatchReason::OtherFilm), "other film");
+    add(IsMarked(ranked, MatchReason::WrongEpisode), "other episode");
     return marks.join(QLatin1String(", "));
 }
 
-Row MakeRow(SearchResult const& result, int number)
+Row MakeRow(RankedResult const& ranked, int number)
 {
+    SearchResult const& result = *ranked.result;
     SearchResultFacts const& facts = result.facts;
     Row row{QString::number(number),
             facts.serviceId,
@@ -89,7 +100,7 @@ Row MakeRow(SearchResult const& result, int number)
             GetFormat(result),
             facts.downloadCount ? QString::number(*facts.downloadCount) : QString(),
             result.fileName,
-            DescribeMarks(facts)};
+            DescribeMarks(ranked)};
     for (QString& cell : row)
         cell = ToSafeLine(cell);
     return row;
@@ -127,8 +138,11 @@ void PrintRow(Row const& row, Widths const& widths, std::ostream& out)
     out << line.toStdString() << '\n';
 }
 
-void AddSwitches(SearchResultFacts const& facts, QJsonObject& object)
+void AddSwitches(RankedResult const& ranked, QJsonObject& object)
 {
+    SearchResultFacts const& facts = ranked.result->facts;
+    object.insert(QStringLiteral("otherFilm"), IsMarked(ranked, MatchReason::OtherFilm));
+    object.insert(QStringLiteral("otherEpisode"), IsMarked(ranked, MatchReason::WrongEpisode));
     object.insert(QStringLiteral("hearingImpaired"), facts.isHearingImpaired);
     object.insert(QStringLiteral("foreignPartsOnly"), facts.isForeignPartsOnly);
     object.insert(QStringLiteral("machineTranslated"), facts.isMachineTranslated);
@@ -159,8 +173,8 @@ void PrintResultTable(SearchResults const& results, int columns, std::ostream& o
     std::vector<Row> rows(1);
     for (std::size_t column = 0; column < COLUMNS.size(); ++column)
         rows.front()[column] = QLatin1String(COLUMNS[column].title);
-    for (auto const& result : results)
-        rows.push_back(MakeRow(*result, static_cast<int>(rows.size())));
+    for (RankedResult const& ranked : results)
+        rows.push_back(MakeRow(ranked, static_cast<int>(rows.size())));
 
     if (columns > 0)
     {
@@ -173,8 +187,9 @@ void PrintResultTable(SearchResults const& results, int columns, std::ostream& o
         PrintRow(row, widths, out);
 }
 
-QJsonObject ResultToJson(SearchResult const& result, int number)
+QJsonObject ResultToJson(RankedResult const& ranked, int number)
 {
+    SearchResult const& result = *ranked.result;
     SearchResultFacts const& facts = result.facts;
     QJsonObject object{{QStringLiteral("number"), number}, {QStringLiteral("name"), result.fileName}};
     AddText(object, "id", facts.serviceId);
@@ -194,7 +209,7 @@ QJsonObject ResultToJson(SearchResult const& result, int number)
     AddNumber(object, "year", facts.year);
     AddNumber(object, "season", facts.season);
     AddNumber(object, "episode", facts.episode);
-    AddSwitches(facts, object);
+    AddSwitches(ranked, object);
     return object;
 }
 

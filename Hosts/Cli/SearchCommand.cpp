@@ -25,7 +25,8 @@ std::string_view SearchCommand::Notes() const
     return "The best come first; --pick of \"korvex download\" takes a row's number or id.\n"
            "Marks: fingerprint (found by the file itself), forced (foreign parts only), SDH\n"
            "(for the hearing impaired), machine (translated by one), trusted (by an uploader\n"
-           "whom the service trusts), HD, part 1 of 2.\n"
+           "whom the service trusts), HD, part 1 of 2; other film, other episode (not what\n"
+           "was looked for, by what the service says of it).\n"
            "\n"
            "What is sent to whom stands in docs/online.md; \"korvex config\" shows where to.\n"
            "That nothing was found is told on standard error and is no failure.\n"
@@ -42,7 +43,7 @@ ExitCode SearchCommand::Run(Arguments const& arguments, Console& console)
     Services const services(ReadOnlineConfiguration(arguments, console));
     OnlineRun run(services.GetOnlineDownloader(), console.isInterrupted);
     auto const request = run.MakeRequest(query);
-    SearchResults const results = run.Search(request);
+    SearchResults const results = run.Search(query, request);
 
     if (results.empty())
         console.err << "korvex: " << DescribeNothingFound(request) << '\n';
@@ -50,7 +51,7 @@ ExitCode SearchCommand::Run(Arguments const& arguments, Console& console)
         PrintResultTable(results, console.outColumns, console.out);
     else
         for (std::size_t index = 0; index < results.size(); ++index)
-            WriteJsonLine(console.out, ResultToJson(*results[index], static_cast<int>(index) + 1));
+            WriteJsonLine(console.out, ResultToJson(results[index], static_cast<int>(index) + 1));
     return ExitCode::Done;
 }
 
