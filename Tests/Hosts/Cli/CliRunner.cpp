@@ -16,9 +16,6 @@
 namespace Korvex::Testing
 {
 
-namespace
-{
-
 void EnsureApplication()
 {
     static int count = 1;
@@ -26,8 +23,6 @@ void EnsureApplication()
     static char* arguments[] = {name, nullptr};
     static QCoreApplication const application(count, arguments);
 }
-
-} // namespace
 
 std::vector<QJsonObject> CliResult::JsonLines() const
 {

@@ -21,6 +21,9 @@ struct CliResult
     [[nodiscard]] std::vector<QJsonObject> JsonLines() const;
 };
 
+/// Makes the application object that commands and servers need; once in a process.
+void EnsureApplication();
+
 /// Carries a command line out in this process. Sets up the application object and the log once.
 [[nodiscard]] CliResult RunCli(std::vector<std::string> const& words);
 

@@ -1,3 +1,4 @@
+#include "Cli/ResultTable.h"
 #include "Cli/TextWidth.h"
 #include "Common/SubtitleFileName.h"
 
@@ -6,6 +7,8 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <sstream>
 
 namespace Korvex::Hosts
 {
@@ -67,6 +70,33 @@ TEST(OnlineNamesTest, WidthsAreThoseOfATerminal)
     QString const shortened = Cli::Shortened(QString::fromUtf8("\u5343\u3068\u5343\u5C0B\u306E\u795E.1080p.srt"), 12);
     EXPECT_EQ(shortened, QString::fromUtf8("\u5343\u3068....srt"));
     EXPECT_EQ(Cli::Shortened(QStringLiteral("Up.1080p.srt"), 12), QStringLiteral("Up.1080p.srt"));
+}
+
+TEST(OnlineNamesTest, ATableFitsTheTerminalAndIsWholeElsewhere)
+{
+    auto const first = std::make_shared<SearchResult>(MakeResult(Language::LanguageID::Japanese));
+    first->fileName =
+        QString::fromUtf8("\u5343\u3068\u5343\u5C0B\u306E\u795E\u96A0\u3057.2001.1080p.BluRay.x264-GROUP.srt");
+    first->tags["FILE_FORMAT"] = "srt";
+    first->facts.serviceId = "8200001";
+    first->facts.downloadCount = 1234567;
+    first->facts.isHearingImpaired = true;
+    first->facts.discCount = 2;
+    auto const second = std::make_shared<SearchResult>(MakeResult(Language::LanguageID::PortugueseBR));
+    second->fileName = QStringLiteral("Short.srt");
+    second->facts.isHashMatch = true;
+
+    std::ostringstream terminal;
+    Cli::PrintResultTable({{first, {}}, {second, {}}}, 92, terminal);
+    QStringList const lines = QString::fromStdString(terminal.str()).split('\n');
+    ASSERT_EQ(lines.size(), 4);
+    EXPECT_EQ(Cli::DisplayWidth(lines[1]), 92);
+    EXPECT_EQ(lines[0].indexOf("Marks"), lines[2].indexOf("fingerprint"));
+    EXPECT_EQ(lines[0].indexOf("Marks"), Cli::DisplayWidth(lines[1].left(lines[1].indexOf("SDH"))));
+    EXPECT_EQ(lines[0].indexOf("Downloads") + 9, lines[1].indexOf("1234567") + 7);
+    std::ostringstream file;
+    Cli::PrintResultTable({{first, {}}, {second, {}}}, 0, file);
+    EXPECT_THAT(file.str(), testing::HasSubstr(first->fileName.toStdString() + "  SDH, part 1 of 2\n"));
 }
 
 } // namespace

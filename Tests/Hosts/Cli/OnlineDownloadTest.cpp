@@ -1,0 +1,183 @@
+#include "Hosts/Cli/OnlineFixture.h"
+
+#include <gmock/gmock.h>
+
+#include <QElapsedTimer>
+#include <QJsonArray>
+#include <QJsonObject>
+
+namespace Korvex::Testing
+{
+namespace
+{
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr Service SERVICES[] = {Service::Legacy, Service::Version1};
+
+class OnlineDownloadTest : public OnlineFixture
+{
+protected:
+    CliResult Download(
+        std::vector<std::string> words, std::function<bool()> isInterrupted = [] { return false; })
+    {
+        words.insert(words.begin(), "download");
+        words.insert(words.end(), {"--output-dir", GetFolder().utf8string()});
+        return Run(words, std::move(isInterrupted));
+    }
+};
+
+TEST_F(OnlineDownloadTest, NamesFilesForTheLookUpBesideTheFilm)
+{
+    ioPath const film = MakeFilm("The.Lantern.Keeper.2014.mkv");
+    for (Service const service : SERVICES)
+    {
+        Use(service);
+        CliResult const result = Download({film.utf8string(), "--language", "en", "--pick", "1"});
+        EXPECT_EQ(result.exitCode, 0) << result.err;
+        EXPECT_THAT(result.out, HasSubstr("Wrote "));
+        EXPECT_THAT(result.err, HasSubstr("more download")) << "what is left of the quota";
+    }
+    EXPECT_THAT(ListNames(GetFolder()),
+                ElementsAre("The.Lantern.Keeper.2014.en (2).srt", "The.Lantern.Keeper.2014.en.srt"));
+    EXPECT_THAT(ReadDownload("The.Lantern.Keeper.2014.en.srt"), HasSubstr(" --> "));
+
+    EXPECT_EQ(Download({film.utf8string(), "--language", "en", "--pick", "1", "--overwrite"}).exitCode, 0);
+    EXPECT_EQ(ListNames(GetFolder()).size(), 2U);
+}
+
+TEST_F(OnlineDownloadTest, PicksRowsAndIds)
+{
+    for (Service const service : SERVICES)
+    {
+        Use(service);
+        auto const rows = Search({"--imdb", "tt99000101", "--language", "en,de"});
+        ASSERT_GE(rows.size(), 3U);
+        std::string const id = rows[2]["id"].toString().toStdString();
+        CliResult const result =
+            Download({"--imdb", "tt99000101", "--language", "en,de", "--pick", id + ",1,3", "--json"});
+        EXPECT_EQ(result.exitCode, 0) << result.err;
+        auto const files = result.JsonLines();
+        ASSERT_EQ(files.size(), 2U) << "the same one twice is one";
+        EXPECT_EQ(files[0]["id"], rows[2]["id"]);
+        EXPECT_EQ(files[0]["number"].toInt(), 3);
+        EXPECT_EQ(files[1]["number"].toInt(), 1);
+        EXPECT_THAT(files[0]["file"].toString().toStdString(), HasSubstr(GetFolder().utf8string()));
+    }
+    EXPECT_EQ(ListNames(GetFolder()).size(), 4U);
+}
+
+TEST_F(OnlineDownloadTest, AnUnknownPickCostsNothing)
+{
+    for (Service const service : SERVICES)
+    {
+        Use(service);
+        for (char const* const pick : {"0", "9999", "-1", "first", "1,9999"})
+        {
+            CliResult const result =
+                Download({"--title", "The Lantern Keeper", "--language", "en", std::string("--pick=") + pick});
+            EXPECT_EQ(result.exitCode, 2) << pick;
+            EXPECT_THAT(result.err, AllOf(HasSubstr("a row from 1 to 4"), HasSubstr("or an id"))) << pick;
+        }
+        EXPECT_EQ(Download({"--title", "No Such Film", "--pick", "1"}).exitCode, 1);
+    }
+    EXPECT_EQ(CountDownloads(), 0);
+    EXPECT_THAT(ListNames(GetFolder()), IsEmpty());
+}
+
+TEST_F(OnlineDownloadTest, AFolderThatCannotBeWrittenCostsNothing)
+{
+    ioPath const film = MakeFilm("film.mkv");
+    CliResult const result =
+        Run({"download", "--title", "The Lantern Keeper", "--pick", "1", "--output-dir", (film / "sub").utf8string()});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.err, HasSubstr("film.mkv/sub\" cannot be written"));
+    EXPECT_THAT(m_server.GetRequests(), IsEmpty());
+}
+
+struct DownloadFault
+{
+    char const* fault;
+    char const* fragment; ///< of the sentence
+    bool isOfArchives = false;
+};
+
+TEST_F(OnlineDownloadTest, WhatIsNoSubtitleIsNotKept)
+{
+    std::vector<DownloadFault> const faults{
+        {"file-stall", "did not answer in time"},
+        {"file-drop", "could not answer"},
+        {"file-html", "Down for maintenance"},
+        {"file-html-200", "Down for maintenance"},
+        {"file-huge", "could not answer"},
+        {"empty-file", "empty file"},
+        {"html-file", "Too many downloads"},
+        {"advert", "of "},
+        {"quota", "ownload"},
+        {"bomb-zip", "OpenSubtitles", true},
+        {"nested-zip", "OpenSubtitles", true},
+    };
+    for (Service const service : SERVICES)
+        for (DownloadFault const& fault : faults)
+        {
+            if (fault.isOfArchives && service == Service::Version1)
+                continue;
+            Use(service, fault.fault);
+            std::vector<std::string> words{"--title", "The Lantern Keeper", "--language", "en", "--pick", "1",
+                                           "--json"};
+            if (fault.fault == std::string("file-stall"))
+                words.insert(words.end(), {"--timeout", "1"});
+            CliResult const result = Download(words);
+            EXPECT_EQ(result.exitCode, 1) << fault.fault;
+            EXPECT_EQ(result.out, "") << fault.fault;
+            EXPECT_THAT(result.err, HasSubstr(fault.fragment)) << fault.fault;
+            EXPECT_THAT(ListNames(GetFolder()), IsEmpty()) << fault.fault;
+        }
+}
+
+TEST_F(OnlineDownloadTest, AUsedUpQuotaSaysUntilWhen)
+{
+    Use(Service::Version1, "quota");
+    EXPECT_THAT(Download({"--title", "The Lantern Keeper", "--pick", "1"}).err,
+                AllOf(HasSubstr("used up"), HasSubstr("after 2")));
+}
+
+TEST_F(OnlineDownloadTest, NoNameLeadsOutOfTheFolder)
+{
+    Use(Service::Legacy, "evil-names-zip");
+    CliResult const result = Download({"--title", "The Lantern Keeper", "--language", "en", "--pick", "1"});
+    EXPECT_EQ(ListNames(GetFolder()).size(), result.exitCode == 0 ? 1U : 0U);
+    EXPECT_THAT(ListNames(GetFolder().Parent()), ElementsAre("korvex.conf", "subtitles"));
+}
+
+TEST_F(OnlineDownloadTest, AnInterruptLeavesNothingBehind)
+{
+    for (Service const service : SERVICES)
+    {
+        Use(service, "file-stall");
+        m_server.ForgetRequests();
+        QElapsedTimer clock;
+        clock.start();
+        qint64 interruptedAt = 0;
+        CliResult const result =
+            Download({"--title", "The Lantern Keeper", "--language", "en", "--pick", "1"},
+                     [&]
+                     {
+                         // The stalled file is the last of the requests.
+                         bool const isReached =
+                             CountDownloads() >= (service == Service::Legacy ? 1 : 2) && clock.elapsed() > 200;
+                         if (isReached && interruptedAt == 0)
+                             interruptedAt = clock.elapsed();
+                         return isReached;
+                     });
+        EXPECT_LT(clock.elapsed() - interruptedAt, 1000);
+        EXPECT_EQ(result.exitCode, 130);
+        EXPECT_THAT(ListNames(GetFolder()), IsEmpty());
+    }
+}
+
+} // namespace
+} // namespace Korvex::Testing
