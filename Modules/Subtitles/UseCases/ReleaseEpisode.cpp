@@ -114,6 +114,9 @@ public:
 
     std::optional<EpisodeMark> FindAt(std::size_t index, std::size_t begin)
     {
+        QString const& key = m_atoms[index].key;
+        if (key.isEmpty() || (key.size() == 1 && !key.at(0).isDigit()))
+            return std::nullopt;
         m_mark = EpisodeMark();
         m_mark.begin = index;
         m_mark.end = index + 1;

@@ -172,6 +172,8 @@ std::optional<ReleaseTag> FindListedTag(std::vector<ReleaseAtom> const& atoms, s
     std::optional<ReleaseTag> best;
     QString key = atoms[index].key;
     std::size_t const mostWords = table.firstParts.contains(key) ? MOST_WORDS : 1;
+    if (mostWords == 1 && key.size() == 1)
+        return std::nullopt;
     for (std::size_t size = 1;;)
     {
         auto const found = table.tags.constFind(key);
@@ -254,7 +256,10 @@ bool IsNumberBetween(QString const& text, QLatin1String prefix, QLatin1String su
 /// "CD1", "700MB", "tt0133093": never part of a title.
 bool IsNumberedTag(QString const& key)
 {
+    constexpr int SHORTEST = 3;
     constexpr int SHORTEST_ID = 9;
+    if (key.size() < SHORTEST)
+        return false;
     bool const isId = key.size() >= SHORTEST_ID && key.startsWith(QLatin1String("tt")) &&
                       std::all_of(key.begin() + 2, key.end(), [](QChar c) { return c.isDigit(); });
     return isId || IsNumberBetween(key, QLatin1String("cd"), {}) || IsNumberBetween(key, QLatin1String("disc"), {}) ||
