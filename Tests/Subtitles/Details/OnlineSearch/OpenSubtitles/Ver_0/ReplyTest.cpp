@@ -22,10 +22,18 @@ using testing::ElementsAre;
 using Status = UseCases::IOnlineSearchController::Status;
 using Result = std::shared_ptr<RESTSearchResultData>;
 
-/// Keeps what one operation tells.
-class Listener final : public UseCases::IOnlineSearchControllerObserver
+/// What an operation makes of a body, and tells of it.
+struct Reading final : UseCases::IOnlineSearchControllerObserver
 {
-public:
+    Reading(RESTRequest& request, QByteArray const& body)
+    {
+        std::atomic<int> aliveCount{0};
+        Korvex::Testing::FakeReply reply(QNetworkRequest(), aliveCount);
+        reply.SetBody(body);
+        status = request.ParseReply(reply);
+        error = request.GetError();
+        request.NotifySuccess(*this);
+    }
     void OnSearchResults(std::vector<std::shared_ptr<UseCases::SearchResult>> const& hits) override
     {
         for (auto const& hit : hits)
@@ -36,39 +44,16 @@ public:
     void OnOperationFinished() override {}
     void OnOperationFailed(Status, QString const&) override {}
 
-    std::vector<Result> results;
-    std::vector<QString> suggestions;
-};
-
-/// What an operation makes of a body.
-struct Reading
-{
     Status status = Status::Success;
     QString error;
     std::vector<Result> results;
     std::vector<QString> suggestions;
 };
 
-Reading Read(RESTRequest& request, QByteArray const& body)
-{
-    std::atomic<int> aliveCount{0};
-    Korvex::Testing::FakeReply reply(QNetworkRequest(), aliveCount);
-    reply.SetBody(body);
-    Reading reading;
-    reading.status = request.ParseReply(reply);
-    EXPECT_EQ(reading.status, request.GetStatus());
-    reading.error = request.GetError();
-    Listener listener;
-    request.NotifySuccess(listener);
-    reading.results = listener.results;
-    reading.suggestions = listener.suggestions;
-    return reading;
-}
-
 Reading ReadSearch(QByteArray const& body)
 {
     RESTSearchRequest request({}, UseCases::SearchRequest{{{SearchTags::TITLE, "x"}}, {}});
-    return Read(request, body);
+    return Reading(request, body);
 }
 
 /// A row of the least that can be shown and downloaded, with other members added or put in place of its own.
@@ -165,12 +150,12 @@ TEST(LegacyReplyTest, ReadsTextsAsTheyAreMeant)
 TEST(LegacyReplyTest, FoldsSuggestions)
 {
     RESTAutoSuggestRequest request({}, QStringLiteral("up"));
-    auto const reading = Read(request, R"(Notice: x[1] [{"name":"Up","year":"2009","id":1},{"name":"Up"},{"name":7},{},
+    Reading const reading(request, R"(Notice: x[1] [{"name":"Up","year":"2009","id":1},{"name":"Up"},{"name":7},{},
         "Up there",{"name":"Tom &amp; Jerry","kind":"tv"},{"name":" "}])");
     EXPECT_EQ(reading.status, Status::Success);
     EXPECT_THAT(reading.suggestions, ElementsAre(QStringLiteral("Up"), QStringLiteral("Tom & Jerry")));
-    EXPECT_EQ(Read(request, "<html></html>").status, Status::ServerError);
-    EXPECT_TRUE(Read(request, "{\"name\":\"Up\"}").suggestions.empty());
+    EXPECT_EQ(Reading(request, "<html></html>").status, Status::ServerError);
+    EXPECT_TRUE(Reading(request, "{\"name\":\"Up\"}").suggestions.empty());
 }
 
 TEST(LegacyReplyTest, ReadsEveryRecordedReply)
