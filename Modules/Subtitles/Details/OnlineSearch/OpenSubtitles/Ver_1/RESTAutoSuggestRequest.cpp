@@ -36,7 +36,7 @@ INetworkOperation::Status RESTAutoSuggestRequest::ParseJsonReply(QJsonDocument c
     QJsonValue const data = document.object().value(QStringLiteral("data"));
     if (!data.isArray())
         return Fail(Status::ServerError, QStringLiteral("Invalid server response format: not an array"));
-    for (QJsonValue const& element : data.toArray())
+    for (QJsonValue const element : data.toArray())
         ParseJsonObject(element);
     return Status::Success;
 }

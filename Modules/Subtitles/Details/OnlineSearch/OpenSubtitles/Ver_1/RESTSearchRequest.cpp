@@ -110,7 +110,7 @@ INetworkOperation::Status RESTSearchRequest::ParseJsonReply(QJsonDocument const&
     QJsonValue const data = document.object().value(QStringLiteral("data"));
     if (!data.isArray())
         return Fail(Status::ServerError, QStringLiteral("Invalid server response format: not an array"));
-    for (QJsonValue const& element : data.toArray())
+    for (QJsonValue const element : data.toArray())
     {
         auto result = ParseJsonObject(element);
         if (IsResultValid(result))
