@@ -216,11 +216,63 @@ private:
     bool m_hasSlash = false;
 };
 
+bool IsSingleLetter(QString const& text)
+{
+    return (text.size() == 1 || (text.size() == 2 && text.endsWith(QLatin1Char('.')))) && text.at(0).isLetter();
+}
+
+/// Whether the word goes on with an abbreviation of single letters: the "W" of "S.W.A.T.".
+bool GoesOnWithInitials(std::vector<ReleaseAtom> const& atoms, std::size_t begin, std::size_t index, std::size_t end)
+{
+    return index > begin && index < end && atoms[index].before == Joint::Dot && IsSingleLetter(atoms[index].text) &&
+           IsSingleLetter(atoms[index - 1].text);
+}
+
+/// "2.0" in a name whose words are set apart by blanks.
+bool GoesOnWithFraction(ReleaseAtoms const& name, std::size_t index)
+{
+    return index > 0 && name.hasBlanks && name.atoms[index].before == Joint::Dot &&
+           ParseSmallNumber(name.atoms[index].key) >= 0 && ParseSmallNumber(name.atoms[index - 1].key) >= 0;
+}
+
 } // namespace
 
 ReleaseAtoms SplitReleaseName(std::string const& name)
 {
     return Splitter(Decode(name)).Run();
+}
+
+QString JoinAsWritten(ReleaseAtoms const& name, std::size_t begin, std::size_t end)
+{
+    QString text;
+    for (std::size_t i = begin; i < end; ++i)
+    {
+        Joint const joint = name.atoms[i].before;
+        if (!text.isEmpty())
+            text += QLatin1Char(joint == Joint::Hyphen ? '-' : joint == Joint::Dot ? '.' : ' ');
+        text += name.atoms[i].text;
+    }
+    return text;
+}
+
+QString JoinAsTitle(ReleaseAtoms const& name, std::size_t begin, std::size_t end)
+{
+    QString text;
+    for (std::size_t i = begin; i < end; ++i)
+    {
+        ReleaseAtom const& atom = name.atoms[i];
+        bool const isAside = atom.bracket != 0 && atom.bracketKind != QLatin1Char('(');
+        if (isAside && atom.bracket != name.atoms[begin].bracket)
+            continue;
+        bool const isInitial = GoesOnWithInitials(name.atoms, begin, i, end);
+        bool const isDotKept = isInitial || GoesOnWithFraction(name, i);
+        if (!text.isEmpty())
+            text += QLatin1Char(atom.before == Joint::Hyphen ? '-' : isDotKept ? '.' : ' ');
+        text += atom.text;
+        if (isInitial && !GoesOnWithInitials(name.atoms, begin, i + 1, end) && !text.endsWith(QLatin1Char('.')))
+            text += QLatin1Char('.');
+    }
+    return text;
 }
 
 int ParseSmallNumber(QString const& text)

@@ -46,6 +46,13 @@ struct ReleaseAtoms
 /// Cuts a name into words. Bytes that are not UTF-8 are taken for Latin-1. Time is linear in the name's length.
 [[nodiscard]] ReleaseAtoms SplitReleaseName(std::string const& name);
 
+/// The words from `begin` to `end` with the dots and hyphens that stood between them.
+[[nodiscard]] QString JoinAsWritten(ReleaseAtoms const& name, std::size_t begin, std::size_t end);
+
+/// The same for a title: with blanks, but "Spider-Man" and "S.W.A.T." as they are; without what stands in square and
+/// curly brackets, unless the title begins in them.
+[[nodiscard]] QString JoinAsTitle(ReleaseAtoms const& name, std::size_t begin, std::size_t end);
+
 /// The number that a text consists of; -1 when it has anything but one to four ASCII digits.
 [[nodiscard]] int ParseSmallNumber(QString const& text);
 

@@ -27,11 +27,6 @@ bool IsArticle(QString const& key)
     return ARTICLES.contains(key);
 }
 
-bool IsSingleLetter(QString const& text)
-{
-    return (text.size() == 1 || (text.size() == 2 && text.endsWith(QLatin1Char('.')))) && text.at(0).isLetter();
-}
-
 bool IsWebsite(QString const& text)
 {
     return text.startsWith(QLatin1String("www"), Qt::CaseInsensitive);
@@ -336,7 +331,7 @@ private:
 
     void ReadTitle()
     {
-        QString title = TextBetween(m_begin, m_titleEnd, Brackets::Leave);
+        QString title = JoinAsTitle(m_split, m_begin, m_titleEnd);
         if (title.isEmpty() && !m_episode && !m_leadingGroup.isEmpty())
             title = m_leadingGroup;
         int const comma = title.lastIndexOf(QLatin1String(", "));
@@ -348,48 +343,9 @@ private:
         m_result.title = title.toStdString();
     }
 
-    enum class Brackets
+    [[nodiscard]] QString TextBetween(std::size_t begin, std::size_t end) const
     {
-        Take,
-        Leave, ///< leaves out what stands in square and curly ones
-    };
-
-    [[nodiscard]] QString TextBetween(std::size_t begin, std::size_t end, Brackets brackets = Brackets::Take) const
-    {
-        QString text;
-        for (std::size_t i = begin; i < end; ++i)
-        {
-            ReleaseAtom const& atom = m_atoms[i];
-            bool const isOutside = atom.bracket == 0 || atom.bracket == m_atoms[begin].bracket;
-            if (brackets == Brackets::Leave && !isOutside && atom.bracketKind != QLatin1Char('('))
-                continue;
-            if (!text.isEmpty())
-                text += JointText(i, brackets);
-            text += atom.text;
-            bool const endsInitialism = brackets == Brackets::Leave && IsInitialAfter(i, begin) &&
-                                        !IsInitialAfter(i + 1, begin, end) && !text.endsWith(QLatin1Char('.'));
-            if (endsInitialism)
-                text += QLatin1Char('.');
-        }
-        return text;
-    }
-
-    /// Whether the word goes on with an abbreviation of single letters: the "W" of "S.W.A.T.".
-    [[nodiscard]] bool IsInitialAfter(std::size_t index, std::size_t begin, std::size_t end = SIZE_MAX) const
-    {
-        return index > begin && index < std::min(end, m_atoms.size()) && m_atoms[index].before == Joint::Dot &&
-               IsSingleLetter(m_atoms[index].text) && IsSingleLetter(m_atoms[index - 1].text);
-    }
-
-    [[nodiscard]] QString JointText(std::size_t index, Brackets brackets) const
-    {
-        ReleaseAtom const& atom = m_atoms[index];
-        if (atom.before == Joint::Hyphen)
-            return QStringLiteral("-");
-        bool const isDotKept =
-            brackets == Brackets::Take || IsInitialAfter(index, 0) ||
-            (m_split.hasBlanks && ParseSmallNumber(atom.key) >= 0 && ParseSmallNumber(m_atoms[index - 1].key) >= 0);
-        return atom.before == Joint::Dot && isDotKept ? QStringLiteral(".") : QStringLiteral(" ");
+        return JoinAsWritten(m_split, begin, end);
     }
 
     ReleaseAtoms m_split;
