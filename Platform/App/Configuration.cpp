@@ -234,10 +234,12 @@ private:
         std::size_t const problemsBefore = m_configuration.problems.size();
         if (written.source != ConfigurationSource::Default)
             setting.take(m_configuration, written);
-        if (m_configuration.problems.size() > problemsBefore)
+        std::string const shown = setting.show(m_configuration);
+        bool const isRefused = m_configuration.problems.size() > problemsBefore;
+        if (isRefused && !shown.empty())
             written.source = ConfigurationSource::Default;
-        m_configuration.values.push_back({std::string(SERVICE_SECTION) + "/" + setting.key, setting.variable,
-                                          setting.show(m_configuration), written.source});
+        m_configuration.values.push_back(
+            {std::string(SERVICE_SECTION) + "/" + setting.key, setting.variable, shown, written.source});
     }
 
     void TakeFeatures()

@@ -131,7 +131,8 @@ TEST_F(ConfigurationTest, NonsenseIsReportedAndNotUsed)
         EXPECT_EQ(configuration.openSubtitlesTimeout, defaults.openSubtitlesTimeout);
         EXPECT_EQ(configuration.openSubtitlesApiKey, "");
         for (ConfiguredValue const& value : configuration.values)
-            EXPECT_TRUE(value.source == ConfigurationSource::Default || value.variable.empty()) << value.name;
+            EXPECT_TRUE(value.source == ConfigurationSource::Default || value.variable.empty() || value.text.empty())
+                << value.name;
         EXPECT_EQ(configuration.openSubtitlesUrl.empty(), nonsense.line.rfind("url", 0) == 0) << nonsense.line;
     }
     EXPECT_THAT(Load("", {{"KORVEX_OPENSUBTITLES_TIMEOUT", "soon"}}).problems,

@@ -115,7 +115,7 @@ TEST_F(OnlineDownloadTest, WhatIsNoSubtitleIsNotKept)
         {"file-huge", "could not answer"},
         {"empty-file", "empty file"},
         {"html-file", "Too many downloads"},
-        {"advert", "of "},
+        {"advert", "subtitle"},
         {"quota", "ownload"},
         {"bomb-zip", "OpenSubtitles", true},
         {"nested-zip", "OpenSubtitles", true},
