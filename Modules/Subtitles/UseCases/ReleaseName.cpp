@@ -7,6 +7,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <utility>
 
 namespace Korvex::Converter::Subtitles::UseCases
 {
@@ -297,6 +298,8 @@ private:
                 (start == end || IsMark(i - 1) || m_atoms[i - 1].before != Joint::Hyphen))
                 start = i;
         }
+        while (end > start + 1 && m_atoms[end - 1].before == Joint::Dot && IsSubtitleMark(m_atoms[end - 1]))
+            --end; // names of subtitle releases go on with the language
         constexpr std::size_t MOST_WORDS = 3;
         if (start == end || end - start > MOST_WORDS)
             return {};
@@ -332,6 +335,10 @@ private:
     void ReadTitle()
     {
         QString title = JoinAsTitle(m_split, m_begin, m_titleEnd);
+        bool const isGroup =
+            m_begin > 0 && m_begin < m_atoms.size() && m_isTag[m_begin - 1] && m_atoms[m_begin].before == Joint::Hyphen;
+        if (isGroup) // nothing but tags and the group
+            m_result.group = std::exchange(title, {}).toStdString();
         if (title.isEmpty() && !m_episode && !m_leadingGroup.isEmpty())
             title = m_leadingGroup;
         int const comma = title.lastIndexOf(QLatin1String(", "));

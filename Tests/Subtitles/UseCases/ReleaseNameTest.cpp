@@ -99,6 +99,8 @@ NamedRelease const RELEASES[] = {
     {"It.srt", "It", "", "", ""},
     {"Winter.Harbour.tt0133093.2010.mkv", "Winter Harbour", "2010", "", ""},
     {"Winter Harbour (2010) {imdb-tt0133093}.mkv", "Winter Harbour", "2010", "", ""},
+    {"Northern.Lights.S01E02.The.Road.HDTV.XviD-FQM.HI", "Northern Lights", "S1E2", "HDTV XviD", "FQM"},
+    {"720p.HDDVD.DTS.x264-SPARROW", "", "", "720p BluRay x264", "SPARROW"},
     {"1080p.mkv", "", "", "1080p", ""},
     {"Cam (2018).mkv", "Cam", "2018", "", ""},
     {"Real.Steel.2011.720p.mkv", "Real Steel", "2011", "720p", ""},
