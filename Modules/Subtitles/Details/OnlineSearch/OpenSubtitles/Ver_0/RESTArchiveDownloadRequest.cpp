@@ -60,7 +60,7 @@ QNetworkRequest RESTArchiveDownloadRequest::CreateRequest()
 
 QUrl RESTArchiveDownloadRequest::CreateQuery(QString const& /*baseUrl*/)
 {
-    QUrl const link = m_result ? ReadArchiveLink(m_result->archiveLink) : QUrl();
+    QUrl link = m_result ? ReadArchiveLink(m_result->archiveLink) : QUrl();
     if (link.isEmpty())
         Fail(Status::InvalidRequest, QStringLiteral("Invalid archive link"));
     return link;

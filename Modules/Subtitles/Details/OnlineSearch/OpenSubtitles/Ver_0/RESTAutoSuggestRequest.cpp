@@ -67,7 +67,7 @@ RESTAutoSuggestRequest::Status RESTAutoSuggestRequest::ParseJsonReply(QJsonDocum
     if (!document.isArray())
         return Fail(Status::ServerError, QStringLiteral("Invalid server response format: not an array"));
     QSet<QString> known;
-    for (QJsonValue const& value : document.array())
+    for (QJsonValue const value : document.array())
     {
         QString const name = ReadPlainLine(value.toObject().value(RESTProtocol::RESULT_KEY_MOVIE_SUGGEST).toString());
         if (name.isEmpty() || known.contains(name))

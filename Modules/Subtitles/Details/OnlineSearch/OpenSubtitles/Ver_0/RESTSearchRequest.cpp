@@ -27,6 +27,8 @@ using Entities::SearchTags;
 namespace
 {
 
+constexpr int IMDB_ID_DIGITS = 7; ///< at least, as the service documents them
+
 /// Keys to values that can stand in the path as they are; a map, since the service wants the keys in ascending order.
 using QueryPairs = std::map<QString, QString>;
 
@@ -35,12 +37,10 @@ QString WriteTitle(QString const& title)
     return QString::fromLatin1(QUrl::toPercentEncoding(title.simplified()));
 }
 
-/// The service documents seven digits at least.
 QString WriteImdbId(QString const& id)
 {
-    constexpr int DIGITS = 7;
     QString const digits = ReadImdbDigits(id);
-    return digits.isEmpty() ? QString() : digits.rightJustified(DIGITS, u'0');
+    return digits.isEmpty() ? QString() : digits.rightJustified(IMDB_ID_DIGITS, u'0');
 }
 
 QString WriteNumber(QString const& number)
@@ -137,7 +137,7 @@ RESTSearchRequest::Status RESTSearchRequest::ParseJsonReply(QJsonDocument const&
     m_results.clear();
     if (!document.isArray())
         return Fail(Status::ServerError, QStringLiteral("Invalid server response format: not an array"));
-    for (QJsonValue const& value : document.array())
+    for (QJsonValue const value : document.array())
     {
         auto result = ReadSearchRow(value.toObject());
         if (IsResultValid(*result))

@@ -24,6 +24,7 @@ namespace
 
 constexpr double LARGEST_EXACT_INTEGER = 9007199254740992.0; ///< 2^53, up to which a JSON number holds every integer
 constexpr int MOST_DISCS = 99;
+constexpr std::int64_t MOST_IN_A_NUMBER = 999999;
 constexpr double FASTEST_FRAME_RATE = 1000.0;
 constexpr double BEST_RATING = 10.0;
 
@@ -56,12 +57,12 @@ public:
         return isNumber && count >= 0 ? std::make_optional<std::int64_t>(count) : std::nullopt;
     }
 
-    /// From `least` to the most digits that a year, a season or an episode has any use for.
+    /// From `least` to the most that a year, an episode or votes have any use for.
     [[nodiscard]] std::optional<int> Number(QString const& key, int least) const
     {
-        constexpr std::int64_t MOST = 999999;
         auto const count = Count(key);
-        return count && *count >= least && *count <= MOST ? std::make_optional(static_cast<int>(*count)) : std::nullopt;
+        return count && *count >= least && *count <= MOST_IN_A_NUMBER ? std::make_optional(static_cast<int>(*count))
+                                                                      : std::nullopt;
     }
 
     /// Above 0 and at most `most`; the service sends 0 for what it does not know.
