@@ -8,7 +8,8 @@
 namespace Korvex::Converter::Subtitles::UseCases
 {
 
-/// What a server itself said in its last reply, as far as it said anything. A value type.
+/// What a server itself said in its last reply, as far as it said anything; of the quota, what any reply of the same
+/// operation said last. A value type.
 struct ServerReport
 {
     enum class Reason

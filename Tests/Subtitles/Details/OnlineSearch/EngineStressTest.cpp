@@ -40,7 +40,8 @@ struct Fate
 {
     char const* path; ///< "/<what the server does>"
     std::optional<Status> outcome;
-    int httpStatus = 0; ///< in the engine's report when the failure is told
+    int httpStatus = 0;     ///< in the engine's report when the failure is told
+    char const* words = ""; ///< there as well
 };
 
 /// Nothing at all is heard of a fate without an outcome: the engine stays busy until it is destroyed.
@@ -50,13 +51,13 @@ constexpr std::array<Fate, 16> FATES{{{"/at-once", Status::Success},
                                       {"/in-pieces", Status::Success},
                                       {"/broken", Status::ServerError, 200},
                                       {"/empty", Status::ServerError, 200},
-                                      {"/page", Status::ServerError, 200},
+                                      {"/page", Status::ServerError, 200, "Down"},
                                       {"/drop", Status::ServerError, 200},
-                                      {"/status/401", Status::NetworkError, 401},
-                                      {"/status/404", Status::ServerError, 404},
-                                      {"/status/406", Status::NetworkError, 406},
-                                      {"/status/429", Status::NetworkError, 429},
-                                      {"/status/503", Status::ServerError, 503},
+                                      {"/status/401", Status::NetworkError, 401, "No"},
+                                      {"/status/404", Status::ServerError, 404, "No"},
+                                      {"/status/406", Status::NetworkError, 406, "No"},
+                                      {"/status/429", Status::NetworkError, 429, "No"},
+                                      {"/status/503", Status::ServerError, 503, "No"},
                                       {"/refused", Status::ServerError},
                                       {"/invalid", Status::InvalidRequest},
                                       {"/silence", std::nullopt}}};
@@ -87,7 +88,7 @@ HttpReply Play(HttpRequest const& request)
     else if (target == "/silence")
         reply.neverAnswers = true;
     else if (target.startsWith("/status/"))
-        reply.status = target.mid(8).toInt();
+        reply.status = target.mid(8).toInt(), reply.body = R"({"message":"No"})";
     return reply;
 }
 
@@ -224,7 +225,8 @@ public:
     void OnOperationFailed(Status status, QString const&) override
     {
         ++m_counts.failed;
-        Hear("failed " + std::to_string(status) + ' ' + std::to_string(m_engine->GetServerReport().httpStatus));
+        auto const report = m_engine->GetServerReport();
+        Hear(DescribeFailure(status, report.httpStatus, report.message.toStdString()));
     }
 
 private:
@@ -261,6 +263,11 @@ private:
         Expect(fates);
     }
 
+    static std::string DescribeFailure(Status status, int httpStatus, std::string const& words)
+    {
+        return "failed " + std::to_string(status) + ' ' + std::to_string(httpStatus) + ' ' + words;
+    }
+
     void Expect(std::vector<Fate> const& fates)
     {
         for (auto const& fate : fates)
@@ -270,7 +277,7 @@ private:
                 return;
             if (fate.outcome != Status::Success)
             {
-                m_expected.push_back("failed " + std::to_string(*fate.outcome) + ' ' + std::to_string(fate.httpStatus));
+                m_expected.push_back(DescribeFailure(*fate.outcome, fate.httpStatus, fate.words));
                 return;
             }
             m_expected.emplace_back(fate.path);

@@ -1,8 +1,8 @@
 #pragma once
 
-/// Qt's event queue hands data from one thread to another in order, but the system's build of Qt is not instrumented,
-/// so the thread sanitizer sees neither the queue's locks nor whose turn it is. These two say it. Both sides name the
-/// same channel, any address that outlives the hand-over. Without the sanitizer they are nothing.
+/// Qt's event queue, and the end of its threads, hand data from one thread to another in order. But the system's build
+/// of Qt is not instrumented, so the thread sanitizer sees neither its locks nor whose turn it is. These say it. Both
+/// sides name the same channel, any address that outlives the hand-over. Without the sanitizer they are nothing.
 namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
 {
 
@@ -22,14 +22,26 @@ extern "C" void __tsan_release(void* address);
 extern "C" void AnnotateIgnoreWritesBegin(char const* file, int line);
 extern "C" void AnnotateIgnoreWritesEnd(char const* file, int line);
 
-/// For as long as a queued signal is emitted: what this thread wrote before belongs to the receiver, and the copies of
-/// the arguments that Qt makes meanwhile belong to the queue. Nothing but the emission may happen under it.
+/// What this thread wrote so far is for whoever takes over the channel next.
+inline void PassOn(void const* channel)
+{
+    __tsan_release(const_cast<void*>(channel));
+}
+
+/// First thing in a slot that a queued signal calls, and after the wait for a thread.
+inline void TakeOver(void const* channel)
+{
+    __tsan_acquire(const_cast<void*>(channel));
+}
+
+/// For as long as a queued signal is emitted: passes on, and leaves the copies of the arguments that Qt makes meanwhile
+/// to the queue. Nothing but the emission may happen under it.
 class QueueGiving final
 {
 public:
     explicit QueueGiving(void const* channel)
     {
-        __tsan_release(const_cast<void*>(channel));
+        PassOn(channel);
         AnnotateIgnoreWritesBegin(__FILE__, __LINE__);
     }
     ~QueueGiving() { AnnotateIgnoreWritesEnd(__FILE__, __LINE__); }
@@ -37,13 +49,10 @@ public:
     QueueGiving& operator=(QueueGiving const&) = delete;
 };
 
-/// First thing in a slot that a queued signal calls.
-inline void TakeFromQueue(void const* channel)
-{
-    __tsan_acquire(const_cast<void*>(channel));
-}
-
 #else
+
+inline void PassOn(void const* /*channel*/) {}
+inline void TakeOver(void const* /*channel*/) {}
 
 class QueueGiving final
 {
@@ -53,8 +62,6 @@ public:
     QueueGiving(QueueGiving const&) = delete;
     QueueGiving& operator=(QueueGiving const&) = delete;
 };
-
-inline void TakeFromQueue(void const* /*channel*/) {}
 
 #endif
 

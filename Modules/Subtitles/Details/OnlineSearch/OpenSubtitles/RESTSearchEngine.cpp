@@ -61,6 +61,7 @@ RESTSearchEngine::RESTSearchEngine(std::shared_ptr<INetworkManager> const& netwo
             Qt::QueuedConnection);
     connect(m_worker.get(), &RESTSearchWorker::Error, this, &RESTSearchEngine::OnRequestFailed, Qt::QueuedConnection);
     connect(m_workerThread, &QThread::finished, m_worker.get(), &RESTSearchWorker::OnThreadFinished);
+    m_workerThread->setObjectName(QStringLiteral("online search"));
     m_workerThread->start();
 }
 
@@ -162,7 +163,7 @@ void RESTSearchEngine::WaitForWorker()
         return;
     m_workerThread->quit();
     if (m_workerThread->wait(SHUTDOWN_WAIT_MS))
-        return;
+        return TakeOver(m_worker.get());
 
     LOG(ERROR) << "Worker thread is not responding and will be terminated.";
     // The worker may still be in the middle of a request: it goes on its own thread, when that has come to its end.
@@ -174,7 +175,7 @@ void RESTSearchEngine::WaitForWorker()
 
 void RESTSearchEngine::OnRequestFinished(std::shared_ptr<INetworkOperation> const& operation)
 {
-    TakeFromQueue(m_worker.get());
+    TakeOver(m_worker.get());
     if (!HasPendingRequest() || m_queue.front() != operation)
         return;
     if (m_isCanceled)
@@ -201,7 +202,7 @@ void RESTSearchEngine::OnRequestFinished(std::shared_ptr<INetworkOperation> cons
 
 void RESTSearchEngine::OnRequestFailed(UseCases::IOnlineSearchController::Status const status)
 {
-    TakeFromQueue(m_worker.get());
+    TakeOver(m_worker.get());
     if (!HasPendingRequest())
         return;
     if (m_isCanceled || Tell([status](auto& observer) { observer.OnOperationFailed(status, {}); }))
@@ -210,7 +211,7 @@ void RESTSearchEngine::OnRequestFailed(UseCases::IOnlineSearchController::Status
 
 void RESTSearchEngine::OnReported(UseCases::ServerReport const& report)
 {
-    TakeFromQueue(m_worker.get());
+    TakeOver(m_worker.get());
     if (!HasPendingRequest() || m_isCanceled)
         return;
     TakeReport(report);

@@ -81,7 +81,7 @@ std::shared_ptr<INetworkOperation> RESTSearchWorker::GetRequest() const
 
 void RESTSearchWorker::DoWork()
 {
-    TakeFromQueue(this);
+    TakeOver(this);
     if (!m_networkManager->IsNetworkAccessible())
         return EmitError(Status::NoConnection);
 
@@ -170,11 +170,13 @@ void RESTSearchWorker::EmitError(Status const status)
 
 void RESTSearchWorker::OnThreadFinished()
 {
-    if (m_reply == nullptr)
-        return;
-    m_reply->disconnect(this);
-    m_reply->deleteLater();
-    m_reply.clear();
+    if (m_reply != nullptr)
+    {
+        m_reply->disconnect(this);
+        m_reply->deleteLater();
+        m_reply.clear();
+    }
+    PassOn(this);
 }
 
 } // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
