@@ -496,6 +496,9 @@ TEST_F(SearchEngineTest, GoesAtOnceWhenARequestHangsAndTakesItsReplyAlong)
 
 TEST_F(SearchEngineTest, GivesUpAWorkerThatDoesNotComeToAnEnd)
 {
+#if defined(__SANITIZE_THREAD__)
+    GTEST_SKIP() << "the thread sanitizer loses count of a thread that is terminated";
+#endif
     Create([](FakeReply&) { QThread::sleep(7); });
     Queue("a");
     ASSERT_EQ(engine->StartSearch({}), Status::Success);

@@ -6,7 +6,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLocale>
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -127,12 +126,19 @@ QString FindPlainWords(QByteArray const& body, QString const& text)
     return isFile || isJson ? QString() : text;
 }
 
-/// "Wed, 21 Oct 2015 07:28:00 GMT"; invalid when it is nothing of the kind.
+/// "Wed, 21 Oct 2015 07:28:00 GMT"; invalid when it is nothing of the kind. The weekday goes without saying.
 QDateTime ReadHttpDate(QByteArray const& text)
 {
-    auto time = QLocale::c().toDateTime(QString::fromLatin1(text), QStringLiteral("ddd, dd MMM yyyy hh:mm:ss 'GMT'"));
-    time.setTimeSpec(Qt::UTC);
-    return time;
+    static QRegularExpression const DATE(
+        QStringLiteral("^[A-Z][a-z]{2}, (\\d\\d) ([A-Z][a-z]{2}) (\\d{4}) (\\d\\d:\\d\\d:\\d\\d) GMT$"));
+    static QStringList const MONTHS =
+        QStringLiteral("Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec").split(QLatin1Char(' '));
+    auto const match = DATE.match(QString::fromLatin1(text));
+    if (!match.hasMatch())
+        return {};
+    int const month = MONTHS.indexOf(match.captured(2)) + 1;
+    return {QDate(match.captured(3).toInt(), month, match.captured(1).toInt()),
+            QTime::fromString(match.captured(4), Qt::ISODate), Qt::UTC};
 }
 
 /// Against the server's own clock where it tells it.
@@ -170,13 +176,12 @@ QDateTime FindResetTime(QJsonObject const& object, QString const& message)
     static QRegularExpression const NAMED(
         QStringLiteral("(\\d{4}-\\d\\d-\\d\\d)[ T](\\d\\d:\\d\\d:\\d\\d) ?(?:UTC|Z)"));
     auto text = object.value(QLatin1String("reset_time_utc")).toString();
+    if (auto const match = NAMED.match(message); text.isEmpty() && match.hasMatch())
+        text = match.captured(1) + QLatin1Char('T') + match.captured(2) + QLatin1Char('Z');
     if (text.isEmpty())
-    {
-        auto const match = NAMED.match(message);
-        text = match.captured(1) + QLatin1Char('T') + match.captured(2);
-    }
+        return {};
     auto time = QDateTime::fromString(text, Qt::ISODateWithMs);
-    if (time.timeSpec() == Qt::LocalTime)
+    if (time.timeSpec() == Qt::LocalTime) // without a zone of its own: as the field's name says
         time.setTimeSpec(Qt::UTC);
     return time.toUTC();
 }
