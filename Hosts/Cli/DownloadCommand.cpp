@@ -176,16 +176,14 @@ ExitCode DownloadCommand::Run(Arguments const& arguments, Console& console)
 {
     DownloadChoice const choice = ReadChoice(arguments);
     OnlineQuery const query = ReadQuery(arguments);
-    App::Configuration const configuration = ReadOnlineConfiguration(arguments, console);
-    PrepareFolder(choice.folder);
-
-    Services const services(configuration);
+    Services const services(ReadOnlineConfiguration(arguments, console));
     OnlineRun run(services.GetOnlineDownloader(), console.isInterrupted);
     auto const request = run.MakeRequest(query);
     SearchResults const results = run.Search(query, request);
     if (results.empty())
         throw OnlineError(DescribeNothingFound(request));
     auto const picked = FindPicks(choice.picks, results);
+    PrepareFolder(choice.folder);
 
     Hosts::WorkFolder workFolder;
     auto const folder = workFolder.Get();

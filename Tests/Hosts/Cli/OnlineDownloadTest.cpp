@@ -85,7 +85,7 @@ TEST_F(OnlineDownloadTest, AnUnknownPickCostsNothing)
         EXPECT_EQ(Download({"--title", "No Such Film", "--pick", "1"}).exitCode, 1);
     }
     EXPECT_EQ(CountDownloads(), 0);
-    EXPECT_THAT(ListNames(GetFolder()), IsEmpty());
+    EXPECT_THAT(ListNames(GetFolder().Parent()), ElementsAre("korvex.conf"));
 }
 
 TEST_F(OnlineDownloadTest, AFolderThatCannotBeWrittenCostsNothing)
@@ -95,7 +95,7 @@ TEST_F(OnlineDownloadTest, AFolderThatCannotBeWrittenCostsNothing)
         Run({"download", "--title", "The Lantern Keeper", "--pick", "1", "--output-dir", (film / "sub").utf8string()});
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_THAT(result.err, HasSubstr("film.mkv/sub\" cannot be written"));
-    EXPECT_THAT(m_server.GetRequests(), IsEmpty());
+    EXPECT_EQ(CountDownloads(), 0);
 }
 
 struct DownloadFault
@@ -138,19 +138,29 @@ TEST_F(OnlineDownloadTest, WhatIsNoSubtitleIsNotKept)
         }
 }
 
-TEST_F(OnlineDownloadTest, AUsedUpQuotaSaysUntilWhen)
-{
-    Use(Service::Version1, "quota");
-    EXPECT_THAT(Download({"--title", "The Lantern Keeper", "--pick", "1"}).err,
-                AllOf(HasSubstr("used up"), HasSubstr("after 2")));
-}
-
 TEST_F(OnlineDownloadTest, NoNameLeadsOutOfTheFolder)
 {
     Use(Service::Legacy, "evil-names-zip");
     CliResult const result = Download({"--title", "The Lantern Keeper", "--language", "en", "--pick", "1"});
-    EXPECT_EQ(ListNames(GetFolder()).size(), result.exitCode == 0 ? 1U : 0U);
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(ListNames(GetFolder()).size(), 1U);
     EXPECT_THAT(ListNames(GetFolder().Parent()), ElementsAre("korvex.conf", "subtitles"));
+}
+
+TEST_F(OnlineDownloadTest, TheConfigurationReachesTheWire)
+{
+    Use(Service::Version1);
+    for (char const* const isJson : {"false", "true"})
+    {
+        SetVariable("KORVEX_OPENSUBTITLES_JSON_BODY", isJson);
+        m_server.ForgetRequests();
+        (void)Download({"--title", "The Lantern Keeper", "--pick", "1"});
+        QByteArray posted;
+        for (HttpRequest const& request : m_server.GetRequests())
+            posted += request.body;
+        EXPECT_EQ(posted.startsWith('{'), isJson == std::string("true")) << posted.constData();
+        EXPECT_EQ(CountDownloads(), 2) << "a link, and the file behind it";
+    }
 }
 
 TEST_F(OnlineDownloadTest, AnInterruptLeavesNothingBehind)

@@ -48,9 +48,9 @@ protected:
     /// How many downloads the server was asked for: each costs quota.
     [[nodiscard]] int CountDownloads() const;
 
-private:
     void SetVariable(char const* name, std::string const& value);
 
+private:
     std::vector<std::pair<QByteArray, QByteArray>> m_oldVariables;
     ioPath m_home; ///< made first, with the application that the server's thread needs
 
