@@ -93,12 +93,6 @@ ioPath OnlineFixture::GetFolder() const
     return m_home / "subtitles";
 }
 
-std::string OnlineFixture::ReadDownload(std::string const& name) const
-{
-    auto const bytes = Core::ReadFile(GetFolder() / name, 1 << 20);
-    return bytes ? *bytes : std::string();
-}
-
 int OnlineFixture::CountDownloads() const
 {
     auto const requests = m_server.GetRequests();

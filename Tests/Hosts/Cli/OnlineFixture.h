@@ -44,7 +44,6 @@ protected:
     ioPath MakeFilm(std::string const& name);
     /// Where downloads go.
     [[nodiscard]] ioPath GetFolder() const;
-    [[nodiscard]] std::string ReadDownload(std::string const& name) const;
     /// How many downloads the server was asked for: each costs quota.
     [[nodiscard]] int CountDownloads() const;
 

@@ -154,7 +154,7 @@ TEST_F(OnlineSearchTest, EveryFailureIsASentenceAndEndsWith1)
         }
 }
 
-TEST_F(OnlineSearchTest, AWrongAddressIsAskedNothing)
+TEST_F(OnlineSearchTest, AnAddressThatLeadsNowhereIsTold)
 {
     UseAddress("http://127.0.0.1:9");
     CliResult const closed = Run({"search", "--title", "Up"});
