@@ -1,5 +1,6 @@
 // The only file of this layer that includes the container, which takes seconds to compile.
 
+#include "Subtitles/Details/AutocompleteControl.h"
 #include "Subtitles/Details/EditingPanel.h"
 #include "Subtitles/Details/ExternalSubtitlesDialog.h"
 #include "Subtitles/Details/ItemPanel.h"
@@ -15,6 +16,11 @@ void RegisterGroupOne(Hypodermic::ContainerBuilder& builder)
 {
     builder.registerType<EditingPanel>().as<Adapters::IEditingPanel>();
     builder.registerType<ExternalSubtitlesDialog>().as<Adapters::IExternalSubtitlesDialog>();
+}
+
+void RegisterGroupTwo(Hypodermic::ContainerBuilder& builder)
+{
+    builder.registerType<AutocompleteControl>().as<Adapters::IAutocompleteControl>();
 }
 
 void RegisterGroupThree(Hypodermic::ContainerBuilder& builder)

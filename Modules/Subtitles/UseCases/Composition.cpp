@@ -28,6 +28,7 @@ void FillBuilder(Hypodermic::ContainerBuilder& builder,
     UseCases::RegisterGroupTwo(builder);
     Adapters::RegisterGroupTwo(builder);
     Details::RegisterGroupTwo(builder);
+    Details::RegisterNetwork(builder);
     if (IsVersion1Chosen(customization.get()))
         Details::RegisterVersion1Client(builder);
     else

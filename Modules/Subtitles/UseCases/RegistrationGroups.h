@@ -29,7 +29,8 @@ namespace Details
 {
 void RegisterGroupOne(Hypodermic::ContainerBuilder& builder);
 void RegisterGroupTwo(Hypodermic::ContainerBuilder& builder);
-/// The end of group two is one of these.
+/// Group two goes on with this and ends with one of the clients.
+void RegisterNetwork(Hypodermic::ContainerBuilder& builder);
 void RegisterLegacyClient(Hypodermic::ContainerBuilder& builder);
 void RegisterVersion1Client(Hypodermic::ContainerBuilder& builder);
 void RegisterGroupThree(Hypodermic::ContainerBuilder& builder);

@@ -1,5 +1,6 @@
 #include "Subtitles/Fakes/FakeTranscoder.h"
 
+#include "Subtitles/Adapters/IAutocompleteControl.h"
 #include "Subtitles/Adapters/IEditingPanel.h"
 #include "Subtitles/Adapters/IExternalSubtitlesDialog.h"
 #include "Subtitles/Adapters/IItemPanel.h"
@@ -71,8 +72,8 @@ TEST(CompositionTest, RegistersEveryInterfaceOnce)
     ExpectOneOfEach<Entities::ISubtitleCollectionInteractor, Entities::ISubtitlesInteractor,
                     UseCases::ISubtitleCollectionPresenter, UseCases::IEditingPresenter, UseCases::ISubtitleController,
                     UseCases::IOnlineDownloaderController, UseCases::ISubtitleStreamAdapter, UseCases::IItemPresenter,
-                    UseCases::IMessagesController, Adapters::IExternalSubtitlesDialog, Adapters::IEditingPanel,
-                    Adapters::IItemPanel>(*container, Lifetime::EachAnew);
+                    UseCases::IMessagesController, Adapters::IExternalSubtitlesDialog, Adapters::IAutocompleteControl,
+                    Adapters::IEditingPanel, Adapters::IItemPanel>(*container, Lifetime::EachAnew);
     auto const factory = container->resolve<UseCases::IAdaptersFactory>();
     EXPECT_NE(factory->CreateEditingPresenter(), factory->CreateEditingPresenter());
     EXPECT_NE(factory->CreateItemPresenter(), factory->CreateItemPresenter());

@@ -15,7 +15,7 @@
 namespace Korvex::Converter::Subtitles::Details
 {
 
-void RegisterGroupTwo(Hypodermic::ContainerBuilder& builder)
+void RegisterNetwork(Hypodermic::ContainerBuilder& builder)
 {
     builder.registerType<NetworkManagerQt>().as<INetworkManager>().singleInstance();
 }
