@@ -39,11 +39,6 @@ RESTAutoSuggestRequest::RESTAutoSuggestRequest(RESTNetworkConfiguration const& c
 
 RESTAutoSuggestRequest::~RESTAutoSuggestRequest() = default;
 
-QNetworkRequest RESTAutoSuggestRequest::CreateRequest()
-{
-    return MakeRequest(CreateQuery(m_configuration.baseUrl));
-}
-
 QUrl RESTAutoSuggestRequest::CreateQuery(QString const& baseUrl)
 {
     if (m_text.isEmpty())
@@ -54,7 +49,7 @@ QUrl RESTAutoSuggestRequest::CreateQuery(QString const& baseUrl)
     auto const encoded = [](QString const& text) { return QString::fromLatin1(QUrl::toPercentEncoding(text)); };
     QUrlQuery query;
     query.addQueryItem(RESTProtocol::QUERY_KEY_SUGGEST_FORMAT, RESTProtocol::QUERY_VALUE_SUGGEST_FORMAT);
-    query.addQueryItem(RESTProtocol::QUERY_KEY_MOVIE_SUGGEST, encoded(m_text.toLower()));
+    query.addQueryItem(RESTProtocol::QUERY_KEY_MOVIE_SUGGEST, encoded(m_text));
     QUrl url = FindWebSite(baseUrl);
     url.setPath(url.path() + u'/' + RESTProtocol::QUERY_SUGGEST);
     url.setQuery(query);

@@ -15,8 +15,6 @@ public:
     RESTAutoSuggestRequest(RESTNetworkConfiguration const& configuration, QString const& text);
     ~RESTAutoSuggestRequest() override;
 
-    /// Keeps the spelling of the parameter, by which alone the script knows it; all else is in lower case.
-    QNetworkRequest CreateRequest() override;
     [[nodiscard]] QUrl CreateQuery(QString const& baseUrl) override;
     Status ParseJsonReply(QJsonDocument const& document) override;
     void NotifySuccess(UseCases::IOnlineSearchControllerObserver& observer) override;

@@ -103,9 +103,9 @@ TEST(LegacyRequestAddressTest, SuggestionsComeFromTheWebSiteOfTheService)
 {
     EXPECT_EQ(
         SuggestAddress("https://Rest.example.org", " Ö & Tom+Jerry 50%#? "),
-        "https://www.example.org/libs/suggest.php?format=json3&MovieName=%C3%B6%20%26%20tom%2Bjerry%2050%25%23%3F");
+        "https://www.example.org/libs/suggest.php?format=json3&moviename=%C3%B6%20%26%20tom%2Bjerry%2050%25%23%3F");
     EXPECT_EQ(SuggestAddress("http://127.0.0.1:8080/os", "up"),
-              "http://127.0.0.1:8080/os/libs/suggest.php?format=json3&MovieName=up");
+              "http://127.0.0.1:8080/os/libs/suggest.php?format=json3&moviename=up");
     EXPECT_EQ(SuggestAddress("https://rest.example.org", " \n"), "");
 }
 
