@@ -70,7 +70,8 @@ std::string DescribeQuota(ServerReport const& report)
     if (!report.remainingDownloads || *report.remainingDownloads < 0)
         return {};
     auto const count = static_cast<std::size_t>(*report.remainingDownloads);
-    std::string sentence = "The service allows " + Count(count, "more download");
+    std::string sentence =
+        "The service allows " + (count == 0 ? std::string("no more downloads") : Count(count, "more download"));
     if (report.resetsAt.isValid())
         sentence += " until " + report.resetsAt.toLocalTime().toString(Qt::ISODate).replace('T', ' ').toStdString();
     else if (!report.resetTime.isEmpty())
