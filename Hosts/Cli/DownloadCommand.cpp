@@ -208,6 +208,8 @@ ExitCode DownloadCommand::Run(Arguments const& arguments, Console& console)
             code = ExitCode::Failed;
         }
     }
+    if (outcome.isInterrupted)
+        throw Interrupted();
     if (outcome.error)
         throw OnlineError(*outcome.error);
     if (std::string const quota = DescribeQuota(run.GetServerReport()); !quota.empty())

@@ -64,8 +64,18 @@ std::vector<QString> OnlineRun::Suggest(QString const& text)
 DownloadOutcome OnlineRun::Download(std::vector<std::shared_ptr<SearchResult>> const& results, ioPath const& folder)
 {
     m_files.clear();
-    Await([&] { m_interactor->Download(m_collection, results, folder); });
-    return {std::move(m_files), m_error};
+    DownloadOutcome outcome;
+    try
+    {
+        Await([&] { m_interactor->Download(m_collection, results, folder); });
+    }
+    catch (Interrupted const&)
+    {
+        outcome.isInterrupted = true;
+    }
+    outcome.files = std::move(m_files);
+    outcome.error = m_error;
+    return outcome;
 }
 
 ServerReport OnlineRun::GetServerReport() const

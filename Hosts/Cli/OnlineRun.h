@@ -32,15 +32,16 @@ struct DownloadedFile
     ioPath path;
 };
 
-/// What a download brought: one failure ends it, and keeps what had come before.
+/// What a download brought: a failure or an interrupt ends it, and keeps what had come before.
 struct DownloadOutcome
 {
     std::vector<DownloadedFile> files;
     std::optional<OnlineError> error;
+    bool isInterrupted = false;
 };
 
-/// Carries operations of the online service out one after the other, each on an event loop of its own. Each throws
-/// Interrupted as soon as the user wants it to stop; what was asked is then cancelled.
+/// Carries operations of the online service out one after the other, each on an event loop of its own. Each ends as
+/// soon as the user wants it to stop; what was asked is then cancelled.
 class OnlineRun final : private Converter::Subtitles::UseCases::IOnlineDownloaderInteractorObserver
 {
 public:
@@ -52,10 +53,10 @@ public:
 
     /// The query with what the film's file adds to it. Throws UsageError when nothing is there to search by.
     [[nodiscard]] Converter::Subtitles::UseCases::SearchRequest MakeRequest(OnlineQuery const& query) const;
-    /// The best first. `request` is what `MakeRequest` made of the query. Throws OnlineError.
+    /// The best first. `request` is what `MakeRequest` made of the query. Throws OnlineError and Interrupted.
     [[nodiscard]] std::vector<Converter::Subtitles::UseCases::RankedResult>
     Search(OnlineQuery const& query, Converter::Subtitles::UseCases::SearchRequest const& request);
-    /// Throws OnlineError.
+    /// Throws OnlineError and Interrupted.
     [[nodiscard]] std::vector<QString> Suggest(QString const& text);
     /// Into a folder that exists.
     [[nodiscard]] DownloadOutcome Download(std::vector<std::shared_ptr<SearchResult>> const& results,
@@ -67,7 +68,7 @@ private:
     using CollectionID = Converter::Subtitles::Entities::SubtitleCollectionID;
     using Status = Converter::Subtitles::UseCases::IOnlineSearchController::Status;
 
-    /// Returns when the operation that `start` began has ended.
+    /// Returns when the operation that `start` began has ended. Throws Interrupted.
     void Await(std::function<void()> const& start);
     void ThrowFailure() const;
     void End();

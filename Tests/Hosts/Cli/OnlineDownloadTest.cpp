@@ -192,5 +192,29 @@ TEST_F(OnlineDownloadTest, AnInterruptLeavesNothingBehind)
     }
 }
 
+TEST_F(OnlineDownloadTest, AFailureOrAnInterruptKeepsWhatIsComplete)
+{
+    Use(Service::Version1);
+    for (bool const isInterrupt : {true, false})
+    {
+        int links = 0;
+        m_server.Intercept(
+            [links, isInterrupt](HttpRequest const& request) mutable -> std::unique_ptr<HttpReply>
+            {
+                if (request.method != "POST" || ++links < 2)
+                    return nullptr;
+                auto reply = std::make_unique<HttpReply>(503);
+                reply->neverAnswers = isInterrupt;
+                return reply;
+            });
+        m_server.ForgetRequests();
+        CliResult const result = Download({"--title", "The Lantern Keeper", "--language", "en", "--pick", "1,2"},
+                                          [&] { return isInterrupt && CountDownloads() >= 3; });
+        EXPECT_EQ(result.exitCode, isInterrupt ? 130 : 1) << result.err;
+        EXPECT_THAT(result.out, HasSubstr("Wrote "));
+    }
+    EXPECT_EQ(ListNames(GetFolder()).size(), 2U);
+}
+
 } // namespace
 } // namespace Korvex::Testing
