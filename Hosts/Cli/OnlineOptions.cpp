@@ -40,10 +40,10 @@ std::vector<Language::LanguageID> ReadLanguages(GivenOption const& option)
 /// "tt0133093", or the number alone.
 std::string ReadImdbId(GivenOption const& option)
 {
-    constexpr std::size_t MOST_DIGITS = 10;
+    constexpr std::size_t mostDigits = 10;
     std::string const& text = option.Value();
-    std::string const digits = text.rfind("tt", 0) == 0 ? text.substr(2) : text;
-    bool const isNumber = !digits.empty() && digits.size() <= MOST_DIGITS &&
+    std::string digits = text.rfind("tt", 0) == 0 ? text.substr(2) : text;
+    bool const isNumber = !digits.empty() && digits.size() <= mostDigits &&
                           std::all_of(digits.begin(), digits.end(), [](char c) { return c >= '0' && c <= '9'; });
     if (!isNumber || digits.find_first_not_of('0') == std::string::npos)
         throw UsageError("The option --imdb takes an IMDb id such as tt0133093, not \"" + text + "\".");
@@ -63,7 +63,7 @@ ioPath ReadInput(Arguments const& arguments)
         return {};
     if (arguments.inputs.size() > 1)
         throw UsageError("One film at a time: name one input, and put a title of several words in quotation marks.");
-    ioPath const input = arguments.inputs.front();
+    ioPath input = arguments.inputs.front();
     if (auto const head = Core::ReadFileHead(input, 1); !head)
         throw Hosts::FileError(head.GetError());
     return input;

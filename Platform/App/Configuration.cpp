@@ -91,12 +91,12 @@ void TakeApiKey(Configuration& configuration, WrittenValue const& written)
 /// The end of a long key tells its owner which one it is; of a short one it would tell too much.
 std::string ShowApiKey(Configuration const& configuration)
 {
-    constexpr std::size_t SHORTEST_TOLD = 16;
-    constexpr std::size_t TOLD = 4;
+    constexpr std::size_t shortestTold = 16;
+    constexpr std::size_t told = 4;
     std::string const& key = configuration.openSubtitlesApiKey;
     if (key.empty())
         return {};
-    return "********" + (key.size() < SHORTEST_TOLD ? std::string() : key.substr(key.size() - TOLD));
+    return "********" + (key.size() < shortestTold ? std::string() : key.substr(key.size() - told));
 }
 
 std::string ShowTimeout(Configuration const& configuration)

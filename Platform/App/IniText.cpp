@@ -13,11 +13,11 @@ constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
 
 std::string_view Trimmed(std::string_view text)
 {
-    constexpr char const* BLANKS = " \t\r";
-    std::size_t const begin = text.find_first_not_of(BLANKS);
+    constexpr char const* blanks = " \t\r";
+    std::size_t const begin = text.find_first_not_of(blanks);
     if (begin == std::string_view::npos)
         return {};
-    return text.substr(begin, text.find_last_not_of(BLANKS) - begin + 1);
+    return text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
 }
 
 std::string_view Unquoted(std::string_view text)
