@@ -1,6 +1,6 @@
 #include "App/Configuration.h"
 
-#include "App/IniText.h"
+#include "App/Ini/IniText.h"
 
 #include "Core/FileSystem.h"
 

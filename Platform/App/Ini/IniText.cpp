@@ -1,4 +1,4 @@
-#include "App/IniText.h"
+#include "App/Ini/IniText.h"
 
 #include <algorithm>
 #include <string_view>
