@@ -1,5 +1,6 @@
 // The only file of this layer that includes the container, which takes seconds to compile.
 
+#include "Subtitles/Adapters/AutocompletePresenter.h"
 #include "Subtitles/Adapters/EditingPresenter.h"
 #include "Subtitles/Adapters/IExternalSubtitlesDialog.h"
 #include "Subtitles/Adapters/ItemPresenter.h"
@@ -12,6 +13,7 @@
 #include "Subtitles/Adapters/SubtitleStreamAdapter.h"
 
 #include "Subtitles/UseCases/IAdaptersFactory.h"
+#include "Subtitles/UseCases/IOnlineSearchController.h"
 #include "Subtitles/UseCases/RegistrationGroups.h"
 
 #include "App/GUIContainer.h"
@@ -61,6 +63,7 @@ void RegisterGroupOne(Hypodermic::ContainerBuilder& builder)
     builder.registerType<SubtitleCollectionPresenter>().as<UseCases::ISubtitleCollectionPresenter>();
     builder.registerType<EditingPresenter>().as<UseCases::IEditingPresenter>();
     builder.registerType<SubtitleController>().as<UseCases::ISubtitleController>();
+    builder.registerType<AutocompletePresenter>().as<UseCases::IAutocompletePresenter>();
     builder.registerType<MessagesController>().as<UseCases::IMessagesController>();
     builder.registerType<OnlineDownloaderController>().as<UseCases::IOnlineDownloaderController>();
     builder.registerType<SubtitleStreamAdapter>().as<UseCases::ISubtitleStreamAdapter>();

@@ -11,6 +11,7 @@
 #include "Subtitles/Entities/ISubtitleImpl.h"
 #include "Subtitles/Subtitles.h"
 #include "Subtitles/UseCases/IAdaptersFactory.h"
+#include "Subtitles/UseCases/IAutocompletePresenter.h"
 #include "Subtitles/UseCases/IEditingPresenter.h"
 #include "Subtitles/UseCases/IItemPresenter.h"
 #include "Subtitles/UseCases/IMessagesController.h"
@@ -72,8 +73,9 @@ TEST(CompositionTest, RegistersEveryInterfaceOnce)
     ExpectOneOfEach<Entities::ISubtitleCollectionInteractor, Entities::ISubtitlesInteractor,
                     UseCases::ISubtitleCollectionPresenter, UseCases::IEditingPresenter, UseCases::ISubtitleController,
                     UseCases::IOnlineDownloaderController, UseCases::ISubtitleStreamAdapter, UseCases::IItemPresenter,
-                    UseCases::IMessagesController, Adapters::IExternalSubtitlesDialog, Adapters::IAutocompleteControl,
-                    Adapters::IEditingPanel, Adapters::IItemPanel>(*container, Lifetime::EachAnew);
+                    UseCases::IMessagesController, UseCases::IAutocompletePresenter, Adapters::IExternalSubtitlesDialog,
+                    Adapters::IAutocompleteControl, Adapters::IEditingPanel, Adapters::IItemPanel>(*container,
+                                                                                                   Lifetime::EachAnew);
     auto const factory = container->resolve<UseCases::IAdaptersFactory>();
     EXPECT_NE(factory->CreateEditingPresenter(), factory->CreateEditingPresenter());
     EXPECT_NE(factory->CreateItemPresenter(), factory->CreateItemPresenter());
