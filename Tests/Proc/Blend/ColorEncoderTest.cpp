@@ -2,8 +2,6 @@
 
 #include "Proc/Blend/TestPicture.h"
 
-#include <cmath>
-
 namespace Korvex::Proc::Tests
 {
 namespace
@@ -88,25 +86,6 @@ TEST(ColorEncoder, RepeatsAScriptsMatrixOnSdrPicturesOnly)
     for (Case const& hdr : {Yuv(10, YuvMatrix::Bt2020, SampleRange::Limited),
                             Yuv(10, YuvMatrix::Bt2020, SampleRange::Limited, TransferFunction::Pq)})
         EXPECT_EQ(Rounded(hdr, RED, YuvMatrix::Bt601), Rounded(hdr, RED));
-}
-
-TEST(ColorEncoder, FixedPointRoundsAsTheExactValueDoes)
-{
-    for (int const depth : {8, 10, 12})
-    {
-        Case const c = Yuv(depth, YuvMatrix::Bt709, SampleRange::Limited);
-        Blend::ColorEncoder const encoder(c.layout, c.color, std::nullopt);
-        for (int i = 0; i < 4096; ++i)
-        {
-            RgbColor const color{static_cast<std::uint8_t>((i & 15) * 17),
-                                 static_cast<std::uint8_t>((i >> 4 & 15) * 17),
-                                 static_cast<std::uint8_t>((i >> 8) * 17)};
-            Codes const rounded = Rounded(c, color);
-            auto const exact = encoder.Encode(color);
-            for (std::size_t k = 0; k < 3; ++k)
-                ASSERT_EQ(rounded[k], static_cast<int>(std::floor(exact[k] + 0.5))) << depth << ' ' << i << ' ' << k;
-        }
-    }
 }
 
 } // namespace

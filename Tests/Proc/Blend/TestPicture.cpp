@@ -1,7 +1,6 @@
 #include "Proc/Blend/TestPicture.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace Korvex::Proc::Tests
 {
@@ -10,11 +9,6 @@ namespace
 
 constexpr std::size_t GUARD = 32;
 constexpr std::uint8_t GUARD_BYTE = 0xA5;
-
-bool IsChroma(PixelLayout const& layout, int component)
-{
-    return layout.model == ColorModel::Yuv && (component == 1 || component == 2);
-}
 
 int SampleSize(PixelLayout const& layout)
 {
@@ -46,49 +40,36 @@ TestPicture::TestPicture(int width, int height, PixelLayout const& layout, RowOr
         total += static_cast<std::size_t>(rows[p]) * (rowBytes[p] + rowBytes[p] % 2 + GUARD);
     }
     m_bytes.assign(total, GUARD_BYTE);
+    m_isSample.resize(total);
     for (std::size_t p = 0; p < starts.size(); ++p)
     {
         auto const stride = static_cast<std::ptrdiff_t>(rowBytes[p] + rowBytes[p] % 2 + GUARD);
         bool const isUp = order == RowOrder::BottomUp && rows[p] > 0;
         m_view.planes[p] = {m_bytes.data() + starts[p] + (isUp ? (rows[p] - 1) * stride : 0), isUp ? -stride : stride};
     }
-    int const span = 1 << layout.bitDepth;
     for (int c = 0; c < layout.componentCount; ++c)
-    {
-        for (int y = 0; y < Height(c); ++y)
-        {
-            for (int x = 0; x < Width(c); ++x)
-                Write(c, x, y, (x * 37 + y * 101 + c * 53) % span);
-        }
-    }
-    m_original = m_bytes;
+        Paint(c, [&](int x, int y) { return (x * 37 + y * 101 + c * 53) % (1 << layout.bitDepth); });
 }
 
 void TestPicture::Fill(int component, int value)
 {
-    for (int y = 0; y < Height(component); ++y)
-    {
-        for (int x = 0; x < Width(component); ++x)
-            Write(component, x, y, value);
-    }
-    m_original = m_bytes;
-}
-
-void TestPicture::Restore()
-{
-    std::copy(m_original.begin(), m_original.end(), m_bytes.begin());
+    Paint(component, [value](int, int) { return value; });
 }
 
 int TestPicture::Width(int component) const
 {
-    int const shift = IsChroma(m_view.layout, component) ? m_view.layout.chromaShiftX : 0;
-    return (m_view.width + (1 << shift) - 1) >> shift;
+    return AtChroma(m_view.width, component, m_view.layout.chromaShiftX);
 }
 
 int TestPicture::Height(int component) const
 {
-    int const shift = IsChroma(m_view.layout, component) ? m_view.layout.chromaShiftY : 0;
-    return (m_view.height + (1 << shift) - 1) >> shift;
+    return AtChroma(m_view.height, component, m_view.layout.chromaShiftY);
+}
+
+int TestPicture::AtChroma(int size, int component, int shift) const
+{
+    bool const isChroma = m_view.layout.model == ColorModel::Yuv && (component == 1 || component == 2);
+    return isChroma ? (size + (1 << shift) - 1) >> shift : size;
 }
 
 std::size_t TestPicture::ByteOf(int component, int x, int y) const
@@ -102,21 +83,17 @@ std::size_t TestPicture::ByteOf(int component, int x, int y) const
 int TestPicture::Read(std::vector<std::uint8_t> const& bytes, int component, int x, int y) const
 {
     std::size_t const at = ByteOf(component, x, y);
-    if (m_view.layout.bitDepth == 8)
-        return bytes[at];
-    std::uint16_t value = 0;
-    std::memcpy(&value, bytes.data() + at, sizeof(value));
-    return value;
+    return bytes[at] | (SampleSize(m_view.layout) > 1 ? bytes[at + 1] << 8 : 0);
 }
 
 void TestPicture::Write(int component, int x, int y, int value)
 {
     std::size_t const at = ByteOf(component, x, y);
-    auto const word = static_cast<std::uint16_t>(value);
-    if (m_view.layout.bitDepth == 8)
-        m_bytes[at] = static_cast<std::uint8_t>(value);
-    else
-        std::memcpy(m_bytes.data() + at, &word, sizeof(word));
+    for (std::size_t byte = 0; byte < static_cast<std::size_t>(SampleSize(m_view.layout)); ++byte)
+    {
+        m_bytes[at + byte] = static_cast<std::uint8_t>(value >> 8 * byte);
+        m_isSample[at + byte] = true;
+    }
 }
 
 InkBox TestPicture::Changed(int component, int firstRow, int endRow) const
@@ -136,21 +113,9 @@ InkBox TestPicture::Changed(int component, int firstRow, int endRow) const
 
 bool TestPicture::IsGuardTouched() const
 {
-    std::vector<bool> isSample(m_bytes.size(), false);
-    for (int c = 0; c < m_view.layout.componentCount; ++c)
-    {
-        for (int y = 0; y < Height(c); ++y)
-        {
-            for (int x = 0; x < Width(c); ++x)
-            {
-                for (int byte = 0; byte < SampleSize(m_view.layout); ++byte)
-                    isSample[ByteOf(c, x, y) + static_cast<std::size_t>(byte)] = true;
-            }
-        }
-    }
     for (std::size_t i = 0; i < m_bytes.size(); ++i)
     {
-        if (!isSample[i] && m_bytes[i] != GUARD_BYTE)
+        if (!m_isSample[i] && m_bytes[i] != GUARD_BYTE)
             return true;
     }
     return false;

@@ -2,6 +2,7 @@
 
 #include "Proc/Picture.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <vector>
 
@@ -42,7 +43,7 @@ public:
     /// Gives every sample of a component one value, and takes the picture as it is now for its beginning.
     void Fill(int component, int value);
     /// Puts back the samples as they began.
-    void Restore();
+    void Restore() { std::copy(m_original.begin(), m_original.end(), m_bytes.begin()); }
 
     [[nodiscard]] int Width(int component) const;
     [[nodiscard]] int Height(int component) const;
@@ -58,11 +59,21 @@ public:
 private:
     [[nodiscard]] std::size_t ByteOf(int component, int x, int y) const;
     [[nodiscard]] int Read(std::vector<std::uint8_t> const& bytes, int component, int x, int y) const;
+    [[nodiscard]] int AtChroma(int size, int component, int shift) const;
     void Write(int component, int x, int y, int value);
+    template <typename Sample>
+    void Paint(int component, Sample const& sample)
+    {
+        for (int i = 0; i < Width(component) * Height(component); ++i)
+            Write(component, i % Width(component), i / Width(component),
+                  sample(i % Width(component), i / Width(component)));
+        m_original = m_bytes;
+    }
 
     PictureView m_view;
     std::vector<std::uint8_t> m_bytes;
     std::vector<std::uint8_t> m_original;
+    std::vector<bool> m_isSample;
 };
 
 /// Planar YUV without alpha.

@@ -9,37 +9,15 @@ namespace
 
 constexpr PictureGeometry FRAME{384, 288, 1, 1};
 
-enum Third
-{
-    LOW,
-    MIDDLE,
-    HIGH,
-};
+/// Thirds of the picture, from the left and the top.
+constexpr int LOW = 0;
+constexpr int MIDDLE = 1;
+constexpr int HIGH = 2;
+using Place = std::pair<int, int>; ///< column, row
 
-Third ThirdOf(int position, int size)
+Place PlaceOf(InkBox const& ink)
 {
-    return position * 3 < size ? LOW : position * 3 < size * 2 ? MIDDLE : HIGH;
-}
-
-struct Place
-{
-    Third column;
-    Third row;
-};
-
-bool operator==(Place const& a, Place const& b)
-{
-    return a.column == b.column && a.row == b.row;
-}
-
-std::ostream& operator<<(std::ostream& out, Place const& place)
-{
-    return out << "column " << place.column << ", row " << place.row;
-}
-
-Place PlaceOf(InkBox const& ink, PictureGeometry const& geometry = FRAME)
-{
-    return {ThirdOf(ink.CenterX(), geometry.width), ThirdOf(ink.CenterY(), geometry.height)};
+    return {ink.CenterX() * 3 / FRAME.width, ink.CenterY() * 3 / FRAME.height};
 }
 
 SettingsSubtitleDrawer Aligned(AlignmentHorizontal horizontal, AlignmentVertical vertical)
@@ -77,14 +55,14 @@ BitmapDocument Bitmap(int canvasWidth, int canvasHeight, std::vector<InkBox> con
     return document;
 }
 
-constexpr std::array<std::pair<AlignmentHorizontal, Third>, 4> COLUMNS{{{AlignmentHorizontal::Default, MIDDLE},
-                                                                        {AlignmentHorizontal::Left, LOW},
-                                                                        {AlignmentHorizontal::Center, MIDDLE},
-                                                                        {AlignmentHorizontal::Right, HIGH}}};
-constexpr std::array<std::pair<AlignmentVertical, Third>, 4> ROWS{{{AlignmentVertical::Default, HIGH},
-                                                                   {AlignmentVertical::Top, LOW},
-                                                                   {AlignmentVertical::Center, MIDDLE},
-                                                                   {AlignmentVertical::Bottom, HIGH}}};
+constexpr std::array<std::pair<AlignmentHorizontal, int>, 4> COLUMNS{{{AlignmentHorizontal::Default, MIDDLE},
+                                                                      {AlignmentHorizontal::Left, LOW},
+                                                                      {AlignmentHorizontal::Center, MIDDLE},
+                                                                      {AlignmentHorizontal::Right, HIGH}}};
+constexpr std::array<std::pair<AlignmentVertical, int>, 4> ROWS{{{AlignmentVertical::Default, HIGH},
+                                                                 {AlignmentVertical::Top, LOW},
+                                                                 {AlignmentVertical::Center, MIDDLE},
+                                                                 {AlignmentVertical::Bottom, HIGH}}};
 
 TEST(Placement, EveryAlignmentPutsEveryKindOfSubtitleWhereItSays)
 {
