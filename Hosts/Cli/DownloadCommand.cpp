@@ -179,7 +179,10 @@ ExitCode DownloadCommand::Run(Arguments const& arguments, Console& console)
     Services const services(ReadOnlineConfiguration(arguments, console));
     OnlineRun run(services.GetOnlineDownloader(), console.isInterrupted);
     auto const request = run.MakeRequest(query);
-    SearchResults const results = run.Search(query, request);
+    auto const [results, searchError] = run.Search(query, request);
+    // With a part of the hits a row's number would be another hit's.
+    if (searchError)
+        throw OnlineError(*searchError);
     if (results.empty())
         throw OnlineError(DescribeNothingFound(request));
     auto const picked = FindPicks(choice.picks, results);

@@ -13,7 +13,6 @@
 namespace Korvex::Cli
 {
 
-using Converter::Subtitles::UseCases::RankedResult;
 using Converter::Subtitles::UseCases::SearchRequest;
 using Converter::Subtitles::UseCases::ServerReport;
 
@@ -44,20 +43,21 @@ SearchRequest OnlineRun::MakeRequest(OnlineQuery const& query) const
     return request;
 }
 
-std::vector<RankedResult> OnlineRun::Search(OnlineQuery const& query, SearchRequest const& request)
+SearchOutcome OnlineRun::Search(OnlineQuery const& query, SearchRequest const& request)
 {
     m_results.clear();
     Await([&] { m_interactor->StartSearch(m_collection, request); });
-    ThrowFailure();
-    return Converter::Subtitles::UseCases::RankResults(
-        m_results, Converter::Subtitles::UseCases::DescribeFilm(query.media), query.languages);
+    return {Converter::Subtitles::UseCases::RankResults(
+                m_results, Converter::Subtitles::UseCases::DescribeFilm(query.media), query.languages),
+            m_error};
 }
 
 std::vector<QString> OnlineRun::Suggest(QString const& text)
 {
     m_suggestions.clear();
     Await([&] { m_interactor->StartSuggest(m_collection, text); });
-    ThrowFailure();
+    if (m_error)
+        throw OnlineError(*m_error);
     return std::move(m_suggestions);
 }
 
@@ -111,12 +111,6 @@ void OnlineRun::Await(std::function<void()> const& start)
         return;
     m_interactor->Cancel();
     throw Interrupted();
-}
-
-void OnlineRun::ThrowFailure() const
-{
-    if (m_error)
-        throw OnlineError(*m_error);
 }
 
 void OnlineRun::End()

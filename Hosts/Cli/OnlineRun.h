@@ -40,6 +40,13 @@ struct DownloadOutcome
     bool isInterrupted = false;
 };
 
+/// What a search brought, the best first: one failure ends it, and keeps what had come before.
+struct SearchOutcome
+{
+    std::vector<Converter::Subtitles::UseCases::RankedResult> results;
+    std::optional<OnlineError> error;
+};
+
 /// Carries operations of the online service out one after the other, each on an event loop of its own. Each ends as
 /// soon as the user wants it to stop; what was asked is then cancelled.
 class OnlineRun final : private Converter::Subtitles::UseCases::IOnlineDownloaderInteractorObserver
@@ -53,9 +60,9 @@ public:
 
     /// The query with what the film's file adds to it. Throws UsageError when nothing is there to search by.
     [[nodiscard]] Converter::Subtitles::UseCases::SearchRequest MakeRequest(OnlineQuery const& query) const;
-    /// The best first. `request` is what `MakeRequest` made of the query. Throws OnlineError and Interrupted.
-    [[nodiscard]] std::vector<Converter::Subtitles::UseCases::RankedResult>
-    Search(OnlineQuery const& query, Converter::Subtitles::UseCases::SearchRequest const& request);
+    /// @param request what `MakeRequest` made of the query. Throws Interrupted.
+    [[nodiscard]] SearchOutcome Search(OnlineQuery const& query,
+                                       Converter::Subtitles::UseCases::SearchRequest const& request);
     /// Throws OnlineError and Interrupted.
     [[nodiscard]] std::vector<QString> Suggest(QString const& text);
     /// Into a folder that exists.
@@ -70,7 +77,6 @@ private:
 
     /// Returns when the operation that `start` began has ended. Throws Interrupted.
     void Await(std::function<void()> const& start);
-    void ThrowFailure() const;
     void End();
 
     void OnSearchResults(CollectionID collection, std::vector<std::shared_ptr<SearchResult>> const& results) override;

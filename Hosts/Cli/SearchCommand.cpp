@@ -43,15 +43,21 @@ ExitCode SearchCommand::Run(Arguments const& arguments, Console& console)
     Services const services(ReadOnlineConfiguration(arguments, console));
     OnlineRun run(services.GetOnlineDownloader(), console.isInterrupted);
     auto const request = run.MakeRequest(query);
-    SearchResults const results = run.Search(query, request);
+    auto const [results, error] = run.Search(query, request);
 
-    if (results.empty())
-        console.err << "korvex: " << DescribeNothingFound(request) << '\n';
-    else if (arguments.Find("--json") == nullptr)
-        PrintResultTable(results, console.outColumns, console.out);
-    else
+    if (arguments.Find("--json") != nullptr)
+    {
         for (std::size_t index = 0; index < results.size(); ++index)
             WriteJsonLine(console.out, ResultToJson(results[index], static_cast<int>(index) + 1));
+    }
+    else if (!results.empty())
+    {
+        PrintResultTable(results, console.outColumns, console.out);
+    }
+    if (error)
+        throw OnlineError(*error);
+    if (results.empty())
+        console.err << "korvex: " << DescribeNothingFound(request) << '\n';
     return ExitCode::Done;
 }
 

@@ -124,20 +124,20 @@ TEST_F(OnlineSearchTest, EveryFailureIsASentenceAndEndsWith1)
     std::vector<FaultSentence> const faults{
         {"stall", "did not answer in time"},
         {"hang-up", "could not answer"},
-        {"drop", "could not answer"},
-        {"empty", "could not answer"},
+        {"drop", "broke off"},
+        {"empty", "was empty"},
         {"broken-json", "unterminated"},
         {"html", "Down for maintenance"},
         {"html-200", "Down for maintenance"},
         {"server-error", "Internal Server Error"},
         {"bad-gateway", "upstream connect error"},
         {"unavailable", "down or overloaded"},
-        {"bad-request", "Not enough parameters"},
+        {"bad-request", "refused the request (it says: \"Not enough parameters"},
         {"rate-limit", "wait 7 s"},
         {"wrong-key", "did not accept the API key"},
-        {"huge", "could not answer"},
-        {"gzip-bomb", "could not answer"},
-        {"redirect-loop", "failed"},
+        {"huge", "too large"},
+        {"gzip-bomb", "too large"},
+        {"redirect-loop", "other addresses without end"},
     };
     for (Service const service : SERVICES)
         for (FaultSentence const& fault : faults)
@@ -152,6 +152,25 @@ TEST_F(OnlineSearchTest, EveryFailureIsASentenceAndEndsWith1)
             EXPECT_THAT(result.err, AllOf(HasSubstr(fault.fragment), testing::MatchesRegex("korvex: .{20,}\\.\n")))
                 << fault.fault;
         }
+}
+
+TEST_F(OnlineSearchTest, HitsThatCameBeforeAFailureAreShown)
+{
+    std::vector<std::string> words{"--title", "The Lantern Keeper", "--language", "en,fr"};
+    auto const all = Search(words).size();
+    int requests = 0;
+    m_server.Intercept([&requests](HttpRequest const&)
+                       { return ++requests % 2 == 0 ? std::make_unique<HttpReply>(500) : nullptr; });
+    words.insert(words.begin(), {"search", "--json"});
+    CliResult const search = Run(words);
+    EXPECT_EQ(search.exitCode, 1);
+    EXPECT_THAT(search.JsonLines().size(), AllOf(testing::Gt(0U), testing::Lt(all)));
+    EXPECT_THAT(search.err, HasSubstr("could not answer"));
+
+    words.front() = "download";
+    words.insert(words.end(), {"--pick", "1", "--output-dir", GetFolder().utf8string()});
+    EXPECT_EQ(Run(words).exitCode, 1);
+    EXPECT_EQ(CountDownloads(), 0) << "a row's number would be another hit's";
 }
 
 TEST_F(OnlineSearchTest, AnAddressThatLeadsNowhereIsTold)
