@@ -129,9 +129,9 @@ std::vector<Fault> MakeWireFaults()
          }},
         {"huge", "a body of 512 MiB", EVERYWHERE, SendHugeBody},
         {"redirect-loop", "302 to the same address", EVERYWHERE,
-         [](HttpReply, FaultyRequest const& faulty) { return Redirect(faulty.context.prefix + faulty.path); }},
+         [](HttpReply, FaultyRequest const& faulty) { return Redirect(faulty.context.prefix + faulty.path); }, true},
         {"redirect-host", "302 to this server under another name (localhost), where all is in order", EVERYWHERE,
-         RedirectToOtherName},
+         RedirectToOtherName, true},
     };
 }
 

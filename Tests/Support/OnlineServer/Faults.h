@@ -35,6 +35,8 @@ struct Fault
     QByteArray help;                  ///< one line for people
     std::vector<ServiceStage> stages; ///< where it strikes when no stage was asked for
     std::function<HttpReply(HttpReply inOrder, FaultyRequest const& faulty)> spoil;
+    /// It answers by itself: the service hears nothing of the request, `inOrder` is empty.
+    bool isInFrontOfService = false;
 };
 
 [[nodiscard]] std::vector<Fault> const& GetFaults();

@@ -48,9 +48,9 @@ HttpReply OnlineLibrary::Answer(HttpRequest const& request)
     Fault const* const fault = FindFault(faultName, stage, strikes);
     if (!fault)
         return HttpReply(404, R"({"message":"There is no such fault; korvex-testserver --help lists them"})");
-    HttpReply reply = AnswerInOrder(request, target, context);
     if (!strikes)
-        return reply;
+        return AnswerInOrder(request, target, context);
+    HttpReply reply = fault->isInFrontOfService ? HttpReply() : AnswerInOrder(request, target, context);
     FaultyRequest faulty{request, context, target.ToBytes(), target.path.contains("/subad/"), {}};
     if (stage == ServiceStage::File)
     {
