@@ -31,6 +31,14 @@ QString QuoteServer(OnlineFailure const& failure)
     return words.isEmpty() ? QString() : Fill(Texts::tr(" (it says: \"%1\")"), words);
 }
 
+/// What the server said, else the client's own account.
+QString QuoteCause(OnlineFailure const& failure)
+{
+    QString const words = QuoteServer(failure);
+    QString const error = failure.error.simplified();
+    return words.isEmpty() && !error.isEmpty() ? QStringLiteral(" (%1)").arg(error) : words;
+}
+
 QString DescribeUsedUpQuota(OnlineFailure const& failure)
 {
     QString const words = QuoteServer(failure);
@@ -72,7 +80,7 @@ QString DescribeReason(OnlineFailure const& failure)
     case Reason::NotASubtitle:
         return Fill(Texts::tr("%1 sent something else in place of the subtitle%2; choose another one, or try again "
                               "later."),
-                    failure.serviceName, words);
+                    failure.serviceName, QuoteCause(failure));
     case Reason::Unavailable:
         return Fill(Texts::tr("%1 is down or overloaded at the moment%2; try again later."), failure.serviceName,
                     words);
@@ -86,17 +94,34 @@ QString DescribeFileError(OnlineFailure const& failure)
 {
     QString const error = failure.error.simplified();
     QString const detail = error.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(error);
-    return Fill(Texts::tr("The subtitle could not be stored in \"%1\"%2; make sure that the folder may be written and "
-                          "has room, or choose another one."),
+    return Fill(Texts::tr("The subtitle could not be unpacked or stored in \"%1\"%2; choose another subtitle, or make "
+                          "sure that the folder may be written and has room."),
                 QString::fromStdString(failure.folder.utf8string()), detail);
 }
 
-/// What the server said, else the client's own account.
-QString QuoteCause(OnlineFailure const& failure)
+/// What the HTTP status tells, where nobody gave a reason.
+QString DescribeReply(OnlineFailure const& failure)
 {
-    QString const words = QuoteServer(failure);
-    QString const error = failure.error.simplified();
-    return words.isEmpty() && !error.isEmpty() ? QStringLiteral(" (%1)").arg(error) : words;
+    constexpr int FIRST_REDIRECT = 300;
+    constexpr int FIRST_REFUSAL = 400;
+    constexpr int FIRST_SERVER_ERROR = 500;
+    QString const cause = QuoteCause(failure);
+    QString const& service = failure.serviceName;
+    int const httpStatus = failure.report.httpStatus;
+    if (httpStatus >= FIRST_REFUSAL && httpStatus < FIRST_SERVER_ERROR)
+        return Fill(Texts::tr("%1 refused the request%2; ask for something else, or try again later."), service, cause);
+    if (httpStatus >= FIRST_REDIRECT && httpStatus < FIRST_REFUSAL)
+        return Fill(Texts::tr("%1 points to other addresses without end, or to one that may not be used%2; check the "
+                              "address that is set for it, or try again later."),
+                    service, cause);
+    if (httpStatus > 0 && httpStatus < FIRST_REDIRECT)
+        return cause.isEmpty()
+                   ? Fill(Texts::tr("The answer of %1 was empty, broke off or was too large; try again later."),
+                          service)
+                   : Fill(Texts::tr("The answer of %1 cannot be used%2; try again later."), service, cause);
+    return failure.status == Status::ServerError
+               ? Fill(Texts::tr("%1 could not answer%2; try again later."), service, cause)
+               : Fill(Texts::tr("The connection to %1 failed%2; try again later."), service, cause);
 }
 
 } // namespace
@@ -119,18 +144,12 @@ QString DescribeOnlineFailure(OnlineFailure const& failure)
     }
     if (QString const sentence = DescribeReason(failure); !sentence.isEmpty())
         return sentence;
-    switch (failure.status)
-    {
-    case Status::NoConnection:
+    if (failure.status == Status::NoConnection)
         return Fill(
             Texts::tr(
                 "%1 cannot be reached or did not answer in time; check the connection to the network and try again."),
             service);
-    case Status::ServerError:
-        return Fill(Texts::tr("%1 could not answer%2; try again later."), service, QuoteCause(failure));
-    default:
-        return Fill(Texts::tr("The connection to %1 failed%2; try again later."), service, QuoteCause(failure));
-    }
+    return DescribeReply(failure);
 }
 
 } // namespace Korvex::Converter::Subtitles::UseCases

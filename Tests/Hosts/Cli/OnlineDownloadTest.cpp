@@ -112,14 +112,15 @@ TEST_F(OnlineDownloadTest, WhatIsNoSubtitleIsNotKept)
 {
     std::vector<DownloadFault> const faults{
         {"file-stall", "did not answer in time"},
-        {"file-drop", "could not answer"},
+        {"file-drop", "broke off"},
         {"file-html", "Down for maintenance"},
         {"file-html-200", "Down for maintenance"},
-        {"file-huge", "could not answer"},
+        {"file-huge", "too large"},
         {"empty-file", "empty file"},
         {"html-file", "Too many downloads"},
-        {"advert", "subtitle"},
-        {"quota", "ownload"},
+        {"advert", "an advertisement ("},
+        {"quota", "are used up"},
+        {"file-broken-json", "could not be unpacked", true},
         {"bomb-zip", "OpenSubtitles", true},
         {"nested-zip", "OpenSubtitles", true},
     };

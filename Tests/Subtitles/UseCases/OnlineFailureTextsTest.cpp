@@ -50,9 +50,14 @@ TEST(OnlineFailureTextsTest, SaysWhatHappenedAndWhatToDo)
     EXPECT_THAT(Words(file), HasSubstr("\"/films/subs\" (Failed to create temp directory)"));
 
     auto parsing = MakeFailure(Status::ServerError);
+    parsing.report.httpStatus = 200;
     parsing.error = QStringLiteral("Invalid server response format: not an array");
-    EXPECT_EQ(Words(parsing),
-              "Example could not answer (Invalid server response format: not an array); try again later.");
+    EXPECT_EQ(Words(parsing), "The answer of Example cannot be used (Invalid server response format: not an array); "
+                              "try again later.");
+
+    auto instead = MakeFailure(Status::ServerError, Reason::NotASubtitle);
+    instead.error = QStringLiteral("The server sent an advertisement");
+    EXPECT_THAT(Words(instead), HasSubstr("(The server sent an advertisement)"));
 }
 
 TEST(OnlineFailureTextsTest, HasASentenceForEveryFailure)

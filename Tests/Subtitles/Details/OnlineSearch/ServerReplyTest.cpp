@@ -68,7 +68,8 @@ TEST(ServerReplyTest, TellsRefusalsApart)
     EXPECT_EQ(Read(403, R"({"message":"Invalid User-Agent header"})").reason, Reason::None);
     EXPECT_EQ(Read(403, "<html><title>Attention Required!</title>").reason, Reason::None);
     EXPECT_EQ(Read(406, {}).reason, Reason::QuotaUsedUp);
-    EXPECT_EQ(Read(429, {}, {{"Download-Quota", "0"}}).reason, Reason::TooManyRequests);
+    EXPECT_EQ(Read(429, {}, {{"Download-Quota", "3"}}).reason, Reason::TooManyRequests);
+    EXPECT_EQ(Read(429, {}, {{"Download-Quota", "0"}}).reason, Reason::QuotaUsedUp);
     for (int const status : {502, 503, 504, 522})
         EXPECT_EQ(Read(status, {}).reason, Reason::Unavailable);
     for (int const status : {0, 200, 301, 400, 404, 410, 500, 501})

@@ -191,10 +191,10 @@ ServerReport::Reason FindReason(ServerReport const& report, bool isPage)
     using Reason = ServerReport::Reason;
     static QRegularExpression const AGENT(QStringLiteral("\\buser.?agent\\b"),
                                           QRegularExpression::CaseInsensitiveOption);
+    if (report.httpStatus == 406 || (report.httpStatus >= 400 && report.remainingDownloads == 0))
+        return Reason::QuotaUsedUp; // the legacy interface says 429 then
     if (report.httpStatus == 429)
         return Reason::TooManyRequests;
-    if (report.httpStatus == 406 || (report.httpStatus >= 400 && report.remainingDownloads == 0))
-        return Reason::QuotaUsedUp;
     // The service itself never answers with a page: what does stands before it, and has not looked at the key.
     if (report.httpStatus == 401 || report.httpStatus == 403)
         return isPage || AGENT.match(report.message).hasMatch() ? Reason::None : Reason::WrongKey;
