@@ -22,14 +22,6 @@ Packet MakeTimed(std::int64_t dtsMs, int size = 100)
     return packet;
 }
 
-std::vector<std::int64_t> PopAll(PacketMerger& merger)
-{
-    std::vector<std::int64_t> times;
-    while (auto item = merger.Pop())
-        times.push_back(item->packet->dts);
-    return times;
-}
-
 } // namespace
 
 TEST(PacketMergerTest, MergesByTimeAcrossTimeBasesAndNeverWaitsForSubtitles)
@@ -50,28 +42,6 @@ TEST(PacketMergerTest, MergesByTimeAcrossTimeBasesAndNeverWaitsForSubtitles)
     EXPECT_EQ(order, (std::vector<std::size_t>{0, 2, 0, 1, 0}));
     merger.Finish(2);
     EXPECT_FALSE(merger.Pop());
-}
-
-TEST(PacketMergerTest, AFullBudgetHoldsTheProducerBackUntilPacketsGoOut)
-{
-    PacketMerger::Limits limits;
-    limits.bytes = 5000;
-    PacketMerger merger({Pace::Gating}, limits);
-    std::atomic<int> pushed{0};
-    std::thread producer(
-        [&]
-        {
-            for (int i = 0; i < 100; ++i)
-            {
-                merger.Push(0, MakeTimed(i, 1000));
-                ++pushed;
-            }
-            merger.Finish(0);
-        });
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    EXPECT_LE(pushed, 6);
-    EXPECT_EQ(PopAll(merger).size(), 100U);
-    producer.join();
 }
 
 TEST(PacketMergerTest, AFileWithAllSoundAtItsEndNeitherDeadlocksNorFillsTheMemory)

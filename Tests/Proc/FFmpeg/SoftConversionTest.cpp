@@ -3,7 +3,7 @@
 #include "Proc/FFmpeg/FilmReader.h"
 #include "Support/MediaMaker.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <chrono>
 #include <csignal>
@@ -240,28 +240,6 @@ TEST(SoftConversionTest, DescribesTracksInTheContainersOwnTerms)
     EXPECT_EQ(ReadFilm(folder / "out.avi").CodecOf(1), "aac");
 }
 
-TEST(SoftConversionTest, PreparedFilesAreCopiedByPackets)
-{
-    TemporaryFolder const folder;
-    MakeMedia(folder / "in.mkv", MakeFilm());
-    MadeMedia prepared;
-    prepared.formatId = "mp4";
-    prepared.subtitles = {MakeSubtitle("mov_text", "")};
-    MakeMedia(folder / "prepared.mp4", prepared);
-    Proc::SubtitleTrack track = FileTrack(folder / "prepared.mp4");
-    track.language = "fr-CA";
-    track.title = "Français";
-    Conversion const done = Convert(SoftSettings(folder / "in.mkv", folder / "out.mp4", "mp4", {track}));
-    ASSERT_TRUE(done.Succeeded()) << done.Words();
-    Film const out = ReadFilm(folder / "out.mp4");
-    ASSERT_EQ(out.StreamsOf(AVMEDIA_TYPE_SUBTITLE), std::vector<int>{2});
-    EXPECT_EQ(out.CodecOf(2), "mov_text");
-    EXPECT_EQ(out.TagOf(2, "language"), "fra") << "MP4 wants the terminology code";
-    std::string const text = Joined(out.PacketsOf(2));
-    EXPECT_NE(text.find("Second ü"), std::string::npos);
-    EXPECT_NE(text.find("Third"), std::string::npos);
-}
-
 TEST(SoftConversionTest, SourcesWithoutTimesOrWithUnfitCodecsAreEncoded)
 {
     TemporaryFolder const folder;
@@ -291,26 +269,6 @@ TEST(SoftConversionTest, SourcesWithoutTimesOrWithUnfitCodecsAreEncoded)
     sound.audios.push_back({});
     MakeMedia(folder / "sound.mkv", sound);
     EXPECT_TRUE(Convert(SoftSettings(folder / "sound.mkv", folder / "sound.mp4", "mp4", {})).Succeeded());
-}
-
-TEST(SoftConversionTest, AFilmThatBreaksOffConvertsAsFarAsItGoesAndSaysSo)
-{
-    TemporaryFolder const folder;
-    MadeMedia film = MakeFilm();
-    film.video->frameCount = 250;
-    film.audios[0].duration = std::chrono::seconds(10);
-    MakeMedia(folder / "whole.mkv", film);
-    std::string const bytes = Core::ReadFile(folder / "whole.mkv", 1 << 28).Value();
-    WriteText(folder / "half.mkv", bytes.substr(0, bytes.size() / 2));
-    Conversion const whole = Convert(SoftSettings(folder / "whole.mkv", folder / "a.mp4", "mp4", {}));
-    Conversion const half = Convert(SoftSettings(folder / "half.mkv", folder / "b.mp4", "mp4", {}));
-    ASSERT_TRUE(whole.Succeeded()) << whole.Words();
-    ASSERT_TRUE(half.Succeeded()) << half.Words();
-    EXPECT_TRUE(whole.report.warnings.empty());
-    ASSERT_EQ(half.report.warnings.size(), 1U);
-    EXPECT_EQ(half.report.warnings[0].code, Proc::WarningCode::EndsEarly);
-    EXPECT_THAT(Proc::ToSentence(half.report.warnings[0]), testing::EndsWith(" of 10 seconds, and so does the output."));
-    EXPECT_GT(ReadFilm(folder / "b.mp4").PacketsOf(0).size(), 60U);
 }
 
 TEST(SoftConversionTest, SubtitlesThatGoOnAfterThePictureAreNoEarlyEnd)

@@ -5,7 +5,6 @@
 
 #include <gmock/gmock.h>
 
-
 namespace Korvex::Proc::Text
 {
 namespace
@@ -29,7 +28,6 @@ std::vector<Sample> const& Samples()
         {"CP1251",
          {"Вече е късно, да тръгваме.", "Щом искаш, ще остана още малко.", "Майка ми ще се сърди.",
           "Нищо, ще обясня."}},
-        {"CP1251", {"Можеш ли да ми помогнеш?", "Къде са ключовете от къщата?"}},
         {"CP1251", {"Немој да ме чекаш вечерас.", "Њена кћерка је отишла у школу.", "Шта ћеш сутра да радиш?"}},
         {"CP1250",
          {"Gdzie byłeś wczoraj wieczorem?", "Muszę już iść, jest późno.", "Dziękuję ci za wszystko.",
@@ -59,7 +57,6 @@ std::vector<Sample> const& Samples()
         {"ISO-8859-15",
          {"Warum hast du nichts gesagt?", "Ich wollte dich nicht stören, schöne Grüße.",
           "Das müssen wir später klären."}},
-        {"ISO-8859-15", {"¿Dónde estabas anoche?", "No quería molestarte, señor.", "Mañana será otro día."}},
         {"CP932",
          {"昨日の夜はどこにいたの？", "ごめん、仕事が終わらなかった。", "明日はきっと会えるよね。",
           "うん、約束する。"}},
@@ -105,16 +102,9 @@ TEST_F(EncodingDetectionTest, ReadsLongAndShortTextsInEveryEncoding)
             EXPECT_EQ(decoded->report.source, Source::Detector);
             EXPECT_GT(decoded->report.confidence, cueCount > 100 ? 0.9 : 0.3)
                 << sample.encoding << ' ' << sample.lines[0];
+            // By the name that the core offers, once there is text enough.
+            EXPECT_TRUE(cueCount < 100 || decoded->report.encoding == sample.encoding) << decoded->report.encoding;
         }
-    }
-}
-
-TEST_F(EncodingDetectionTest, NamesTheEncodingThatTheCoreOffers)
-{
-    for (Sample const& sample : Samples())
-    {
-        auto const decoded = DecodeText(Testing::EncodeText(MakeSubRip(sample.lines, 100), sample.encoding), "");
-        EXPECT_EQ(decoded->report.encoding, sample.encoding) << sample.lines[0];
     }
     // Bytes that only the Windows page has make it that page.
     EXPECT_EQ(DecodeText("\x93"
@@ -125,28 +115,19 @@ TEST_F(EncodingDetectionTest, NamesTheEncodingThatTheCoreOffers)
               "CP1254");
 }
 
-TEST_F(EncodingDetectionTest, CapitalsAloneAreTextToo)
+TEST_F(EncodingDetectionTest, NeitherCapitalsNorTagsMislead)
 {
-    std::vector<std::string> const lines = {"ДОБРО ПОЖАЛОВАТЬ ДОМОЙ", "КОНЕЦ ПЕРВОЙ ЧАСТИ", "ЧЕТЫРЕ ГОДА СПУСТЯ",
-                                            "НЕ ВХОДИТЬ, ОПАСНО ДЛЯ ЖИЗНИ", "ПОСЛЕДНИЕ НОВОСТИ ЭТОГО ЧАСА"};
-    std::string const text = MakeSubRip(lines, lines.size());
-    for (char const* const encoding : {"CP1251", "KOI8-R"})
-    {
-        EXPECT_EQ(DecodeText(Testing::EncodeText(text, encoding), "")->utf8, text) << encoding;
-    }
-}
-
-TEST_F(EncodingDetectionTest, ManyTagsDoNotDrownAShortText)
-{
-    std::string text = "[Script Info]\nTitle: a plain title\n[Events]\n";
+    std::string tagged = "[Script Info]\nTitle: a plain title\n[Events]\n";
     for (int i = 0; i < 300; ++i)
-    {
-        text += "Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,{\\pos(320,240)\\an8\\fs20\\b1}ok{\\b0}\n";
-    }
-    text += "Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,{\\i1}Уже поздно,\\Nпора домой{\\i0}\n";
+        tagged += "Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,{\\pos(320,240)\\an8\\fs20\\b1}ok{\\b0}\n";
+    tagged += "Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,{\\i1}Уже поздно,\\Nпора домой{\\i0}\n";
+    std::string const capitals = MakeSubRip({"ДОБРО ПОЖАЛОВАТЬ ДОМОЙ", "КОНЕЦ ПЕРВОЙ ЧАСТИ", "ЧЕТЫРЕ ГОДА СПУСТЯ",
+                                             "НЕ ВХОДИТЬ, ОПАСНО ДЛЯ ЖИЗНИ", "ПОСЛЕДНИЕ НОВОСТИ ЭТОГО ЧАСА"},
+                                            5);
     for (char const* const encoding : {"CP1251", "KOI8-R"})
     {
-        EXPECT_EQ(DecodeText(Testing::EncodeText(text, encoding), "")->utf8, text) << encoding;
+        for (std::string const& text : {capitals, tagged})
+            EXPECT_EQ(DecodeText(Testing::EncodeText(text, encoding), "")->utf8, text) << encoding;
     }
 }
 
