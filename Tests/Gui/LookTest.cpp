@@ -1,5 +1,7 @@
 #include "Support/WidgetSupport.h"
 
+#include "Gui/ColorPickerButton.h"
+#include "Gui/DropDownButton.h"
 #include "Gui/Icons.h"
 #include "Gui/KComboBox.h"
 #include "Gui/KLabel.h"
@@ -8,9 +10,12 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QCheckBox>
 #include <QImage>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpression>
 #include <QSpinBox>
 #include <QStyle>
 #include <QStyleFactory>
@@ -73,6 +78,31 @@ KComboBox* MakeComboBox()
     return box;
 }
 
+/// One of each control that shows a text and can have the focus.
+std::vector<QWidget*> MakeControls()
+{
+    std::vector<QWidget*> controls = {MakeComboBox(), new QCheckBox(QStringLiteral("Check")),
+                                      new QRadioButton(QStringLiteral("Radio")), new QLineEdit, new QSpinBox};
+    for (QString const hint : {"", "primaryButton", "flatButton", "activeButton", "accentColorComboBoxButton"})
+    {
+        controls.push_back(new QPushButton(QStringLiteral("Convert all")));
+        Util::ApplyWidgetStyle(controls.back(), hint, "styleHint");
+    }
+    for (QString const hint : {"", "selectFont"})
+    {
+        auto* const tool = new QToolButton;
+        tool->setText(QStringLiteral("DejaVu Sans, 20"));
+        tool->setFocusPolicy(Qt::StrongFocus);
+        Util::ApplyWidgetStyle(tool, hint, "styleHint");
+        controls.push_back(tool);
+    }
+    auto* const dropDown = new GUI::DropDownButton;
+    dropDown->setText(QStringLiteral("Tracks"));
+    controls.push_back(dropDown);
+    controls.push_back(new GUI::ColorPickerButton);
+    return controls;
+}
+
 class ThemeListener final : public App::ILookAndFeelManagerObserver
 {
 public:
@@ -90,42 +120,32 @@ public:
 
 TEST(LookTest, TextIsReadableOnEverythingThatItStandsOn)
 {
-    struct Pair
+    using Role = ColorRole;
+    using Roles = std::vector<Role>;
+    Roles const plain = {Role::Window, Role::Surface, Role::Raised};
+    auto const join = [](Roles grounds, Roles const& more)
     {
-        ColorRole text;
-        std::vector<ColorRole> grounds;
-        double least;
+        grounds.insert(grounds.end(), more.begin(), more.end());
+        return grounds;
     };
-    constexpr double TEXT = 4.5;
-    constexpr double SHAPE = 3.0;
-    std::vector<ColorRole> const plain = {ColorRole::Window, ColorRole::Surface, ColorRole::Raised};
-    std::vector<ColorRole> const rows = {ColorRole::Window, ColorRole::Surface,   ColorRole::Raised,
-                                         ColorRole::Hover,  ColorRole::Selection, ColorRole::WarningFill};
-    std::vector<ColorRole> const all = {ColorRole::Window,    ColorRole::Surface,     ColorRole::Raised,
-                                        ColorRole::Hover,     ColorRole::Pressed,     ColorRole::Selection,
-                                        ColorRole::ErrorFill, ColorRole::WarningFill, ColorRole::DisabledFill};
-    std::vector<Pair> const pairs = {
-        {ColorRole::Text, all, TEXT},
-        {ColorRole::DimText, all, TEXT},
-        {ColorRole::DisabledText,
-         {ColorRole::Window, ColorRole::Surface, ColorRole::Raised, ColorRole::DisabledFill},
-         TEXT},
-        {ColorRole::AccentText, {ColorRole::Accent, ColorRole::AccentHover, ColorRole::AccentPressed}, TEXT},
-        {ColorRole::Accent, rows, TEXT},
-        {ColorRole::AccentHover, all, TEXT},
-        {ColorRole::Warning, rows, TEXT},
-        {ColorRole::Error, rows, TEXT},
-        {ColorRole::Error, {ColorRole::ErrorFill}, TEXT},
-        {ColorRole::Success, rows, TEXT},
-        {ColorRole::FieldBorder, plain, SHAPE},
+    Roles const rows = join(plain, {Role::Hover, Role::Selection, Role::WarningFill});
+    Roles const all = join(rows, {Role::Pressed, Role::ErrorFill, Role::DisabledFill});
+    auto const expectContrast = [](double least, Roles const& texts, Roles const& grounds)
+    {
+        for (Role const text : texts)
+            for (Role const ground : grounds)
+                EXPECT_GE(MeasureContrast(GUI::GetColor(text), GUI::GetColor(ground)), least)
+                    << "role " << static_cast<int>(text) << " on role " << static_cast<int>(ground);
     };
     ForEachTheme(
-        [&pairs](QString const&)
+        [&](QString const&)
         {
-            for (Pair const& pair : pairs)
-                for (ColorRole const ground : pair.grounds)
-                    EXPECT_GE(MeasureContrast(GUI::GetColor(pair.text), GUI::GetColor(ground)), pair.least)
-                        << "role " << static_cast<int>(pair.text) << " on role " << static_cast<int>(ground);
+            expectContrast(4.5, {Role::Text, Role::DimText, Role::AccentHover}, all);
+            expectContrast(4.5, {Role::Accent, Role::Warning, Role::Error, Role::Success}, rows);
+            expectContrast(4.5, {Role::Error}, {Role::ErrorFill});
+            expectContrast(4.5, {Role::DisabledText}, join(plain, {Role::DisabledFill}));
+            expectContrast(4.5, {Role::AccentText}, {Role::Accent, Role::AccentHover, Role::AccentPressed});
+            expectContrast(3.0, {Role::FieldBorder}, plain);
         });
 }
 
@@ -158,11 +178,13 @@ TEST(LookTest, BaseStylesOfPanelsAndBoxesDoNotShow)
         [](QString const&)
         {
             QImage const box = GrabWithBaseStyle(MakeComboBox(), {}, {});
-            EXPECT_EQ(GrabWithBaseStyle(MakeComboBox(), QStringLiteral("Fusion"), QStringLiteral("Windows")), box);
-            EXPECT_EQ(GrabWithBaseStyle(MakeComboBox(), QStringLiteral("Windows"), {}), box);
             QImage const spin = GrabWithBaseStyle(new QSpinBox, {}, {});
-            EXPECT_EQ(GrabWithBaseStyle(new QSpinBox, QStringLiteral("Fusion"), {}), spin);
-            EXPECT_EQ(GrabWithBaseStyle(new QSpinBox, QStringLiteral("Windows"), {}), spin);
+            for (QString const style : {"Fusion", "Windows"})
+            {
+                EXPECT_EQ(GrabWithBaseStyle(MakeComboBox(), style, QStringLiteral("Windows")), box);
+                EXPECT_EQ(GrabWithBaseStyle(new QSpinBox, style, {}), spin);
+            }
+            EXPECT_EQ(GrabWithBaseStyle(MakeComboBox(), QStringLiteral("Windows"), {}), box);
 
             // The arrow that the style sheet names has come out.
             QColor const arrow = GUI::GetColor(ColorRole::DimText);
@@ -234,24 +256,75 @@ TEST(LookTest, NoLeastSizeOfTheStyleSheetLetsLayoutsCutTexts)
 {
     QWidget window;
     auto* const row = new QHBoxLayout(&window);
-    auto* const tool = new QToolButton;
-    tool->setText(QStringLiteral("DejaVu Sans, 20"));
-    std::vector<QWidget*> const widgets = {new QPushButton(QStringLiteral("Convert all")),
-                                           tool,
-                                           new QLineEdit,
-                                           new QSpinBox,
-                                           new QLabel(QStringLiteral("Label")),
-                                           MakeComboBox()};
-    for (QWidget* const widget : widgets)
-        row->addWidget(widget);
+    std::vector<QWidget*> const controls = MakeControls();
+    for (QWidget* const control : controls)
+        row->addWidget(control);
     ShowAndWait(window);
     window.resize(1, 1);
     QCoreApplication::processEvents();
-    for (QWidget* const widget : widgets)
-    {
-        EXPECT_GE(widget->width(), widget->minimumSizeHint().width()) << widget->metaObject()->className();
-        EXPECT_GE(widget->height(), widget->minimumSizeHint().height()) << widget->metaObject()->className();
-    }
+    for (QWidget* const control : controls)
+        EXPECT_EQ(control->size().expandedTo(control->minimumSizeHint()), control->size())
+            << control->metaObject()->className();
+}
+
+TEST(LookTest, AFocusRingShowsAndMovesNothing)
+{
+    ForEachTheme(
+        [](QString const&)
+        {
+            QWidget window;
+            auto* const column = new QVBoxLayout(&window);
+            auto* const elsewhere = new QPushButton;
+            column->addWidget(elsewhere);
+            std::vector<QWidget*> const controls = MakeControls();
+            for (QWidget* const control : controls)
+                column->addWidget(control);
+            ShowAndWait(window);
+            for (QWidget* const control : controls)
+            {
+                SCOPED_TRACE(control->metaObject()->className() +
+                             control->property("styleHint").toString().toStdString());
+                auto const inside = [control](QImage const& picture)
+                { return picture.copy(control->rect().adjusted(6, 6, -6, -6)); };
+                elsewhere->setFocus();
+                QImage const without = control->grab().toImage();
+                QSize const hint = control->sizeHint();
+                QVariant const cursor = control->inputMethodQuery(Qt::ImCursorRectangle);
+                control->setFocus();
+                QImage const with = control->grab().toImage();
+                EXPECT_NE(with, without);
+                EXPECT_EQ(control->sizeHint(), hint);
+                EXPECT_EQ(control->inputMethodQuery(Qt::ImCursorRectangle), cursor);
+                bool const hasCursor = control->testAttribute(Qt::WA_InputMethodEnabled);
+                EXPECT_TRUE(hasCursor || inside(with) == inside(without));
+            }
+        });
+}
+
+TEST(LookTest, QtUnderstandsEveryWordOfTheStyleSheet)
+{
+    ForEachTheme(
+        [](QString const&)
+        {
+            QString sheet = qApp->styleSheet();
+            sheet.remove(
+                QRegularExpression(QStringLiteral("/\\*.*?\\*/"), QRegularExpression::DotMatchesEverythingOption));
+            // Qt complains of a property only when it paints a widget that the rule is for: here all are for one.
+            QString declarations;
+            for (auto found = QRegularExpression(QStringLiteral("[{;]\\s*([a-z-]+:[^;{}]+)(?=;)")).globalMatch(sheet);
+                 found.hasNext();)
+                declarations += found.next().captured(1) + QLatin1Char(';');
+            EXPECT_GT(declarations.size(), 1000);
+            QPushButton button;
+            button.setStyleSheet(declarations);
+            ShowAndWait(button);
+            // It says nothing of a picture that is not there.
+            for (auto found = QRegularExpression(QStringLiteral("url\\((.*?)\\)")).globalMatch(sheet); found.hasNext();)
+            {
+                QString const address = found.next().captured(1);
+                EXPECT_FALSE(QIcon(address).pixmap(16, 16).isNull()) << qPrintable(address);
+            }
+        });
 }
 
 TEST(LookTest, AWheelOverABoxWithoutFocusLeavesItAlone)

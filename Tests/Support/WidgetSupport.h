@@ -14,7 +14,8 @@ QT_BEGIN_NAMESPACE
 void PrintTo(QString const& text, std::ostream* stream);
 QT_END_NAMESPACE
 
-/// For test programs made by `korvex_add_widget_test`: they have a QApplication and the host's look (light at first).
+/// For test programs made by `korvex_add_widget_test`: they have a QApplication and the host's look (light at first),
+/// and what Qt complains about fails the test.
 namespace Korvex::Testing
 {
 

@@ -26,6 +26,18 @@ namespace
 {
 
 std::unique_ptr<Korvex::GUI::LookAndFeelManager> lookAndFeel;
+QtMessageHandler handlerOfQt = nullptr;
+
+/// What Qt complains about on the way is a fault of the test or of what it tests: a style sheet that cannot be read, a
+/// painter on nothing, a connection to what is not there.
+void FailOnComplaints(QtMsgType type, QMessageLogContext const& context, QString const& text)
+{
+    bool const isOfTheMachine = text.startsWith(QLatin1String("This plugin does not support")) ||
+                                text.startsWith(QLatin1String("QStandardPaths: "));
+    if (!isOfTheMachine && (type == QtWarningMsg || type == QtCriticalMsg))
+        ADD_FAILURE() << qPrintable(text);
+    handlerOfQt(type, context, text);
+}
 
 } // namespace
 
@@ -94,8 +106,10 @@ int main(int argumentCount, char** arguments)
     // that.
     static auto* const application = new QApplication(argumentCount, arguments);
     Q_UNUSED(application)
+    handlerOfQt = qInstallMessageHandler(FailOnComplaints);
     lookAndFeel = std::make_unique<Korvex::GUI::LookAndFeelManager>(Korvex::App::Theme::Light);
     int const result = RUN_ALL_TESTS();
     lookAndFeel.reset();
+    qInstallMessageHandler(nullptr);
     return result;
 }
