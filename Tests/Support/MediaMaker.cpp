@@ -10,7 +10,6 @@ extern "C"
 }
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace Korvex::Testing
 {
@@ -137,15 +136,19 @@ void WriteAll(Output& output, ioPath const& path, bool isM2ts)
 
 TemporaryFolder::TemporaryFolder()
 {
-    Core::Result<ioPath> made = Core::CreateWorkFolder();
-    if (!made)
-        throw std::runtime_error(Core::ToSentence(made.GetError()));
-    m_path = *made;
+    m_path = ValueOf(Core::CreateWorkFolder());
 }
 
 TemporaryFolder::~TemporaryFolder()
 {
     Core::RemoveWorkFolder(m_path);
+}
+
+ioPath TemporaryFolder::Write(std::string const& name, std::string const& bytes) const
+{
+    if (auto failed = Core::WriteFile(m_path / name, bytes, true))
+        throw std::runtime_error(Core::ToSentence(*failed));
+    return m_path / name;
 }
 
 void MakeMedia(ioPath const& path, MadeMedia const& media)
@@ -192,6 +195,15 @@ std::vector<MadeCue> MakeBoxCues()
     return {{milliseconds(500), milliseconds(1000), {}, 40, 140, 96, 20, 0xFFFFFFFFU},
             {milliseconds(1000), milliseconds(1500), {}, 60, 120, 80, 24, 0xFF0000FFU},
             {milliseconds(1600), milliseconds(1900), {}, 100, 100, 70, 16, 0x0000FFFFU}};
+}
+
+MadeSubtitle MakeSubtitle(std::string const& codecId, std::string const& language)
+{
+    MadeSubtitle subtitle;
+    subtitle.codecId = codecId;
+    subtitle.cues = codecId.find("_subtitle") == std::string::npos ? MakeTextCues() : MakeBoxCues();
+    subtitle.language = language;
+    return subtitle;
 }
 
 } // namespace Korvex::Testing

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "Core/Result.h"
 #include "Core/ioPath.h"
 
 #include <chrono>
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -24,6 +26,8 @@ public:
 
     [[nodiscard]] ioPath const& Path() const { return m_path; }
     [[nodiscard]] ioPath operator/(std::string const& name) const { return m_path / name; }
+    /// Puts the file there, over one of that name, and gives its path.
+    ioPath Write(std::string const& name, std::string const& bytes) const;
 
 private:
     ioPath m_path;
@@ -128,5 +132,16 @@ void MakeMedia(ioPath const& path, MadeMedia const& media);
 /// The three cues that most tests use: 0.5 to 1, 1 to 1.5 and 1.6 to 1.9 seconds.
 [[nodiscard]] std::vector<MadeCue> MakeTextCues();
 [[nodiscard]] std::vector<MadeCue> MakeBoxCues();
+/// With these cues, boxes where the codec's are bitmaps.
+[[nodiscard]] MadeSubtitle MakeSubtitle(std::string const& codecId, std::string const& language = {});
+
+/// What succeeded; throws the sentence of what failed.
+template <typename T>
+[[nodiscard]] T ValueOf(Core::Result<T> result)
+{
+    if (!result)
+        throw std::runtime_error(Core::ToSentence(result.GetError()));
+    return std::move(result).Value();
+}
 
 } // namespace Korvex::Testing

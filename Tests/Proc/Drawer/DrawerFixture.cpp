@@ -1,6 +1,6 @@
 #include "Proc/Drawer/DrawerFixture.h"
 
-#include <stdexcept>
+#include "Support/MediaMaker.h"
 
 namespace Korvex::Proc::Tests
 {
@@ -59,10 +59,7 @@ TextDocument Script(std::vector<std::string> const& texts, std::string const& st
 
 DrawerPtr MakeDrawer(SettingsSubtitleDrawer const& settings, SubtitleDocument document, PictureGeometry const& geometry)
 {
-    auto drawer = MakeSubtitleDrawer(settings, std::move(document), geometry);
-    if (!drawer)
-        throw std::runtime_error(Core::ToSentence(drawer.GetError()));
-    return drawer.Value();
+    return Testing::ValueOf(MakeSubtitleDrawer(settings, std::move(document), geometry));
 }
 
 InkBox DrawnBox(SettingsSubtitleDrawer const& settings, SubtitleDocument document, PictureGeometry const& geometry,

@@ -22,9 +22,7 @@ constexpr char const* SUBTITLES = "1\n00:00:00,500 --> 00:00:01,500\nBurned in\n
 
 ioPath WriteSubtitles(TemporaryFolder const& folder)
 {
-    ioPath const path = folder / "text.srt";
-    EXPECT_FALSE(Core::WriteFile(path, SUBTITLES, true));
-    return path;
+    return folder.Write("text.srt", SUBTITLES);
 }
 
 /// The luma of a preview picture, as BT.709 at limited range.
@@ -39,17 +37,11 @@ std::vector<double> LumaOf(Proc::RgbaImage const& image)
 
 Proc::RgbaImage Render(ioPath const& film, ioPath const& subtitles, microseconds time)
 {
-    auto preview = Proc::MakePreview(film);
-    if (!preview)
-        throw std::runtime_error(Core::ToSentence(preview.GetError()));
+    auto const preview = ValueOf(Proc::MakePreview(film));
     Proc::SettingsSubtitleMixer mixer;
     mixer.SetFilename(subtitles);
-    if (auto failed = (*preview)->SetSubtitles(&mixer))
-        throw std::runtime_error(Core::ToSentence(*failed));
-    auto image = (*preview)->Render(time);
-    if (!image)
-        throw std::runtime_error(Core::ToSentence(image.GetError()));
-    return std::move(*image);
+    EXPECT_FALSE(preview->SetSubtitles(&mixer));
+    return ValueOf(preview->Render(time));
 }
 
 /// Bright samples below the middle, where text stands.

@@ -21,7 +21,6 @@ using Core::ErrorCode;
 using std::chrono::milliseconds;
 using Testing::MadeCue;
 using Testing::MadeMedia;
-using Testing::MadeSubtitle;
 using Testing::TemporaryFolder;
 
 class ExportTest : public ::testing::Test
@@ -37,23 +36,10 @@ protected:
         media.video = Testing::MadeVideo{};
         media.startTime = startTime;
         for (std::string const& codec : codecs)
-        {
-            MadeSubtitle subtitle;
-            subtitle.codecId = codec;
-            subtitle.language = "eng";
-            bool const isBitmap = codec.find("subtitle") != std::string::npos;
-            subtitle.cues = isBitmap ? Testing::MakeBoxCues() : Testing::MakeTextCues();
-            media.subtitles.push_back(subtitle);
-        }
+            media.subtitles.push_back(Testing::MakeSubtitle(codec, "eng"));
         ioPath path = m_folder / name;
         Testing::MakeMedia(path, media);
         return path;
-    }
-
-    ioPath Write(std::string const& name, std::string const& bytes)
-    {
-        EXPECT_FALSE(Core::WriteFile(m_folder / name, bytes, false));
-        return m_folder / name;
     }
 
     TemporaryFolder m_folder;
@@ -76,16 +62,13 @@ SubtitleSource FileOf(ioPath const& path)
 
 std::string BytesOf(ioPath const& path)
 {
-    Core::Result<std::string> const bytes = Core::ReadFile(path, 1'000'000);
-    return bytes ? *bytes : std::string();
+    return Testing::ValueOf(Core::ReadFile(path, 1'000'000));
 }
 
 template <typename Document>
 Document Load(ioPath const& path)
 {
-    Core::Result<SubtitleDocument> const document = LoadSubtitleFile(path, {});
-    EXPECT_TRUE(document) << Core::ToSentence(document.GetError());
-    return document ? std::get<Document>(*document) : Document();
+    return std::get<Document>(Testing::ValueOf(LoadSubtitleFile(path, {})));
 }
 
 } // namespace
@@ -93,7 +76,7 @@ Document Load(ioPath const& path)
 TEST_F(ExportTest, TextComesOutAsItIsInTheFile)
 {
     ioPath const film = Make("film.mkv", "matroska", {"subrip", "ass"});
-    Core::Result<ExportedSubtitle> const srt = ExtractSubtitle(StreamOf(film, 1), m_folder / "out.srt");
+    auto const srt = ExtractSubtitle(StreamOf(film, 1), m_folder / "out.srt");
     ASSERT_TRUE(srt) << Core::ToSentence(srt.GetError());
     EXPECT_EQ(srt->cueCount, 3U);
     EXPECT_EQ(BytesOf(srt->path), "1\n00:00:00,500 --> 00:00:01,000\nFirst\n\n2\n00:00:01,000 --> 00:00:01,500\n"
@@ -165,9 +148,9 @@ TEST_F(ExportTest, AMovTextFileGivesBackTheCues)
 {
     // CP1251; the second and the third overlap.
     ioPath const srt =
-        Write("a.srt", "1\n00:00:10,000 --> 00:00:12,000\n<i>\xCF\xF0\xE8\xE2\xE5\xF2</i>, \xEC\xE8\xF0\n\n"
-                       "2\n00:00:20,000 --> 00:00:24,000\nTwo\nlines\n\n"
-                       "3\n00:00:22,000 --> 00:00:26,000\nOver\n");
+        m_folder.Write("a.srt", "1\n00:00:10,000 --> 00:00:12,000\n<i>\xCF\xF0\xE8\xE2\xE5\xF2</i>, \xEC\xE8\xF0\n\n"
+                                "2\n00:00:20,000 --> 00:00:24,000\nTwo\nlines\n\n"
+                                "3\n00:00:22,000 --> 00:00:26,000\nOver\n");
     SubtitleSource source = FileOf(srt);
     source.encoding = "CP1251";
     source.timeShift = milliseconds(-1500);
@@ -192,10 +175,10 @@ TEST_F(ExportTest, AMovTextFileGivesBackTheCues)
 
 TEST_F(ExportTest, WhatMovTextCannotHoldIsCounted)
 {
-    ioPath const srt = Write("long.srt", "1\n00:00:01,000 --> 00:00:02,000\n" + std::string(70000, 'x') +
-                                             "\n\n2\n00:00:03,000 --> 00:00:04,000\nHello\n\n"
-                                             "3\n999:00:00,000 --> 999:00:01,000\nLate\n\n"
-                                             "4\n00:00:05,000 --> 00:00:05,000\nNever\n");
+    ioPath const srt = m_folder.Write("long.srt", "1\n00:00:01,000 --> 00:00:02,000\n" + std::string(70000, 'x') +
+                                                      "\n\n2\n00:00:03,000 --> 00:00:04,000\nHello\n\n"
+                                                      "3\n999:00:00,000 --> 999:00:01,000\nLate\n\n"
+                                                      "4\n00:00:05,000 --> 00:00:05,000\nNever\n");
     Core::Result<ExportedSubtitle> const prepared = PrepareSubtitle(FileOf(srt), {"mov_text"}, m_folder.Path(), "w");
     ASSERT_TRUE(prepared) << Core::ToSentence(prepared.GetError());
     EXPECT_EQ(prepared->cueCount, 1U);
@@ -224,10 +207,11 @@ TEST_F(ExportTest, PreparingPicksWhatLosesLeast)
 
 TEST_F(ExportTest, AClassOfSamiAndAShiftBeforeZero)
 {
-    ioPath const smi = Write("a.smi", "<SAMI><HEAD><STYLE><!-- .ENCC {lang: en-US;} .KRCC {lang: ko-KR;} --></STYLE>"
-                                      "</HEAD><BODY><SYNC Start=1000><P Class=ENCC>Hello<P Class=KRCC>Annyeong"
-                                      "<SYNC Start=5000><P Class=ENCC>World<P Class=KRCC>Segye"
-                                      "<SYNC Start=9000><P Class=ENCC>&nbsp;<P Class=KRCC>&nbsp;</BODY></SAMI>");
+    ioPath const smi =
+        m_folder.Write("a.smi", "<SAMI><HEAD><STYLE><!-- .ENCC {lang: en-US;} .KRCC {lang: ko-KR;} --></STYLE>"
+                                "</HEAD><BODY><SYNC Start=1000><P Class=ENCC>Hello<P Class=KRCC>Annyeong"
+                                "<SYNC Start=5000><P Class=ENCC>World<P Class=KRCC>Segye"
+                                "<SYNC Start=9000><P Class=ENCC>&nbsp;<P Class=KRCC>&nbsp;</BODY></SAMI>");
     SubtitleSource source = FileOf(smi);
     source.samiClass = "KRCC";
     source.timeShift = milliseconds(-6000);

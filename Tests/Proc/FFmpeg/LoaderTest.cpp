@@ -23,8 +23,7 @@ using Testing::TemporaryFolder;
 
 MadeSubtitle MakeTrack(std::string const& codecId, std::vector<MadeCue> cues)
 {
-    MadeSubtitle subtitle;
-    subtitle.codecId = codecId;
+    MadeSubtitle subtitle = Testing::MakeSubtitle(codecId);
     subtitle.cues = std::move(cues);
     return subtitle;
 }
@@ -54,16 +53,12 @@ protected:
 
 TextDocument TextOf(Core::Result<SubtitleDocument> document)
 {
-    EXPECT_TRUE(document) << Core::ToSentence(document.GetError());
-    EXPECT_TRUE(document && std::holds_alternative<TextDocument>(*document));
-    return document ? std::get<TextDocument>(*document) : TextDocument();
+    return std::get<TextDocument>(Testing::ValueOf(std::move(document)));
 }
 
 BitmapDocument BitmapsOf(Core::Result<SubtitleDocument> document)
 {
-    EXPECT_TRUE(document) << Core::ToSentence(document.GetError());
-    EXPECT_TRUE(document && std::holds_alternative<BitmapDocument>(*document));
-    return document ? std::get<BitmapDocument>(*document) : BitmapDocument();
+    return std::get<BitmapDocument>(Testing::ValueOf(std::move(document)));
 }
 
 /// Start, end and text, to compare at one glance.
@@ -82,16 +77,14 @@ std::vector<std::string> const EXPECTED{"500-1000 First", "1000-1500 Second \xC3
 
 TEST_F(LoaderTest, EveryTextTrackGivesTheSameCuesAsAFileOfItsOwn)
 {
-    ioPath const srt = m_folder / "own.srt";
-    ASSERT_FALSE(Core::WriteFile(srt,
-                                 "1\n00:00:00,500 --> 00:00:01,000\nFirst\n\n2\n00:00:01,000 --> 00:00:01,500\n"
-                                 "Second \xC3\xBC\n\n3\n00:00:01,600 --> 00:00:01,900\nThird\n",
-                                 false));
+    ioPath const srt =
+        m_folder.Write("own.srt", "1\n00:00:00,500 --> 00:00:01,000\nFirst\n\n2\n00:00:01,000 --> 00:00:01,500\n"
+                                  "Second \xC3\xBC\n\n3\n00:00:01,600 --> 00:00:01,900\nThird\n");
     EXPECT_EQ(Lines(TextOf(LoadSubtitleFile(srt, {}))), EXPECTED);
 
     std::vector<MadeSubtitle> tracks;
     for (char const* codec : {"subrip", "ass", "webvtt", "text"})
-        tracks.push_back(MakeTrack(codec, Testing::MakeTextCues()));
+        tracks.push_back(Testing::MakeSubtitle(codec));
     ioPath const mkv = Make("film.mkv", "matroska", tracks);
     for (std::uint32_t index = 1; index <= 4; ++index)
     {
@@ -99,14 +92,14 @@ TEST_F(LoaderTest, EveryTextTrackGivesTheSameCuesAsAFileOfItsOwn)
         EXPECT_EQ(Lines(document), EXPECTED) << "stream " << index;
         EXPECT_EQ(document.HasOwnLook(), document.codecId == "ass");
     }
-    ioPath const mp4 = Make("film.mp4", "mp4", {MakeTrack("mov_text", Testing::MakeTextCues())});
+    ioPath const mp4 = Make("film.mp4", "mp4", {Testing::MakeSubtitle("mov_text")});
     TextDocument const movText = TextOf(LoadSubtitleStream(mp4, 1));
     EXPECT_EQ(Lines(movText), EXPECTED);
     EXPECT_FALSE(movText.HasOwnLook()) << "the user's look applies";
     EXPECT_EQ(Lines(TextOf(LoadSubtitleFile(mp4, {}))), EXPECTED) << "the first subtitle stream of a media file";
 
     // FLV has no durations: a text stays until the next one, the last for a while.
-    ioPath const flv = Make("film.flv", "flv", {MakeTrack("text", Testing::MakeTextCues())});
+    ioPath const flv = Make("film.flv", "flv", {Testing::MakeSubtitle("text")});
     Core::Result<MediaInfo> const info = ProbeMedia(flv);
     ASSERT_TRUE(info);
     auto const isText = [](StreamInfo const& stream) { return stream.isTextSubtitle; };
@@ -133,8 +126,7 @@ TEST_F(LoaderTest, TextKeepsItsMarkupAndScriptsTheirOrder)
 
 TEST_F(LoaderTest, TimesCountFromTheStartOfTheMedia)
 {
-    ioPath const ts =
-        Make("film.ts", "mpegts", {MakeTrack("dvb_subtitle", Testing::MakeBoxCues())}, milliseconds(3'601'000));
+    ioPath const ts = Make("film.ts", "mpegts", {Testing::MakeSubtitle("dvb_subtitle")}, milliseconds(3'601'000));
     BitmapDocument const document = BitmapsOf(LoadSubtitleStream(ts, 1));
     ASSERT_EQ(document.cues.size(), 3U);
     EXPECT_EQ(document.cues[0].start, milliseconds(500));
@@ -147,7 +139,7 @@ TEST_F(LoaderTest, BitmapsHaveTheirPlaceColourAndEnd)
     for (char const* codec : {"hdmv_pgs_subtitle", "dvd_subtitle", "dvb_subtitle"})
     {
         SCOPED_TRACE(codec);
-        ioPath const mkv = Make(std::string(codec) + ".mkv", "matroska", {MakeTrack(codec, Testing::MakeBoxCues())});
+        ioPath const mkv = Make(std::string(codec) + ".mkv", "matroska", {Testing::MakeSubtitle(codec)});
         BitmapDocument const document = BitmapsOf(LoadSubtitleStream(mkv, 1));
         ASSERT_EQ(document.cues.size(), 3U);
         BitmapCue const& red = document.cues[1];
@@ -171,7 +163,7 @@ TEST_F(LoaderTest, AttachedFontsComeAlongAndOtherAttachmentsDoNot)
     m_attachments = {{"One.TTF", "application/octet-stream", "first"},
                      {"two", "application/x-truetype-font", "second"},
                      {"cover.txt", "text/plain", "third"}};
-    ioPath const mkv = Make("film.mkv", "matroska", {MakeTrack("ass", Testing::MakeTextCues())});
+    ioPath const mkv = Make("film.mkv", "matroska", {Testing::MakeSubtitle("ass")});
     TextDocument const document = TextOf(LoadSubtitleStream(mkv, 1));
     ASSERT_EQ(document.fonts.size(), 2U);
     EXPECT_EQ(document.fonts[0].name, "One.TTF");
@@ -213,11 +205,10 @@ TEST_F(LoaderTest, ATrackThatWasNeverUtf8IsReadInItsOwnEncoding)
 
 TEST_F(LoaderTest, ATruncatedFilmGivesTheCuesThatAreThere)
 {
-    ioPath const mkv = Make("film.mkv", "matroska", {MakeTrack("subrip", Testing::MakeTextCues())});
+    ioPath const mkv = Make("film.mkv", "matroska", {Testing::MakeSubtitle("subrip")});
     Core::Result<std::string> const whole = Core::ReadFile(mkv, 10'000'000);
     ASSERT_TRUE(whole);
-    ioPath const half = m_folder / "half.mkv";
-    ASSERT_FALSE(Core::WriteFile(half, whole->substr(0, whole->size() * 6 / 10), false));
+    ioPath const half = m_folder.Write("half.mkv", whole->substr(0, whole->size() * 6 / 10));
     TextDocument const document = TextOf(LoadSubtitleStream(half, 1));
     ASSERT_FALSE(document.cues.empty());
     EXPECT_LT(document.cues.size(), 3U);

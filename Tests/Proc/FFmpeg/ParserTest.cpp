@@ -40,13 +40,7 @@ constexpr char const* VTT = "WEBVTT\n\n00:01.000 --> 00:02.000\nHello\n";
 class ParserTest : public ::testing::Test
 {
 protected:
-    ioPath Write(std::string const& name, std::string const& bytes)
-    {
-        ioPath path = m_folder / name;
-        EXPECT_FALSE(Core::WriteFile(path, bytes, true));
-        return path;
-    }
-
+    ioPath Write(std::string const& name, std::string const& bytes) { return m_folder.Write(name, bytes); }
     ioPath Make(std::string const& name, MadeMedia const& media)
     {
         ioPath path = m_folder / name;
@@ -87,13 +81,10 @@ TEST_F(ParserTest, TellsWhatTheStreamsOfAFilmAre)
     media.audios[0].language = "fre";
     for (char const* codec : {"subrip", "hdmv_pgs_subtitle"})
     {
-        MadeSubtitle subtitle;
-        subtitle.codecId = codec;
-        subtitle.language = "und";
+        MadeSubtitle subtitle = Testing::MakeSubtitle(codec, "und");
         subtitle.title = "Bad \xFF title";
         subtitle.isForced = true;
         subtitle.isHearingImpaired = std::string(codec) == "subrip";
-        subtitle.cues = std::string(codec) == "subrip" ? Testing::MakeTextCues() : Testing::MakeBoxCues();
         media.subtitles.push_back(subtitle);
     }
     media.attachments.push_back({"font.ttf", "font/ttf", "bytes"});
@@ -125,10 +116,7 @@ TEST_F(ParserTest, KnowsRotationStartTimeAndTitlesOfOtherContainers)
     media.video = MadeVideo{};
     media.video->rotationDegrees = 90;
     media.audios.resize(1);
-    MadeSubtitle subtitle;
-    subtitle.codecId = "mov_text";
-    subtitle.cues = Testing::MakeTextCues();
-    media.subtitles.push_back(subtitle);
+    media.subtitles = {Testing::MakeSubtitle("mov_text")};
     Core::Result<MediaInfo> info = ProbeMedia(Make("film.mp4", media));
     ASSERT_TRUE(info);
     EXPECT_EQ(info->FindMainVideo()->rotationDegrees, 90);

@@ -26,20 +26,13 @@ namespace
 
 boost::intrusive_ptr<Proc::IPreview> Open(ioPath const& film)
 {
-    auto preview = Proc::MakePreview(film);
-    if (!preview)
-        throw std::runtime_error(Core::ToSentence(preview.GetError()));
-    return *preview;
+    return ValueOf(Proc::MakePreview(film));
 }
 
 Proc::RgbaImage Show(Proc::IPreview& preview, SettingsSubtitleMixer const* settings, microseconds time)
 {
-    if (auto failed = preview.SetSubtitles(settings))
-        throw std::runtime_error(Core::ToSentence(*failed));
-    auto image = preview.Render(time);
-    if (!image)
-        throw std::runtime_error(Core::ToSentence(image.GetError()));
-    return std::move(*image);
+    EXPECT_FALSE(preview.SetSubtitles(settings));
+    return ValueOf(preview.Render(time));
 }
 
 MadeVideo MakeVideo(std::string const& pixelFormat)
@@ -50,13 +43,6 @@ MadeVideo MakeVideo(std::string const& pixelFormat)
     video.keyFrameInterval = 30;
     video.bFrames = 2;
     return video;
-}
-
-ioPath Write(TemporaryFolder const& folder, std::string const& name, std::string const& text)
-{
-    ioPath const path = folder / name;
-    EXPECT_FALSE(Core::WriteFile(path, text, true));
-    return path;
 }
 
 SettingsSubtitleMixer FromFile(ioPath const& path)
@@ -136,8 +122,8 @@ TEST(PreviewTest, EditsShowAsIfEverythingWereMadeAnew)
     film.subtitles[0].cues = MakeBoxCues();
     film.subtitles[1].cues = MakeTextCues();
     MakeMedia(folder / "film.mkv", film);
-    ExpectEditsToShowAsMadeAnew(folder / "film.mkv", FromFile(Write(folder, "text.srt", SUBRIP)));
-    ExpectEditsToShowAsMadeAnew(folder / "film.mkv", FromFile(Write(folder, "text.ass", SCRIPT)));
+    ExpectEditsToShowAsMadeAnew(folder / "film.mkv", FromFile(folder.Write("text.srt", SUBRIP)));
+    ExpectEditsToShowAsMadeAnew(folder / "film.mkv", FromFile(folder.Write("text.ass", SCRIPT)));
     SettingsSubtitleMixer own;
     own.SetSubtitleStreamIndex(1);
     ExpectEditsToShowAsMadeAnew(folder / "film.mkv", own);
@@ -155,10 +141,10 @@ TEST(PreviewTest, ShowsAFileAsItIsOnTheDisk)
     MadeMedia film;
     film.video = MakeVideo("yuv420p");
     MakeMedia(folder / "film.mkv", film);
-    SettingsSubtitleMixer const mixer = FromFile(Write(folder, "text.srt", SUBRIP));
+    SettingsSubtitleMixer const mixer = FromFile(folder.Write("text.srt", SUBRIP));
     auto const preview = Open(folder / "film.mkv");
     auto const before = Show(*preview, &mixer, milliseconds(900)).rgba;
-    Write(folder, "text.srt", "1\n00:00:00,500 --> 00:00:02,000\nMended in an editor\n");
+    folder.Write("text.srt", "1\n00:00:00,500 --> 00:00:02,000\nMended in an editor\n");
     auto const after = Show(*preview, &mixer, milliseconds(900)).rgba;
     EXPECT_FALSE(after == before);
     EXPECT_TRUE(after == Show(*Open(folder / "film.mkv"), &mixer, milliseconds(900)).rgba);
@@ -209,10 +195,9 @@ TEST(PreviewTest, ListsWhenItsTrackHasSomethingToShow)
     MakeMedia(folder / "film.mkv", film);
     auto const preview = Open(folder / "film.mkv");
     EXPECT_TRUE(preview->ListCueSpans().empty());
-    SettingsSubtitleMixer mixer = FromFile(Write(folder, "text.srt",
-                                                 "1\n00:00:02,000 --> 00:00:03,000\nLater\n\n"
-                                                 "2\n00:00:01,000 --> 00:00:01,500\nEarlier\n\n"
-                                                 "3\n00:00:04,000 --> 00:00:05,000\n<i> </i>\n"));
+    SettingsSubtitleMixer mixer = FromFile(folder.Write("text.srt", "1\n00:00:02,000 --> 00:00:03,000\nLater\n\n"
+                                                                    "2\n00:00:01,000 --> 00:00:01,500\nEarlier\n\n"
+                                                                    "3\n00:00:04,000 --> 00:00:05,000\n<i> </i>\n"));
     Proc::SettingsSubtitleDrawer drawer;
     drawer.SetTimeShift(250'000);
     mixer.SetDrawerSettings(drawer);

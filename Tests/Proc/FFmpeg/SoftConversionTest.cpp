@@ -31,20 +31,6 @@ MadeMedia MakeFilm()
     return film;
 }
 
-MadeSubtitle MakeSubtitle(std::string const& codecId, std::string const& language)
-{
-    MadeSubtitle subtitle;
-    subtitle.codecId = codecId;
-    subtitle.cues = codecId.find("_subtitle") == std::string::npos ? MakeTextCues() : MakeBoxCues();
-    subtitle.language = language;
-    return subtitle;
-}
-
-void WriteText(ioPath const& path, std::string const& bytes)
-{
-    ASSERT_FALSE(Core::WriteFile(path, bytes, true));
-}
-
 std::string Joined(std::vector<FilmPacket> const& packets)
 {
     std::string all;
@@ -69,14 +55,14 @@ TEST(SoftConversionTest, KeepsPacketsTracksAndDescriptionsAndLeavesOutWhatIsNotL
     film.chapters.push_back({milliseconds(1000), milliseconds(2000), "Two"});
     MakeMedia(folder / "in.mkv", film);
     // "Привет" in the code page of Windows for Cyrillic.
-    WriteText(folder / "ru.srt", "1\n00:00:00,500 --> 00:00:01,500\n\xCF\xF0\xE8\xE2\xE5\xF2, \xEC\xE8\xF0! "
-                                 "\xDD\xF2\xEE \xEF\xF0\xE8\xEC\xE5\xF0 \xF2\xE5\xEA\xF1\xF2\xE0.\n");
-    WriteText(folder / "old.ssa", "[Script Info]\nScriptType: v4.00\n\n[V4 Styles]\nFormat: Name, Fontname, Fontsize, "
-                                  "PrimaryColour, SecondaryColour, TertiaryColour, BackColour, Bold, Italic, "
-                                  "BorderStyle, Outline, Shadow, Alignment, MarginL, MarginR, MarginV, AlphaLevel, "
-                                  "Encoding\nStyle: Default,Arial,20,255,255,255,0,0,0,1,2,0,6,10,10,10,0,0\n\n"
-                                  "[Events]\nFormat: Marked, Start, End, Style, Name, MarginL, MarginR, MarginV, "
-                                  "Effect, Text\nDialogue: Marked=0,0:00:00.50,0:00:01.00,Default,,0,0,0,,Up here\n");
+    folder.Write("ru.srt", "1\n00:00:00,500 --> 00:00:01,500\n\xCF\xF0\xE8\xE2\xE5\xF2, \xEC\xE8\xF0! "
+                           "\xDD\xF2\xEE \xEF\xF0\xE8\xEC\xE5\xF0 \xF2\xE5\xEA\xF1\xF2\xE0.\n");
+    folder.Write("old.ssa", "[Script Info]\nScriptType: v4.00\n\n[V4 Styles]\nFormat: Name, Fontname, Fontsize, "
+                            "PrimaryColour, SecondaryColour, TertiaryColour, BackColour, Bold, Italic, "
+                            "BorderStyle, Outline, Shadow, Alignment, MarginL, MarginR, MarginV, AlphaLevel, "
+                            "Encoding\nStyle: Default,Arial,20,255,255,255,0,0,0,1,2,0,6,10,10,10,0,0\n\n"
+                            "[Events]\nFormat: Marked, Start, End, Style, Name, MarginL, MarginR, MarginV, "
+                            "Effect, Text\nDialogue: Marked=0,0:00:00.50,0:00:01.00,Default,,0,0,0,,Up here\n");
 
     Proc::SubtitleTrack russian = FileTrack(folder / "ru.srt");
     russian.language = "ru";

@@ -1,6 +1,6 @@
 #include "Cues.h"
 
-#include "Core/FileSystem.h"
+#include "Support/MediaMaker.h"
 
 #include <gmock/gmock.h>
 
@@ -46,22 +46,18 @@ TEST(TextFormatTest, ContentWinsAndTheNameHelps)
 
 TEST(TextFileTest, TheNameHelpsWithTheEncodingAndWhatIsNoTextIsLeft)
 {
-    auto const folder = Core::CreateWorkFolder();
-    ASSERT_TRUE(folder);
+    Testing::TemporaryFolder const folder;
     // "Привіт" in KOI8-U, misnamed; the name states the language.
-    ioPath const path = *folder / "Movie.uk.ass";
-    ASSERT_FALSE(Core::WriteFile(path, "1\n00:00:01,000 --> 00:00:02,000\n\xF0\xD2\xC9\xD7\xA6\xD4\n", false));
+    ioPath const path = folder.Write("Movie.uk.ass", "1\n00:00:01,000 --> 00:00:02,000\n\xF0\xD2\xC9\xD7\xA6\xD4\n");
     auto const loaded = LoadTextFile(path, "");
     ASSERT_TRUE(loaded && *loaded);
     EXPECT_EQ(CuesOf(**loaded), (Cues{{1000, 2000, "Привіт"}}));
     EXPECT_EQ((*loaded)->decoding.encoding, "KOI8-U");
     EXPECT_EQ(LoadTextFile(path, "no-such-encoding").GetError().code, Core::ErrorCode::InvalidSetting);
 
-    ioPath const picture = *folder / "picture.srt";
-    ASSERT_FALSE(Core::WriteFile(picture, std::string("GIF89a\1\2\3\4\5\6\0\0\1\2\3", 17), false));
+    ioPath const picture = folder.Write("picture.srt", std::string("GIF89a\1\2\3\4\5\6\0\0\1\2\3", 17));
     auto const none = LoadTextFile(picture, "");
     EXPECT_TRUE(none && !*none);
-    Core::RemoveWorkFolder(*folder);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "Proc/TextSample.h"
 
-#include "Core/FileSystem.h"
 #include "Support/Environment.h"
+#include "Support/MediaMaker.h"
 #include "SystemEncoder.h"
 
 #include <gmock/gmock.h>
@@ -23,19 +23,11 @@ using testing::SizeIs;
 class TextSampleTest : public testing::Test
 {
 protected:
-    TextSampleTest() : m_folder(*Core::CreateWorkFolder()) {}
-    ~TextSampleTest() override { Core::RemoveWorkFolder(m_folder); }
-
-    ioPath Write(std::string const& name, std::string const& bytes) const
-    {
-        ioPath const path = m_folder / name;
-        EXPECT_FALSE(Core::WriteFile(path, bytes, true));
-        return path;
-    }
+    ioPath Write(std::string const& name, std::string const& bytes) const { return m_folder.Write(name, bytes); }
 
     // The language of the machine must not decide what a test finds.
     Testing::ScopedVariable const m_locale{"LC_ALL", "C"};
-    ioPath const m_folder;
+    Testing::TemporaryFolder const m_folder;
 };
 
 std::string MakeCue(std::size_t number, std::string const& text)
