@@ -1,14 +1,6 @@
 #include "Support/OnlineServer/Archives.h"
 
-#include <quazip.h>
-#include <quazipfile.h>
-#include <quazipnewinfo.h>
-
-#include <QBuffer>
-#include <QDateTime>
-#include <QtEndian>
-
-#include <stdexcept>
+#include <quacrc32.h>
 
 namespace Korvex::Testing
 {
@@ -16,46 +8,76 @@ namespace Korvex::Testing
 namespace
 {
 
-constexpr quint32 UNIX_FILE_ATTRIBUTES = 0100644U << 16U;
-constexpr quint32 UNIX_LINK_ATTRIBUTES = 0120777U << 16U;
-
-void OverwriteSize(QByteArray& archive, QByteArray const& signature, int offset, quint32 claimedBytes)
+void Append(QByteArray& bytes, quint64 value, int count)
 {
-    for (int at = archive.indexOf(signature); at >= 0; at = archive.indexOf(signature, at + offset))
-        qToLittleEndian(claimedBytes, archive.data() + at + offset);
+    for (int at = 0; at < count; ++at)
+        bytes += static_cast<char>(value >> (8 * at));
+}
+
+/// What a zlib stream holds between its header and its checksum.
+QByteArray DeflateBare(QByteArray const& bytes)
+{
+    return Deflate(bytes).mid(2).chopped(4);
+}
+
+/// What local header and directory share, from the needed version to the lengths of name and extra field.
+QByteArray MakeHeader(ArchiveMember const& member, int packedSize)
+{
+    QByteArray bytes;
+    Append(bytes, 20, 2);
+    Append(bytes, member.flags, 2);
+    Append(bytes, member.isDeflated ? 8 : 0, 2);
+    Append(bytes, 0, 4);
+    Append(bytes, QuaCrc32().calculate(member.bytes) + member.checksumError, 4);
+    Append(bytes, static_cast<quint64>(packedSize), 4);
+    Append(bytes, static_cast<quint64>(member.statedSize < 0 ? member.bytes.size() : member.statedSize), 4);
+    Append(bytes, static_cast<quint64>(member.name.size()), 2);
+    Append(bytes, 0, 2);
+    return bytes;
 }
 
 } // namespace
 
-QByteArray MakeZip(std::vector<ArchiveMember> const& members, QByteArray const& nameEncoding)
+QByteArray MakeZip(std::vector<ArchiveMember> const& members)
 {
-    QBuffer buffer;
-    QuaZip archive(&buffer);
-    archive.setFileNameCodec(nameEncoding.constData());
-    archive.setZip64Enabled(false);
-    if (!archive.open(QuaZip::mdCreate))
-        throw std::runtime_error("cannot make an archive in memory");
+    QByteArray archive;
+    QByteArray directory;
     for (ArchiveMember const& member : members)
     {
-        QuaZipNewInfo info(member.name);
-        info.dateTime = QDateTime(QDate(2021, 1, 5), QTime(12, 0));
-        info.externalAttr = member.isLink ? UNIX_LINK_ATTRIBUTES : UNIX_FILE_ATTRIBUTES;
-        QuaZipFile file(&archive);
-        if (!file.open(QIODevice::WriteOnly, info) || file.write(member.bytes) != member.bytes.size())
-            throw std::runtime_error("cannot write into an archive in memory");
-        file.close();
+        QByteArray const packed = member.isDeflated ? DeflateBare(member.bytes) : member.bytes;
+        QByteArray const header = MakeHeader(member, packed.size());
+        directory += "PK\x01\x02";
+        Append(directory, 0x0314, 2);
+        directory += header;
+        Append(directory, 0, 6);
+        Append(directory, member.attributes, 4);
+        Append(directory, static_cast<quint64>(archive.size()), 4);
+        directory += member.name;
+        archive += "PK\x03\x04" + header + member.name + packed;
     }
-    archive.close();
-    return buffer.data();
+    int const offset = archive.size();
+    archive += directory + "PK\x05\x06";
+    Append(archive, 0, 4);
+    Append(archive, members.size(), 2);
+    Append(archive, members.size(), 2);
+    Append(archive, static_cast<quint64>(directory.size()), 4);
+    Append(archive, static_cast<quint64>(offset), 4);
+    Append(archive, 0, 2);
+    return archive;
 }
 
-QByteArray LieAboutSizes(QByteArray archive, quint32 claimedBytes)
+QByteArray Gzip(QByteArray const& bytes)
 {
-    constexpr int SIZE_IN_LOCAL_HEADER = 22;
-    constexpr int SIZE_IN_DIRECTORY = 24;
-    OverwriteSize(archive, QByteArray("PK\x03\x04", 4), SIZE_IN_LOCAL_HEADER, claimedBytes);
-    OverwriteSize(archive, QByteArray("PK\x01\x02", 4), SIZE_IN_DIRECTORY, claimedBytes);
-    return archive;
+    constexpr char HEADER[] = "\x1f\x8b\x08\x00\x00\x00\x00\x00\x00\xff";
+    QByteArray file = QByteArray(HEADER, sizeof(HEADER) - 1) + DeflateBare(bytes);
+    Append(file, QuaCrc32().calculate(bytes), 4);
+    Append(file, static_cast<quint64>(bytes.size()), 4);
+    return file;
+}
+
+QByteArray Deflate(QByteArray const& bytes)
+{
+    return qCompress(bytes, 1).mid(4); // the size stands in front
 }
 
 } // namespace Korvex::Testing

@@ -1,24 +1,31 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
 
 #include <vector>
 
 namespace Korvex::Testing
 {
 
+/// One file of an archive; the numbers may contradict the bytes.
 struct ArchiveMember
 {
-    QString name; ///< as it is to stand in the archive, harmless or not
+    QByteArray name; ///< as it is to stand in the archive, harmless or not
     QByteArray bytes;
-    bool isLink = false; ///< a symbolic link; the bytes say to where
+    quint32 attributes = 0; ///< of Unix in the upper half
+    quint16 flags = 0;
+    bool isDeflated = false;
+    qint64 statedSize = -1; ///< the true one when negative
+    quint32 checksumError = 0;
 };
 
-/// A ZIP file in memory. The names are written in the encoding that `nameEncoding` names, without saying which it is.
-[[nodiscard]] QByteArray MakeZip(std::vector<ArchiveMember> const& members, QByteArray const& nameEncoding = "UTF-8");
+/// A ZIP file, also one that no decent tool would write.
+[[nodiscard]] QByteArray MakeZip(std::vector<ArchiveMember> const& members);
 
-/// The same archive, except that every member claims to unpack to so many bytes.
-[[nodiscard]] QByteArray LieAboutSizes(QByteArray archive, quint32 claimedBytes);
+/// A whole gzip file.
+[[nodiscard]] QByteArray Gzip(QByteArray const& bytes);
+
+/// What HTTP calls deflate: a zlib stream.
+[[nodiscard]] QByteArray Deflate(QByteArray const& bytes);
 
 } // namespace Korvex::Testing

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Support/OnlineServer/HttpMessage.h"
-#include "Support/OnlineServer/ServiceContext.h"
 
 #include <functional>
 #include <vector>
@@ -9,40 +8,27 @@
 namespace Korvex::Testing
 {
 
-/// What a request asks a service for.
-enum class ServiceStage
-{
-    Search, ///< suggestions too
-    Link,   ///< version 1's POST that is answered with a link
-    File
-};
-
 /// What a fault may look at.
 struct FaultyRequest
 {
-    HttpRequest const& request;
-    ServiceContext const& context;
-    QByteArray path;           ///< without the prefix that chose the fault
-    bool isArchive = false;    ///< the answer in order would be a ZIP archive
-    QByteArray wantedFileName; ///< of the subtitle that a file request leads to; UTF-8, empty otherwise
+    HttpRequest const& request; ///< without the prefix that chose the fault
+    QByteArray packedName;      ///< of the wanted subtitle where an archive would be in order, else empty
 };
 
-/// One way in which a service fails its clients. Chosen by its name in front of a path: "/faults/stall/api/v1". Before
-/// the name, "search-", "link-" or "file-" limits it to that stage: "/faults/file-stall".
+/// One way in which a service fails its clients. Chosen by its name in front of a path: "/faults/stall/api/v1". "file-"
+/// before the name limits it to downloads: "/faults/file-stall".
 struct Fault
 {
     QByteArray name;
-    QByteArray help;                  ///< one line for people
-    std::vector<ServiceStage> stages; ///< where it strikes when no stage was asked for
-    std::function<HttpReply(HttpReply inOrder, FaultyRequest const& faulty)> spoil;
-    /// It answers by itself: the service hears nothing of the request, `inOrder` is empty.
-    bool isInFrontOfService = false;
+    QByteArray help;        ///< one line for people
+    bool isOfFiles = false; ///< strikes nothing but downloads anyway
+    /// Without a function the service itself fails.
+    std::function<void(HttpReply& reply, FaultyRequest const& faulty)> spoil;
 };
 
 [[nodiscard]] std::vector<Fault> const& GetFaults();
 
-/// The fault of that name, limited to the stage that the name begins with; null for an unknown name. `strikes` says
-/// whether it spoils that stage.
-[[nodiscard]] Fault const* FindFault(QByteArray const& name, ServiceStage stage, bool& strikes);
+/// The fault of that name, with or without "file-" before it; null when there is none.
+[[nodiscard]] Fault const* FindFault(QByteArray const& name);
 
 } // namespace Korvex::Testing

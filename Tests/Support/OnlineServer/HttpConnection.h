@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Support/OnlineServer/HttpMessage.h"
-#include "Support/OnlineServer/HttpReader.h"
 
 #include <QTcpSocket>
 
@@ -20,22 +19,16 @@ public:
     HttpConnection(qintptr socketHandle, Answer answer, QObject* parent);
 
 private:
-    void ReadRequests();
-    void Begin(HttpRequest const& request);
+    void ReadRequest();
     void SendHead();
     void SendPieces();
-    void EndReply();
-    void Close();
 
     QTcpSocket m_socket;
     Answer const m_answer;
-    HttpReader m_reader;
+    QByteArray m_received; ///< not yet understood as a request
     HttpReply m_reply;
-    QByteArray m_body;       ///< of the reply, as it goes over the wire apart from the chunks' frames
-    qint64 m_totalBytes = 0; ///< of the body as often as it is sent
-    qint64 m_sentBytes = 0;
+    int m_sentBytes = 0; ///< of the reply's body
     bool m_isReplying = false;
-    bool m_isWaitingForClient = false; ///< which has not taken enough of what was sent
     bool m_isKeptAlive = true;
 };
 

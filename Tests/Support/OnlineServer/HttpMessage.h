@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QPair>
+#include <QString>
 
 #include <utility>
 
@@ -24,6 +25,10 @@ struct HttpRequest
 
     /// The header's value, whatever the case of its name; empty when it is missing.
     [[nodiscard]] QByteArray Header(QByteArray const& name) const { return FindHeader(headers, name); }
+    /// The target without its query.
+    [[nodiscard]] QByteArray Path() const;
+    /// A query value in its true characters ("+" and "%20" are blanks); empty when it is missing.
+    [[nodiscard]] QString Value(QString const& key) const;
 };
 
 /// What is sent back, and how badly.
@@ -39,19 +44,18 @@ struct HttpReply
 
     int status = 200;
     QByteArray body;
-    HttpHeaders headers; ///< Content-Length and Connection are added where they are not among these
-    QByteArray contentType = "application/json; charset=utf-8"; ///< no such header when empty
+    HttpHeaders headers; ///< Content-Length and Connection are added to these
 
-    int delayMs = 0;        ///< before the first byte
-    int pauseMs = 0;        ///< between two pieces of the body
-    qint64 bodyCount = 1;   ///< how often the body is sent over; no more of it is in memory than the client is behind
-    int pieceBytes = 0;     ///< size of a piece; 0: all at once
-    bool isGzip = false;    ///< body sent compressed, with Content-Encoding
-    bool isDeflate = false; ///< the same with the other method
-    qint64 dropAfterBytes = -1;        ///< of the body as sent; then the connection is closed. -1: never
+    int delayMs = 0;                   ///< before the first byte
+    int pauseMs = 0;                   ///< between two pieces of the body
+    int pieceBytes = 0;                ///< size of a piece; 0: all at once
+    int dropAfterBytes = -1;           ///< of the body; then the connection is closed. -1: never
     bool dropsInsteadOfAnswer = false; ///< the connection is closed (after the delay) before the first byte
     bool neverAnswers = false;         ///< the connection stays open in silence
     bool isChunked = false;            ///< chunked transfer in place of Content-Length; a piece is a chunk
 };
+
+/// As servers send it when they are down, or instead of what was asked for.
+[[nodiscard]] HttpReply MakePage(int status, QByteArray const& title);
 
 } // namespace Korvex::Testing

@@ -1,15 +1,16 @@
 #include "Support/OnlineServer/LegacyService.h"
 
-#include "Support/OnlineServer/Compression.h"
+#include "Support/OnlineServer/Archives.h"
 #include "Support/OnlineServer/FilmCatalog.h"
-#include "Support/OnlineServer/LegacyArchive.h"
-#include "Support/OnlineServer/LegacyRows.h"
+#include "Support/OnlineServer/SubtitleTexts.h"
 
+#include <QCryptographicHash>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QRegularExpression>
+#include <QJsonObject>
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 namespace Korvex::Testing
@@ -19,157 +20,153 @@ namespace
 {
 
 constexpr char SEARCH_PATH[] = "/search/";
-constexpr int LANGUAGE_LETTERS = 3;
+constexpr char SET_PATH[] = "/en/download/src-api/vrf-19ad0c52/subad/";
+constexpr qint64 MOVIE_BYTES = 131'072;
 
-HttpReply MakePage(int status, QByteArray const& title)
+/// A search's keys and decoded values.
+using Query = std::map<QByteArray, QString>;
+
+Query ReadQuery(QByteArray const& path)
 {
-    HttpReply reply(status, "<!DOCTYPE html>\n<html><head><title>" + title + "</title></head><body><h1>" + title +
-                                "</h1></body></html>\n");
-    reply.contentType = "text/html; charset=utf-8";
-    return reply;
+    Query query;
+    for (QByteArray const& part : path.mid(sizeof(SEARCH_PATH) - 1).split('/'))
+        query[part.left(part.indexOf('-'))] =
+            QString::fromUtf8(QByteArray::fromPercentEncoding(part.mid(part.indexOf('-') + 1)));
+    return query;
+}
+
+/// Every key has to agree; there is nothing to be found by two things that exclude each other, or half a fingerprint.
+bool Matches(Subtitle const& subtitle, Query const& query)
+{
+    Film const& film = *subtitle.film;
+    if ((query.count("query") && query.count("imdbid")) || query.count("moviehash") != query.count("moviebytesize"))
+        return false;
+    return std::all_of(query.begin(), query.end(),
+                       [&](auto const& pair)
+                       {
+                           auto const& [key, value] = pair;
+                           return key == "query"           ? MatchesWords(film, subtitle.release, value)
+                                  : key == "sublanguageid" ? value == subtitle.language->threeLetters
+                                  : key == "imdbid"        ? value.toInt() == film.imdbId
+                                  : key == "season"        ? value.toInt() == film.season
+                                  : key == "episode"       ? value.toInt() == film.episode
+                                  : key == "moviehash"     ? value == film.movieHash
+                                                           : value.toLongLong() == MOVIE_BYTES;
+                       });
+}
+
+/// The members that clients read. Numbers are texts, as everything here.
+QJsonObject MakeRow(Subtitle const& subtitle, SubtitleFile const& file, Query const& query, QByteArray const& url)
+{
+    Film const& film = *subtitle.film;
+    auto const flag = [&subtitle](unsigned mark) { return subtitle.Has(mark) ? "1" : "0"; };
+    bool const isEpisode = !film.series.isEmpty();
+    return {
+        {"MatchedBy", query.count("moviehash") ? "moviehash" : "fulltext"},
+        {"IDSubtitleFile", QString::number(file.legacyFileId)},
+        {"SubFileName", file.name},
+        {"SubActualCD", QString::number(file.discNumber)},
+        {"SubSumCD", QString::number(subtitle.files.size())},
+        {"SubHash", QString(QCryptographicHash::hash(file.bytes, QCryptographicHash::Md5).toHex())},
+        {"ZipDownloadLink", QString(url + SET_PATH + QByteArray::number(subtitle.legacyId))},
+        {"SubLanguageID", subtitle.language->threeLetters},
+        {"ISO639", subtitle.language->twoLetters},
+        {"SubFormat", subtitle.format},
+        {"SubAuthorComment", subtitle.comment.isEmpty() ? QJsonValue() : QJsonValue(subtitle.comment)},
+        {"SubAddDate", subtitle.uploaded.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"))},
+        {"SubRating", QString::number(subtitle.rating, 'f', 1)},
+        {"SubSumVotes", QString::number(subtitle.votes)},
+        {"SubDownloadsCnt", QString::number(subtitle.downloads)},
+        {"MovieReleaseName", ' ' + subtitle.release},
+        {"MovieFPS", QString::number(subtitle.framesPerSecond, 'f', 3)},
+        {"SubHearingImpaired", flag(MARK_HEARING_IMPAIRED)},
+        {"SubHD", flag(MARK_HIGH_DEFINITION)},
+        {"SubAutoTranslation", flag(MARK_MACHINE)},
+        {"SubForeignPartsOnly", flag(MARK_FOREIGN_PARTS)},
+        {"SubFromTrusted", flag(MARK_TRUSTED)},
+        {"IDMovieImdb", QString::number(film.imdbId)},
+        {"MovieName", isEpisode ? QStringLiteral("\"%1\" %2").arg(film.series, film.title) : film.title},
+        {"MovieYear", QString::number(film.year)},
+        {"MovieKind", isEpisode ? "episode" : "movie"},
+        {"SeriesSeason", QString::number(film.season)},
+        {"SeriesEpisode", QString::number(film.episode)},
+    };
 }
 
 /// Slashes are escaped, as the service does it. They occur inside texts only.
 HttpReply MakeArray(QJsonArray const& rows)
 {
-    HttpReply reply(200, QJsonDocument(rows).toJson(QJsonDocument::Compact).replace('/', "\\/"));
-    reply.headers = {{"X-RateLimit-Remaining", "39"}};
-    return reply;
+    return HttpReply(200, QJsonDocument(rows).toJson(QJsonDocument::Compact).replace('/', "\\/"));
 }
 
-/// What stands in a download's path behind "subad/" or "filead/"; 0 for neither.
-int FindNumber(QByteArray const& path, QByteArray const& kind)
+HttpReply Search(QByteArray const& path, ServiceContext const& context)
 {
-    int const at = path.indexOf(kind);
-    return at < 0 ? 0 : path.mid(at + kind.size()).split('.').first().toInt();
-}
-
-SubtitleFile const* FindFile(Subtitle const& subtitle, int legacyFileId)
-{
-    auto const found =
-        std::find_if(subtitle.files.begin(), subtitle.files.end(),
-                     [legacyFileId](SubtitleFile const& file) { return file.legacyFileId == legacyFileId; });
-    return found == subtitle.files.end() ? nullptr : &*found;
-}
-
-} // namespace
-
-LegacyService::LegacyService(OnlineLibrarySettings settings) : m_settings(std::move(settings)) {}
-
-bool LegacyService::IsDownload(QByteArray const& path)
-{
-    return path.contains("/subad/") || path.contains("/filead/");
-}
-
-HttpReply LegacyService::Answer(HttpRequest const& request, RequestTarget const& target, ServiceContext const& context)
-{
-    if (request.method != "GET")
-        return MakePage(405, "Method not allowed");
-    if (request.Header("User-Agent").isEmpty())
-        return MakePage(403, "Access denied: no User-Agent");
-    if (IsDownload(target.path))
-        return Download(target.path);
-    if (target.path.startsWith(SEARCH_PATH))
-        return Search(target.path, context);
-    if (target.path == "/libs/suggest.php")
-        return Suggest(target);
-    return MakePage(404, "Page not found");
-}
-
-HttpReply LegacyService::Search(QByteArray const& path, ServiceContext const& context) const
-{
-    QList<QByteArray> segments = path.mid(sizeof(SEARCH_PATH) - 1).split('/');
-    segments.removeAll(QByteArray());
-    QList<QByteArray> sorted = segments;
-    std::sort(sorted.begin(), sorted.end());
-    if (sorted != segments || HasUpperCase(path))
-    {
-        HttpReply reply = MakePage(302, "Moved");
-        reply.headers.append(
-            {"Location", context.origin + context.prefix + ToLowerCase(SEARCH_PATH + sorted.join('/'))});
-        return reply;
-    }
-
-    LegacyQuery query;
-    for (QByteArray const& segment : std::as_const(segments))
-    {
-        int const dash = segment.indexOf('-');
-        query[segment.mid(0, dash)] =
-            dash < 0 ? QString() : QString::fromUtf8(QByteArray::fromPercentEncoding(segment.mid(dash + 1)));
-    }
-    // One request asks for one language, or for all of them by not naming any.
-    if (auto const language = query.find("sublanguageid");
-        language != query.end() && language->second.size() != LANGUAGE_LETTERS)
-        return MakePage(400, "Bad request");
-    // A plus is a plus here, never a blank.
-    if (auto const text = query.find("query"); text != query.end() && text->second.contains('+'))
-        return MakeArray({});
-
+    Query const query = ReadQuery(path);
     QJsonArray rows;
-    for (Subtitle const& subtitle : FilmCatalog::Get().GetSubtitles())
+    for (Subtitle const& subtitle : GetSubtitles())
     {
-        if (!MatchesLegacySearch(subtitle, query))
-            continue;
         // The discs of a set do not come in their order.
-        for (auto file = subtitle.files.rbegin(); file != subtitle.files.rend(); ++file)
-            rows.append(MakeLegacyRow(subtitle, *file, query, context));
+        for (auto file = subtitle.files.rbegin(); Matches(subtitle, query) && file != subtitle.files.rend(); ++file)
+            rows.append(MakeRow(subtitle, *file, query, context.url));
     }
     return MakeArray(rows);
 }
 
-HttpReply LegacyService::Suggest(RequestTarget const& target) const
+HttpReply Suggest(HttpRequest const& request)
 {
-    if (target.GetValue("format") != "json3")
-        return MakePage(200, "Search");
     QJsonArray suggestions;
-    for (Film const& film : FilmCatalog::Get().GetFilms())
-    {
-        if (film.kind == FilmKind::Episode ||
-            !FilmCatalog::MatchesWords(film, {}, target.GetValue("MovieName"), LastWord::MayBeBegun))
-            continue;
-        suggestions.append(QJsonObject{{"name", film.title},
-                                       {"year", film.year},
-                                       {"total", QString::number(12)},
-                                       {"id", film.featureId},
-                                       {"pic", ""},
-                                       {"kind", film.kind == FilmKind::Series ? "tv" : "movie"},
-                                       {"rating", "7.4"}});
-    }
+    for (QString const& title : FindTitles(request.Value("moviename")))
+        suggestions.append(QJsonObject{{"name", title}});
     return MakeArray(suggestions);
 }
 
-Subtitle const* LegacyService::FindSubtitle(QByteArray const& path)
+/// Every disc's file, for some a second version, and the notes of whoever packed it, which are no valid UTF-8.
+QByteArray MakeSet(Subtitle const& subtitle)
 {
-    int const subtitleId = FindNumber(path, "/subad/");
-    int const fileId = FindNumber(path, "/filead/");
-    std::vector<Subtitle> const& subtitles = FilmCatalog::Get().GetSubtitles();
-    auto const found = std::find_if(subtitles.begin(), subtitles.end(),
-                                    [&](Subtitle const& subtitle)
-                                    { return subtitle.legacyId == subtitleId || FindFile(subtitle, fileId); });
-    return found == subtitles.end() ? nullptr : &*found;
+    std::vector<ArchiveMember> members = {
+        {"notes.(" + QByteArray::number(subtitle.legacyId) + ").nfo", QByteArray(1'000, '\xdb')}};
+    if (subtitle.Has(MARK_ALTERNATE))
+        members.push_back({"alternate.srt", MakeSubtitleText({"Alternate", "en", "srt", "UTF-8"})});
+    for (auto file = subtitle.files.rbegin(); file != subtitle.files.rend(); ++file)
+        members.push_back({file->name.toUtf8(), file->bytes});
+    return MakeZip(members);
 }
 
-HttpReply LegacyService::Download(QByteArray const& path)
+} // namespace
+
+bool LegacyService::IsDownload(HttpRequest const& request)
 {
-    Subtitle const* const subtitle = FindSubtitle(path);
+    return request.target.startsWith(SET_PATH);
+}
+
+Subtitle const* LegacyService::FindSubtitle(HttpRequest const& request)
+{
+    int const legacyId = request.target.split('/').last().toInt();
+    auto const found = std::find_if(GetSubtitles().begin(), GetSubtitles().end(),
+                                    [&](Subtitle const& subtitle) { return subtitle.legacyId == legacyId; });
+    return found == GetSubtitles().end() ? nullptr : &*found;
+}
+
+HttpReply LegacyService::Answer(HttpRequest const& request, ServiceContext const& context)
+{
+    if (IsDownload(request))
+        return Download(request, context);
+    if (request.target.startsWith(SEARCH_PATH))
+        return Search(request.Path(), context);
+    if (request.Path() == "/libs/suggest.php" && request.Value("format") == "json3")
+        return Suggest(request);
+    return MakePage(404, "Page not found");
+}
+
+HttpReply LegacyService::Download(HttpRequest const& request, ServiceContext const& context)
+{
+    Subtitle const* const subtitle = FindSubtitle(request);
     if (!subtitle)
         return MakePage(404, "Subtitle not found");
-    QByteArray const left = QByteArray::number(std::max(0, m_settings.downloadQuota - m_downloads - 1));
-    if (m_downloads >= m_settings.downloadQuota)
-    {
-        HttpReply reply = MakePage(429, "Download limit reached");
-        reply.headers.append({"Download-Quota", left});
-        return reply;
-    }
-    ++m_downloads;
-
-    HttpReply reply;
-    SubtitleFile const* const file = FindFile(*subtitle, FindNumber(path, "/filead/"));
-    reply.contentType = file ? "application/x-gzip" : "application/zip";
-    reply.body = file ? Gzip(file->bytes) : MakeLegacyArchive(*subtitle);
-    QByteArray const name = QByteArray::number(file ? file->legacyFileId : subtitle->legacyId);
-    reply.headers = {{"Download-Quota", left},
-                     {"Content-Disposition", "attachment; filename=\"" + name + (file ? ".gz\"" : ".zip\"")}};
+    bool const isRefused = context.isQuotaUsedUp || m_downloads == DOWNLOAD_QUOTA;
+    m_downloads += isRefused ? 0 : 1;
+    HttpReply reply = isRefused ? MakePage(429, "Download limit reached") : HttpReply(200, MakeSet(*subtitle));
+    reply.headers = {{"Download-Quota", isRefused ? "0" : QByteArray::number(DOWNLOAD_QUOTA - m_downloads)}};
     return reply;
 }
 

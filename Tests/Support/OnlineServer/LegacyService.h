@@ -1,11 +1,6 @@
 #pragma once
 
-#include "Support/OnlineServer/HttpMessage.h"
-#include "Support/OnlineServer/OnlineLibrarySettings.h"
-#include "Support/OnlineServer/RequestTarget.h"
 #include "Support/OnlineServer/ServiceContext.h"
-
-#include <optional>
 
 namespace Korvex::Testing
 {
@@ -16,23 +11,15 @@ struct Subtitle;
 class LegacyService
 {
 public:
-    explicit LegacyService(OnlineLibrarySettings settings);
+    [[nodiscard]] static bool IsDownload(HttpRequest const& request);
+    /// What the download leads to; null when it leads nowhere.
+    [[nodiscard]] static Subtitle const* FindSubtitle(HttpRequest const& request);
 
-    /// A ZIP archive, or a compressed file.
-    [[nodiscard]] static bool IsDownload(QByteArray const& path);
-
-    [[nodiscard]] HttpReply Answer(HttpRequest const& request, RequestTarget const& target,
-                                   ServiceContext const& context);
-
-    /// What the download path leads to, without counting a download; null when it leads nowhere.
-    [[nodiscard]] static Subtitle const* FindSubtitle(QByteArray const& path);
+    [[nodiscard]] HttpReply Answer(HttpRequest const& request, ServiceContext const& context);
 
 private:
-    [[nodiscard]] HttpReply Search(QByteArray const& path, ServiceContext const& context) const;
-    [[nodiscard]] HttpReply Suggest(RequestTarget const& target) const;
-    [[nodiscard]] HttpReply Download(QByteArray const& path);
+    [[nodiscard]] HttpReply Download(HttpRequest const& request, ServiceContext const& context);
 
-    OnlineLibrarySettings const m_settings;
     int m_downloads = 0;
 };
 

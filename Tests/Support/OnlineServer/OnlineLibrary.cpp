@@ -1,5 +1,6 @@
 #include "Support/OnlineServer/OnlineLibrary.h"
 
+#include "Support/OnlineServer/Faults.h"
 #include "Support/OnlineServer/FilmCatalog.h"
 
 namespace Korvex::Testing
@@ -8,65 +9,39 @@ namespace Korvex::Testing
 namespace
 {
 
-constexpr char FAULT_PREFIX[] = "/faults/";
-constexpr char VERSION_1_PREFIX[] = "/api/v1/";
-
-/// The name of the fault that the path begins with, taken off the path; empty when there is none.
-QByteArray TakeFaultName(QByteArray& path)
+/// The name of the fault that the target begins with, taken off the target; empty when there is none.
+QByteArray TakeFaultName(QByteArray& target)
 {
-    if (!path.startsWith(FAULT_PREFIX))
+    constexpr char FAULTS[] = "/faults/";
+    if (!target.startsWith(FAULTS))
         return {};
-    int const begin = sizeof(FAULT_PREFIX) - 1;
-    int const end = path.indexOf('/', begin);
-    QByteArray const name = path.mid(begin, end < 0 ? -1 : end - begin);
-    path = end < 0 ? QByteArray("/") : path.mid(end);
+    QByteArray const name = target.split('/').value(2);
+    target.remove(0, static_cast<int>(sizeof(FAULTS)) - 1 + name.size());
     return name;
-}
-
-ServiceStage GetStage(HttpRequest const& request, QByteArray const& path)
-{
-    if (Version1Service::IsFileLink(path) || LegacyService::IsDownload(path))
-        return ServiceStage::File;
-    return request.method == "POST" ? ServiceStage::Link : ServiceStage::Search;
 }
 
 } // namespace
 
-OnlineLibrary::OnlineLibrary(OnlineLibrarySettings const& settings) : m_version1(settings), m_legacy(settings) {}
-
-HttpReply OnlineLibrary::Answer(HttpRequest const& request)
+HttpReply OnlineLibrary::Answer(HttpRequest request)
 {
-    RequestTarget target(request.target);
-    QByteArray const faultName = TakeFaultName(target.path);
-    ServiceContext context{"http://" + request.Header("Host"), {}};
-    if (faultName.isEmpty())
-        return AnswerInOrder(request, target, context);
-
-    context.prefix = FAULT_PREFIX + faultName;
-    ServiceStage const stage = GetStage(request, target.path);
-    bool strikes = false;
-    Fault const* const fault = FindFault(faultName, stage, strikes);
-    if (!fault)
+    QByteArray const faultName = TakeFaultName(request.target);
+    Fault const* const fault = FindFault(faultName);
+    if (!faultName.isEmpty() && !fault)
         return HttpReply(404, R"({"message":"There is no such fault; korvex-testserver --help lists them"})");
-    if (!strikes)
-        return AnswerInOrder(request, target, context);
-    HttpReply reply = fault->isInFrontOfService ? HttpReply() : AnswerInOrder(request, target, context);
-    FaultyRequest faulty{request, context, target.ToBytes(), target.path.contains("/subad/"), {}};
-    if (stage == ServiceStage::File)
-    {
-        Subtitle const* const subtitle = LegacyService::FindSubtitle(target.path);
-        faulty.wantedFileName = subtitle ? subtitle->files.front().fileName.toUtf8()
-                                         : QByteArray::fromPercentEncoding(target.path.split('/').last());
-    }
-    return fault->spoil(std::move(reply), faulty);
-}
 
-HttpReply OnlineLibrary::AnswerInOrder(HttpRequest const& request, RequestTarget const& target,
-                                       ServiceContext const& context)
-{
-    if (target.path.startsWith(VERSION_1_PREFIX) || Version1Service::IsFileLink(target.path))
-        return m_version1.Answer(request, target, context);
-    return m_legacy.Answer(request, target, context);
+    QByteArray const prefix = fault ? "/faults/" + faultName : QByteArray();
+    ServiceContext const context{"http://" + request.Header("Host") + prefix, prefix, faultName == "quota"};
+    bool const isVersion1 = request.target.startsWith("/api/v1/") || Version1Service::IsFileLink(request);
+    HttpReply reply = isVersion1 ? m_version1.Answer(request, context) : m_legacy.Answer(request, context);
+    bool const isSet = LegacyService::IsDownload(request);
+    bool const isOfFilesAlone = fault && (fault->isOfFiles || faultName != fault->name);
+    bool const strikes = fault && (isSet || Version1Service::IsFileLink(request) || !isOfFilesAlone);
+    // A redirect leads to the answer, which is what goes wrong.
+    if (!strikes || !fault->spoil || reply.status == 301)
+        return reply;
+    Subtitle const* const set = isSet ? LegacyService::FindSubtitle(request) : nullptr;
+    fault->spoil(reply, {request, set ? set->files.front().name.toUtf8() : QByteArray()});
+    return reply;
 }
 
 } // namespace Korvex::Testing

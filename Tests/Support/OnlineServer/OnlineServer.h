@@ -4,7 +4,6 @@
 
 #include <QString>
 
-#include <chrono>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -14,8 +13,6 @@
 namespace Korvex::Testing
 {
 
-struct OnlineLibrarySettings;
-
 /// Answers on 127.0.0.1 from a thread of its own, so that tests may block. Any thread may call it. Wants a
 /// QCoreApplication. Ends at once, also with clients connected and requests unanswered.
 class OnlineServer final
@@ -24,31 +21,25 @@ public:
     using Handler = std::function<HttpReply(HttpRequest const&)>; ///< called on the server's thread
     using Interceptor = std::function<std::unique_ptr<HttpReply>(HttpRequest const&)>;
 
-    /// Plays both services (`OnlineLibrary.h`). Throws like the other.
+    /// Plays both services (`OnlineLibrary.h`).
     OnlineServer();
-    explicit OnlineServer(OnlineLibrarySettings const& settings, quint16 port = 0);
     /// Answers every request with the handler. Throws std::runtime_error when the port (0: any free one) is taken.
     explicit OnlineServer(Handler handler, quint16 port = 0);
     ~OnlineServer();
     OnlineServer(OnlineServer const&) = delete;
     OnlineServer& operator=(OnlineServer const&) = delete;
 
-    /// "http://127.0.0.1:<port>".
+    /// "http://127.0.0.1:<port>", which is what `KORVEX_OPENSUBTITLES_LEGACY_URL` wants.
     [[nodiscard]] QString GetUrl() const;
     /// What `KORVEX_OPENSUBTITLES_URL` wants: GetUrl() + "/api/v1".
     [[nodiscard]] QString GetVersion1Url() const;
-    /// What `KORVEX_OPENSUBTITLES_LEGACY_URL` wants.
-    [[nodiscard]] QString GetLegacyUrl() const;
 
     /// Every request since the last ForgetRequests(), in order of arrival. Long runs forget now and then.
     [[nodiscard]] std::vector<HttpRequest> GetRequests() const;
     void ForgetRequests();
-    /// Blocks until at least so many requests have arrived; false when they did not in that time.
-    [[nodiscard]] bool WaitForRequests(std::size_t count, std::chrono::milliseconds limit) const;
 
     /// From now on this comes before the handler: a reply it returns is sent, an empty one leaves the request to the
-    /// handler. An empty function ends it; once this has returned, the function before is not running any more (unless
-    /// it is the one that called).
+    /// handler. An empty function ends it; once this has returned, the function before is not running any more.
     void Intercept(Interceptor interceptor);
 
 private:

@@ -13,9 +13,8 @@ struct SubtitleTextSpecification
     QByteArray language;     ///< as version 1 writes it: "pt-BR"; English lines for one without lines of its own
     QByteArray format;       ///< "srt" or "ass"
     QByteArray encoding;     ///< a name that QTextCodec knows: "UTF-8", "windows-1251"
-    int discNumber = 1;      ///< each disc has other lines
-    int variant = 0;         ///< different numbers below 400 give different lines or times
-    bool withSounds = false; ///< for the hearing impaired: "[door creaks]"
+    int variant = 0;         ///< different numbers give different times
+    bool withSounds = false; ///< for the hearing impaired: "[foghorn]"
 };
 
 /// The same specification always gives the same bytes. Lines end in CR LF, as most uploaded files' do.

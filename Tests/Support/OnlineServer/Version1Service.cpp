@@ -1,7 +1,6 @@
 #include "Support/OnlineServer/Version1Service.h"
 
 #include "Support/OnlineServer/FilmCatalog.h"
-#include "Support/OnlineServer/Version1Rows.h"
 
 #include <QCryptographicHash>
 #include <QJsonArray>
@@ -9,28 +8,25 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
-#include <algorithm>
-#include <utility>
-
 namespace Korvex::Testing
 {
 
 namespace
 {
 
-constexpr int ROWS_PER_PAGE = 50;
-constexpr int USUAL_REQUESTS_PER_SECOND = 5;
-constexpr int MOVIE_HASH_DIGITS = 16;
-constexpr char FILE_LINK_PART[] = "/subfile/";
+constexpr char LINK_FOLDER[] = "/download/";
 
 HttpReply MakeReply(int status, QJsonObject const& object)
 {
     return HttpReply(status, QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
-SubtitleFile const* FindFile(int fileId)
+/// From a form ("file_id=5") or an object ({"file_id":5}).
+SubtitleFile const* FindFile(QByteArray const& body)
 {
-    for (Subtitle const& subtitle : FilmCatalog::Get().GetSubtitles())
+    int const fileId = body.startsWith('{') ? QJsonDocument::fromJson(body).object()["file_id"].toInt()
+                                            : body.mid(body.indexOf('=') + 1).toInt();
+    for (Subtitle const& subtitle : GetSubtitles())
     {
         for (SubtitleFile const& file : subtitle.files)
         {
@@ -41,75 +37,14 @@ SubtitleFile const* FindFile(int fileId)
     return nullptr;
 }
 
-/// From a form ("file_id=5") or an object ({"file_id":5}, also as text).
-int ReadFileId(QByteArray const& body)
-{
-    QJsonObject const object = QJsonDocument::fromJson(body).object();
-    return object.isEmpty() ? RequestTarget('?' + body).GetValue("file_id").toInt()
-                            : object["file_id"].toVariant().toInt();
-}
-
-/// An "imdb_id" without "tt" and leading zeros.
-QByteArray GetPlainNumber(QByteArray value)
-{
-    if (value.startsWith("tt"))
-        value.remove(0, 2);
-    while (value.size() > 1 && value.startsWith('0'))
-        value.remove(0, 1);
-    return value;
-}
-
-} // namespace
-
-Version1Service::Version1Service(OnlineLibrarySettings settings) : m_settings(std::move(settings)) {}
-
-bool Version1Service::IsFileLink(QByteArray const& path)
-{
-    return path.contains(FILE_LINK_PART);
-}
-
-HttpReply Version1Service::Answer(HttpRequest const& request, RequestTarget const& target,
-                                  ServiceContext const& context)
-{
-    if (IsFileLink(target.path))
-        return FetchFile(target.path);
-    HttpReply reply = [&]() -> HttpReply
-    {
-        if (auto refusal = Refuse(request))
-            return *std::move(refusal);
-        if (request.method == "GET")
-        {
-            if (auto redirect = RedirectToCanonical(target, context))
-                return *std::move(redirect);
-            if (target.path == "/api/v1/subtitles")
-                return Search(target, context);
-            if (target.path == "/api/v1/features")
-                return Suggest(target, context);
-        }
-        if (request.method == "POST" && target.path == "/api/v1/download")
-            return MakeLink(request, context);
-        return MakeReply(404, {{"message", "no Route matched with those values"}});
-    }();
-    AddRateHeaders(reply);
-    return reply;
-}
-
-std::optional<HttpReply> Version1Service::Refuse(HttpRequest const& request)
+/// Why the client is not served at all.
+std::optional<HttpReply> Refuse(HttpRequest const& request)
 {
     static QRegularExpression const NAME_AND_VERSION(QStringLiteral("^\\S.*[ /]v?\\d"));
-    qint64 const second = QDateTime::currentSecsSinceEpoch();
-    m_requestsInSecond = second == m_second ? m_requestsInSecond + 1 : 1;
-    m_second = second;
-    if (m_settings.requestsPerSecond > 0 && m_requestsInSecond > m_settings.requestsPerSecond)
-    {
-        HttpReply reply = MakeReply(429, {{"message", "Throttle limit reached. Retry later."}});
-        reply.headers = {{"Retry-After", "1"}};
-        return reply;
-    }
     QByteArray const key = request.Header("Api-Key");
     if (key.isEmpty())
-        return MakeReply(401, {{"message", "No API key found in request"}, {"status", 401}});
-    if (key != m_settings.apiKey)
+        return MakeReply(401, {{"message", "No API key found in request"}});
+    if (key != Version1Service::API_KEY)
         return MakeReply(403, {{"message", "You cannot consume this service"}});
     QByteArray const agent = request.Header("User-Agent");
     // The second is what the client's HTTP library says when nobody gave it a name.
@@ -118,136 +53,142 @@ std::optional<HttpReply> Version1Service::Refuse(HttpRequest const& request)
     return std::nullopt;
 }
 
-std::optional<HttpReply> Version1Service::RedirectToCanonical(RequestTarget const& target,
-                                                              ServiceContext const& context) const
+bool Matches(Subtitle const& subtitle, HttpRequest const& request)
 {
-    RequestTarget canonical = target;
-    auto const last =
-        std::remove(canonical.query.begin(), canonical.query.end(), QPair<QByteArray, QByteArray>("page", "1"));
-    canonical.query.erase(last, canonical.query.end());
-    for (auto& pair : canonical.query)
+    Film const& film = *subtitle.film;
+    auto const agrees = [&request](char const* key, int number)
     {
-        if (pair.first == "imdb_id" || pair.first == "parent_imdb_id")
-            pair.second = GetPlainNumber(pair.second);
-        if (m_settings.redirectsEncodedBlanks)
-            pair.second.replace("%20", "+");
-    }
-    std::stable_sort(canonical.query.begin(), canonical.query.end(),
-                     [](auto const& left, auto const& right) { return left.first < right.first; });
-    QByteArray location = canonical.ToBytes();
-    if (HasUpperCase(location))
-        location = ToLowerCase(location);
-    if (location == target.ToBytes())
-        return std::nullopt;
-    HttpReply reply(301, {}, {{"Location", context.prefix + location}, {"Cache-Control", "public, max-age=86400"}});
-    reply.contentType.clear();
-    return reply;
+        QString const wanted = request.Value(key);
+        return wanted.isEmpty() || wanted.toInt() == number;
+    };
+    QString const query = request.Value("query");
+    QString const languages = request.Value("languages");
+    bool const isSpoken =
+        languages.isEmpty() || languages.split(',').contains(QString(subtitle.language->version1).toLower());
+    bool const isNamed =
+        query.isEmpty() ? !request.Value("imdb_id").isEmpty() : MatchesWords(film, subtitle.release, query);
+    return isNamed && isSpoken && agrees("imdb_id", film.imdbId) && agrees("season_number", film.season) &&
+           agrees("episode_number", film.episode);
 }
 
-HttpReply Version1Service::Suggest(RequestTarget const& target, ServiceContext const& context) const
+/// The members that clients read.
+QJsonObject MakeRow(Subtitle const& subtitle)
 {
-    QString const query = target.GetValue("query");
-    QJsonArray data;
-    for (Film const& film : FilmCatalog::Get().GetFilms())
+    Film const& film = *subtitle.film;
+    QJsonObject feature = {{"feature_type", "Movie"},
+                           {"year", film.year},
+                           {"title", film.title.toHtmlEscaped()},
+                           {"imdb_id", film.imdbId},
+                           {"season_number", film.season},
+                           {"episode_number", film.episode}};
+    if (!film.series.isEmpty())
     {
-        if (FilmCatalog::MatchesWords(film, {}, query, LastWord::MayBeBegun))
-            data.append(MakeVersion1Feature(film, context));
+        feature["feature_type"] = "Episode";
+        feature["parent_title"] = film.series;
     }
+    QJsonArray files;
+    for (SubtitleFile const& file : subtitle.files)
+        files.append(
+            QJsonObject{{"file_id", file.fileId},
+                        {"cd_number", file.discNumber},
+                        {"file_name", subtitle.Has(MARK_NO_FILE_NAME) ? QString("") : file.name.section('.', 0, -2)}});
+    QJsonObject const attributes = {
+        {"language", subtitle.language->version1},
+        {"download_count", subtitle.downloads},
+        {"new_download_count", subtitle.downloads / 3},
+        {"hearing_impaired", subtitle.Has(MARK_HEARING_IMPAIRED)},
+        {"hd", subtitle.Has(MARK_HIGH_DEFINITION)},
+        {"fps", subtitle.framesPerSecond},
+        {"votes", subtitle.votes},
+        {"ratings", subtitle.rating},
+        {"from_trusted", subtitle.Has(MARK_TRUSTED)},
+        {"foreign_parts_only", subtitle.Has(MARK_FOREIGN_PARTS)},
+        {"upload_date", subtitle.uploaded.toString(Qt::ISODate)},
+        {"machine_translated", subtitle.Has(MARK_MACHINE)},
+        {"nb_cd", static_cast<int>(subtitle.files.size())},
+        {"release", subtitle.release},
+        {"comments", subtitle.comment.isEmpty() ? QJsonValue() : QJsonValue(subtitle.comment)},
+        {"feature_details", feature},
+        {"files", files}};
+    return {{"id", QString::number(subtitle.id)}, {"type", "subtitle"}, {"attributes", attributes}};
+}
+
+HttpReply Search(HttpRequest const& request)
+{
+    QJsonArray data;
+    for (Subtitle const& subtitle : GetSubtitles())
+    {
+        if (Matches(subtitle, request))
+            data.append(MakeRow(subtitle));
+    }
+    return MakeReply(200, {{"total_pages", 1}, {"total_count", data.size()}, {"page", 1}, {"data", data}});
+}
+
+HttpReply Suggest(HttpRequest const& request)
+{
+    QJsonArray data;
+    for (QString const& title : FindTitles(request.Value("query")))
+        data.append(QJsonObject{{"attributes", QJsonObject{{"title", title.toHtmlEscaped()}}}});
     return MakeReply(200, {{"data", data}});
 }
 
-HttpReply Version1Service::Search(RequestTarget const& target, ServiceContext const& context) const
+} // namespace
+
+bool Version1Service::IsFileLink(HttpRequest const& request)
 {
-    QString const movieHash = target.GetValue("moviehash");
-    if (!movieHash.isNull() && movieHash.size() != MOVIE_HASH_DIGITS)
-    {
-        HttpReply reply(400);
-        reply.contentType.clear();
-        return reply;
-    }
-    int const page = std::max(1, target.GetValue("page").toInt());
-    int count = 0;
-    QJsonArray data;
-    for (Subtitle const& subtitle : FilmCatalog::Get().GetSubtitles())
-    {
-        if (!MatchesVersion1Search(subtitle, target))
-            continue;
-        if (count / ROWS_PER_PAGE == page - 1)
-            data.append(MakeVersion1Row(subtitle, movieHash, context));
-        ++count;
-    }
-    return MakeReply(200, {{"total_pages", (count + ROWS_PER_PAGE - 1) / ROWS_PER_PAGE},
-                           {"total_count", count},
-                           {"per_page", ROWS_PER_PAGE},
-                           {"page", page},
-                           {"data", data}});
+    return request.target.startsWith(LINK_FOLDER);
+}
+
+HttpReply Version1Service::Answer(HttpRequest const& request, ServiceContext const& context)
+{
+    if (IsFileLink(request))
+        return FetchFile(request);
+    if (auto refusal = Refuse(request))
+        return *std::move(refusal);
+    if (request.method == "POST" && request.target == "/api/v1/download")
+        return MakeLink(request, context);
+    // There is one spelling of every request, to which the service redirects from the others.
+    if (request.target.contains("%20"))
+        return HttpReply(301, {}, {{"Location", context.prefix + QByteArray(request.target).replace("%20", "+")}});
+    if (request.Path() == "/api/v1/subtitles")
+        return Search(request);
+    if (request.Path() == "/api/v1/features")
+        return Suggest(request);
+    return MakeReply(404, {{"message", "no Route matched with those values"}});
 }
 
 HttpReply Version1Service::MakeLink(HttpRequest const& request, ServiceContext const& context)
 {
-    SubtitleFile const* const file = FindFile(ReadFileId(request.body));
+    SubtitleFile const* const file = FindFile(request.body);
     if (!file)
         return MakeReply(400, {{"errors", QJsonArray{"Invalid file_id"}}, {"status", 400}});
-
-    QDateTime const now = QDateTime::currentDateTimeUtc();
-    QDateTime const reset(now.date(), QTime(23, 59, 59, 999), Qt::UTC);
-    qint64 const minutes = now.secsTo(reset) / 60;
-    QString const span = QStringLiteral("%1 hours and %2 minutes").arg(minutes / 60).arg(minutes % 60);
-    QString const renewal = QStringLiteral("Your quota will be renewed in %1 (%2 UTC) ts=%3 ")
-                                .arg(span, reset.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")))
-                                .arg(now.toSecsSinceEpoch());
-    QJsonObject object = {{"requests", std::min(m_downloads + 1, m_settings.downloadQuota)},
-                          {"remaining", std::max(0, m_settings.downloadQuota - m_downloads - 1)},
-                          {"message", renewal},
-                          {"reset_time", span},
-                          {"reset_time_utc", reset.toString(Qt::ISODateWithMs)}};
-    if (m_downloads >= m_settings.downloadQuota)
-    {
-        object["message"] =
-            QStringLiteral("You have downloaded your allowed %1 subtitles for 24h.").arg(m_settings.downloadQuota) +
-            renewal;
+    QDateTime const reset(QDateTime::currentDateTimeUtc().date(), QTime(23, 59, 59), Qt::UTC);
+    qint64 const minutes = QDateTime::currentDateTimeUtc().secsTo(reset) / 60;
+    QJsonObject object = {
+        {"remaining", 0},
+        {"message", QStringLiteral("You have downloaded your allowed %1 subtitles for 24h.").arg(DOWNLOAD_QUOTA)},
+        {"reset_time", QStringLiteral("%1 hours and %2 minutes").arg(minutes / 60).arg(minutes % 60)},
+        {"reset_time_utc", reset.toString(Qt::ISODate)}};
+    if (context.isQuotaUsedUp || m_downloads == DOWNLOAD_QUOTA)
         return MakeReply(406, object);
-    }
+
     ++m_downloads;
-    QByteArray const token =
-        QCryptographicHash::hash(QByteArray::number(m_downloads), QCryptographicHash::Sha256).toHex().toUpper();
-    m_links[token] = {file, false};
-    object["link"] = QString::fromLatin1(context.origin + context.prefix + "/download/" + token + FILE_LINK_PART +
-                                         file->fileName.toUtf8().toPercentEncoding());
-    object["file_name"] = file->fileName;
-    object["uid"] = 1;
+    // Upper and lower case count in the token.
+    QByteArray const token = QCryptographicHash::hash(QByteArray::number(m_downloads), QCryptographicHash::Md5)
+                                 .toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals);
+    QByteArray const path = LINK_FOLDER + token + "/subfile/" + file->name.toUtf8().toPercentEncoding();
+    m_links[path] = file;
+    object["remaining"] = DOWNLOAD_QUOTA - m_downloads;
+    object["message"] = "";
+    object["link"] = QString(context.url + path);
+    object["file_name"] = file->name;
     return MakeReply(200, object);
 }
 
-HttpReply Version1Service::FetchFile(QByteArray const& path)
+HttpReply Version1Service::FetchFile(HttpRequest const& request) const
 {
-    // The token counts, and it is particular about its case.
-    QByteArray const token = path.left(path.indexOf(FILE_LINK_PART)).split('/').last();
-    auto const link = m_links.find(token);
-    HttpReply reply;
-    reply.contentType = "text/html; charset=utf-8";
-    if (link == m_links.end() || link->second.isUsed)
-    {
-        reply.status = link == m_links.end() ? 404 : 410;
-        reply.body = "<!DOCTYPE html><html><head><title>Invalid download link</title></head><body></body></html>";
-        return reply;
-    }
-    link->second.isUsed = true;
-    reply.contentType = "text/plain; charset=utf-8";
-    reply.body = link->second.file->bytes;
-    return reply;
-}
-
-void Version1Service::AddRateHeaders(HttpReply& reply) const
-{
-    int const limit = m_settings.requestsPerSecond > 0 ? m_settings.requestsPerSecond : USUAL_REQUESTS_PER_SECOND;
-    QByteArray const remaining =
-        QByteArray::number(m_settings.requestsPerSecond > 0 ? std::max(0, limit - m_requestsInSecond) : limit - 1);
-    reply.headers += {{"RateLimit-Limit", QByteArray::number(limit)},
-                      {"RateLimit-Remaining", remaining},
-                      {"RateLimit-Reset", "1"},
-                      {"X-RateLimit-Limit-Second", QByteArray::number(limit)},
-                      {"X-RateLimit-Remaining-Second", remaining}};
+    auto const link = m_links.find(request.target);
+    return link == m_links.end() ? MakePage(404, "Invalid download link") : HttpReply(200, link->second->bytes);
 }
 
 } // namespace Korvex::Testing

@@ -1,11 +1,6 @@
 #pragma once
 
-#include "Support/OnlineServer/HttpMessage.h"
-#include "Support/OnlineServer/OnlineLibrarySettings.h"
-#include "Support/OnlineServer/RequestTarget.h"
 #include "Support/OnlineServer/ServiceContext.h"
-
-#include <QDateTime>
 
 #include <map>
 #include <optional>
@@ -19,35 +14,19 @@ struct SubtitleFile;
 class Version1Service
 {
 public:
-    explicit Version1Service(OnlineLibrarySettings settings);
+    /// The one that it accepts.
+    static constexpr char API_KEY[] = "korvex-test-key";
 
-    [[nodiscard]] static bool IsFileLink(QByteArray const& path);
+    [[nodiscard]] static bool IsFileLink(HttpRequest const& request);
 
-    [[nodiscard]] HttpReply Answer(HttpRequest const& request, RequestTarget const& target,
-                                   ServiceContext const& context);
+    [[nodiscard]] HttpReply Answer(HttpRequest const& request, ServiceContext const& context);
 
 private:
-    struct Link
-    {
-        SubtitleFile const* file = nullptr;
-        bool isUsed = false;
-    };
-
-    /// Why the client is not served at all.
-    [[nodiscard]] std::optional<HttpReply> Refuse(HttpRequest const& request);
-    [[nodiscard]] std::optional<HttpReply> RedirectToCanonical(RequestTarget const& target,
-                                                               ServiceContext const& context) const;
-    [[nodiscard]] HttpReply Suggest(RequestTarget const& target, ServiceContext const& context) const;
-    [[nodiscard]] HttpReply Search(RequestTarget const& target, ServiceContext const& context) const;
     [[nodiscard]] HttpReply MakeLink(HttpRequest const& request, ServiceContext const& context);
-    [[nodiscard]] HttpReply FetchFile(QByteArray const& path);
-    void AddRateHeaders(HttpReply& reply) const;
+    [[nodiscard]] HttpReply FetchFile(HttpRequest const& request) const;
 
-    OnlineLibrarySettings const m_settings;
-    std::map<QByteArray, Link> m_links; ///< by token
+    std::map<QByteArray, SubtitleFile const*> m_links; ///< by path
     int m_downloads = 0;
-    qint64 m_second = 0; ///< since 1970; of which the requests are counted
-    int m_requestsInSecond = 0;
 };
 
 } // namespace Korvex::Testing

@@ -2,7 +2,7 @@
 #include "Subtitles/Details/OnlineSearch/RedirectRules.h"
 
 #include "App/Configuration.h"
-#include "Support/OnlineServer/Compression.h"
+#include "Support/OnlineServer/Archives.h"
 #include "Support/OnlineServer/OnlineServer.h"
 
 #include <QCoreApplication>

@@ -7,8 +7,6 @@
 #include "App/Configuration.h"
 #include "Core/FileSystem.h"
 #include "Support/OnlineServer/Archives.h"
-#include "Support/OnlineServer/Compression.h"
-#include "Support/OnlineServer/OnlineLibrarySettings.h"
 #include "Support/OnlineServer/OnlineServer.h"
 
 #include <QCoreApplication>
@@ -61,7 +59,7 @@ protected:
     void Connect(OnlineServer const& server)
     {
         App::Configuration configuration;
-        configuration.openSubtitlesLegacyUrl = server.GetLegacyUrl().toStdString() + "/";
+        configuration.openSubtitlesLegacyUrl = server.GetUrl().toStdString() + "/";
         App::SetActiveConfiguration(configuration);
         engine = std::make_unique<RESTSearchEngine>(std::make_shared<NetworkManagerQt>(),
                                                     std::make_shared<RESTRequestFactory>());
@@ -148,7 +146,7 @@ TEST_F(LegacyServiceTest, TakesEachDiscFromTheArchiveOfItsSet)
 
 TEST_F(LegacyServiceTest, FindsAndFetchesWhateverTheTitleHolds)
 {
-    OnlineServer const server{OnlineLibrarySettings()};
+    OnlineServer const server;
     Connect(server);
     for (char const* const title : {"50% Chance of Rain", "Étude in C#", "Salt & Ember", "ÖLBERG", "northern BEACON"})
     {

@@ -7,7 +7,6 @@
 #include "Subtitles/Entities/SearchTags.h"
 
 #include "App/Configuration.h"
-#include "Support/OnlineServer/OnlineLibrary.h"
 #include "Support/OnlineServer/OnlineServer.h"
 
 #include <gtest/gtest.h>
@@ -30,16 +29,7 @@ using Status = UseCases::IOnlineSearchController::Status;
 using Testing::HttpReply;
 using Testing::HttpRequest;
 using Testing::Listener;
-using Testing::OnlineLibrary;
-using Testing::OnlineLibrarySettings;
 using Testing::OnlineServer;
-
-OnlineLibrarySettings StrictSettings()
-{
-    OnlineLibrarySettings settings;
-    settings.redirectsEncodedBlanks = true;
-    return settings;
-}
 
 /// An engine on real sockets with a service that is particular about what it is asked.
 class OpenSubtitlesVer1Engine : public testing::Test
@@ -77,8 +67,7 @@ protected:
 
     int argumentCount = 0;
     QCoreApplication application{argumentCount, nullptr};
-    OnlineLibrary library{StrictSettings()};
-    OnlineServer server{[this](HttpRequest const& request) { return library.Answer(request); }};
+    OnlineServer server;
     QTemporaryDir folder;
     Listener listener;
     std::unique_ptr<RESTSearchEngine> engine;
