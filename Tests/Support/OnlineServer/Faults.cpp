@@ -27,8 +27,8 @@ Spoiler Send(HttpReply const& instead)
 /// Packed where an archive is in order.
 Spoiler SendFile(QByteArray const& bytes)
 {
-    return [bytes](HttpReply& reply, QByteArray const& packedName) {
-        reply.body = packedName.isEmpty() ? bytes : MakeZip({{packedName, bytes}});
+    return [bytes](HttpReply& reply, FaultyRequest const& faulty) {
+        reply.body = faulty.packedName.isEmpty() ? bytes : MakeZip({{faulty.packedName, bytes}});
     };
 }
 

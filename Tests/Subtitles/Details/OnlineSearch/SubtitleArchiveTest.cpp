@@ -1,7 +1,8 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleArchive.h"
 
+#include "Support/OnlineServer/Archives.h"
+
 #include <gtest/gtest.h>
-#include <quacrc32.h>
 
 #include <QCryptographicHash>
 
@@ -15,71 +16,9 @@ namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
 namespace
 {
 
+using Korvex::Testing::MakeZip;
+using Members = std::vector<Korvex::Testing::ArchiveMember>;
 using Status = UseCases::IOnlineSearchController::Status;
-
-/// One file of an archive; the numbers may contradict the bytes.
-struct Entry
-{
-    QByteArray name;
-    QByteArray data;
-    quint32 attributes = 0; ///< of Unix in the upper half
-    quint16 flags = 0;
-    bool isDeflated = false;
-    qint64 statedSize = -1; ///< the true one when negative
-    quint32 checksumError = 0;
-};
-
-void Append(QByteArray& bytes, quint64 value, int count)
-{
-    for (int at = 0; at < count; ++at)
-        bytes += static_cast<char>(value >> (8 * at));
-}
-
-/// What local header and directory share, from the needed version to the lengths of name and extra field.
-QByteArray MakeHeader(Entry const& entry, int packedSize)
-{
-    QByteArray bytes;
-    Append(bytes, 20, 2);
-    Append(bytes, entry.flags, 2);
-    Append(bytes, entry.isDeflated ? 8 : 0, 2);
-    Append(bytes, 0, 4);
-    Append(bytes, QuaCrc32().calculate(entry.data) + entry.checksumError, 4);
-    Append(bytes, static_cast<quint64>(packedSize), 4);
-    Append(bytes, static_cast<quint64>(entry.statedSize < 0 ? entry.data.size() : entry.statedSize), 4);
-    Append(bytes, static_cast<quint64>(entry.name.size()), 2);
-    Append(bytes, 0, 2);
-    return bytes;
-}
-
-/// Writes what no decent tool would.
-QByteArray MakeArchive(std::vector<Entry> const& entries)
-{
-    QByteArray archive;
-    QByteArray directory;
-    for (Entry const& entry : entries)
-    {
-        // Between the length and the zlib header before it and the checksum behind it lies the bare stream.
-        QByteArray const packed = entry.isDeflated ? qCompress(entry.data, 1).mid(6).chopped(4) : entry.data;
-        QByteArray const header = MakeHeader(entry, packed.size());
-        directory += "PK\x01\x02";
-        Append(directory, 0x0314, 2);
-        directory += header;
-        Append(directory, 0, 6);
-        Append(directory, entry.attributes, 4);
-        Append(directory, static_cast<quint64>(archive.size()), 4);
-        directory += entry.name;
-        archive += "PK\x03\x04" + header + entry.name + packed;
-    }
-    int const offset = archive.size();
-    archive += directory + "PK\x05\x06";
-    Append(archive, 0, 4);
-    Append(archive, entries.size(), 2);
-    Append(archive, entries.size(), 2);
-    Append(archive, static_cast<quint64>(directory.size()), 4);
-    Append(archive, static_cast<quint64>(offset), 4);
-    Append(archive, 0, 2);
-    return archive;
-}
 
 ArchiveWish MakeWish(QString const& name, QString const& format = "srt", int disc = 1, int discs = 1)
 {
@@ -92,9 +31,9 @@ ArchiveWish MakeWish(QString const& name, QString const& format = "srt", int dis
 }
 
 /// The bytes of the chosen file, or the status of the failure.
-std::string Take(std::vector<Entry> const& entries, ArchiveWish const& wish)
+std::string Take(Members const& entries, ArchiveWish const& wish)
 {
-    auto const unpacked = UnpackSubtitle(MakeArchive(entries), wish);
+    auto const unpacked = UnpackSubtitle(MakeZip(entries), wish);
     EXPECT_EQ(unpacked.error.isEmpty(), unpacked.status == Status::Success);
     if (unpacked.status == Status::Success)
         return unpacked.bytes.toStdString();
@@ -105,10 +44,10 @@ std::string Take(std::vector<Entry> const& entries, ArchiveWish const& wish)
 
 TEST(SubtitleArchiveTest, ChoosesTheFileThatIsMeant)
 {
-    std::vector<Entry> const discs = {{"info.nfo", "n"},
-                                      {"sub/Movie.CD2.srt", "two"},
-                                      {"sub/Movie.CD1.srt", "one"},
-                                      {"Movie.CD1.sub", "one of the other format"}};
+    Members const discs = {{"info.nfo", "n"},
+                           {"sub/Movie.CD2.srt", "two"},
+                           {"sub/Movie.CD1.srt", "one"},
+                           {"Movie.CD1.sub", "one of the other format"}};
     EXPECT_EQ(Take(discs, MakeWish("Movie.CD2.srt")), "two");
     EXPECT_EQ(Take(discs, MakeWish("MOVIE.cd1.SRT")), "one");
     EXPECT_EQ(Take(discs, MakeWish("other.srt", "srt", 2, 2)), "two");
@@ -131,13 +70,12 @@ TEST(SubtitleArchiveTest, ChoosesTheFileThatIsMeant)
 TEST(SubtitleArchiveTest, TakesNamesOfUnknownCodePagesForWhatTheyAre)
 {
     QString const wanted = QString::fromUtf8("Фильм S01E02.srt");
-    std::vector<Entry> const entries = {{"\xD4\xE8\xEB\xFC\xEC S01E01.srt", "one"},
-                                        {"\xD4\xE8\xEB\xFC\xEC S01E02.srt", "two"}};
+    Members const entries = {{"\xD4\xE8\xEB\xFC\xEC S01E01.srt", "one"}, {"\xD4\xE8\xEB\xFC\xEC S01E02.srt", "two"}};
     EXPECT_EQ(Take(entries, MakeWish(wanted)), "two");
     EXPECT_EQ(Take({{"x.srt", "x"}, {wanted.toUtf8(), "plain"}}, MakeWish(wanted)), "plain");
     EXPECT_EQ(Take({{"x.srt", "x"}, {wanted.toUtf8(), "marked", 0, 0x0800}}, MakeWish(wanted)), "marked");
     EXPECT_EQ(Take({{"", "nameless"}}, MakeWish(wanted)), "nameless");
-    auto const hostile = UnpackSubtitle(MakeArchive({{"../../\xFF\xFE/etc/x.srt", "x"}}), MakeWish("x.srt"));
+    auto const hostile = UnpackSubtitle(MakeZip({{"../../\xFF\xFE/etc/x.srt", "x"}}), MakeWish("x.srt"));
     EXPECT_EQ(hostile.bytes, "x");
 }
 
@@ -145,14 +83,14 @@ TEST(SubtitleArchiveTest, LeavesAsideWhatIsNoFileToTake)
 {
     constexpr quint32 LINK = 0xA1FFU << 16U;
     constexpr quint32 PIPE = 0x1180U << 16U;
-    std::vector<Entry> const entries = {
+    Members const entries = {
         {"a/x.srt/", ""},
         {"b/x.srt", "/etc/passwd", LINK},
         {"c/x.srt", "", PIPE},
         {"d/x.srt", "secret", 0, 1},
         {"__MACOSX/x.srt", "m"},
         {"e/._x.srt", "m"},
-        {"f/x.srt", MakeArchive({{"x.srt", "inner"}})},
+        {"f/x.srt", MakeZip({{"x.srt", "inner"}})},
         {"x.srt.zip", "z"},
     };
     EXPECT_EQ(Take(entries, MakeWish("x.srt")), "ServerError");
@@ -172,14 +110,14 @@ TEST(SubtitleArchiveTest, BelievesNoHeaderAndStopsAtItsLimits)
     QByteArray const bomb(17 << 20, 'x');
     EXPECT_EQ(Take({{"x.srt", bomb, 0, 0, true}}, MakeWish("x.srt")), "ServerError");
     EXPECT_EQ(Take({{"x.srt", bomb, 0, 0, true, 1000}}, MakeWish("x.srt")), "FileError");
-    std::vector<Entry> many(5, {"bomb.srt", bomb.left(15 << 20), 0, 0, true});
+    Members many(5, {"bomb.srt", bomb.left(15 << 20), 0, 0, true});
     many.push_back({"x.srt", "wanted"});
     ArchiveWish wish = MakeWish("x.srt");
     wish.md5 = QCryptographicHash::hash("nothing", QCryptographicHash::Md5).toHex();
     EXPECT_EQ(Take(many, wish), "wanted") << "hashing gives up, the name is left";
 
-    EXPECT_EQ(Take(std::vector<Entry>(1000, {"x.srt", "x"}), MakeWish("x.srt")), "x");
-    EXPECT_EQ(Take(std::vector<Entry>(1001, {"x.srt", "x"}), MakeWish("x.srt")), "ServerError");
+    EXPECT_EQ(Take(Members(1000, {"x.srt", "x"}), MakeWish("x.srt")), "x");
+    EXPECT_EQ(Take(Members(1001, {"x.srt", "x"}), MakeWish("x.srt")), "ServerError");
 }
 
 TEST(SubtitleArchiveTest, SaysWhatIsNoArchive)
@@ -192,10 +130,10 @@ TEST(SubtitleArchiveTest, SaysWhatIsNoArchive)
     };
     EXPECT_EQ(unpack(""), "The archive cannot be opened: it is an empty file");
     EXPECT_EQ(unpack("<html><title>Quota</title>"), "The archive cannot be opened: it is an HTML page (\"Quota\")");
-    EXPECT_EQ(unpack(MakeArchive({})), "The archive cannot be opened: it is an empty ZIP archive");
+    EXPECT_EQ(unpack(MakeZip({})), "The archive cannot be opened: it is an empty ZIP archive");
     EXPECT_EQ(unpack("1\n00:00:01,000 --> 00:00:02,000\nx"),
               "The archive cannot be opened: it is damaged or no ZIP archive");
-    QByteArray const archive = MakeArchive({{"x.srt", "text"}});
+    QByteArray const archive = MakeZip({{"x.srt", "text"}});
     EXPECT_EQ(unpack(archive.chopped(30)), "The archive cannot be opened: it is damaged or no ZIP archive");
     EXPECT_EQ(unpack(archive.chopped(10)), "The archive cannot be opened: its directory is damaged");
     EXPECT_EQ(UnpackSubtitle("#!/bin/sh\n" + archive, MakeWish("x.srt")).bytes, "text") << "self-extracting";
@@ -206,7 +144,7 @@ TEST(SubtitleArchiveTest, GivesTheBytesOrAnErrorForEveryDamage)
     QByteArray text;
     for (int line = 0; line < 200; ++line)
         text += QByteArray::number(line * line) + "\n";
-    QByteArray const archive = MakeArchive({{"info.nfo", "n"}, {"x.srt", text, 0, 0, true}, {"y.srt", text}});
+    QByteArray const archive = MakeZip({{"info.nfo", "n"}, {"x.srt", text, 0, 0, true}, {"y.srt", text}});
     auto const damageAll = [&archive, &text](unsigned seed)
     {
         std::mt19937 random(seed);
