@@ -5,6 +5,7 @@
 
 #include <QAbstractProxyModel>
 #include <QApplication>
+#include <QHash>
 #include <QPainter>
 #include <QStyle>
 #include <QTextLayout>
@@ -139,21 +140,40 @@ std::vector<PlacedMark> PlaceMarks(std::vector<ResultMark> const& marks, QFontMe
     return placed;
 }
 
-/// The least width at which two lines hold all marks.
-int FindMarksWidth(QFontMetrics const& metrics, std::vector<ResultMark> const& marks)
+/// Measures texts that come again and again.
+class MarkMeter final
 {
-    int whole = 0;
-    for (ResultMark const& mark : marks)
-        whole += FindMarkWidth(metrics, mark.shortText) + MARK_GAP;
-    int least = whole;
-    int first = 0;
-    for (ResultMark const& mark : marks)
+public:
+    explicit MarkMeter(QFontMetrics const& metrics) : m_metrics(metrics) {}
+
+    /// The least width at which two lines hold all marks.
+    [[nodiscard]] int FindWidth(std::vector<ResultMark> const& marks)
     {
-        first += FindMarkWidth(metrics, mark.shortText) + MARK_GAP;
-        least = std::min(least, std::max(first, whole - first));
+        int whole = 0;
+        for (ResultMark const& mark : marks)
+            whole += FindWidth(mark);
+        int least = whole;
+        int first = 0;
+        for (ResultMark const& mark : marks)
+        {
+            first += FindWidth(mark);
+            least = std::min(least, std::max(first, whole - first));
+        }
+        return least;
     }
-    return least;
-}
+
+private:
+    [[nodiscard]] int FindWidth(ResultMark const& mark)
+    {
+        int& width = m_widths[mark.shortText];
+        if (width == 0)
+            width = FindMarkWidth(m_metrics, mark.shortText) + MARK_GAP;
+        return width;
+    }
+
+    QFontMetrics const& m_metrics;
+    QHash<QString, int> m_widths;
+};
 
 } // namespace
 
@@ -217,10 +237,10 @@ void ResultListDelegate::PaintMarks(QPainter& painter, QStyleOptionViewItem cons
     }
 }
 
-QSize ResultListDelegate::sizeHint(QStyleOptionViewItem const& option, QModelIndex const& index) const
+/// The height alone: the view asks at each layout, and the columns have their widths.
+QSize ResultListDelegate::sizeHint(QStyleOptionViewItem const& option, QModelIndex const& /*index*/) const
 {
-    int const height = 2 * option.fontMetrics.height() + MARK_GAP / 2 + 2 * VERTICAL_MARGIN;
-    return {FindColumnWidth(option.fontMetrics, index.column()), height};
+    return {1, 2 * option.fontMetrics.height() + MARK_GAP / 2 + 2 * VERTICAL_MARGIN};
 }
 
 int ResultListDelegate::FindColumnWidth(QFontMetrics const& metrics, int column) const
@@ -233,23 +253,22 @@ int ResultListDelegate::FindColumnWidth(QFontMetrics const& metrics, int column)
     // In average characters: enough for two lines of most texts.
     static constexpr Limits LIMITS[ResultListModel::COLUMN_COUNT] = {{24, 24}, {10, 17}, {6, 12}, {4, 14},
                                                                      {4, 10},  {3, 6},   {6, 10}, {3, 6}};
+    Limits const& limits = LIMITS[column];
+    int const character = metrics.averageCharWidth();
+    int const icon = column == ResultListModel::MATCH ? ICON_SIDE + MARGIN : 0;
+    int const most = limits.most * character;
+    MarkMeter marks(metrics);
     int widest = 0;
-    for (int row = 0; row < m_model.rowCount(); ++row)
+    for (int row = 0; row < m_model.rowCount() && widest < most; ++row)
     {
-        if (column == ResultListModel::MARKS)
-        {
-            widest = std::max(widest, FindMarksWidth(metrics, m_model.GetLine(row).marks));
-            continue;
-        }
         QString const text = m_model.index(row, column).data().toString();
-        // Measuring takes time by the length, and there may be hundreds of rows: what is surely narrower is left out.
-        if (text.size() * metrics.averageCharWidth() * 2 > widest)
+        if (column == ResultListModel::MARKS)
+            widest = std::max(widest, marks.FindWidth(m_model.GetLine(row).marks));
+        // Measuring takes time, and there may be hundreds of rows: what is surely narrower is left out.
+        else if (text.size() * character * 2 > widest)
             widest = std::max(widest, metrics.horizontalAdvance(text));
     }
-    Limits const& limits = LIMITS[column];
-    int const icon = column == ResultListModel::MATCH ? ICON_SIDE + MARGIN : 0;
-    int const character = metrics.averageCharWidth();
-    return std::clamp(widest + icon, limits.least * character, limits.most * character) + 2 * MARGIN;
+    return std::clamp(widest + icon, limits.least * character, most) + 2 * MARGIN;
 }
 
 } // namespace Korvex::Converter::Subtitles::Details

@@ -12,7 +12,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -30,6 +29,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <ctime>
 #include <iostream>
 
 namespace Korvex::Converter::Subtitles::Details
@@ -548,32 +548,89 @@ TEST_F(OnlineSearchDialogTest, IsDrivenByKeysAndNamedForScreenReaders)
     EXPECT_EQ(Window(), nullptr);
 }
 
-/// The bound is one that a loaded machine keeps, too.
 TEST_F(OnlineSearchDialogTest, KeepsUpWithManyResults)
 {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    constexpr double LONGEST_MS = 500;
+#else
+    constexpr double LONGEST_MS = 50;
+#endif
     Open();
     auto const rows = MakeManyRows(500);
-    qint64 longest = 0;
-    auto const measure = [&](char const* what, auto const& step)
+    auto const measure = [&](std::string const& what, auto const& step)
     {
-        QElapsedTimer timer;
-        timer.start();
+        std::clock_t const begin = std::clock(); // of the processor: the machine may be busy
         step();
         QCoreApplication::processEvents();
-        qint64 const taken = timer.elapsed();
-        longest = std::max(longest, taken);
-        RecordProperty(what, static_cast<int>(taken));
+        double const taken = 1000.0 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+        std::cout << what << ": " << taken << " ms\n";
+        EXPECT_LT(taken, LONGEST_MS) << what;
     };
-    measure("set", [&] { dialog->SetResults(rows); });
-    measure("setAgain", [&] { dialog->SetResults(rows); });
+    measure("show", [&] { dialog->SetResults(rows); });
+    measure("show again", [&] { dialog->SetResults(rows); });
     for (int column = 0; column < View().model()->columnCount(); ++column)
         measure("sort", [&] { QTest::keyClick(&Get("resultOrderComboBox"), Qt::Key_Down); });
-    measure("scroll", [&] { QTest::keyClick(&View(), Qt::Key_PageDown); });
-    measure("end", [&] { QTest::keyClick(&View(), Qt::Key_End); });
-    measure("selectAll", [&] { QTest::keyClick(&View(), Qt::Key_A, Qt::ControlModifier); });
+    measure("scroll a page", [&] { QTest::keyClick(&View(), Qt::Key_PageDown); });
+    measure("scroll to the end", [&] { QTest::keyClick(&View(), Qt::Key_End); });
+    measure("select all", [&] { QTest::keyClick(&View(), Qt::Key_A, Qt::ControlModifier); });
     measure("filter", [&] { QTest::keyClicks(&Get("resultFilterEdit"), "9"); });
-    std::cout << "longest: " << longest << " ms\n";
-    EXPECT_LT(longest, 250);
+}
+
+/// All that a person reads or hears of the window.
+QStringList ListTexts(QWidget& window)
+{
+    QStringList texts{window.windowTitle()};
+    for (QWidget* const widget : window.findChildren<QWidget*>())
+    {
+        texts << widget->toolTip() << widget->accessibleName() << widget->accessibleDescription();
+        for (char const* const property : {"text", "placeholderText"})
+            texts << widget->property(property).toString();
+        if (auto const* const box = qobject_cast<QComboBox*>(widget))
+            for (int i = 0; i < box->count(); ++i)
+                texts << box->itemText(i);
+        auto const* const view = qobject_cast<QAbstractItemView*>(widget);
+        if (view == nullptr || view->model() == nullptr)
+            continue;
+        auto const& model = *view->model();
+        for (int column = 0; column < model.columnCount(); ++column)
+        {
+            texts << model.headerData(column, Qt::Horizontal).toString();
+            for (int row = 0; row < model.rowCount(); ++row)
+                for (int const role : {Qt::DisplayRole, Qt::ToolTipRole, Qt::AccessibleTextRole})
+                    texts << model.index(row, column).data(role).toString();
+        }
+    }
+    texts.sort();
+    return texts;
+}
+
+TEST_F(OnlineSearchDialogTest, ChangesItsLanguageWhileItIsOpen)
+{
+    auto const rows = MakeManyRows(12);
+    auto const openWithEverything = [&]
+    {
+        Open();
+        dialog->SetFields({"2", "", "12", false});
+        dialog->SetFileSearchAvailable(true);
+        dialog->SetResults(rows);
+        QTest::keyClick(&View(), Qt::Key_A, Qt::ControlModifier);
+        SetState(OnlineSearchState::Searching);
+    };
+    LongerTexts longer;
+    openWithEverything();
+    Click("languagesButton");
+    QStringList const before = ListTexts(*Window());
+    QCoreApplication::installTranslator(&longer);
+    QCoreApplication::processEvents();
+    QStringList const changed = ListTexts(*Window());
+    dialog->Close();
+    openWithEverything();
+    Click("languagesButton");
+    EXPECT_EQ(changed, ListTexts(*Window())) << "as if it had been opened in that language";
+    EXPECT_NE(changed, before);
+    QCoreApplication::removeTranslator(&longer);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(ListTexts(*Window()), before);
 }
 
 TEST_F(OnlineSearchDialogTest, HasRoomForEverythingInBothThemesAndLongLanguages)
@@ -581,7 +638,8 @@ TEST_F(OnlineSearchDialogTest, HasRoomForEverythingInBothThemesAndLongLanguages)
     LongerTexts longer;
     auto const lookAt = [&](QString const& what)
     {
-        QTest::qWait(20);
+        // The layout comes to rest in a few rounds.
+        (void)QTest::qWaitFor([] { return Testing::FindLayoutFaults(*Window()).empty(); }, 1000);
         Testing::SaveScreenshot(*Window(), what);
         for (std::string const& fault : Testing::FindLayoutFaults(*Window()))
             ADD_FAILURE() << qPrintable(what) << ": " << fault;
