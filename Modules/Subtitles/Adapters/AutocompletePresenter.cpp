@@ -89,7 +89,6 @@ public:
     void Stop()
     {
         ChangeTitle({});
-        m_isShown = false;
         if (std::exchange(m_asked, std::nullopt))
             m_service->CancelOperation();
     }
@@ -145,14 +144,8 @@ private:
     void OnServiceFree()
     {
         auto const ended = std::exchange(m_asked, std::nullopt);
-        // From the event loop, since a service that reports a failure still counts as busy.
         if (ended && ended != m_title && m_isRested)
-            QTimer::singleShot(0, &m_timer,
-                               [this]
-                               {
-                                   if (m_isRested)
-                                       OnTextRested();
-                               });
+            OnTextRested();
     }
 
     void Ask()
@@ -164,16 +157,14 @@ private:
         if (status == IOnlineSearchController::Success)
             return;
         m_asked.reset();
-        if (status == IOnlineSearchController::Busy) // with a question that was given up and that it does not tell of
+        // With a question that was given up and that it does not tell of, or not yet through with one that failed.
+        if (status == IOnlineSearchController::Busy)
             m_timer.start();
     }
 
-    /// An empty list is news only where one is shown. Nobody hears it any more once an observer has changed the text.
+    /// Nobody hears it any more once an observer has changed the text.
     void Report(std::vector<QString> const& titles)
     {
-        if (titles.empty() && !m_isShown)
-            return;
-        m_isShown = !titles.empty();
         auto const self = shared_from_this();
         QString const text = m_text;
         std::vector<QString> const copy = titles; // the answer may be replaced meanwhile
@@ -191,7 +182,6 @@ private:
     QString m_title;             ///< what it asks for; empty when nothing is to be asked
     std::uint64_t m_changes = 0; ///< of the title
     bool m_isRested = false;
-    bool m_isShown = false;         ///< the last report named titles
     std::optional<QString> m_asked; ///< what the service is busy with
     Answer m_answer;                ///< the last one
     Core::EventHandlerList<Observer> m_observers;

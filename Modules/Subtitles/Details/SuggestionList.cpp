@@ -5,7 +5,6 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QStringListModel>
-#include <QStyledItemDelegate>
 #include <QToolTip>
 
 namespace Korvex::Converter::Subtitles::Details
@@ -15,24 +14,8 @@ namespace
 {
 
 constexpr int MOST_VISIBLE_ROWS = 10;
-constexpr int GAP = 2;  ///< pixels between field and list
-constexpr int EDGE = 8; ///< pixels that stay free at the window's edge, where the field leaves them free as well
-
-/// Rows are as wide as the list, which shortens what does not fit; a list would scroll sideways for wider ones.
-class TitleDelegate final : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    [[nodiscard]] QSize sizeHint(QStyleOptionViewItem const& option, QModelIndex const& index) const override
-    {
-        return {1, QStyledItemDelegate::sizeHint(option, index).height()};
-    }
-    [[nodiscard]] int GetWholeWidth(QStyleOptionViewItem const& option, QModelIndex const& index) const
-    {
-        return QStyledItemDelegate::sizeHint(option, index).width();
-    }
-};
+constexpr int GAP = 2;   ///< pixels between field and list
+constexpr int EDGE = 12; ///< pixels that stay free at the window's edge, where the field leaves them free as well
 
 /// Of the window, in its own coordinates, what lies on the screen.
 QRect FindVisiblePart(QWidget const& window)
@@ -50,7 +33,6 @@ SuggestionList::SuggestionList(QWidget* window) : QListView(window), m_titles(ne
     hide();
     setAttribute(Qt::WA_NoMousePropagation); // what lies under it is neither clicked nor scrolled
     setModel(m_titles);
-    setItemDelegate(new TitleDelegate(this));
     setFocusPolicy(Qt::NoFocus);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setTextElideMode(Qt::ElideMiddle);
@@ -111,10 +93,9 @@ void SuggestionList::OpenBeside(QWidget const& field)
 
 int SuggestionList::FindWidestRow() const
 {
-    auto const& delegate = static_cast<TitleDelegate const&>(*itemDelegate());
     int width = 0;
     for (int row = 0; row < CountRows(); ++row)
-        width = qMax(width, delegate.GetWholeWidth(viewOptions(), m_titles->index(row)));
+        width = qMax(width, sizeHintForIndex(m_titles->index(row)).width());
     return width;
 }
 
@@ -150,8 +131,7 @@ std::optional<QString> SuggestionList::GetMarkedTitle() const
 
 bool SuggestionList::IsShortened(QModelIndex const& index) const
 {
-    auto const& delegate = static_cast<TitleDelegate const&>(*itemDelegate());
-    return delegate.GetWholeWidth(viewOptions(), index) > visualRect(index).width();
+    return sizeHintForIndex(index).width() > visualRect(index).width();
 }
 
 bool SuggestionList::viewportEvent(QEvent* event)

@@ -156,6 +156,8 @@ TEST_F(AutocompleteControlTest, WhateverTheUserTurnsToClosesTheList)
         {"the window moves", [&] { m_window->move(m_window->pos() + QPoint(20, 20)); }},
         {"the window grows", [&] { m_window->resize(460, 440); }},
         {"the field moves", [&] { m_label->setMinimumHeight(60), m_window->layout()->activate(); }},
+        {"the field grows", [&] { m_field->setMinimumHeight(60), m_window->layout()->activate(); }},
+        {"the focus goes", [&] { m_next->setFocus(); }},
         {"another window", [&] { Korvex::Testing::ShowAndWait(other); }},
         {"Tab", [&] { Press(Qt::Key_Tab); }},
     };
@@ -191,6 +193,7 @@ TEST_F(AutocompleteControlTest, TheListStaysInsideAndShortensWhatHasNoRoom)
             OfferMany();
             Korvex::Testing::SaveScreenshot(*m_window, "autocomplete-many-" + theme);
             EXPECT_TRUE(m_window->rect().contains(List()->geometry()));
+            EXPECT_EQ(List()->horizontalScrollBar()->maximum(), 0);
             EXPECT_GT(List()->geometry().top(), m_field->geometry().bottom());
             EXPECT_EQ(List()->viewport()->height() % Row(0).height(), 0) << "no half rows";
             EXPECT_LE(List()->viewport()->height(), 10 * Row(0).height());
