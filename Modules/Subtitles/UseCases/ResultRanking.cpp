@@ -167,12 +167,36 @@ bool IsPartOfSameSet(SearchResultFacts const& a, SearchResultFacts const& b)
            a.isHearingImpaired == b.isHearingImpaired && a.isForeignPartsOnly == b.isForeignPartsOnly;
 }
 
+using RankedRow = std::pair<Rank, RankedResult>;
+
+/// Brings parts of one set that rank alike together; services send them in any order.
+void SortSets(std::vector<RankedRow>& rows)
+{
+    for (auto first = rows.begin(); first != rows.end();)
+    {
+        auto const part = first->second.result;
+        auto end = first + 1;
+        if (part->facts.discCount > 1)
+        {
+            auto const rankEnd = std::find_if(
+                end, rows.end(), [rank = first->first](RankedRow const& row) { return row.first != rank; });
+            end = std::stable_partition(first, rankEnd,
+                                        [&part](RankedRow const& row)
+                                        { return IsPartOfSameSet(part->facts, row.second.result->facts); });
+            std::stable_sort(first, end,
+                             [](RankedRow const& a, RankedRow const& b)
+                             { return a.second.result->facts.discNumber < b.second.result->facts.discNumber; });
+        }
+        first = end;
+    }
+}
+
 } // namespace
 
 std::vector<RankedResult> RankResults(std::vector<std::shared_ptr<SearchResult>> const& results,
                                       SearchedFilm const& film, std::vector<LanguageID> const& languages)
 {
-    std::vector<std::pair<Rank, RankedResult>> rows;
+    std::vector<RankedRow> rows;
     rows.reserve(results.size());
     for (auto const& result : results)
     {
@@ -181,6 +205,7 @@ std::vector<RankedResult> RankResults(std::vector<std::shared_ptr<SearchResult>>
         rows.emplace_back(rank, std::move(ranked));
     }
     std::stable_sort(rows.begin(), rows.end(), [](auto const& a, auto const& b) { return a.first < b.first; });
+    SortSets(rows);
     std::vector<RankedResult> ordered;
     ordered.reserve(rows.size());
     for (auto& row : rows)

@@ -32,7 +32,8 @@ struct RankedResult
 
 /// Puts the results of a search into the order in which a person wants to see them: what fits the file best first;
 /// then by language, trust and number of downloads; machine translations, wrong episodes and other films last, even
-/// where the fingerprint matches. Equal ones keep the service's order.
+/// where the fingerprint matches. Equal ones keep the service's order, but that the parts of a set stand together in
+/// the order of the parts.
 /// @param languages the user's, the most wanted first; those not listed come after them
 [[nodiscard]] KVSUBTITLES_API std::vector<RankedResult>
 RankResults(std::vector<std::shared_ptr<SearchResult>> const& results, SearchedFilm const& film,

@@ -133,7 +133,7 @@ TEST(ResultRankingTest, CallsNoFilmAnotherOneWithoutReason)
     EXPECT_TRUE(isOther("", Titled("Agents of Fortune", 2013)));
 }
 
-TEST(ResultRankingTest, FindsThePartsOfASet)
+TEST(ResultRankingTest, KeepsThePartsOfASetTogether)
 {
     SearchResultFacts facts;
     facts.discCount = 2;
@@ -146,6 +146,10 @@ TEST(ResultRankingTest, FindsThePartsOfASet)
                              MakeResult("whole", "A")};
     EXPECT_EQ(FindSet(results[1], results), (Results{results[2], results[1]}));
     EXPECT_EQ(FindSet(results[4], results), (Results{results[4]}));
+    Results inOrder;
+    for (RankedResult const& ranked : RankResults(results, {}, {}))
+        inOrder.push_back(ranked.result);
+    EXPECT_EQ(inOrder, (Results{results[3], results[0], results[2], results[1], results[4]}));
 }
 
 } // namespace
