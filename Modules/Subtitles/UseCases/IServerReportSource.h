@@ -18,7 +18,7 @@ struct ServerReport
         WrongKey,        ///< the API key is missing or was not accepted
         QuotaUsedUp,     ///< no downloads left until the quota resets
         TooManyRequests, ///< asked too often; later is fine
-        NotASubtitle,    ///< a page or an advertisement came in place of the file
+        NotASubtitle,    ///< something else came in place of the file: a page, an advertisement
         Unavailable,     ///< the service is down or overloaded
     };
 

@@ -392,6 +392,7 @@ TEST_F(SearchEngineTest, TheServersWordsAreThereWhenTheFailureIsTold)
     run(Status::ServerError);
     EXPECT_EQ(told.message, QStringLiteral("Maintenance"));
     EXPECT_EQ(told.reason, Reason::None);
+    body = "PK"; // an archive whose file is not the wanted one
     Queue("file")->parsedStatus = Status::ServerError;
     ASSERT_EQ(engine->DownloadSubtitles({nullptr}, {}), Status::Success);
     ASSERT_TRUE(WaitUntilIdle());

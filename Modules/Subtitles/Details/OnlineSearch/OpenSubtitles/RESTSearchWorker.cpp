@@ -1,6 +1,5 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/RESTSearchWorker.h"
 
-#include "Subtitles/Details/OnlineSearch/OpenSubtitles/NotASubtitle.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/QueueHandOver.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/RESTSearchEngine.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/ServerReply.h"
@@ -26,12 +25,6 @@ constexpr qint64 MOST_WORDS_BYTES = 64 * 1024;
 int GetHttpStatus(QNetworkReply const& reply)
 {
     return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-}
-
-/// A page or a notice in place of what was asked for. Archives and the like are files, right or wrong.
-bool IsPage(QByteArray const& beginning)
-{
-    return !beginning.isEmpty() && !FindFileSignature(beginning) && FindWhatItIsInstead(beginning);
 }
 
 Status ToStatus(QNetworkReply::NetworkError const error)
@@ -117,7 +110,8 @@ void RESTSearchWorker::OnReplyReady(QNetworkReply* const reply)
     bool const hasWords = isRefused || (m_isPost && beginning.trimmed().startsWith('{'));
     auto report =
         ReadServerReport(GetHttpStatus(*reply), reply->rawHeaderPairs(), hasWords ? beginning : QByteArray(), m_secret);
-    if (isRefused && report.reason == UseCases::ServerReport::Reason::None && IsPage(beginning))
+    // What is wrong with it may be within an archive, so that only the operation can tell.
+    if (isRefused && !m_isPost && report.reason == UseCases::ServerReport::Reason::None)
         report.reason = UseCases::ServerReport::Reason::NotASubtitle;
     EmitReported(report);
     EmitFinished();
