@@ -170,6 +170,8 @@ std::shared_ptr<RESTSearchResultData> ReadSearchRow(QJsonObject const& object)
     ReadFilm(row, result->facts);
     ReadStanding(row, result->facts);
     ReadKind(row, result->facts);
+    if (result->facts.isHearingImpaired)
+        result->tags[Entities::SearchTags::HEARING_IMPAIRED] = "1";
     return result;
 }
 

@@ -9,6 +9,8 @@
 #include <QJsonObject>
 #include <QUrl>
 
+#include <algorithm>
+
 namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_1
 {
 
@@ -45,7 +47,8 @@ void RESTAutoSuggestRequest::ParseJsonObject(QJsonValue const& element)
 {
     QJsonObject const attributes = element.toObject().value(QStringLiteral("attributes")).toObject();
     QString const title = ReadPlainLine(ReadText(attributes, RESTProtocol::RESULT_KEY_MOVIE_SUGGEST));
-    if (!title.isEmpty())
+    bool const isKnown = std::find(m_suggestions.begin(), m_suggestions.end(), title) != m_suggestions.end();
+    if (!title.isEmpty() && !isKnown) // remakes share their titles
         m_suggestions.push_back(title);
 }
 

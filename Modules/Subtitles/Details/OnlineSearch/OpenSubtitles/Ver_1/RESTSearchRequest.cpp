@@ -38,20 +38,6 @@ QString const* FindQueryKey(std::string const& tag)
     return found == KEYS.end() ? nullptr : &found->second;
 }
 
-/// The service knows numbers by their digits alone and redirects from everything else.
-QString StripNumber(QString const& value)
-{
-    QString digits = value.startsWith(QLatin1String("tt"), Qt::CaseInsensitive) ? value.mid(2) : value;
-    for (QChar const character : digits)
-    {
-        if (character < QLatin1Char('0') || character > QLatin1Char('9'))
-            return value;
-    }
-    while (digits.size() > 1 && digits.startsWith(QLatin1Char('0')))
-        digits.remove(0, 1);
-    return digits;
-}
-
 QString JoinLanguages(std::set<Entities::Language::LanguageID> const& languages)
 {
     QStringList codes;
@@ -81,9 +67,8 @@ QUrl RESTSearchRequest::CreateQuery(QString const& baseUrl)
         if (key == nullptr)
             return Refuse(QStringLiteral("Invalid or unsupported search tags were provided"));
         QString const value = ToValue(QString::fromStdString(text));
-        QString const stripped = tag == SearchTags::TITLE ? value : StripNumber(value);
-        if (!stripped.isEmpty())
-            pairs[*key] = stripped;
+        if (!value.isEmpty())
+            pairs[*key] = value;
     }
     if (pairs.empty() && !m_request.tags.empty()) // it would find everything
         return Refuse(QStringLiteral("Empty user query"));

@@ -112,7 +112,7 @@ TEST(LegacyReplyTest, KeepsEveryGoodRowBesideBadOnes)
 
     auto const& odd = *reading.results[1];
     auto const& facts = odd.facts;
-    EXPECT_TRUE(odd.tags.empty());
+    EXPECT_EQ(odd.tags, (std::map<std::string, std::string>{{"HEARING_IMPAIRED", "1"}}));
     EXPECT_FALSE(facts.downloadCount || facts.rating || facts.voteCount || facts.framesPerSecond || facts.year ||
                  facts.season || facts.episode || facts.uploaded.isValid() || facts.isHighDefinition);
     EXPECT_TRUE(facts.isHearingImpaired && facts.isFromTrusted);

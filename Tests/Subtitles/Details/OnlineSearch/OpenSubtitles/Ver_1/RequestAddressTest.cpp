@@ -69,8 +69,8 @@ TEST(OpenSubtitlesVer1, AsksForSubtitles)
     EXPECT_EQ(Search({{SearchTags::TITLE, "Man of Steel"}}, {LanguageID::French, LanguageID::English}),
               "subtitles?languages=en,fr&query=man%20of%20steel");
     EXPECT_EQ(Search({{SearchTags::TITLE, "The Fall"},
-                      {SearchTags::IMDB_ID, "tt04516230"},
-                      {SearchTags::SEASON_NUMBER, "03"},
+                      {SearchTags::IMDB_ID, "4516230"},
+                      {SearchTags::SEASON_NUMBER, "3"},
                       {SearchTags::EPISODE_NUMBER, "10"}},
                      {LanguageID::PortugueseBR}),
               "subtitles?episode_number=10&imdb_id=4516230&languages=pt-br&query=the%20fall&season_number=3");
@@ -89,7 +89,7 @@ TEST(OpenSubtitlesVer1, NoValueBreaksOutOfItsParameter)
     EXPECT_EQ(Search({{SearchTags::IMDB_ID, "tt12&order_by=x"}, {SearchTags::SEASON_NUMBER, "1#"}}),
               "subtitles?imdb_id=tt12%20order_by=x&season_number=1");
     EXPECT_EQ(Search({{SearchTags::TITLE, " \t"}, {SearchTags::EPISODE_NUMBER, "2"}}), "subtitles?episode_number=2");
-    EXPECT_EQ(Search({{SearchTags::TITLE, "&#"}, {SearchTags::IMDB_ID, "tt"}}, {LanguageID::English}),
+    EXPECT_EQ(Search({{SearchTags::TITLE, "&#"}, {SearchTags::IMDB_ID, " "}}, {LanguageID::English}),
               "Empty user query");
     EXPECT_EQ(Suggest("AC/DC? &x=%1 #1;y"), "features?query=ac/dc?%20x=%251%201%20y");
     EXPECT_EQ(Suggest("Tom %26 Jerry + Co"), "features?query=tom%20%26%20jerry%20+%20co");
