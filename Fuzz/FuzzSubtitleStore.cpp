@@ -1,5 +1,7 @@
 #include "Check.h"
 
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/NotASubtitle.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleFileName.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleStore.h"
 
 #include <cstdint>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Subtitles/Entities/Export.h"
 #include "Subtitles/Entities/Language.h"
 
 #include <map>
@@ -10,7 +11,7 @@ namespace Korvex::Converter::Subtitles::UseCases
 {
 
 /// What an online search asks for. A value type.
-struct SearchRequest
+struct KVSUBTITLES_API SearchRequest
 {
     std::map<std::string, std::string> tags;            ///< `SearchTags` constants to values; numbers in decimal
     std::set<Entities::Language::LanguageID> languages; ///< empty: every language

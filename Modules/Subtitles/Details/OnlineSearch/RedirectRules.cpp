@@ -24,11 +24,6 @@ int GetPort(QUrl const& url)
     return url.port(IsHttps(url) ? 443 : 80);
 }
 
-bool IsSameOrigin(QUrl const& left, QUrl const& right)
-{
-    return left.scheme() == right.scheme() && left.host() == right.host() && GetPort(left) == GetPort(right);
-}
-
 Redirect Refuse(QNetworkReply::NetworkError error, char const* text)
 {
     return {{}, error, QString::fromLatin1(text)};
@@ -44,6 +39,16 @@ bool IsRedirect(int httpStatus)
 bool IsHttp(QUrl const& url)
 {
     return IsHttps(url) || url.scheme() == QLatin1String("http");
+}
+
+bool IsWebAddress(QUrl const& url)
+{
+    return url.isValid() && IsHttp(url) && !url.host().isEmpty();
+}
+
+bool IsSameOrigin(QUrl const& left, QUrl const& right)
+{
+    return left.scheme() == right.scheme() && left.host() == right.host() && GetPort(left) == GetPort(right);
 }
 
 Redirect FollowRedirect(QNetworkRequest const& request, QByteArray const& location)

@@ -29,4 +29,10 @@ struct Redirect
 /// Whether addresses of this scheme are asked for at all.
 [[nodiscard]] KVSUBTITLES_API bool IsHttp(QUrl const& url);
 
+/// Whether this is a whole http or https address.
+[[nodiscard]] KVSUBTITLES_API bool IsWebAddress(QUrl const& url);
+
+/// The same scheme, host and port: whom a key for the one may be told to.
+[[nodiscard]] KVSUBTITLES_API bool IsSameOrigin(QUrl const& left, QUrl const& right);
+
 } // namespace Korvex::Converter::Subtitles::Details

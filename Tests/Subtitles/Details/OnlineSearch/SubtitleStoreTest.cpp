@@ -1,5 +1,8 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleStore.h"
 
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/NotASubtitle.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleFileName.h"
+
 #include "Core/FileSystem.h"
 
 #include <gtest/gtest.h>
@@ -132,7 +135,7 @@ TEST(FindWhatItIsInsteadTest, KnowsWhatServersSendInPlaceOfSubtitles)
         {"<?xml version='1.0'?><Error><Code>x</Code><Message>Access denied</Message></Error>",
          "an XML error (\"Access denied\")"},
         {R"({"message": "You have used up your quota", "remaining": 0})", "JSON (\"You have used up your quota\")"},
-        {R"( {"errors": ["bad", "worse"], "status": 400})", "JSON (\"bad\")"},
+        {R"( {"errors": ["bad", "worse"], "status": 400})", "JSON (\"bad; worse\")"},
         {R"({"message": "cut o)", "JSON"},
         {"[]", "JSON"},
         {QByteArray("PK\x03\x04rest", 8), "a ZIP archive"},

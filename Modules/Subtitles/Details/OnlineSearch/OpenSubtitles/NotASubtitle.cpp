@@ -2,7 +2,6 @@
 
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/ServiceText.h"
 
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -114,20 +113,6 @@ std::optional<QString> FindPage(QString const& head)
         return std::nullopt;
     return Describe(isError ? QStringLiteral("an XML error") : QStringLiteral("an HTML page"),
                     TITLE.match(start).captured(1));
-}
-
-QString FindMessage(QJsonObject const& object)
-{
-    for (char const* const key : {"message", "error", "errors"})
-    {
-        QJsonValue const value = object.value(QLatin1String(key));
-        QJsonValue const first = value.isArray() ? value.toArray().at(0) : value;
-        if (first.isString())
-            return first.toString();
-        if (first.isObject())
-            return first.toObject().value(QLatin1String("message")).toString();
-    }
-    return {};
 }
 
 /// Texts may begin with the same brackets: "{1}{25}", "[Script Info]", "[0][20]".

@@ -4,6 +4,7 @@
 
 #include <QJsonDocument>
 #include <QNetworkReply>
+#include <QNetworkRequest>
 #include <QUrl>
 #include <QUrlQuery>
 
@@ -35,21 +36,22 @@ QString RESTRequest::GetError() const
 
 RESTRequest::Status RESTRequest::ParseReply(QNetworkReply& reply)
 {
+    return ParseBody(reply.readAll());
+}
+
+RESTRequest::Status RESTRequest::ParseBody(QByteArray const& body)
+{
     m_status = Status::Success;
     m_error.clear();
-    auto body = reply.readAll();
-    if (!body.isEmpty())
-        body = PrepareBody(body);
     if (body.isEmpty())
     {
         LOG(ERROR) << "Empty server response";
         return m_status = Status::ServerError;
     }
-    if (body == "null") // nothing found, in the words of some replies
-        body = QByteArrayLiteral("[]");
+    bool const isNothingFound = body == "null"; // in the words of some replies
 
     QJsonParseError parseError;
-    auto const document = QJsonDocument::fromJson(body, &parseError);
+    auto const document = QJsonDocument::fromJson(isNothingFound ? QByteArrayLiteral("[]") : body, &parseError);
     if (parseError.error != QJsonParseError::NoError)
     {
         m_error = parseError.errorString();
@@ -62,6 +64,21 @@ RESTRequest::Status RESTRequest::ParseReply(QNetworkReply& reply)
 QUrl RESTRequest::DowncaseUrl(QUrl const& url)
 {
     return QUrl(url.toString().toLower(), QUrl::TolerantMode);
+}
+
+void RESTRequest::FollowRedirects(QNetworkRequest& request)
+{
+    // The policy that took its place says more than a request has to decide.
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    request.setAttribute(QNetworkRequest::FollowRedirectsAttribute, true);
+    QT_WARNING_POP
+}
+
+QUrl RESTRequest::Refuse(QString const& reason)
+{
+    Fail(Status::InvalidRequest, reason);
+    return {};
 }
 
 RESTRequest::Status RESTRequest::Fail(Status const status, QString const& error)

@@ -37,10 +37,14 @@ public:
     [[nodiscard]] static QUrl DowncaseUrl(QUrl const& url);
 
 protected:
-    /// `ParseReply` reads what this makes of a body that is not empty, before anything else looks at it: a version
-    /// whose servers put something around the JSON cuts it off here.
-    [[nodiscard]] virtual QByteArray PrepareBody(QByteArray const& body) const { return body; }
+    /// Reads a whole body; its outcome takes the place of what was kept before.
+    Status ParseBody(QByteArray const& body);
 
+    /// Every request follows redirects.
+    static void FollowRedirects(QNetworkRequest& request);
+
+    /// Logs the reason and returns the empty address that makes the request an invalid one.
+    QUrl Refuse(QString const& reason);
     /// Keeps the outcome and returns the status; a failure's text is logged.
     Status Fail(Status status, QString const& error);
 

@@ -46,48 +46,11 @@ std::optional<int> ToCount(QVariant const& value)
 QString ToLine(QString const& words, QByteArray const& secret)
 {
     static QRegularExpression const DIRECTIONS(QStringLiteral("[\\x{202A}-\\x{202E}\\x{2066}-\\x{2069}]"));
-    auto line = ReadPlainLine(words).remove(DIRECTIONS);
-    if (auto const key = QString::fromUtf8(secret); !key.isEmpty())
-    {
-        line.replace(key, QStringLiteral("***"), Qt::CaseInsensitive);
-        if (line.contains(key, Qt::CaseInsensitive))
-            return {};
-    }
+    auto const line = WithoutSecret(ReadPlainLine(words).remove(DIRECTIONS), secret);
     if (line.size() <= MOST_CHARACTERS)
         return line;
     int const end = MOST_CHARACTERS - 1;
     return line.left(line.at(end - 1).isHighSurrogate() ? end - 1 : end) + QChar(0x2026);
-}
-
-/// A text, a list of them, or an object that names what is wrong with each field.
-QString ReadJsonWords(QJsonValue const& value)
-{
-    if (value.isString())
-        return value.toString().trimmed();
-    QStringList words;
-    for (auto const& element : value.toArray())
-        words += ReadJsonWords(element);
-    auto const object = value.toObject();
-    for (auto field = object.begin(); field != object.end(); ++field)
-    {
-        auto const text = ReadJsonWords(field.value());
-        bool const isName = field.key() == QLatin1String("message") || field.key() == QLatin1String("error") ||
-                            field.key() == QLatin1String("title") || field.key() == QLatin1String("detail");
-        if (!text.isEmpty())
-            words += isName ? text : field.key() + QLatin1String(": ") + text;
-    }
-    words.removeAll(QString());
-    return words.join(QLatin1String("; "));
-}
-
-QString FindMessage(QJsonObject const& object)
-{
-    for (auto const* key : {"message", "error", "errors"})
-    {
-        if (auto words = ReadJsonWords(object.value(QLatin1String(key))); !words.isEmpty())
-            return words;
-    }
-    return {};
 }
 
 QString FindTitle(QString const& markup)

@@ -1,6 +1,10 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/ServiceText.h"
 
+#include <QByteArray>
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QRegularExpression>
+#include <QStringList>
 
 #include <algorithm>
 #include <array>
@@ -68,6 +72,27 @@ int MeasureTag(QStringView text)
     return isKnown ? end + 1 : 0;
 }
 
+/// A text, a list of them, or an object that names what is wrong with each field.
+QString ReadJsonWords(QJsonValue const& value)
+{
+    if (value.isString())
+        return value.toString().trimmed();
+    QStringList words;
+    for (auto const& element : value.toArray())
+        words += ReadJsonWords(element);
+    auto const object = value.toObject();
+    for (auto field = object.begin(); field != object.end(); ++field)
+    {
+        auto const text = ReadJsonWords(field.value());
+        bool const isName = field.key() == QLatin1String("message") || field.key() == QLatin1String("error") ||
+                            field.key() == QLatin1String("title") || field.key() == QLatin1String("detail");
+        if (!text.isEmpty())
+            words += isName ? text : field.key() + QLatin1String(": ") + text;
+    }
+    words.removeAll(QString());
+    return words.join(QLatin1String("; "));
+}
+
 } // namespace
 
 QString ReadPlainLine(QString const& text)
@@ -96,6 +121,25 @@ QString ReadPlainLine(QString const& text)
         }
     }
     return line.simplified();
+}
+
+QString WithoutSecret(QString text, QByteArray const& secret)
+{
+    auto const key = QString::fromUtf8(secret);
+    if (key.isEmpty())
+        return text;
+    text.replace(key, QStringLiteral("***"), Qt::CaseInsensitive);
+    return text.contains(key, Qt::CaseInsensitive) ? QString() : text;
+}
+
+QString FindMessage(QJsonObject const& object)
+{
+    for (auto const* key : {"message", "error", "errors"})
+    {
+        if (auto words = ReadJsonWords(object.value(QLatin1String(key))); !words.isEmpty())
+            return words;
+    }
+    return {};
 }
 
 QString ReadImdbDigits(QString const& id)

@@ -4,6 +4,9 @@
 
 #include <QString>
 
+class QByteArray;
+class QJsonObject;
+
 namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
 {
 
@@ -11,6 +14,12 @@ namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
 /// references resolved once (the named ones of markup, the numbered ones of Unicode; others stay as they are), tags
 /// that format text, control characters, line breaks and runs of blanks folded into single blanks, none at the ends.
 [[nodiscard]] KVSUBTITLES_API QString ReadPlainLine(QString const& text);
+
+/// The text with stars in place of the secret in any letter case; an empty one hides nothing.
+[[nodiscard]] KVSUBTITLES_API QString WithoutSecret(QString text, QByteArray const& secret);
+
+/// The server's own words in a JSON reply: its `message`, else `error`, else `errors`. Empty when it says nothing.
+[[nodiscard]] KVSUBTITLES_API QString FindMessage(QJsonObject const& reply);
 
 /// The digits of an IMDb id without leading zeros, written with or without "tt" before them. Empty for anything but one
 /// number above 0 of at most ten digits.

@@ -3,7 +3,6 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/ArchiveChoice.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/NotASubtitle.h"
 
-#include <glog/logging.h>
 #include <quazip.h>
 #include <quazipfile.h>
 
@@ -32,7 +31,6 @@ constexpr qint64 MOST_HASHED_BYTES = MOST_WORK_BYTES - 2 * MOST_MEMBER_BYTES;
 
 UnpackedSubtitle Fail(Status status, QString const& error)
 {
-    LOG(ERROR) << error.toStdString();
     UnpackedSubtitle failed;
     failed.status = status;
     failed.error = error;

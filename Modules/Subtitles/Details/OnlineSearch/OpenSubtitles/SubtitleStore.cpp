@@ -1,8 +1,9 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleStore.h"
 
-#include "Core/FileSystem.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/NotASubtitle.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleFileName.h"
 
-#include <glog/logging.h>
+#include "Core/FileSystem.h"
 
 #include <cerrno>
 #include <filesystem>
@@ -19,7 +20,6 @@ using Status = UseCases::IOnlineSearchController::Status;
 
 StoredFile Fail(Status status, QString const& error)
 {
-    LOG(ERROR) << error.toStdString();
     StoredFile failed;
     failed.status = status;
     failed.error = error;

@@ -2,8 +2,6 @@
 
 #include "Subtitles/Entities/Export.h"
 
-#include "Subtitles/Details/OnlineSearch/OpenSubtitles/NotASubtitle.h"
-#include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleFileName.h"
 #include "Subtitles/UseCases/IOnlineSearchController.h"
 
 #include "Core/ioPath.h"
@@ -24,8 +22,8 @@ struct StoredFile
 };
 
 /// Writes the bytes aside and gives them their name (cleaned) in one step; a name that is taken gets a number. Makes
-/// the folder where it is missing. What is no subtitle is refused as a server error and not stored. Failures are logged
-/// and leave nothing behind.
+/// the folder where it is missing. What is no subtitle is refused as a server error and not stored. Failures
+/// leave nothing behind.
 [[nodiscard]] KVSUBTITLES_API StoredFile StoreSubtitle(QByteArray const& bytes, ioPath const& folder,
                                                        QString const& fileName);
 

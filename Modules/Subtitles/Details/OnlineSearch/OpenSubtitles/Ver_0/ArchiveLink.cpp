@@ -1,5 +1,7 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/ArchiveLink.h"
 
+#include "Subtitles/Details/OnlineSearch/RedirectRules.h"
+
 #include <QString>
 #include <QUrl>
 
@@ -9,8 +11,7 @@ namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_0
 QUrl ReadArchiveLink(QString const& link)
 {
     QUrl const url(link, QUrl::TolerantMode);
-    bool const isHttp = url.scheme() == QStringLiteral("http") || url.scheme() == QStringLiteral("https");
-    return url.isValid() && isHttp && !url.host().isEmpty() ? url : QUrl();
+    return IsWebAddress(url) ? url : QUrl();
 }
 
 } // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_0

@@ -1,7 +1,9 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTArchiveDownloadRequest.h"
 
 #include "Subtitles/Details/OnlineSearch/BodyDecoder.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/NotASubtitle.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleArchive.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleFileName.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleStore.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/ArchiveLink.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTSearchResultData.h"
@@ -61,9 +63,7 @@ QNetworkRequest RESTArchiveDownloadRequest::CreateRequest()
 QUrl RESTArchiveDownloadRequest::CreateQuery(QString const& /*baseUrl*/)
 {
     QUrl link = m_result ? ReadArchiveLink(m_result->archiveLink) : QUrl();
-    if (link.isEmpty())
-        Fail(Status::InvalidRequest, QStringLiteral("Invalid archive link"));
-    return link;
+    return link.isEmpty() ? Refuse(QStringLiteral("Invalid archive link")) : link;
 }
 
 RESTArchiveDownloadRequest::Status RESTArchiveDownloadRequest::ParseReply(QNetworkReply& reply)

@@ -42,10 +42,7 @@ RESTAutoSuggestRequest::~RESTAutoSuggestRequest() = default;
 QUrl RESTAutoSuggestRequest::CreateQuery(QString const& baseUrl)
 {
     if (m_text.isEmpty())
-    {
-        Fail(Status::InvalidRequest, QStringLiteral("Empty user query"));
-        return QUrl();
-    }
+        return Refuse(QStringLiteral("Empty user query"));
     auto const encoded = [](QString const& text) { return QString::fromLatin1(QUrl::toPercentEncoding(text)); };
     QUrlQuery query;
     query.addQueryItem(RESTProtocol::QUERY_KEY_SUGGEST_FORMAT, RESTProtocol::QUERY_VALUE_SUGGEST_FORMAT);

@@ -1,5 +1,6 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTRequest.h"
 
+#include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QRegularExpression>
 #include <QUrl>
@@ -9,12 +10,6 @@ namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_0
 
 namespace
 {
-
-// The policy that took its place says more than a request has to decide.
-QT_WARNING_PUSH
-QT_WARNING_DISABLE_DEPRECATED
-constexpr auto FOLLOW_REDIRECTS = QNetworkRequest::FollowRedirectsAttribute;
-QT_WARNING_POP
 
 /// Where the array begins behind text that may hold brackets of its own ("Undefined offset: $row[3] in ..."): the first
 /// bracket that opens an array of objects, or an empty array that ends the body. -1 when there is none.
@@ -43,17 +38,17 @@ QNetworkRequest RESTRequest::MakeRequest(QUrl const& url)
         return QNetworkRequest();
     }
     QNetworkRequest request(url);
-    request.setAttribute(FOLLOW_REDIRECTS, true);
+    FollowRedirects(request);
     request.setHeader(QNetworkRequest::UserAgentHeader, m_configuration.userAgent);
     return request;
 }
 
-QByteArray RESTRequest::PrepareBody(QByteArray const& body) const
+RESTRequest::Status RESTRequest::ParseReply(QNetworkReply& reply)
 {
-    QString const text = QString::fromUtf8(body).trimmed();
+    QString const text = QString::fromUtf8(reply.readAll()).trimmed();
     bool const isJson = text.startsWith(u'[') || text.startsWith(u'{');
     int const start = isJson ? -1 : FindArray(text);
-    return (start < 0 ? text : text.mid(start)).toUtf8();
+    return ParseBody((start < 0 ? text : text.mid(start)).toUtf8());
 }
 
 } // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_0

@@ -14,14 +14,13 @@ public:
     ~RESTRequest() override;
 
     QNetworkRequest CreateRequest() override;
+    /// Warnings of the server's own scripts may stand before the array. Letters in a broken encoding are replaced, so
+    /// that one of them does not cost the whole reply.
+    Status ParseReply(QNetworkReply& reply) override;
 
 protected:
     /// The request for an address as it is. An empty address is an invalid request.
     [[nodiscard]] QNetworkRequest MakeRequest(QUrl const& url);
-
-    /// Warnings of the server's own scripts may stand before the array. Letters in a broken encoding are replaced, so
-    /// that one of them does not cost the whole reply.
-    [[nodiscard]] QByteArray PrepareBody(QByteArray const& body) const override;
 
     RESTNetworkConfiguration const m_configuration;
 };

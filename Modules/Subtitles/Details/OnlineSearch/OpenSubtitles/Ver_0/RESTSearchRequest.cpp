@@ -118,10 +118,7 @@ QUrl RESTSearchRequest::CreateQuery(QString const& baseUrl)
 {
     auto pairs = WriteTags(m_request.tags);
     if (!pairs)
-    {
-        Fail(Status::InvalidRequest, QStringLiteral("Invalid or unsupported search tags were provided"));
-        return QUrl();
-    }
+        return Refuse(QStringLiteral("Invalid or unsupported search tags were provided"));
     QString const languages = WriteLanguages(m_request.languages);
     if (!languages.isEmpty())
         pairs->emplace(RESTProtocol::QUERY_KEY_LANGUAGE, languages);

@@ -5,6 +5,8 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_1/RESTProtocol.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_1/RESTSearchResultData.h"
 
+#include "Subtitles/Details/OnlineSearch/RedirectRules.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QUrl>
@@ -17,12 +19,6 @@ namespace
 {
 
 constexpr int LONGEST_MESSAGE = 300;
-
-bool IsWebAddress(QUrl const& url)
-{
-    bool const isHttp = url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
-    return url.isValid() && isHttp && !url.host().isEmpty();
-}
 
 } // namespace
 
@@ -68,7 +64,7 @@ INetworkOperation::Status RESTDownloadRequest::ParseJsonReply(QJsonDocument cons
     m_result->link.clear();
     if (!isMissing)
         return Fail(Status::ServerError, QStringLiteral("The server's download link is no web address"));
-    QString const message = ReadPlainLine(ReadText(reply, QStringLiteral("message"))).left(LONGEST_MESSAGE);
+    QString const message = WithoutKey(ReadPlainLine(FindMessage(reply))).left(LONGEST_MESSAGE);
     return Fail(Status::ServerError, message.isEmpty()
                                          ? QStringLiteral("The server gave no download link")
                                          : QStringLiteral("The server gave no download link: ") + message);

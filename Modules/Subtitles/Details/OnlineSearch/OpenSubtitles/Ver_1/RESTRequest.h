@@ -16,10 +16,11 @@ public:
     QNetworkRequest CreateRequest() override;
 
 protected:
-    /// Logs the refusal and returns the empty address that makes the request an invalid one.
-    QUrl Refuse(QString const& reason);
     /// The headers of every request; the key only where the address belongs to the service itself.
     [[nodiscard]] QNetworkRequest AddressTo(QUrl const& url) const;
+
+    /// What a server says may repeat the key; neither an error text nor the log may.
+    [[nodiscard]] QString WithoutKey(QString const& text) const;
 
     /// A text as the value of one parameter. It is not encoded, but loses what would end it or begin another parameter;
     /// control characters and runs of blanks become single blanks.

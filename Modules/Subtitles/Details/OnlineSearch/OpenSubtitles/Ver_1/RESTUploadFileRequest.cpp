@@ -1,5 +1,6 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_1/RESTUploadFileRequest.h"
 
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleFileName.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/SubtitleStore.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_1/RESTSearchResultData.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_1/SearchResultFacts.h"
@@ -51,9 +52,11 @@ QNetworkRequest RESTUploadFileRequest::CreateRequest()
 INetworkOperation::Status RESTUploadFileRequest::ParseReply(QNetworkReply& reply)
 {
     StoredFile const stored = StoreSubtitle(reply.readAll(), m_folder, m_fileName);
+    if (stored.status != Status::Success)
+        return Fail(stored.status, WithoutKey(stored.error));
     m_outputFile = stored.path;
-    m_error = stored.error;
-    return m_status = stored.status;
+    m_error.clear();
+    return m_status = Status::Success;
 }
 
 QUrl RESTUploadFileRequest::CreateQuery(QString const& /*baseUrl*/)

@@ -47,13 +47,9 @@ std::optional<qint64> ReadDownloadCount(QJsonObject const& attributes)
 /// A number, or a text with or without "tt" and leading zeros.
 std::string ReadImdbId(QJsonObject const& object, char const* key)
 {
-    QString text = ReadText(object, QLatin1String(key)).trimmed();
-    if (text.startsWith(QLatin1String("tt"), Qt::CaseInsensitive))
-        text.remove(0, 2);
-    bool isNumber = false;
-    qint64 const written = text.toLongLong(&isNumber);
-    qint64 const number = isNumber ? written : ReadInteger(object, QLatin1String(key)).value_or(0);
-    return number > 0 ? std::to_string(number) : std::string();
+    auto const number = ReadInteger(object, QLatin1String(key));
+    QString const text = ReadText(object, QLatin1String(key)).trimmed();
+    return ReadImdbDigits(number ? QString::number(*number) : text).toStdString();
 }
 
 QDateTime ReadTime(QJsonObject const& object, char const* key)

@@ -151,7 +151,7 @@ TEST(OpenSubtitlesVer1, KeepsGoodElementsAmongBadOnes)
         EXPECT_EQ(Read(suggest, reply, listener), "Invalid server response format: not an array");
     }
     EXPECT_EQ(ReadSuggestions(R"({"data":[null,{"attributes":{"title":7}},{"attributes":{"title":"Salt &amp; Sea"}},
-        {"attributes":[]},{"attributes":{"title":"Harbour"}}]})"),
+        {"attributes":[]},{"attributes":{"title":"Harbour"}},{"attributes":{"title":"Salt & Sea"}}]})"),
               (std::vector<QString>{QStringLiteral("Salt & Sea"), QStringLiteral("Harbour")}));
 }
 
@@ -175,6 +175,11 @@ TEST(OpenSubtitlesVer1, TakesOnlyWebAddressesForDownloadLinks)
     EXPECT_EQ(Read(request, R"({"link":null,"message":"Quota\nused &amp; gone"})", listener),
               "The server gave no download link: Quota used & gone");
     EXPECT_EQ(Read(request, "[]", listener), "The server gave no download link");
+    RESTNetworkConfiguration configuration;
+    configuration.apiKey = "SecretKey";
+    RESTDownloadRequest refused(configuration, result);
+    EXPECT_EQ(Read(refused, R"({"errors":["Bad key secretkey"]})", listener),
+              "The server gave no download link: Bad key ***");
 }
 
 /// Figures as the recorded replies hold them.
