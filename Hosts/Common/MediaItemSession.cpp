@@ -102,7 +102,7 @@ public:
         m_interactor->SetPresenterSettings({});
         m_interactor->SetPreset(preset);
         m_interactor->SetSubtitleCollection(fresh, true);
-        m_item = MediaItem{film, static_cast<std::uint32_t>(fresh.collectionId)};
+        m_item = MediaItem{film, static_cast<std::uint32_t>(fresh.collectionId), m_info.title};
 
         m_interactor->AddTrackList(ListOwnTracks(choice));
         if (choice.lookUp == SidecarLookUp::BesideFilm && IsFilm())

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 
 namespace Korvex::Proc
 {
@@ -26,6 +27,7 @@ struct MediaItem
     ioPath path;
     /// Number of the subtitle collection that belongs to the film; 0 when it has none.
     std::uint32_t subtitleCollectionId = 0;
+    std::string title = {}; ///< by the container, UTF-8; may be empty
 };
 
 /// Everything that one conversion needs. At most one of the two subtitle settings is set; they are shared, so that the

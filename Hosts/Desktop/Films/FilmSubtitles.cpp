@@ -101,7 +101,8 @@ void FilmSubtitles::Open(Proc::MediaInfo const& media, FilmChoice const& choice)
     for (auto const& [id, track] : m_ownTracks)
         (choice.leftOut.count(id) > 0 ? m_leftOut : tracks).emplace(id, track);
     m_interactor->AddTrackList(tracks);
-    m_services.GetTranscoder().AddMediaItem(MediaItem{media.path, static_cast<std::uint32_t>(fresh.collectionId)});
+    m_services.GetTranscoder().AddMediaItem(
+        MediaItem{media.path, static_cast<std::uint32_t>(fresh.collectionId), media.title});
     m_foundBeside.clear();
     for (auto const& [id, track] : m_interactor->GetSubtitleCollection().tracks)
         if (track.isExternal)
