@@ -2,10 +2,13 @@
 
 #include "Subtitles/Adapters/AutocompletePresenter.h"
 #include "Subtitles/Adapters/EditingPresenter.h"
+#include "Subtitles/Adapters/IAutocompleteControl.h"
 #include "Subtitles/Adapters/IExternalSubtitlesDialog.h"
+#include "Subtitles/Adapters/IOnlineSearchDialog.h"
 #include "Subtitles/Adapters/ItemPresenter.h"
 #include "Subtitles/Adapters/MessagesController.h"
 #include "Subtitles/Adapters/OnlineDownloaderController.h"
+#include "Subtitles/Adapters/OnlineSearchDialogPresenter.h"
 #include "Subtitles/Adapters/SearchDialogStatisticHandler.h"
 #include "Subtitles/Adapters/StatisticTrackerAdapter.h"
 #include "Subtitles/Adapters/SubtitleCollectionPresenter.h"
@@ -64,6 +67,7 @@ void RegisterGroupOne(Hypodermic::ContainerBuilder& builder)
     builder.registerType<EditingPresenter>().as<UseCases::IEditingPresenter>();
     builder.registerType<SubtitleController>().as<UseCases::ISubtitleController>();
     builder.registerType<AutocompletePresenter>().as<UseCases::IAutocompletePresenter>();
+    builder.registerType<OnlineSearchDialogPresenter>().as<UseCases::IOnlineSearchPresenter>().singleInstance();
     builder.registerType<MessagesController>().as<UseCases::IMessagesController>();
     builder.registerType<OnlineDownloaderController>().as<UseCases::IOnlineDownloaderController>();
     builder.registerType<SubtitleStreamAdapter>().as<UseCases::ISubtitleStreamAdapter>();

@@ -1,10 +1,12 @@
 #include "Subtitles/UseCases/ExternalTracks.h"
 
 #include "Subtitles/UseCases/ISubtitleController.h"
+#include "Subtitles/UseCases/SearchResult.h"
 #include "Subtitles/UseCases/SidecarLookup.h"
 
 #include "Subtitles/Entities/SubtitleCodecs.h"
 #include "Subtitles/Entities/SubtitleCollection.h"
+#include "Subtitles/Entities/TrackMarks.h"
 
 #include "Core/FileSystem.h"
 
@@ -20,6 +22,33 @@ SubtitleTrack MakeExternalTrack(ioPath const& file)
     SubtitleTrack track(file);
     track.title = file.FileName();
     return track;
+}
+
+SubtitleTrack MakeDownloadedTrack(ioPath const& file, SearchResult const& result)
+{
+    SubtitleTrack track = MakeExternalTrack(file);
+    SearchResultFacts const& facts = result.facts;
+    auto const& language = Entities::Language::GetLanguageData(facts.language);
+    track.language =
+        language.shortNames.empty() ? facts.languageCode.toLower().toStdString() : language.shortNames.front();
+    Entities::TrackMarks marks;
+    marks.isForced = facts.isForeignPartsOnly;
+    marks.isHearingImpaired = facts.isHearingImpaired;
+    track.detail = Entities::DescribeMarks(marks);
+    track.isForced = marks.isForced;
+    return track;
+}
+
+SubtitleTrack const* FindExternalTrack(ioPath const& file, Entities::SubtitleCollection const& collection)
+{
+    auto const found =
+        std::find_if(collection.tracks.begin(), collection.tracks.end(),
+                     [&](auto const& entry)
+                     {
+                         SubtitleTrack const& track = entry.second;
+                         return track.isExternal && (track.path == file || Core::IsSameFile(track.path, file));
+                     });
+    return found == collection.tracks.end() ? nullptr : &found->second;
 }
 
 void CompleteExternalTrack(SubtitleTrack& track, ISubtitleController& controller)
@@ -38,15 +67,9 @@ std::vector<SubtitleTrack> FindNewSidecars(ioPath const& media, Entities::Subtit
     std::vector<SubtitleTrack> tracks;
     if (controller.PathIsDVD(media))
         return tracks;
-    auto const isListed = [&](ioPath const& path)
-    {
-        return std::any_of(collection.tracks.begin(), collection.tracks.end(),
-                           [&](auto const& entry)
-                           { return entry.second.isExternal && Core::IsSameFile(entry.second.path, path); });
-    };
     for (SubtitleTrack& track : FindSidecars(media, controller))
     {
-        if (isListed(track.path))
+        if (FindExternalTrack(track.path, collection) != nullptr)
             continue;
         track.codecId = controller.DetermineSubtitleCodec(track.path);
         if (!track.codecId.empty())

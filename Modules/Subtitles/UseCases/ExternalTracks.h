@@ -19,9 +19,17 @@ namespace Korvex::Converter::Subtitles::UseCases
 {
 
 class ISubtitleController;
+struct SearchResult;
 
 /// The track of a file that the user named, titled with the file's name.
 [[nodiscard]] Entities::SubtitleTrack MakeExternalTrack(ioPath const& file);
+
+/// The track of a file that came from an online service, with the language and the marks that the service told.
+[[nodiscard]] Entities::SubtitleTrack MakeDownloadedTrack(ioPath const& file, SearchResult const& result);
+
+/// The track of a file that is in the collection under any spelling of its path; null when it is not.
+[[nodiscard]] Entities::SubtitleTrack const* FindExternalTrack(ioPath const& file,
+                                                               Entities::SubtitleCollection const& collection);
 
 /// Looks into the file for its codec, where the track does not have it yet, and says what can be edited.
 void CompleteExternalTrack(Entities::SubtitleTrack& track, ISubtitleController& controller);

@@ -10,6 +10,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -55,6 +56,9 @@ public:
     /// (fingerprint). What `media` leaves empty is taken from the file's name and from an `.nfo` file beside it.
     /// Without tags when there is nothing to go by. Reads at most 64 KiB twice of the film and one small file.
     [[nodiscard]] virtual SearchRequest MakeQuery(Entities::SubtitleSearchMediaInfoSettings const& media) const = 0;
+    /// `MakeQuery` to be called later on any thread: it owns all it needs and may outlive the interactor.
+    [[nodiscard]] virtual std::function<SearchRequest()>
+    PrepareQuery(Entities::SubtitleSearchMediaInfoSettings const& media) const = 0;
     /// Starts a search on behalf of a collection. Fingerprint, IMDb id and title are asked for one after the other,
     /// since services find only what agrees with everything in a query; the title is left out where the IMDb id found
     /// something. Anything but `Success` has been reported as failed already.
@@ -67,6 +71,11 @@ public:
     virtual IOnlineSearchController::Status Download(Entities::SubtitleCollectionID collection,
                                                      std::vector<std::shared_ptr<SearchResult>> const& results,
                                                      ioPath const& folder) = 0;
+    /// Like `Download`, but keeps each file in a folder of its own inside `storage`, named after what the service calls
+    /// it. A file that lies there already is reported like a downloaded one, and the service is not asked for it.
+    virtual IOnlineSearchController::Status Fetch(Entities::SubtitleCollectionID collection,
+                                                  std::vector<std::shared_ptr<SearchResult>> const& results,
+                                                  ioPath const& storage) = 0;
     /// True when there was something running to cancel. The service stays busy until the running request's reply has
     /// come.
     virtual bool Cancel() = 0;

@@ -1,9 +1,12 @@
 #include "Subtitles/UseCases/OnlineDownloaderInteractor.h"
 
+#include "Subtitles/UseCases/BackgroundJobs.h"
 #include "Subtitles/UseCases/IOnlineSearchMetadataFiller.h"
+#include "Subtitles/UseCases/IServiceName.h"
 #include "Subtitles/UseCases/OnlineFailureTexts.h"
 #include "Subtitles/UseCases/SearchPlan.h"
 #include "Subtitles/UseCases/SearchQuery.h"
+#include "Subtitles/UseCases/SubtitleStorage.h"
 
 #include "Subtitles/Entities/SearchTags.h"
 #include "Subtitles/Entities/SubtitleSearchMediaInfoSettings.h"
@@ -48,15 +51,32 @@ private:
     std::set<std::tuple<QString, QString, QString, int>> m_seen;
 };
 
+/// One file of a download that keeps each file in a folder of its own.
+struct FetchStep
+{
+    std::shared_ptr<SearchResult> result;
+    ioPath folder;
+    ioPath stored; ///< what lies there already; empty when there is nothing
+};
+
 /// What runs on behalf of a collection.
 struct Operation
 {
     SubtitleCollectionID collection;
-    ioPath folder;                ///< of a download
-    std::deque<SearchStep> steps; ///< searches still to come
+    ioPath folder;                 ///< of a download
+    std::deque<SearchStep> steps;  ///< searches still to come
+    std::deque<FetchStep> fetches; ///< files still to come
     SeenResults seen;
     bool hasFoundInStep = false; ///< something, in the search that runs
 };
+
+/// Reads the disk.
+std::deque<FetchStep> FindStored(std::deque<FetchStep> steps)
+{
+    for (FetchStep& step : steps)
+        step.stored = step.result->facts.serviceId.isEmpty() ? ioPath() : FindStoredSubtitle(step.folder);
+    return steps;
+}
 
 } // namespace
 
@@ -77,14 +97,17 @@ public:
 
     [[nodiscard]] bool IsAvailable() const { return m_service != nullptr; }
 
-    [[nodiscard]] SearchRequest MakeQuery(SubtitleSearchMediaInfoSettings const& media) const
+    [[nodiscard]] std::function<SearchRequest()> PrepareQuery(SubtitleSearchMediaInfoSettings const& media) const
     {
-        SearchRequest request = MakeSearchRequest(DescribeFilm(media));
-        if (media.isDvd || media.path.empty()) // services know the fingerprints of files alone
+        return [media, fillers = m_fillers]
+        {
+            SearchRequest request = MakeSearchRequest(DescribeFilm(media));
+            if (media.isDvd || media.path.empty()) // services know the fingerprints of files alone
+                return request;
+            for (auto const& filler : fillers)
+                filler->FillMetadata(media, request);
             return request;
-        for (auto const& filler : m_fillers)
-            filler->FillMetadata(media, request);
-        return request;
+        };
     }
 
     Status StartSearch(SubtitleCollectionID collection, SearchRequest const& request)
@@ -126,6 +149,21 @@ public:
         return status;
     }
 
+    Status Fetch(SubtitleCollectionID collection, std::vector<std::shared_ptr<SearchResult>> const& results,
+                 ioPath const& storage)
+    {
+        Operation operation;
+        operation.collection = collection;
+        operation.folder = storage;
+        for (auto const& result : results)
+            operation.fetches.push_back({result, MakeFetchFolder(*result, storage), {}});
+        // Whether the service is free has to be told at once, so it is asked for nothing.
+        Status const status = Start(std::move(operation), [&] { return m_service->DownloadSubtitles({}, storage); });
+        if (status == Status::Success)
+            LookForStored();
+        return status;
+    }
+
     bool Cancel()
     {
         bool const wasRunning = m_operation != nullptr;
@@ -164,11 +202,16 @@ public:
     {
         if (!m_operation)
             return;
+        if (!m_operation->fetches.empty())
+        {
+            m_operation->fetches.pop_front();
+            GoOnFetching();
+            return;
+        }
         SkipNeedlessSteps();
         if (m_operation->steps.empty())
         {
-            auto const operation = std::exchange(m_operation, nullptr);
-            m_observers.Notify([&](auto* observer) { observer->OnOperationFinished(operation->collection); });
+            Finish();
         }
         // The service's queue is empty already when it tells of the end, so that it takes the next search at once.
         else if (Status const status = StartStep(); status != Status::Success)
@@ -215,6 +258,59 @@ private:
         return status;
     }
 
+    void Finish()
+    {
+        auto const operation = std::exchange(m_operation, nullptr);
+        m_observers.Notify([&](auto* observer) { observer->OnOperationFinished(operation->collection); });
+    }
+
+    [[nodiscard]] ioPath MakeFetchFolder(SearchResult const& result, ioPath const& storage) const
+    {
+        if (result.facts.serviceId.isEmpty()) // nothing to find it by again
+            return storage;
+        auto const* const named = dynamic_cast<IServiceName const*>(m_service.get());
+        std::string const name = named ? named->GetServiceName() : "subtitle";
+        return storage / MakeStorageName(name, result.facts.serviceId);
+    }
+
+    void LookForStored()
+    {
+        m_jobs.Start(
+            [this, operation = std::weak_ptr<Operation>(m_operation), steps = m_operation->fetches]
+            {
+                return BackgroundJobs::Delivery(
+                    [this, operation, found = FindStored(steps)]
+                    {
+                        auto const current = operation.lock();
+                        if (!current || current != m_operation)
+                            return;
+                        m_operation->fetches = found;
+                        GoOnFetching();
+                    });
+            });
+    }
+
+    /// Reports what is there already, up to the first file that has to be asked for.
+    void GoOnFetching()
+    {
+        auto const operation = m_operation;
+        auto& fetches = operation->fetches;
+        while (!fetches.empty() && !fetches.front().stored.empty())
+        {
+            FetchStep const step = fetches.front();
+            fetches.pop_front();
+            Report([&](auto* observer, SubtitleCollectionID id)
+                   { observer->OnSubtitlesDownloaded(id, step.result, step.stored); });
+            if (m_operation != operation)
+                return;
+        }
+        if (fetches.empty())
+            return Finish();
+        Status const status = m_service->DownloadSubtitles({fetches.front().result}, fetches.front().folder);
+        if (status != Status::Success)
+            OnOperationFailed(status, {});
+    }
+
     Status StartStep()
     {
         if (m_operation->steps.empty())
@@ -252,6 +348,7 @@ private:
     std::vector<std::shared_ptr<IOnlineSearchMetadataFiller>> m_fillers;
     std::shared_ptr<Operation> m_operation; ///< the one that runs; null when none does
     Observers m_observers;
+    BackgroundJobs m_jobs;
     std::optional<Core::ScopedObservation<IOnlineSearchControllerObserver>> m_observation;
 };
 
@@ -281,7 +378,13 @@ bool OnlineDownloaderInteractor::IsAvailable() const
 
 SearchRequest OnlineDownloaderInteractor::MakeQuery(SubtitleSearchMediaInfoSettings const& media) const
 {
-    return m_impl->MakeQuery(media);
+    return PrepareQuery(media)();
+}
+
+std::function<SearchRequest()>
+OnlineDownloaderInteractor::PrepareQuery(SubtitleSearchMediaInfoSettings const& media) const
+{
+    return m_impl->PrepareQuery(media);
 }
 
 Status OnlineDownloaderInteractor::StartSearch(SubtitleCollectionID collection, SearchRequest const& request)
@@ -299,6 +402,13 @@ Status OnlineDownloaderInteractor::Download(SubtitleCollectionID collection,
                                             ioPath const& folder)
 {
     return m_impl->Download(collection, results, folder);
+}
+
+Status OnlineDownloaderInteractor::Fetch(SubtitleCollectionID collection,
+                                         std::vector<std::shared_ptr<SearchResult>> const& results,
+                                         ioPath const& storage)
+{
+    return m_impl->Fetch(collection, results, storage);
 }
 
 bool OnlineDownloaderInteractor::Cancel()

@@ -24,6 +24,7 @@ public:
     void UnregisterEventHandler(IOnlineDownloaderInteractorObserver* observer) override;
     bool IsAvailable() const override;
     SearchRequest MakeQuery(Entities::SubtitleSearchMediaInfoSettings const& media) const override;
+    std::function<SearchRequest()> PrepareQuery(Entities::SubtitleSearchMediaInfoSettings const& media) const override;
     IOnlineSearchController::Status StartSearch(Entities::SubtitleCollectionID collection,
                                                 SearchRequest const& request) override;
     IOnlineSearchController::Status StartSuggest(Entities::SubtitleCollectionID collection,
@@ -31,6 +32,9 @@ public:
     IOnlineSearchController::Status Download(Entities::SubtitleCollectionID collection,
                                              std::vector<std::shared_ptr<SearchResult>> const& results,
                                              ioPath const& folder) override;
+    IOnlineSearchController::Status Fetch(Entities::SubtitleCollectionID collection,
+                                          std::vector<std::shared_ptr<SearchResult>> const& results,
+                                          ioPath const& storage) override;
     bool Cancel() override;
     ServerReport GetServerReport() const override;
 

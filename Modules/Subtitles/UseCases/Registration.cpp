@@ -6,10 +6,12 @@
 #include "Subtitles/UseCases/IMessagesController.h"
 #include "Subtitles/UseCases/IOnlineDownloaderController.h"
 #include "Subtitles/UseCases/IOnlineSearchMetadataFiller.h"
+#include "Subtitles/UseCases/IOnlineSearchPresenter.h"
 #include "Subtitles/UseCases/ISubtitleCollectionPresenter.h"
 #include "Subtitles/UseCases/ISubtitleController.h"
 #include "Subtitles/UseCases/IUseCasesFactory.h"
 #include "Subtitles/UseCases/OnlineDownloaderInteractor.h"
+#include "Subtitles/UseCases/OnlineSearchInteractor.h"
 #include "Subtitles/UseCases/RegistrationGroups.h"
 #include "Subtitles/UseCases/SubtitleCollectionInteractor.h"
 #include "Subtitles/UseCases/SubtitleCollectionInteractorPool.h"
@@ -72,6 +74,7 @@ void RegisterGroupTwo(Hypodermic::ContainerBuilder& builder)
 
 void RegisterGroupThree(Hypodermic::ContainerBuilder& builder)
 {
+    builder.registerType<OnlineSearchInteractor>().as<IOnlineSearchInteractor>().singleInstance();
     builder.registerType<UseCasesFactory>().as<IUseCasesFactory>().singleInstance();
 }
 

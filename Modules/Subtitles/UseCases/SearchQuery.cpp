@@ -221,7 +221,7 @@ void ApplyTitle(SubtitleSearchMediaInfoSettings const& media, SearchedFilm& film
 
 } // namespace
 
-SearchedFilm DescribeFilm(SubtitleSearchMediaInfoSettings const& media)
+SearchedFilm DescribeFilmByName(SubtitleSearchMediaInfoSettings const& media)
 {
     SearchedFilm film;
     film.release = PathReader(media.path).Read();
@@ -240,6 +240,12 @@ SearchedFilm DescribeFilm(SubtitleSearchMediaInfoSettings const& media)
     film.imdbId = CleanImdbId(media.imdbId);
     if (film.imdbId.empty())
         film.imdbId = film.release.imdbId;
+    return film;
+}
+
+SearchedFilm DescribeFilm(SubtitleSearchMediaInfoSettings const& media)
+{
+    SearchedFilm film = DescribeFilmByName(media);
     if (film.imdbId.empty() && !media.isDvd)
         film.imdbId = FindImdbIdInNfo(media.path);
     return film;

@@ -29,6 +29,9 @@ struct SearchedFilm
 /// file beside it.
 [[nodiscard]] KVSUBTITLES_API SearchedFilm DescribeFilm(Entities::SubtitleSearchMediaInfoSettings const& media);
 
+/// The same without looking at the disk: no `.nfo` file is read.
+[[nodiscard]] KVSUBTITLES_API SearchedFilm DescribeFilmByName(Entities::SubtitleSearchMediaInfoSettings const& media);
+
 /// The request for a film by all that services understand: title, IMDb id, season and episode. The year is left out,
 /// since services know films by more than one year. Without tags when there is nothing to go by.
 [[nodiscard]] KVSUBTITLES_API SearchRequest MakeSearchRequest(SearchedFilm const& film);

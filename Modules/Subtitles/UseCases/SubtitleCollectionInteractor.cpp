@@ -4,6 +4,7 @@
 #include "Subtitles/UseCases/ExternalTracks.h"
 #include "Subtitles/UseCases/IMessagesController.h"
 #include "Subtitles/UseCases/IOnlineDownloaderInteractor.h"
+#include "Subtitles/UseCases/IOnlineSearchInteractor.h"
 #include "Subtitles/UseCases/ISubtitleCollectionPresenter.h"
 #include "Subtitles/UseCases/ISubtitleController.h"
 
@@ -48,13 +49,15 @@ public:
          std::shared_ptr<ISubtitleController> const& controller,
          std::shared_ptr<Entities::ISubtitlesInteractor> const& subtitles,
          std::shared_ptr<IOnlineDownloaderInteractor> const& downloader,
-         std::shared_ptr<ITranscoderInteractor> const& transcoder, std::shared_ptr<IMessagesController> const& messages)
+         std::shared_ptr<ITranscoderInteractor> const& transcoder, std::shared_ptr<IMessagesController> const& messages,
+         std::shared_ptr<IOnlineSearchInteractor> const& onlineSearch)
         : m_presenter(presenter),
           m_controller(controller),
           m_subtitles(subtitles),
           m_downloader(downloader),
           m_transcoder(transcoder),
           m_messages(messages),
+          m_onlineSearch(onlineSearch),
           m_collection(std::make_shared<SubtitleCollection>()),
           m_transcoderObservation(*transcoder, *this),
           m_subtitlesObservation(*subtitles, *this),
@@ -149,9 +152,9 @@ public:
             WarnIfForeign(path);
     }
 
-    void OnFindFileRequested(std::string const& /*source*/) override
+    void OnFindFileRequested(std::string const& source) override
     {
-        m_downloader->StartSearch(m_collection->collectionId, m_downloader->MakeQuery(m_media));
+        m_onlineSearch->Open(m_collection->collectionId, m_media, source);
     }
 
     void OnSubtitleTrackSelected(SubtitleTrackID const& id) override
@@ -207,19 +210,14 @@ public:
 
     // The other services
 
-    void OnSubtitlesDownloaded(Entities::SubtitleCollectionID collection,
-                               std::shared_ptr<SearchResult> const& /*result*/, ioPath const& file) override
+    void OnSubtitlesDownloaded(Entities::SubtitleCollectionID collection, std::shared_ptr<SearchResult> const& result,
+                               ioPath const& file) override
     {
-        if (collection == m_collection->collectionId)
-            AddFiles({file});
-    }
-
-    /// Without this the button "Find file" would do nothing where no service is set up, and not say why.
-    void OnOperationFailed(Entities::SubtitleCollectionID collection, IOnlineSearchController::Status /*status*/,
-                           QString const& message) override
-    {
-        if (collection == m_collection->collectionId && !message.isEmpty())
-            m_messages->ShowWarning(message.toStdString());
+        if (collection != m_collection->collectionId || SelectListed(file))
+            return;
+        if (InsertExternalTracks({MakeDownloadedTrack(file, *result)}))
+            FinishAdding(Selection::AddedTrack);
+        WarnIfForeign(file);
     }
 
     void OnSettingsRefreshed() override
@@ -240,6 +238,8 @@ public:
         if (item.subtitleCollectionId != static_cast<std::uint32_t>(m_collection->collectionId))
             return;
         m_media.path = item.path;
+        m_media.title = item.title;
+        m_media.isDvd = m_controller->PathIsDVD(item.path);
         try
         {
             AddSidecars(item.path);
@@ -312,6 +312,18 @@ private:
             "SubtitleCollectionInteractor",
             "No subtitles were found in \"%1\": take it out of the list and choose an SRT, ASS or SSA file.");
         m_messages->ShowWarning(sentence.arg(QString::fromStdString(file.utf8string())).toStdString());
+    }
+
+    /// Whether the file is in the collection, under any spelling of its path; it is the selected one then.
+    bool SelectListed(ioPath const& file)
+    {
+        SubtitleTrack const* const listed = FindExternalTrack(file, *m_collection);
+        if (listed == nullptr)
+            return false;
+        SubtitleTrackID const id = listed->id;
+        m_presenter->SetCurrentTrack(id);
+        OnSubtitleTrackSelected(id);
+        return true;
     }
 
     /// Files that lie beside the film are offered; they never change what the user chose.
@@ -391,6 +403,7 @@ private:
     std::shared_ptr<IOnlineDownloaderInteractor> m_downloader;
     std::shared_ptr<ITranscoderInteractor> m_transcoder;
     std::shared_ptr<IMessagesController> m_messages;
+    std::shared_ptr<IOnlineSearchInteractor> m_onlineSearch;
     Entities::SubtitlePresenterSettings m_presenterSettings;
     Transcoder::Entities::Preset m_preset;
     Entities::SubtitleSearchMediaInfoSettings m_media;
@@ -410,8 +423,9 @@ SubtitleCollectionInteractor::SubtitleCollectionInteractor(
     std::shared_ptr<ISubtitleController> const& controller,
     std::shared_ptr<Entities::ISubtitlesInteractor> const& subtitles,
     std::shared_ptr<IOnlineDownloaderInteractor> const& downloader,
-    std::shared_ptr<ITranscoderInteractor> const& transcoder, std::shared_ptr<IMessagesController> const& messages)
-    : m_impl(std::make_unique<Impl>(presenter, controller, subtitles, downloader, transcoder, messages))
+    std::shared_ptr<ITranscoderInteractor> const& transcoder, std::shared_ptr<IMessagesController> const& messages,
+    std::shared_ptr<IOnlineSearchInteractor> const& onlineSearch)
+    : m_impl(std::make_unique<Impl>(presenter, controller, subtitles, downloader, transcoder, messages, onlineSearch))
 {
 }
 

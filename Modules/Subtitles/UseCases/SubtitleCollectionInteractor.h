@@ -20,6 +20,7 @@ namespace Korvex::Converter::Subtitles::UseCases
 
 class IMessagesController;
 class IOnlineDownloaderInteractor;
+class IOnlineSearchInteractor;
 class ISubtitleCollectionPresenter;
 class ISubtitleController;
 
@@ -31,7 +32,8 @@ public:
                                  std::shared_ptr<Entities::ISubtitlesInteractor> const& subtitles,
                                  std::shared_ptr<IOnlineDownloaderInteractor> const& downloader,
                                  std::shared_ptr<Transcoder::Entities::ITranscoderInteractor> const& transcoder,
-                                 std::shared_ptr<IMessagesController> const& messages);
+                                 std::shared_ptr<IMessagesController> const& messages,
+                                 std::shared_ptr<IOnlineSearchInteractor> const& onlineSearch);
     ~SubtitleCollectionInteractor() override;
 
     void RegisterEventHandler(Entities::ISubtitleCollectionInteractorEventObserver* observer) override;

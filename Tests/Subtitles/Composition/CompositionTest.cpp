@@ -17,7 +17,9 @@
 #include "Subtitles/UseCases/IMessagesController.h"
 #include "Subtitles/UseCases/IOnlineDownloaderController.h"
 #include "Subtitles/UseCases/IOnlineDownloaderInteractor.h"
+#include "Subtitles/UseCases/IOnlineSearchInteractor.h"
 #include "Subtitles/UseCases/IOnlineSearchMetadataFiller.h"
+#include "Subtitles/UseCases/IOnlineSearchPresenter.h"
 #include "Subtitles/UseCases/ISubtitleCollectionPresenter.h"
 #include "Subtitles/UseCases/ISubtitleController.h"
 #include "Subtitles/UseCases/ISubtitleStreamAdapter.h"
@@ -69,7 +71,8 @@ TEST(CompositionTest, RegistersEveryInterfaceOnce)
 {
     auto const container = BuildModule();
     ExpectOneOfEach<Entities::ISubtitleCollectionInteractorPool, UseCases::IOnlineDownloaderInteractor,
-                    UseCases::IUseCasesFactory, UseCases::IAdaptersFactory>(*container, Lifetime::Shared);
+                    UseCases::IOnlineSearchInteractor, UseCases::IOnlineSearchPresenter, UseCases::IUseCasesFactory,
+                    UseCases::IAdaptersFactory>(*container, Lifetime::Shared);
     ExpectOneOfEach<Entities::ISubtitleCollectionInteractor, Entities::ISubtitlesInteractor,
                     UseCases::ISubtitleCollectionPresenter, UseCases::IEditingPresenter, UseCases::ISubtitleController,
                     UseCases::IOnlineDownloaderController, UseCases::ISubtitleStreamAdapter, UseCases::IItemPresenter,

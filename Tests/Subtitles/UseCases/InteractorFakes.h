@@ -1,10 +1,13 @@
 #pragma once
 
 #include "Subtitles/Entities/ISubtitlesInteractor.h"
+#include "Subtitles/Entities/SubtitleSearchMediaInfoSettings.h"
 #include "Subtitles/UseCases/IMessagesController.h"
 #include "Subtitles/UseCases/IOnlineDownloaderInteractor.h"
+#include "Subtitles/UseCases/IOnlineSearchInteractor.h"
 #include "Subtitles/UseCases/ISubtitleCollectionPresenter.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -89,38 +92,87 @@ public:
     std::vector<std::string> sentences;
 };
 
+/// Accepts what it is asked for and writes it down.
 class FakeDownloader final : public UseCases::IOnlineDownloaderInteractor
 {
 public:
     using Observer = UseCases::IOnlineDownloaderInteractorObserver;
     using Status = UseCases::IOnlineSearchController::Status;
+    using Results = std::vector<std::shared_ptr<UseCases::SearchResult>>;
 
     void RegisterEventHandler(Observer* observer) override { m_observers.RegisterEventHandler(observer); }
     void UnregisterEventHandler(Observer* observer) override { m_observers.UnregisterEventHandler(observer); }
     bool IsAvailable() const override { return true; }
-    UseCases::SearchRequest MakeQuery(Entities::SubtitleSearchMediaInfoSettings const&) const override { return {}; }
-    Status StartSearch(Entities::SubtitleCollectionID, UseCases::SearchRequest const&) override { return {}; }
+    UseCases::SearchRequest MakeQuery(Entities::SubtitleSearchMediaInfoSettings const& media) const override
+    {
+        return PrepareQuery(media)();
+    }
+    std::function<UseCases::SearchRequest()>
+    PrepareQuery(Entities::SubtitleSearchMediaInfoSettings const&) const override
+    {
+        return readFilm;
+    }
+    Status StartSearch(Entities::SubtitleCollectionID collection, UseCases::SearchRequest const& request) override
+    {
+        std::string text = "search";
+        for (auto const& [tag, value] : request.tags)
+            text += " " + tag + "=" + value;
+        return Start(collection, text);
+    }
     Status StartSuggest(Entities::SubtitleCollectionID, QString const&) override { return {}; }
-    Status Download(Entities::SubtitleCollectionID, std::vector<std::shared_ptr<UseCases::SearchResult>> const&,
-                    ioPath const&) override
+    Status Download(Entities::SubtitleCollectionID collection, Results const& results, ioPath const& folder) override
     {
-        return {};
+        return Start(collection, "download " + std::to_string(results.size()) + " " + folder.utf8string());
     }
-    bool Cancel() override { return false; }
-    UseCases::ServerReport GetServerReport() const override { return {}; }
+    Status Fetch(Entities::SubtitleCollectionID collection, Results const& results, ioPath const& storage) override
+    {
+        return Start(collection, "fetch " + std::to_string(results.size()) + " " + storage.utf8string());
+    }
+    bool Cancel() override
+    {
+        calls.push_back("cancel");
+        return true;
+    }
+    UseCases::ServerReport GetServerReport() const override { return report; }
 
-    void Deliver(Entities::SubtitleCollectionID collection, ioPath const& file)
+    template <typename Event>
+    void Raise(Event const& event)
     {
-        m_observers.Notify([&](auto* observer) { observer->OnSubtitlesDownloaded(collection, nullptr, file); });
+        m_observers.Notify(event);
     }
-    void Fail(Entities::SubtitleCollectionID collection, QString const& message)
-    {
-        m_observers.Notify([&](auto* observer)
-                           { observer->OnOperationFailed(collection, Status::UnsupportedSearch, message); });
-    }
+
+    std::function<UseCases::SearchRequest()> readFilm = [] { return UseCases::SearchRequest(); };
+    UseCases::ServerReport report;
+    Status answer = Status::Success; ///< to start calls
+    std::vector<std::string> calls;
 
 private:
+    Status Start(Entities::SubtitleCollectionID collection, std::string const& call)
+    {
+        if (answer != Status::Success)
+            Raise([&](auto* observer) { observer->OnOperationFailed(collection, answer, "Refused."); });
+        else
+            calls.push_back(call);
+        return answer;
+    }
+
     Core::EventHandlerList<Observer> m_observers;
+};
+
+class FakeOnlineSearch final : public UseCases::IOnlineSearchInteractor
+{
+public:
+    void RegisterEventHandler(UseCases::ISearchDialogStatisticObserver*) override {}
+    void UnregisterEventHandler(UseCases::ISearchDialogStatisticObserver*) override {}
+    void Open(Entities::SubtitleCollectionID, Entities::SubtitleSearchMediaInfoSettings const& media,
+              std::string const& source) override
+    {
+        opened.push_back(source + ": " + media.path.utf8string() + ", " + media.title);
+    }
+    void Close() override {}
+    void SetDownloadFolder(ioPath const&) override {}
+
+    std::vector<std::string> opened;
 };
 
 } // namespace Korvex::Converter::Subtitles::Testing

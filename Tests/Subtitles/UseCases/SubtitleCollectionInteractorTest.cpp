@@ -2,6 +2,7 @@
 #include "Subtitles/Fakes/FakeTranscoder.h"
 #include "Subtitles/UseCases/InteractorFakes.h"
 
+#include "Subtitles/UseCases/SearchResult.h"
 #include "Subtitles/UseCases/SubtitleCollectionInteractor.h"
 
 #include "Core/FileSystem.h"
@@ -61,8 +62,9 @@ protected:
     std::shared_ptr<Testing::FakeDownloader> m_downloader = std::make_shared<Testing::FakeDownloader>();
     std::shared_ptr<Testing::FakeTranscoder> m_transcoder = std::make_shared<Testing::FakeTranscoder>();
     std::shared_ptr<Testing::FakeMessages> m_messages = std::make_shared<Testing::FakeMessages>();
-    SubtitleCollectionInteractor m_interactor{m_presenter,  m_controller, m_subtitles,
-                                              m_downloader, m_transcoder, m_messages};
+    std::shared_ptr<Testing::FakeOnlineSearch> m_onlineSearch = std::make_shared<Testing::FakeOnlineSearch>();
+    SubtitleCollectionInteractor m_interactor{m_presenter,  m_controller, m_subtitles,   m_downloader,
+                                              m_transcoder, m_messages,   m_onlineSearch};
     std::vector<SubtitleCollection> m_applied;
 };
 
@@ -226,19 +228,60 @@ TEST_F(SubtitleCollectionInteractorTest, SaysOnceWhichOfTheChosenFilesHoldNoSubt
     EXPECT_EQ(m_messages->sentences.size(), 1u) << "listed already, or not chosen by hand";
 }
 
-TEST_F(SubtitleCollectionInteractorTest, TakesDownloadsForItsOwnCollection)
+TEST_F(SubtitleCollectionInteractorTest, TakesDownloadsForItsOwnCollectionWithWhatTheServiceSays)
 {
     SubtitleCollection const given;
     m_interactor.SetSubtitleCollection(given, true);
-    m_downloader->Deliver(Entities::SubtitleCollectionID(), "other.srt");
+    SearchResult result;
+    result.facts.language = Entities::Language::LanguageID::German;
+    result.facts.isForeignPartsOnly = true;
+    result.facts.isHearingImpaired = true;
+    auto const deliver = [&](Entities::SubtitleCollectionID collection, ioPath const& file)
+    {
+        m_downloader->Raise(
+            [&](auto* observer)
+            { observer->OnSubtitlesDownloaded(collection, std::make_shared<SearchResult>(result), file); });
+    };
+    deliver(Entities::SubtitleCollectionID(), "other.srt");
     EXPECT_TRUE(m_interactor.GetSubtitleCollection().tracks.empty());
-    m_downloader->Deliver(given.collectionId, "mine.srt");
-    EXPECT_EQ(m_interactor.GetSubtitleCollection().currentTrack, SubtitleTrackID(ioPath("mine.srt")));
 
-    m_downloader->Fail(Entities::SubtitleCollectionID(), "another film's");
-    m_downloader->Fail(given.collectionId, QString());
-    m_downloader->Fail(given.collectionId, "No service is set up.");
-    EXPECT_EQ(m_messages->sentences, Calls{"No service is set up."});
+    deliver(given.collectionId, "fetched/mine.srt");
+    SubtitleTrackID const mine(ioPath("fetched/mine.srt"));
+    SubtitleTrack const track = m_interactor.GetSubtitleCollection().tracks.at(mine);
+    EXPECT_EQ(track.title, "mine.srt");
+    EXPECT_EQ(track.language, "de");
+    EXPECT_EQ(track.detail, "Forced SDH");
+    EXPECT_TRUE(track.isForced && track.isExternal);
+    EXPECT_EQ(m_interactor.GetSubtitleCollection().currentTrack, mine);
+
+    result.facts.language = Entities::Language::LanguageID::None;
+    result.facts.languageCode = "XX";
+    deliver(given.collectionId, "next.srt");
+    SubtitleTrackID const next(ioPath("next.srt"));
+    EXPECT_EQ(m_interactor.GetSubtitleCollection().tracks.at(next).language, "xx");
+    m_presenter->Raise([](auto* observer) { observer->OnNoSubtitlesSelected(); });
+    ForgetCalls();
+    deliver(given.collectionId, "fetched/mine.srt");
+    EXPECT_EQ(m_presenter->calls, Calls{"current fetched/mine.srt"}) << "listed already";
+    EXPECT_EQ(m_interactor.GetSubtitleCollection().currentTrack, mine);
+    EXPECT_EQ(m_interactor.GetSubtitleCollection().withoutSubtitles, 0);
+    EXPECT_EQ(m_controller->calls, Testing::SETTINGS_MADE);
+
+    EXPECT_TRUE(m_messages->sentences.empty());
+    deliver(given.collectionId, "page.html");
+    EXPECT_EQ(m_messages->sentences.size(), 1U) << "it holds no subtitles";
+    m_downloader->Raise([&](auto* observer)
+                        { observer->OnOperationFailed(given.collectionId, IOnlineSearchController::Busy, "Busy."); });
+    EXPECT_EQ(m_messages->sentences.size(), 1U) << "the dialog tells failures";
+}
+
+TEST_F(SubtitleCollectionInteractorTest, OpensTheOnlineSearchForItsFilm)
+{
+    SubtitleCollection const given;
+    m_interactor.SetSubtitleCollection(given, true);
+    m_transcoder->AddMediaItem({"/none/Movie.mkv", static_cast<std::uint32_t>(given.collectionId), "The Movie"});
+    m_presenter->Raise([](auto* observer) { observer->OnFindFileRequested("itemPanel"); });
+    EXPECT_EQ(m_onlineSearch->opened, Calls{"itemPanel: /none/Movie.mkv, The Movie"});
 }
 
 /// Subtitle files beside a film.

@@ -19,6 +19,11 @@ RESTSearchEngine::RESTSearchEngine(std::shared_ptr<INetworkManager> const& netwo
 
 RESTSearchEngine::~RESTSearchEngine() = default;
 
+std::string RESTSearchEngine::GetServiceName() const
+{
+    return "opensubtitles-0";
+}
+
 void RESTSearchEngine::ConfigureNetwork()
 {
     QString baseUrl = QString::fromStdString(App::GetActiveConfiguration().openSubtitlesLegacyUrl).trimmed();

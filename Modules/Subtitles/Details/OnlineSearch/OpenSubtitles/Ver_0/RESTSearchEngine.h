@@ -2,6 +2,7 @@
 
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/RESTSearchEngine.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTNetworkConfiguration.h"
+#include "Subtitles/UseCases/IServiceName.h"
 
 namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
 {
@@ -12,7 +13,7 @@ namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_0
 {
 
 /// The legacy service: a search is one request for each language, a download is one archive.
-class KVSUBTITLES_API RESTSearchEngine final : public OpenSubtitles::RESTSearchEngine
+class KVSUBTITLES_API RESTSearchEngine final : public OpenSubtitles::RESTSearchEngine, public UseCases::IServiceName
 {
     Q_OBJECT
 
@@ -21,6 +22,8 @@ public:
     RESTSearchEngine(std::shared_ptr<INetworkManager> const& networkManager,
                      std::shared_ptr<IRESTRequestFactory> const& requestFactory);
     ~RESTSearchEngine() override;
+
+    [[nodiscard]] std::string GetServiceName() const override;
 
 protected:
     void AddSearchRequest(UseCases::SearchRequest const& request) override;

@@ -18,6 +18,11 @@ RESTSearchEngine::RESTSearchEngine(std::shared_ptr<INetworkManager> const& netwo
 
 RESTSearchEngine::~RESTSearchEngine() = default;
 
+std::string RESTSearchEngine::GetServiceName() const
+{
+    return "opensubtitles-1";
+}
+
 void RESTSearchEngine::ConfigureNetwork()
 {
     App::Configuration const configuration = App::GetActiveConfiguration();

@@ -2,6 +2,7 @@
 
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/RESTSearchEngine.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_1/RESTNetworkConfiguration.h"
+#include "Subtitles/UseCases/IServiceName.h"
 
 #include <memory>
 
@@ -14,7 +15,7 @@ namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_1
 {
 
 /// The service by its version 1. Address and key are those of the configuration in force when the engine is made.
-class KVSUBTITLES_API RESTSearchEngine final : public OpenSubtitles::RESTSearchEngine
+class KVSUBTITLES_API RESTSearchEngine final : public OpenSubtitles::RESTSearchEngine, public UseCases::IServiceName
 {
     Q_OBJECT
 
@@ -22,6 +23,8 @@ public:
     RESTSearchEngine(std::shared_ptr<INetworkManager> const& networkManager,
                      std::shared_ptr<IRESTRequestFactory> const& requestFactory);
     ~RESTSearchEngine() override;
+
+    [[nodiscard]] std::string GetServiceName() const override;
 
 private:
     void ConfigureNetwork();
