@@ -1,7 +1,6 @@
 #include "Hosts/Desktop/FilmFixture.h"
 
 #include "App/Configuration.h"
-#include "Core/FileSystem.h"
 
 #include <QtTest/QTest>
 
@@ -12,15 +11,6 @@ using Desktop::Film;
 using Desktop::FilmState;
 
 FilmFixture::FilmFixture() : m_services(App::Configuration()), m_list(m_services) {}
-
-MadeSubtitle FilmFixture::MakeSubtitle(std::string const& codecId, std::string const& language)
-{
-    MadeSubtitle subtitle;
-    subtitle.codecId = codecId;
-    subtitle.cues = codecId == "hdmv_pgs_subtitle" ? MakeBoxCues() : MakeTextCues();
-    subtitle.language = language;
-    return subtitle;
-}
 
 ioPath FilmFixture::MakeFilm(std::string const& name, std::vector<MadeSubtitle> subtitles)
 {
@@ -34,8 +24,7 @@ ioPath FilmFixture::MakeFilm(std::string const& name, std::vector<MadeSubtitle> 
 
 ioPath FilmFixture::WriteText(std::string const& name, std::string const& bytes)
 {
-    EXPECT_EQ(Core::WriteFile(m_folder / name, bytes, true), Core::SUCCESS);
-    return m_folder / name;
+    return m_folder.Write(name, bytes);
 }
 
 Film& FilmFixture::Open(ioPath const& path)

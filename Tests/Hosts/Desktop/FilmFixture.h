@@ -23,7 +23,6 @@ class FilmFixture : public testing::Test
 protected:
     FilmFixture();
 
-    [[nodiscard]] static MadeSubtitle MakeSubtitle(std::string const& codecId, std::string const& language);
     /// With picture and sound, so that subtitles begin at stream 2.
     ioPath MakeFilm(std::string const& name, std::vector<MadeSubtitle> subtitles = {});
     ioPath WriteText(std::string const& name, std::string const& bytes);

@@ -2,16 +2,12 @@
 #include "Subtitles/Fakes/TrackListClicks.h"
 #include "Support/WidgetSupport.h"
 
-#include "Desktop/Preview/PreviewPane.h"
-
 #include "Core/FileSystem.h"
 #include "Proc/MediaInfo.h"
 #include "Proc/Settings.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
-#include <QColor>
-#include <QColorDialog>
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
@@ -24,15 +20,12 @@
 #include <QTimer>
 #include <QtTest/QTest>
 
-#include <algorithm>
-
 namespace Korvex::Testing
 {
 
 using Converter::Subtitles::Testing::ClickTrackRow;
 using Desktop::ConversionState;
 using Desktop::Film;
-using testing::HasSubstr;
 
 namespace
 {
@@ -54,20 +47,6 @@ protected:
         box.selectAll();
         QTest::keyClicks(&box, text);
         QTest::keyClick(&box, Qt::Key_Return);
-    }
-
-    static void PickColor(QColor const& color)
-    {
-        QColorDialog* dialog = nullptr;
-        WaitUntil(
-            [&dialog]
-            {
-                dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
-                return dialog != nullptr;
-            });
-        ASSERT_NE(dialog, nullptr);
-        dialog->setCurrentColor(color);
-        QTest::keyClick(dialog, Qt::Key_Return);
     }
 
     /// Presses the button of that role once a question stands.
@@ -145,8 +124,6 @@ TEST_F(MainWindowTest, FromDropToConvertedFilm)
 
     ChooseInPanel(3); // after "no subtitles", "all tracks" and the film's own
     WaitUntil([&film] { return film.GetMixerSettings() != nullptr; });
-    Click("textColorPicker");
-    PickColor(QColor(0xFF, 0xCC, 0x00));
     TypeInto("alignSpinBox", QStringLiteral("40"));
     TypeInto("syncSpinBox", QLocale().toString(1.5));
 
@@ -154,8 +131,6 @@ TEST_F(MainWindowTest, FromDropToConvertedFilm)
     ASSERT_NE(settings, nullptr);
     EXPECT_EQ(settings->GetFilename(), russian);
     Proc::SettingsSubtitleDrawer const& drawer = settings->GetDrawerSettings();
-    Proc::RgbColor const color = drawer.GetAssRendererSettings().GetPrimaryColour();
-    EXPECT_EQ(QColor(color.red, color.green, color.blue), QColor(0xFF, 0xCC, 0x00));
     EXPECT_EQ(drawer.GetMoveUp(), 40);
     EXPECT_EQ(drawer.GetTimeShift(), 1'500'000);
 
@@ -279,8 +254,6 @@ TEST_F(MainWindowTest, WhatAConversionChangesOrMissesIsToldAtOnce)
     WaitUntil([&sentence] { return sentence.text().contains(QLatin1String("loses its styles")); });
     WaitUntil([this] { return Get<QLabel>("previewHint").text().contains(QLatin1String("loses its styles")); });
     WaitUntil([this] { return ListNoticeButtons().size() == 2; });
-    ForEachTheme([this](QString const& theme)
-                 { SaveScreenshot(GetWindow(), QStringLiteral("window-remark-") + theme); });
     PressNoticeButton(QStringLiteral("Choose Matroska"));
     WaitUntil([this] { return !Get<QWidget>("noticeBar").isVisible(); });
 
@@ -379,31 +352,6 @@ TEST_F(MainWindowTest, ClosingAsksWhileFilmsAreConverted)
     EXPECT_TRUE(GetQueue().IsPaused());
     AnswerNextQuestion(QMessageBox::DestructiveRole);
     EXPECT_TRUE(GetWindow().close());
-}
-
-TEST_F(MainWindowTest, NothingStaysEnglishInGerman)
-{
-    Film& film = AddFilm(MakeFilm("Voyage.mkv", {MakeSubtitle("hdmv_pgs_subtitle", "en")}));
-    WriteText("Voyage.ru.srt", RUSSIAN_SRT);
-    ChooseFormat(QStringLiteral("MP4"));
-    Show(film);
-    auto const& preview = Get<Desktop::PreviewPane>("previewPane");
-    WaitUntil([&preview] { return !preview.GetPicture().isNull(); });
-    std::vector<QString> const english = ListCaptions();
-    EXPECT_GT(english.size(), 60U); // menus, panel, list, notice, output
-
-    Trigger("language_de");
-    auto const& sentence = Get<QLabel>("noticeSentence");
-    WaitUntil([&sentence, before = sentence.text()] { return sentence.text() != before; });
-    // Names, and words that both languages share.
-    QStringList const same{QStringLiteral("Film"), QStringLiteral("Format"), QStringLiteral("Verdana")};
-    for (QString const& caption : ListCaptions())
-    {
-        bool const isKnown = std::find(english.begin(), english.end(), caption) != english.end();
-        EXPECT_TRUE(!isKnown || same.contains(caption)) << qPrintable(caption);
-    }
-    QTest::qWait(100); // layouts that follow the texts
-    ForEachTheme([this](QString const& theme) { SaveScreenshot(GetWindow(), QStringLiteral("window-de-") + theme); });
 }
 
 } // namespace Korvex::Testing

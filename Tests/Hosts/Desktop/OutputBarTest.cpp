@@ -11,9 +11,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
-#include <QTranslator>
-
-#include <map>
 
 namespace Korvex::Desktop
 {
@@ -21,33 +18,6 @@ namespace
 {
 
 using namespace std::chrono_literals;
-
-/// The longest of the languages, as far as this bar is concerned.
-class German final : public QTranslator
-{
-public:
-    German() { QCoreApplication::installTranslator(this); }
-
-    bool isEmpty() const override { return false; }
-    QString translate(char const* /*context*/, char const* source, char const* /*comment*/, int /*n*/) const override
-    {
-        static std::map<std::string, char const*> const TEXTS{
-            {"&Format", "&Format"},
-            {"&Quality", "&Qualität"},
-            {"Same as source", "Wie die Quelle"},
-            {"&Save", "&Speichern"},
-            {"Beside each film", "Neben jedem Film"},
-            {"&Convert all", "Alle &umwandeln"},
-            {"Only &this film", "Nur &diesen Film"},
-            {"&Pause", "&Anhalten"},
-            {"Ca&ncel", "A&bbrechen"},
-            {"less than a minute left", "noch weniger als eine Minute"},
-            {"%1 h %n min left", "noch %1 Std. %n Min."},
-        };
-        auto const found = TEXTS.find(source);
-        return found == TEXTS.end() ? QString() : QString::fromUtf8(found->second);
-    }
-};
 
 class OutputBarTest : public testing::Test
 {
@@ -77,56 +47,21 @@ protected:
     std::string m_asked;
 };
 
-TEST_F(OutputBarTest, FitsANarrowWindowInGermanAndInBothThemes)
+TEST_F(OutputBarTest, ALongFolderDoesNotWidenItAndAWideWindowHasOneRow)
 {
-    ConversionSummary summary;
-    summary.fraction = 0.37;
-    summary.remaining = 11h + 39min;
     OutputSettings settings;
-    settings.formatId = "mpegts";
+    settings.folder = ioPath("/home/somebody/Films/Converted for the living room & the train");
     Testing::ShowAndWait(m_bar);
+    for (int const width : {900, 1280, 1700})
     {
-        German const german;
+        m_bar.ShowSettings(settings);
+        m_bar.ShowConversion(ConversionSummary{0.37, 11h + 39min, false});
+        m_bar.resize(width, m_bar.sizeHint().height());
         QApplication::processEvents();
-        Testing::ForEachTheme(
-            [&](QString const& theme)
-            {
-                m_bar.ShowSettings(settings);
-                m_bar.SetConvertible(true, true);
-                m_bar.ShowConversion(summary);
-                m_bar.resize(900, m_bar.sizeHint().height());
-                QApplication::processEvents();
-                EXPECT_LE(m_bar.minimumSizeHint().width(), 900);
-                EXPECT_EQ(Button("convertAllButton").text(), QStringLiteral("Alle &umwandeln"));
-                for (auto const* child : m_bar.findChildren<QPushButton*>())
-                {
-                    bool const isShortenedByRule = child->objectName() == QLatin1String("outputFolderButton");
-                    EXPECT_TRUE(isShortenedByRule || child->width() >= child->sizeHint().width())
-                        << child->objectName().toStdString();
-                }
-                Testing::SaveScreenshot(m_bar, "output-bar-" + theme);
-                OutputSettings elsewhere;
-                elsewhere.folder = ioPath("/home/somebody/Films/Converted for the living room & the train");
-                m_bar.ShowSettings(elsewhere);
-                m_bar.ShowConversion(std::nullopt);
-                QApplication::processEvents();
-                EXPECT_EQ(m_bar.width(), 900) << "a long path widens it";
-                Testing::SaveScreenshot(m_bar, "output-bar-idle-" + theme);
-            });
+        EXPECT_EQ(m_bar.width(), width);
+        EXPECT_LE(Button("outputFolderButton").width(), 320);
     }
-    QApplication::processEvents();
-    EXPECT_EQ(Button("convertAllButton").text(), QStringLiteral("&Convert all")) << "back at run time";
-
-    m_bar.resize(1280, m_bar.sizeHint().height());
-    QApplication::processEvents();
-    EXPECT_LT(Button("convertAllButton").y(), Find<QComboBox>("formatCombo").geometry().bottom()) << "one row";
-    Testing::SaveScreenshot(m_bar, "output-bar-wide");
-    m_bar.resize(1700, m_bar.sizeHint().height());
-    m_bar.ShowConversion(summary);
-    QApplication::processEvents();
     EXPECT_LT(Button("convertAllButton").y(), Find<QComboBox>("formatCombo").geometry().bottom());
-    EXPECT_LE(Button("outputFolderButton").width(), 320);
-    Testing::SaveScreenshot(m_bar, "output-bar-wide-converting");
 }
 
 TEST_F(OutputBarTest, TellsWhatTheUserDoesAndNothingElse)
@@ -183,6 +118,8 @@ TEST(TimeTextsTest, NoMoreExactThanAnybodyCanKnow)
     EXPECT_EQ(FormatTimeLeft(59min + 40s), QStringLiteral("1 h left"));
     EXPECT_EQ(FormatTimeLeft(2h + 5min + 10s), QStringLiteral("2 h 5 min left"));
     EXPECT_EQ(FormatTimeLeft(30h), QStringLiteral("30 h left"));
+    EXPECT_EQ(FormatTime(65s, 600s), QStringLiteral("01:05"));
+    EXPECT_EQ(FormatTime(65s, 2h), QStringLiteral("0:01:05"));
 }
 
 } // namespace

@@ -7,9 +7,7 @@
 #include "Desktop/Films/OutputSettings.h"
 #include "Desktop/Preview/CueStrip.h"
 #include "Desktop/Preview/PreviewPane.h"
-#include "Desktop/Preview/PreviewTimes.h"
 #include "Desktop/Preview/TimeSlider.h"
-#include "Desktop/Words/TimeTexts.h"
 
 #include "Proc/Preview.h"
 #include "Subtitles/Entities/SubtitleTextSettings.h"
@@ -135,7 +133,6 @@ TEST_F(PreviewPaneTest, ShowsThePictureThatTheConverterWrites)
 TEST_F(PreviewPaneTest, GoesToCuesByButtonKeyAndClickAndStepsByKeys)
 {
     ShowTextDrawn();
-    SaveScreenshot(m_pane, "preview-pane");
     auto& next = Find<QToolButton>("nextCueButton");
     auto& previous = Find<QToolButton>("previousCueButton");
     QTest::mouseClick(&next, Qt::LeftButton);
@@ -170,7 +167,6 @@ TEST_F(PreviewPaneTest, GoesToALineOfTheTrackThatTheUserChoosesAndSaysWhereThere
     EXPECT_EQ(hint(), "No line here: Ctrl+Right goes to the next one.");
     m_pane.SetTime(milliseconds(1900));
     EXPECT_EQ(hint(), "No line here: Ctrl+Left goes to the one before.");
-    SaveScreenshot(m_pane, "preview-pane-no-line");
 
     // The look of the same track, and a track that is drawn in when the film comes, move nothing.
     film.SetLook({40, QFont("Sans", 34), {}, {}, Converter::Subtitles::Entities::SubtitleAlign::Top});
@@ -205,7 +201,6 @@ TEST_F(PreviewPaneTest, SaysWhyThereIsNothingToSee)
     Settle();
     EXPECT_THAT(Find<QLabel>("previewHint").text().toStdString(), testing::HasSubstr("Choose one"));
     EXPECT_FALSE(Find<QToolButton>("nextCueButton").isEnabled());
-    ForEachTheme([this](QString const& theme) { SaveScreenshot(m_pane, "preview-pane-soft-" + theme); });
 
     Film& broken = Open(WriteText("broken.mkv", "no film"));
     m_pane.ShowFilm(&broken);
@@ -216,12 +211,4 @@ TEST_F(PreviewPaneTest, SaysWhyThereIsNothingToSee)
     m_list.Remove(film.GetId());
     WaitUntil([this] { return Sentence() == "Drop films here."; });
     EXPECT_TRUE(m_pane.GetPicture().isNull());
-}
-
-TEST(PreviewTimesTest, TimesReadAsPeopleWriteThem)
-{
-    using std::chrono::seconds;
-    EXPECT_EQ(Desktop::FormatTime(seconds(65), seconds(600)).toStdString(), "01:05");
-    EXPECT_EQ(Desktop::FormatTime(seconds(65), seconds(7200)).toStdString(), "0:01:05");
-    EXPECT_EQ(Desktop::FormatTime(seconds(36'000), {}).toStdString(), "10:00:00");
 }

@@ -5,11 +5,9 @@
 #include "Desktop/TextHelp/AlternativeButton.h"
 #include "Desktop/TextHelp/TextHelpPane.h"
 #include "Desktop/TextHelp/TextHelpView.h"
-#include "Desktop/Words/Languages.h"
 
 #include "Subtitles/Entities/SubtitleCollection.h"
 
-#include "Core/FileSystem.h"
 #include "Gui/KLabel.h"
 #include "Proc/Text/SystemEncoder.h"
 #include "Support/WidgetSupport.h"
@@ -29,15 +27,7 @@ using testing::HasSubstr;
 class TextHelpTest : public testing::Test
 {
 protected:
-    TextHelpTest() : m_folder(*Core::CreateWorkFolder()) {}
-    ~TextHelpTest() override { Core::RemoveWorkFolder(m_folder); }
-
-    ioPath Write(std::string const& name, std::string const& bytes) const
-    {
-        ioPath const path = m_folder / name;
-        EXPECT_FALSE(Core::WriteFile(path, bytes, true));
-        return path;
-    }
+    ioPath Write(std::string const& name, std::string const& bytes) const { return m_folder.Write(name, bytes); }
 
     /// What the reader answers; fails the test when nothing comes.
     TextHelp Read(TextHelpRequest const& request)
@@ -51,7 +41,7 @@ protected:
         return answer.value_or(TextHelp());
     }
 
-    ioPath const m_folder;
+    Testing::TemporaryFolder const m_folder;
     TextHelpReader m_reader;
 };
 
@@ -73,18 +63,6 @@ std::vector<std::string> VisibleTexts(QWidget const& widget)
             texts.push_back(label->text().toStdString());
     }
     return texts;
-}
-
-/// Labels without an ellipsis of their own have room for all of their text.
-void ExpectNothingClipped(QWidget const& widget)
-{
-    for (QLabel const* label : widget.findChildren<QLabel*>())
-    {
-        if (label->isVisible() && label->wordWrap())
-        {
-            EXPECT_GE(label->height(), label->heightForWidth(label->width())) << label->text().toStdString();
-        }
-    }
 }
 
 std::vector<std::string> const RUSSIAN = {"Ты опять опоздал на поезд?", "Я ждал тебя целый час.",
@@ -176,44 +154,6 @@ TEST_F(TextHelpTest, AnswersTheNewestRequestOnly)
     dropped.Request({longFile, std::nullopt, "", "DejaVu Sans"});
 }
 
-TEST_F(TextHelpTest, FitsIntoANarrowPane)
-{
-    ioPath const russian = Write("film.srt", Testing::EncodeText(MakeSubRip(RUSSIAN), "CP1251"));
-    ioPath const hebrew =
-        Write("film.he.srt",
-              Testing::EncodeText(MakeSubRip({"לאן אתה הולך עכשיו?", "אני חוזר הביתה, כבר מאוחר."}), "ISO-8859-8"));
-    std::vector<std::pair<QString, TextHelp>> const cases = {
-        {"wrong", Read({russian, std::nullopt, "CP1250", "Verdana"})},
-        {"bytes", Read({russian, std::nullopt, "UTF-8", "Noto Sans Hebrew"})},
-        {"right-to-left", Read({hebrew, std::nullopt, "", "Noto Sans"})},
-    };
-    static constexpr int NARROWEST = 280;
-    auto const check = [](TextHelp const& help, QString const& name)
-    {
-        TextHelpView view;
-        view.Show(help);
-        view.resize(NARROWEST, view.heightForWidth(NARROWEST));
-        Testing::ShowAndWait(view);
-        EXPECT_LE(view.minimumSizeHint().width(), NARROWEST);
-        ExpectNothingClipped(view);
-        Testing::SaveScreenshot(view, "text-help-" + name);
-    };
-    Testing::ForEachTheme(
-        [&](QString const& theme)
-        {
-            for (auto const& [name, help] : cases)
-                check(help, name + '-' + theme);
-        });
-    Languages languages;
-    for (Language const& language : Languages::List())
-    {
-        languages.Switch(language.code);
-        for (auto const& [name, help] : cases)
-            check(help, name + '-' + language.code);
-    }
-    QLocale::setDefault(QLocale::c());
-}
-
 class TextHelpPaneTest : public Testing::FilmFixture
 {
 };
@@ -221,7 +161,7 @@ class TextHelpPaneTest : public Testing::FilmFixture
 TEST_F(TextHelpPaneTest, FollowsTheDrawnTrackAndSetsItsEncoding)
 {
     using Converter::Subtitles::Entities::SubtitleEncoding;
-    Film& film = Open(MakeFilm("film.mkv", {MakeSubtitle("subrip", "ger")}));
+    Film& film = Open(MakeFilm("film.mkv", {Testing::MakeSubtitle("subrip", "ger")}));
     ioPath const russian = WriteText("other.srt", Testing::RUSSIAN_SRT);
     Testing::SubtitleTrackID const added(russian);
     film.AddSubtitleFiles({russian});
@@ -244,7 +184,7 @@ TEST_F(TextHelpPaneTest, FollowsTheDrawnTrackAndSetsItsEncoding)
     film.ChooseTrack(Testing::SubtitleTrackID(2));
     WaitUntil([&] { return !sample->isVisible(); });
     // Nor has a container an encoding to choose, whatever it holds.
-    ioPath const other = MakeFilm("other.mks", {MakeSubtitle("subrip", "fre")});
+    ioPath const other = MakeFilm("other.mks", {Testing::MakeSubtitle("subrip", "fre")});
     film.AddSubtitleFiles({other});
     film.ChooseTrack(Testing::SubtitleTrackID(other));
     WaitUntil([&] { return film.GetDrawnTrack() && film.GetDrawnTrack()->path.utf8string() == other.utf8string(); });

@@ -109,13 +109,9 @@ TEST_F(TrackMenuTest, TakesWhatTheUserWritesOfAnAddedFile)
     auto* const language = dialog->findChild<QComboBox*>("languageComboBox")->lineEdit();
     EXPECT_EQ(language->text().toStdString(), "English");
     EXPECT_TRUE(language->hasFocus());
-    ForEachTheme([&](QString const& theme) { SaveScreenshot(*dialog, "track-properties-" + theme); });
-
     QTest::keyClicks(language, "Klingon");
     auto const* const hint = dialog->findChild<QLabel*>("languageHint");
     EXPECT_TRUE(hint->isVisible());
-    EXPECT_GE(hint->height(), hint->heightForWidth(hint->width())) << "it is shown whole";
-    SaveScreenshot(*dialog, "track-properties-unknown");
     QTest::keyClick(language, Qt::Key_Return);
     ASSERT_TRUE(dialog && dialog->isVisible()) << "a language that is none cannot be accepted";
 

@@ -3,16 +3,10 @@
 #include "Support/WidgetSupport.h"
 
 #include <QAbstractButton>
-#include <QComboBox>
 #include <QDropEvent>
-#include <QLabel>
 #include <QListView>
-#include <QMenu>
 #include <QMimeData>
-#include <QRegularExpression>
 #include <QUrl>
-
-#include <set>
 
 namespace Korvex::Testing
 {
@@ -117,35 +111,6 @@ void WindowFixture::Show(Film const& film)
     auto& list = Get<QListView>("filmListView");
     list.setCurrentIndex(m_list.index(m_list.FindRow(film.GetId())));
     QCoreApplication::processEvents();
-}
-
-std::vector<QString> WindowFixture::ListCaptions()
-{
-    QStringList texts;
-    for (QAction const* action : m_window->findChildren<QAction*>())
-        if (!action->objectName().startsWith(QLatin1String("language_")))
-            texts << action->text() << action->toolTip();
-    for (QMenu const* menu : m_window->findChildren<QMenu*>())
-        texts << menu->title();
-    for (QWidget const* widget : m_window->findChildren<QWidget*>())
-    {
-        if (!widget->isVisible())
-            continue;
-        texts << widget->toolTip() << widget->accessibleName() << widget->accessibleDescription();
-        if (auto const* label = qobject_cast<QLabel const*>(widget))
-            texts << label->text();
-        if (auto const* button = qobject_cast<QAbstractButton const*>(widget))
-            texts << button->text();
-    }
-    QRegularExpression const word(QStringLiteral("(?<!#)\\b\\p{L}{2,}"));
-    std::set<QString> captions;
-    for (QString text : texts)
-    {
-        text.remove(QLatin1Char('&'));
-        if (text.contains(word) && !text.contains(QString::fromStdString(m_folder.Path().utf8string())))
-            captions.insert(text);
-    }
-    return {captions.begin(), captions.end()};
 }
 
 } // namespace Korvex::Testing

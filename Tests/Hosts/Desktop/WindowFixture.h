@@ -53,9 +53,6 @@ protected:
     Desktop::Film& AddFilm(ioPath const& path);
     Desktop::Film& WaitForFilm(ioPath const& path);
     void Show(Desktop::Film const& film);
-    /// Every text that can be seen or heard in the window as it is now, menus and tips included, without mnemonics; no
-    /// numbers, no names of files.
-    [[nodiscard]] std::vector<QString> ListCaptions();
 
 private:
     void Start();

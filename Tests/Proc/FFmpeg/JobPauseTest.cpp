@@ -109,7 +109,10 @@ TEST_F(JobPauseTest, APausedJobStandsStillAndGoesOnToTheSameOutput)
         auto const actual = paused.PacketsOf(stream);
         ASSERT_EQ(actual.size(), expected.size());
         for (std::size_t i = 0; i < expected.size(); ++i)
-            ASSERT_TRUE(actual[i].time == expected[i].time && actual[i].bytes == expected[i].bytes) << i;
+        {
+            EXPECT_EQ(actual[i].time, expected[i].time) << stream << ' ' << i;
+            EXPECT_TRUE(actual[i].bytes == expected[i].bytes) << stream << ' ' << i;
+        }
     }
 }
 

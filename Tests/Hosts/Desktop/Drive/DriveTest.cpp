@@ -72,13 +72,7 @@ protected:
         { return component == 0 ? 30 + (x + y + 2 * frame) % 200 / 8 : 128; };
         media.audios.emplace_back();
         for (std::string const& codec : codecs)
-        {
-            MadeSubtitle subtitle;
-            subtitle.codecId = codec;
-            subtitle.language = codec == "subrip" ? "en" : "de";
-            subtitle.cues = codec == "subrip" ? MakeTextCues() : MakeBoxCues();
-            media.subtitles.push_back(subtitle);
-        }
+            media.subtitles.push_back(MakeSubtitle(codec, codec == "subrip" ? "en" : "de"));
         MakeMedia(m_folder / name, media);
         return m_folder / name;
     }
@@ -86,11 +80,9 @@ protected:
     void AddRussianFile(ioPath const& path)
     {
         m_program.Click("addSubtitlesButton");
-        Photograph("source-selector");
         m_program.Click("chooseButton");
         m_program.WaitUntilShown("fileNameEdit");
         m_program.GetPerson().Type(ToText(path.utf8string()));
-        Photograph("file-dialog");
         m_program.Accept("QFileDialog");
     }
 
@@ -98,7 +90,6 @@ protected:
     {
         m_program.Click("selectSubtitlesTrackButton");
         m_program.WaitUntilShown("trackListView");
-        Photograph("track-list");
         m_program.ClickRow("trackListView", row);
         m_program.WaitUntilHidden("trackListView");
     }
@@ -113,17 +104,8 @@ protected:
                                       });
     }
 
-    void Photograph(QString const& name)
-    {
-        m_program.GetPerson().Photograph(QStringLiteral("%1-%2-%3")
-                                             .arg(testing::UnitTest::GetInstance()->current_test_info()->name())
-                                             .arg(++m_photographs, 2, 10, QLatin1Char('0'))
-                                             .arg(name));
-    }
-
     TemporaryFolder m_folder;
     DrivenProgram m_program{m_folder / "session.json"};
-    int m_photographs = 0;
 };
 
 Ink FindYellow(QImage const& picture)
@@ -133,13 +115,8 @@ Ink FindYellow(QImage const& picture)
 
 QImage RenderFile(ioPath const& path, std::chrono::microseconds time)
 {
-    auto const preview = Proc::MakePreview(path);
-    if (!preview)
-        throw std::runtime_error("cannot open " + path.utf8string());
-    auto const picture = (*preview)->Render(time);
-    if (!picture)
-        throw std::runtime_error("cannot decode " + path.utf8string());
-    return QImage(picture->rgba.data(), picture->width, picture->height, picture->width * 4, QImage::Format_RGBA8888)
+    auto const picture = ValueOf(ValueOf(Proc::MakePreview(path))->Render(time));
+    return QImage(picture.rgba.data(), picture.width, picture.height, picture.width * 4, QImage::Format_RGBA8888)
         .copy();
 }
 
@@ -151,10 +128,8 @@ TEST_F(DriveTest, FromDropToFilmWithTextDrawnIn)
     ioPath const path = MakeFilm("Voyage.mkv", {"subrip", "hdmv_pgs_subtitle"});
     ioPath const russian = m_folder / "russian.srt";
     ASSERT_EQ(Core::WriteFile(russian, RUSSIAN_SRT, true), Core::SUCCESS);
-    Photograph("empty");
     m_program.DragIn({path});
     Film* film = m_program.WaitForFilm("Voyage.mkv");
-    Photograph("dropped");
 
     AddRussianFile(russian);
     person.WaitFor("the added file to be a track", [film] { return film->GetCollection().tracks.size() == 3; });
@@ -175,23 +150,19 @@ TEST_F(DriveTest, FromDropToFilmWithTextDrawnIn)
 
     QImage const bare = m_program.WaitForPicture("a film", [](QImage const&) { return true; });
     m_program.WaitForPicture("white text", [](QImage const& now) { return FindInk(now, &IsWhite).pixels > 200; });
-    Photograph("chosen");
     EXPECT_EQ(FindYellow(bare).pixels, 0);
 
     m_program.Click("textColorPicker");
     m_program.EnterInto("QColorDialog", YELLOW.name());
     QImage const yellow =
         m_program.WaitForPicture("yellow text", [](QImage const& now) { return FindYellow(now).pixels > 200; });
-    Photograph("color");
     m_program.Accept("QColorDialog");
 
     m_program.Click("selectFontButton");
     m_program.EnterInto("QFontDialog", "30");
-    Photograph("font");
     m_program.Accept("QFontDialog");
     QImage const large = m_program.WaitForPicture(
         "larger text", [&](QImage const& now) { return FindYellow(now).pixels > FindYellow(yellow).pixels * 3 / 2; });
-    Photograph("size");
     // Another size alone does not make the stand-in of a font that is not installed the font.
     EXPECT_THAT(DrivenProgram::Ask<QAbstractButton>("selectFontButton", [](QAbstractButton& button)
                                                     { return button.toolTip().toStdString(); }),
@@ -201,7 +172,6 @@ TEST_F(DriveTest, FromDropToFilmWithTextDrawnIn)
     QImage const left =
         m_program.WaitForPicture("the text at the left", [&](QImage const& now)
                                  { return FindYellow(now).box.left() < FindYellow(large).box.left() - 10; });
-    Photograph("left");
 
     auto const slider = DrivenProgram::Ask<QWidget>("alignSlider", [](QWidget& widget)
                                                     { return QRect(widget.mapToGlobal(QPoint()), widget.size()); });
@@ -218,13 +188,11 @@ TEST_F(DriveTest, FromDropToFilmWithTextDrawnIn)
     QImage const previewed =
         m_program.WaitForPicture("the text " + std::to_string(rise) + " pixels up", isWhereItBelongs);
     EXPECT_GT(lines, 15);
-    Photograph("shifted");
 
     m_program.ChooseInBox("formatCombo", "MP4");
     m_program.Click("convertAllButton");
     ioPath const output = m_folder / "Voyage.mp4";
     person.WaitFor("the converted film", [&] { return QFileInfo::exists(ToText(output.utf8string())); });
-    Photograph("converted");
 
     auto const time = m_program.GetPreviewTime();
     QImage const written = RenderFile(output, time);
@@ -245,7 +213,6 @@ TEST_F(DriveTest, FromDropToFilmWithTextDrawnIn)
     WaitUntilDrawn(*film, russian.utf8string());
     m_program.Click("nextCueButton");
     m_program.WaitForPicture("the same look after a restart", isWhereItBelongs);
-    Photograph("restarted");
 }
 
 TEST_F(DriveTest, NoticeSaysWhatCannotGoOutAndDrawsItInAtAClick)
@@ -255,7 +222,6 @@ TEST_F(DriveTest, NoticeSaysWhatCannotGoOutAndDrawsItInAtAClick)
     EXPECT_EQ(OnGui([] { return DrivenProgram::FindShown("noticeBar"); }), nullptr);
     m_program.ChooseInBox("formatCombo", "MP4");
     m_program.WaitUntilShown("noticeBar");
-    Photograph("notice");
     auto const sentence =
         DrivenProgram::Ask<QLabel>("noticeSentence", [](QLabel& label) { return label.text().toStdString(); });
     EXPECT_THAT(sentence, testing::AllOf(testing::HasSubstr("PGS"), testing::HasSubstr("MP4")));
@@ -264,7 +230,6 @@ TEST_F(DriveTest, NoticeSaysWhatCannotGoOutAndDrawsItInAtAClick)
     WaitUntilDrawn(*film, "2");
     m_program.WaitUntilHidden("noticeBar");
     m_program.WaitForPicture("the bitmap in it", [](QImage const& now) { return FindInk(now, &IsWhite).pixels > 200; });
-    Photograph("drawn-in");
 }
 
 TEST_F(DriveTest, KeyboardAloneReachesEverything)
@@ -286,13 +251,11 @@ TEST_F(DriveTest, KeyboardAloneReachesEverything)
     person.PressKey("Home");
     person.PressKey("Down");
     m_program.TabTo("selectSubtitlesTrackButton", "Tab");
-    Photograph("focus-on-button");
     person.PressKey("Return");
     m_program.WaitUntilFocused("trackListView");
     person.PressKey("Home");
     for (int row = 0; row < 2; ++row)
         person.PressKey("Down");
-    Photograph("focus-in-list");
     person.PressKey("Return");
     m_program.WaitUntilHidden("trackListView");
     WaitUntilDrawn(*film, "2");
@@ -301,7 +264,6 @@ TEST_F(DriveTest, KeyboardAloneReachesEverything)
     m_program.TabTo("filmListView", "shift+Tab");
     person.PressKey("Return");
     m_program.WaitUntilShown("itemPanel");
-    Photograph("item-panel");
     person.PressKey("Escape");
     m_program.WaitUntilHidden("itemPanel");
     m_program.WaitUntilFocused("filmListView");
