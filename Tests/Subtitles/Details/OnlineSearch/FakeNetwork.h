@@ -76,6 +76,9 @@ public:
 
     explicit FakeNetworkManager(Script script) : m_script(std::move(script)) {}
 
+    /// For the next requests, while none is under way.
+    void SetScript(Script script) { m_script = std::move(script); }
+
     [[nodiscard]] bool IsNetworkAccessible() const override { return isAccessible; }
     QNetworkReply* Get(QNetworkRequest const& request) override { return Answer(request); }
     QNetworkReply* Post(QNetworkRequest const& request, QUrlQuery const& form) override

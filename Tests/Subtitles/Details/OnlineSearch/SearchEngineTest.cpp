@@ -276,17 +276,6 @@ TEST_F(SearchEngineTest, CancelledOperationEndsInSilenceAndKeepsTheEngineBusyUnt
     EXPECT_THAT(RunOne(), ElementsAre("first hears of c", "second hears of c", "first finished", "second finished"));
 }
 
-TEST_F(SearchEngineTest, OneFailureEndsTheWholeOperation)
-{
-    Create(EndLater(1));
-    Queue("a");
-    Queue("b")->parsedStatus = Status::FileError;
-    Queue("c");
-    EXPECT_THAT(RunOne(), ElementsAre("first hears of a", "second hears of a", "first failed 7 error of b",
-                                      "second failed 7 error of b"));
-    EXPECT_EQ(network->requestCount, 2);
-}
-
 TEST_F(SearchEngineTest, SendsNothingForWhatCannotBeAsked)
 {
     Create(EndLater(1));
@@ -304,43 +293,31 @@ TEST_F(SearchEngineTest, SendsNothingForWhatCannotBeAsked)
 
 TEST_F(SearchEngineTest, ReportsEachTransportErrorOnceWhetherItComesAtOnceOrLater)
 {
-    std::map<Reply::NetworkError, Status> const expected{
-        {Reply::HostNotFoundError, Status::NoConnection},
-        {Reply::TimeoutError, Status::NoConnection},
-        {Reply::TemporaryNetworkFailureError, Status::NoConnection},
-        {Reply::NetworkSessionFailedError, Status::NoConnection},
-        {Reply::UnknownNetworkError, Status::NoConnection},
-        {Reply::ConnectionRefusedError, Status::ServerError},
-        {Reply::RemoteHostClosedError, Status::ServerError},
-        {Reply::ContentNotFoundError, Status::ServerError},
-        {Reply::ContentGoneError, Status::ServerError},
-        {Reply::InternalServerError, Status::ServerError},
-        {Reply::OperationNotImplementedError, Status::ServerError},
-        {Reply::ServiceUnavailableError, Status::ServerError},
-        {Reply::UnknownServerError, Status::ServerError},
-        {Reply::SslHandshakeFailedError, Status::NetworkError},
-        {Reply::TooManyRedirectsError, Status::NetworkError},
-        {Reply::InsecureRedirectError, Status::NetworkError},
-        {Reply::ContentAccessDenied, Status::NetworkError},
-        {Reply::AuthenticationRequiredError, Status::NetworkError},
-        {Reply::UnknownContentError, Status::NetworkError},
-        {Reply::ProtocolUnknownError, Status::NetworkError},
-        {Reply::ProxyNotFoundError, Status::NetworkError},
-    };
-    for (auto const& [error, status] : expected)
-    {
-        for (bool const isOver : {true, false})
-        {
-            SCOPED_TRACE(error);
-            Create(isOver ? BeOver(error) : EndLater(0, error));
-            Queue("a");
-            Queue("b");
-            auto const failed = "failed " + std::to_string(status);
-            EXPECT_THAT(RunOne(), ElementsAre("first " + failed, "second " + failed));
-            EXPECT_EQ(network->aliveReplyCount, 0);
-            EXPECT_EQ(network->requestCount, 1);
-        }
-    }
+    std::vector<std::pair<Status, std::vector<Reply::NetworkError>>> const kinds{
+        {Status::NoConnection,
+         {Reply::HostNotFoundError, Reply::TimeoutError, Reply::TemporaryNetworkFailureError,
+          Reply::NetworkSessionFailedError, Reply::UnknownNetworkError}},
+        {Status::ServerError,
+         {Reply::ConnectionRefusedError, Reply::RemoteHostClosedError, Reply::ContentNotFoundError,
+          Reply::ContentGoneError, Reply::InternalServerError, Reply::OperationNotImplementedError,
+          Reply::ServiceUnavailableError, Reply::UnknownServerError}},
+        {Status::NetworkError,
+         {Reply::SslHandshakeFailedError, Reply::TooManyRedirectsError, Reply::InsecureRedirectError,
+          Reply::ContentAccessDenied, Reply::AuthenticationRequiredError, Reply::UnknownContentError,
+          Reply::ProtocolUnknownError, Reply::ProxyNotFoundError}}};
+    for (auto const& [status, errors] : kinds)
+        for (auto const error : errors)
+            for (bool const isOver : {true, false})
+            {
+                SCOPED_TRACE(error);
+                Create(isOver ? BeOver(error) : EndLater(0, error));
+                Queue("a");
+                Queue("b");
+                auto const failed = "failed " + std::to_string(status);
+                EXPECT_THAT(RunOne(), ElementsAre("first " + failed, "second " + failed));
+                EXPECT_EQ(network->aliveReplyCount, 0);
+                EXPECT_EQ(network->requestCount, 1);
+            }
     Create(BeOver());
     Queue("over without an error");
     EXPECT_EQ(RunOne().size(), 4U);
@@ -351,45 +328,34 @@ TEST_F(SearchEngineTest, TheServersWordsAreThereWhenTheFailureIsTold)
     using Reason = UseCases::ServerReport::Reason;
     QByteArray body;
     QByteArray quota = "5";
-    int httpStatus = 0;
-    auto error = Reply::NoError;
-    Create(
-        [&](FakeReply& reply)
-        {
-            reply.SetBody(body, httpStatus);
-            if (!quota.isEmpty())
-                reply.SetHeader("Download-Quota", quota);
-            QTimer::singleShot(0, &reply, [&] { reply.End(error); });
-        });
     UseCases::ServerReport told;
-    auto const run = [&](Status parsed)
+    auto const run = [&](int httpStatus, Reply::NetworkError error, Status parsed)
     {
+        network->SetScript(
+            [&, httpStatus, error](FakeReply& reply)
+            {
+                reply.SetBody(body, httpStatus);
+                reply.SetHeader("Download-Quota", quota);
+                QTimer::singleShot(0, &reply, [&reply, error] { reply.End(error); });
+            });
         told = {};
-        auto const operation = Queue("a");
-        operation->parsedStatus = parsed;
+        Queue("a")->parsedStatus = parsed;
         first.reaction = [&](auto&) { told = engine->GetServerReport(); };
         RunOne();
-        return operation;
     };
 
+    Create(nullptr);
     body = R"({"message":"no more for SecretKey"})";
-    httpStatus = 406;
-    error = Reply::UnknownContentError;
-    run(Status::Success);
+    run(406, Reply::UnknownContentError, Status::Success);
     EXPECT_EQ(told.reason, Reason::QuotaUsedUp);
     EXPECT_EQ(told.message, QStringLiteral("no more for ***"));
-
-    // What was understood is not read again: only its headers count.
-    httpStatus = 200;
-    error = Reply::NoError;
-    run(Status::Success);
-    EXPECT_EQ(told.httpStatus, 200);
-    EXPECT_EQ(told.message, QString());
+    run(200, Reply::NoError, Status::Success);
+    EXPECT_EQ(told.message, QString()) << "what was understood is not read again";
     EXPECT_EQ(told.remainingDownloads, 5);
 
     // A page in place of what was asked for.
     body = "<html><title>Maintenance</title>";
-    run(Status::ServerError);
+    run(200, Reply::NoError, Status::ServerError);
     EXPECT_EQ(told.message, QStringLiteral("Maintenance"));
     EXPECT_EQ(told.reason, Reason::None);
     body = "PK"; // an archive whose file is not the wanted one
@@ -409,10 +375,7 @@ TEST_F(SearchEngineTest, TheServersWordsAreThereWhenTheFailureIsTold)
 
     EXPECT_EQ(engine->DownloadSubtitles({}, {}), Status::Success);
     EXPECT_EQ(engine->GetServerReport().httpStatus, 0) << "an accepted start forgets";
-    httpStatus = 0;
-    error = Reply::ConnectionRefusedError;
-    run(Status::Success);
-    EXPECT_EQ(told.httpStatus, 0);
+    run(0, Reply::ConnectionRefusedError, Status::Success);
     EXPECT_EQ(told.remainingDownloads, std::nullopt);
 }
 
@@ -428,30 +391,21 @@ TEST_F(SearchEngineTest, AReplyThatEndsAsCancelledSaysNothingAndLeavesTheQueueAs
     EXPECT_EQ(engine->StartSearch({}), Status::Busy);
 }
 
-TEST_F(SearchEngineTest, ObserversMayStartCancelAndUnregisterFromWithin)
+TEST_F(SearchEngineTest, ObserversMayUnregisterAndStartFromWithin)
 {
     Create(EndLater(1));
     Queue("a");
-    Queue("b");
-    first.reaction = [this](auto&)
-    {
-        EXPECT_EQ(engine->StartSearch({}), Status::Busy);
-        EXPECT_TRUE(engine->CancelOperation());
-    };
-    EXPECT_THAT(RunOne(), ElementsAre("first hears of a", "second hears of a"));
-
-    Queue("c");
     first.reaction = [this](auto&)
     {
         engine->UnregisterEventHandler(&second);
         first.reaction = [this](auto& event)
         {
             EXPECT_EQ(event, "finished");
-            Queue("d");
+            Queue("b");
             EXPECT_EQ(engine->StartSearch({}), Status::Success);
         };
     };
-    EXPECT_THAT(RunOne(), ElementsAre("first hears of c", "second hears of c", "first finished", "first hears of d",
+    EXPECT_THAT(RunOne(), ElementsAre("first hears of a", "second hears of a", "first finished", "first hears of b",
                                       "first finished"));
 }
 
@@ -523,11 +477,12 @@ TEST_F(SearchEngineTest, GivesUpAWorkerThatDoesNotComeToAnEnd)
 TEST_F(SearchEngineTest, ItsTypesTravelByName)
 {
     Create(nullptr);
-    EXPECT_TRUE(QMetaType::isRegistered(
-        QMetaType::type("std::shared_ptr<Korvex::Converter::Subtitles::Details::INetworkOperation>")));
-    EXPECT_TRUE(QMetaType::isRegistered(
-        QMetaType::type("Korvex::Converter::Subtitles::UseCases::IOnlineSearchController::Status")));
-    EXPECT_TRUE(QMetaType::isRegistered(QMetaType::type("Korvex::Converter::Subtitles::UseCases::ServerReport")));
+    for (char const* const name :
+         {"Details::INetworkOperation>", "UseCases::IOnlineSearchController::Status", "UseCases::ServerReport"})
+    {
+        QByteArray const full = QByteArray("Korvex::Converter::Subtitles::") + name;
+        EXPECT_TRUE(QMetaType::isRegistered(QMetaType::type(full.endsWith('>') ? "std::shared_ptr<" + full : full)));
+    }
 }
 
 } // namespace
