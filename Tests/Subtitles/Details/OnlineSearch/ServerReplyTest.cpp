@@ -1,12 +1,10 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/ServerReply.h"
 
+#include "RecordedReplies.h"
+
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include <QFile>
 #include <QLocale>
-
-#include <cstdlib>
 
 namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
 {
@@ -110,37 +108,26 @@ TEST(ServerReplyTest, ReadsWhenToComeBack)
     EXPECT_FALSE(Read(406, R"({"reset_time_utc":"tomorrow"})").resetsAt.isValid());
 }
 
-class RecordedServerReplyTest : public testing::Test
+/// A file of a body, or of a whole reply with its head.
+ServerReport ReadRecorded(int httpStatus, QString const& name)
 {
-protected:
-    void SetUp() override
+    QByteArray body = Korvex::Testing::LoadReply("v1/" + name);
+    Headers headers;
+    if (int const headEnd = body.indexOf("\r\n\r\n"); name.endsWith(QLatin1String(".http")))
     {
-        m_folder = QString::fromLocal8Bit(qgetenv("KORVEX_TEST_REPLIES"));
-        if (m_folder.isEmpty())
-            GTEST_SKIP() << "KORVEX_TEST_REPLIES names no folder of recorded replies";
+        auto const lines = body.left(headEnd).split('\n');
+        EXPECT_THAT(lines.first().toStdString(), testing::HasSubstr(std::to_string(httpStatus)));
+        for (QByteArray const& line : lines.mid(1))
+            headers.append({line.left(line.indexOf(':')), line.mid(line.indexOf(':') + 1).trimmed()});
+        body.remove(0, headEnd + 4);
     }
+    return Read(httpStatus, body, headers);
+}
 
-    /// A file of a body, or of a whole reply with its head.
-    [[nodiscard]] ServerReport ReadRecorded(int httpStatus, QString const& name) const
-    {
-        QFile file(m_folder + QLatin1String("/v1/") + name);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
-        Headers headers;
-        if (name.endsWith(QLatin1String(".http")))
-        {
-            EXPECT_THAT(file.readLine().toStdString(), testing::HasSubstr(std::to_string(httpStatus)));
-            for (auto line = file.readLine().trimmed(); !line.isEmpty(); line = file.readLine().trimmed())
-                headers.append({line.left(line.indexOf(':')), line.mid(line.indexOf(':') + 1)});
-        }
-        return Read(httpStatus, file.readAll(), headers);
-    }
-
-private:
-    QString m_folder;
-};
-
-TEST_F(RecordedServerReplyTest, AreUnderstood)
+TEST(ServerReplyTest, UnderstandsWhatTheServiceReallySent)
 {
+    if (!Korvex::Testing::HasReplies())
+        GTEST_SKIP() << Korvex::Testing::NO_REPLIES;
     auto const anonymous = ReadRecorded(406, QStringLiteral("error-406-quota-anonymous.json"));
     EXPECT_EQ(anonymous.reason, Reason::QuotaUsedUp);
     EXPECT_THAT(anonymous.message.toStdString(), testing::StartsWith("You have downloaded your allowed 5 subtitles"));

@@ -1,12 +1,14 @@
 #include "Subtitles/Details/OnlineSearch/FakeNetwork.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/ServiceFixture.h"
+#include "Subtitles/Details/OnlineSearch/RecordedReplies.h"
 
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTAutoSuggestRequest.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTSearchRequest.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTSearchResultData.h"
 
 #include "Subtitles/Entities/SearchTags.h"
+#include "Subtitles/Fakes/LogCatcher.h"
 
-#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -23,7 +25,7 @@ using Status = UseCases::IOnlineSearchController::Status;
 using Result = std::shared_ptr<RESTSearchResultData>;
 
 /// What an operation makes of a body, and tells of it.
-struct Reading final : UseCases::IOnlineSearchControllerObserver
+struct Reading final : Korvex::Testing::Listener
 {
     Reading(RESTRequest& request, QByteArray const& body)
     {
@@ -33,21 +35,13 @@ struct Reading final : UseCases::IOnlineSearchControllerObserver
         status = request.ParseReply(reply);
         error = request.GetError();
         request.NotifySuccess(*this);
+        for (auto const& hit : results)
+            data.push_back(std::dynamic_pointer_cast<RESTSearchResultData>(hit));
     }
-    void OnSearchResults(std::vector<std::shared_ptr<UseCases::SearchResult>> const& hits) override
-    {
-        for (auto const& hit : hits)
-            results.push_back(std::dynamic_pointer_cast<RESTSearchResultData>(hit));
-    }
-    void OnAutoSuggestResults(std::vector<QString> const& texts) override { suggestions = texts; }
-    void OnSubtitlesDownloaded(std::shared_ptr<UseCases::SearchResult> const&, ioPath const&) override {}
-    void OnOperationFinished() override {}
-    void OnOperationFailed(Status, QString const&) override {}
 
     Status status = Status::Success;
     QString error;
-    std::vector<Result> results;
-    std::vector<QString> suggestions;
+    std::vector<std::shared_ptr<RESTSearchResultData>> data;
 };
 
 Reading ReadSearch(QByteArray const& body)
@@ -82,6 +76,7 @@ TEST(LegacyReplyTest, FindsTheArrayInWhatServersSend)
         EXPECT_EQ(reading.status, Status::Success) << before.toStdString();
         EXPECT_EQ(reading.results.size(), 1u);
     }
+    Testing::LogCatcher log;
     QByteArray const whole = "[" + Row() + "," + Row() + "]";
     for (QByteArray const& body : {whole.left(whole.size() - 1), whole.left(whole.size() / 2),
                                    QByteArray("<html><title>Down</title></html>"), QByteArray("[1,"), QByteArray("{}"),
@@ -92,6 +87,9 @@ TEST(LegacyReplyTest, FindsTheArrayInWhatServersSend)
         EXPECT_TRUE(reading.results.empty());
         EXPECT_EQ(reading.error.isEmpty(), body.isEmpty()) << body.toStdString();
     }
+    EXPECT_EQ(log.lines.size(), 8u);
+    EXPECT_THAT(log.lines.front(), testing::StartsWith("RESTRequest.cpp: Invalid server JSON: "));
+    EXPECT_EQ(log.lines.back(), "RESTRequest.cpp: Empty server response");
 }
 
 TEST(LegacyReplyTest, KeepsEveryGoodRowBesideBadOnes)
@@ -107,10 +105,10 @@ TEST(LegacyReplyTest, KeepsEveryGoodRowBesideBadOnes)
         ",{\"SubFileName\":\"\xE9.srt\",\"ZipDownloadLink\":\"https://dl/1\"}]");
     EXPECT_EQ(reading.status, Status::Success);
     ASSERT_EQ(reading.results.size(), 3u);
-    EXPECT_EQ(reading.results[0]->archiveLink, QStringLiteral("http://dl/2.gz"));
+    EXPECT_EQ(reading.data[0]->archiveLink, QStringLiteral("http://dl/2.gz"));
     EXPECT_EQ(reading.results[2]->fileName, QStringLiteral("\uFFFD.srt"));
 
-    auto const& odd = *reading.results[1];
+    auto const& odd = *reading.data[1];
     auto const& facts = odd.facts;
     EXPECT_EQ(odd.tags, (std::map<std::string, std::string>{{"HEARING_IMPAIRED", "1"}}));
     EXPECT_FALSE(facts.downloadCount || facts.rating || facts.voteCount || facts.framesPerSecond || facts.year ||
@@ -155,30 +153,24 @@ TEST(LegacyReplyTest, FoldsSuggestions)
     EXPECT_EQ(reading.status, Status::Success);
     EXPECT_THAT(reading.suggestions, ElementsAre(QStringLiteral("Up"), QStringLiteral("Tom & Jerry")));
     EXPECT_EQ(Reading(request, "<html></html>").status, Status::ServerError);
+    EXPECT_EQ(Reading(request, "[]").error, QString()) << "an operation may be asked again";
     EXPECT_TRUE(Reading(request, "{\"name\":\"Up\"}").suggestions.empty());
 }
 
 TEST(LegacyReplyTest, ReadsEveryRecordedReply)
 {
-    QByteArray const replies = qgetenv("KORVEX_TEST_REPLIES");
-    if (replies.isEmpty())
-        GTEST_SKIP() << "KORVEX_TEST_REPLIES names no folder of recorded replies.";
-    QDir const folder(QString::fromLocal8Bit(replies));
-    QFile index(folder.filePath(QStringLiteral("INDEX.json")));
-    ASSERT_TRUE(index.open(QIODevice::ReadOnly));
-
+    if (!Korvex::Testing::HasReplies())
+        GTEST_SKIP() << Korvex::Testing::NO_REPLIES;
     std::vector<Result> all;
-    for (QJsonValue const& entry : QJsonDocument::fromJson(index.readAll()).array())
+    for (QJsonValue const& entry : QJsonDocument::fromJson(Korvex::Testing::LoadReply("INDEX.json")).array())
     {
         QString const name = entry.toObject().value(QStringLiteral("file")).toString();
         if (!name.startsWith(QStringLiteral("v0/")))
             continue;
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-        auto const reading = ReadSearch(file.readAll());
+        auto const reading = ReadSearch(Korvex::Testing::LoadReply(name));
         EXPECT_EQ(reading.status, Status::Success) << name.toStdString();
         EXPECT_EQ(static_cast<int>(reading.results.size()), entry.toObject().value(QStringLiteral("rows")).toInt());
-        all.insert(all.end(), reading.results.begin(), reading.results.end());
+        all.insert(all.end(), reading.data.begin(), reading.data.end());
     }
 
     using Data = RESTSearchResultData;

@@ -10,9 +10,9 @@
 #include "Subtitles/Entities/SubtitleSearchMediaInfoSettings.h"
 #include "Subtitles/UseCases/IOnlineDownloaderController.h"
 
+#include "Subtitles/Details/OnlineSearch/RecordedReplies.h"
 #include "Subtitles/Fakes/LogCatcher.h"
 
-#include <QFile>
 #include <QNetworkRequest>
 #include <QUrl>
 
@@ -163,21 +163,18 @@ TEST(LegacyRequestAddressTest, KnowsTheServicesOwnLetters)
     EXPECT_EQ(Languages::GetLanguage(QStringLiteral("xxx")), LanguageID::None);
     EXPECT_EQ(Languages::GetLanguage(QString()), LanguageID::None);
 
-    QByteArray const replies = qgetenv("KORVEX_TEST_REPLIES");
-    if (replies.isEmpty())
-        GTEST_SKIP() << "KORVEX_TEST_REPLIES names no folder of recorded replies.";
-    QFile table(QString::fromLocal8Bit(replies) + QStringLiteral("/languages.tsv"));
-    ASSERT_TRUE(table.open(QIODevice::ReadOnly));
-    table.readLine();
-    int row = 0;
-    for (; !table.atEnd(); ++row)
+    if (!Korvex::Testing::HasReplies())
+        GTEST_SKIP() << Korvex::Testing::NO_REPLIES;
+    auto const rows = Korvex::Testing::LoadReply("languages.tsv").trimmed().split('\n').mid(1);
+    EXPECT_EQ(rows.size(), 80);
+    int number = 0;
+    for (QByteArray const& row : rows)
     {
-        QString const code = QString::fromUtf8(table.readLine().split('\t').value(1));
-        auto const language = static_cast<LanguageID>(row + 1);
+        QString const code = QString::fromUtf8(row.split('\t').value(1));
+        auto const language = static_cast<LanguageID>(++number);
         EXPECT_EQ(Languages::GetLetterCode(language), code);
         EXPECT_EQ(Languages::GetLanguage(code), language);
     }
-    EXPECT_EQ(row, 80);
 }
 
 class FakeFingerprints final : public UseCases::IOnlineDownloaderController

@@ -1,19 +1,14 @@
-#include "Subtitles/Details/OnlineSearch/NetworkManagerQt.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/ServiceFixture.h"
+
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTRequestFactory.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTSearchEngine.h"
 
 #include "Subtitles/Entities/SearchTags.h"
 
-#include "App/Configuration.h"
-#include "Core/FileSystem.h"
 #include "Support/OnlineServer/Archives.h"
-#include "Support/OnlineServer/OnlineServer.h"
 
-#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
-#include <QFile>
-#include <QTest>
 
 namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_0
 {
@@ -25,10 +20,6 @@ using Entities::SearchTags;
 using Entities::Language::LanguageID;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using Results = std::vector<std::shared_ptr<UseCases::SearchResult>>;
-using Status = UseCases::IOnlineSearchController::Status;
-
-constexpr int LIMIT_MS = 10'000;
 
 QByteArray MakeSubtitle(QByteArray const& line)
 {
@@ -45,68 +36,8 @@ QByteArray MakeRow(HttpRequest const& request, QByteArray const& name, QByteArra
            path + "\"}";
 }
 
-/// The client over real sockets: engine, factory and network as a program has them.
-class LegacyServiceTest : public ::testing::Test, protected UseCases::IOnlineSearchControllerObserver
+class LegacyServiceTest : public ServiceFixture<RESTSearchEngine, RESTRequestFactory>
 {
-protected:
-    ~LegacyServiceTest() override
-    {
-        engine.reset();
-        App::SetActiveConfiguration(before);
-        Core::RemoveWorkFolder(folder);
-    }
-
-    void Connect(OnlineServer const& server)
-    {
-        App::Configuration configuration;
-        configuration.openSubtitlesLegacyUrl = server.GetUrl().toStdString() + "/";
-        App::SetActiveConfiguration(configuration);
-        engine = std::make_unique<RESTSearchEngine>(std::make_shared<NetworkManagerQt>(),
-                                                    std::make_shared<RESTRequestFactory>());
-        engine->RegisterEventHandler(this);
-    }
-
-    /// The operation's outcome in words.
-    std::string Await(Status started)
-    {
-        EXPECT_EQ(started, Status::Success);
-        EXPECT_TRUE(QTest::qWaitFor([this] { return !outcome.empty(); }, LIMIT_MS));
-        return std::exchange(outcome, {});
-    }
-    std::string Search(std::map<std::string, std::string> const& tags, std::set<LanguageID> const& languages = {})
-    {
-        portions.clear();
-        return Await(engine->StartSearch(UseCases::SearchRequest{tags, languages}));
-    }
-    std::string Download(Results const& results)
-    {
-        files.clear();
-        return Await(engine->DownloadSubtitles(results, folder / "new"));
-    }
-
-    void OnSearchResults(Results const& results) override { portions.push_back(results); }
-    void OnAutoSuggestResults(std::vector<QString> const& texts) override { suggestions = texts; }
-    void OnSubtitlesDownloaded(std::shared_ptr<UseCases::SearchResult> const& /*result*/, ioPath const& path) override
-    {
-        QFile file(QString::fromStdString(path.utf8string()));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        files.emplace_back(path.FileName(), file.readAll());
-    }
-    void OnOperationFinished() override { outcome += "finished"; }
-    void OnOperationFailed(Status status, QString const& message) override
-    {
-        outcome += "failed " + std::to_string(status) + ": " + message.toStdString();
-    }
-
-    int argumentCount = 0;
-    QCoreApplication application{argumentCount, nullptr};
-    App::Configuration const before = App::GetActiveConfiguration();
-    ioPath const folder = std::move(Core::CreateWorkFolder()).Value();
-    std::unique_ptr<RESTSearchEngine> engine;
-    std::string outcome;
-    std::vector<Results> portions;
-    std::vector<QString> suggestions;
-    std::vector<std::pair<std::string, QByteArray>> files; ///< name and content of each download
 };
 
 TEST_F(LegacyServiceTest, TakesEachDiscFromTheArchiveOfItsSet)
@@ -127,10 +58,10 @@ TEST_F(LegacyServiceTest, TakesEachDiscFromTheArchiveOfItsSet)
                                       MakeRow(request, "CD3.srt", third, 1, "/dl/filead/8.gz") + "]");
         });
     Connect(server);
-    EXPECT_EQ(Search({{SearchTags::TITLE, "Up"}}, {LanguageID::French, LanguageID::English}), "finished");
-    ASSERT_EQ(portions.size(), 2u);
-    EXPECT_EQ(portions[1].size(), 3u);
-    EXPECT_EQ(Download(portions[0]), "finished");
+    EXPECT_EQ(Search({{{SearchTags::TITLE, "Up"}}, {LanguageID::French, LanguageID::English}}), "finished");
+    EXPECT_EQ(portionCount, 2);
+    EXPECT_EQ(results.size(), 3u);
+    EXPECT_EQ(Download(results), "finished");
     EXPECT_THAT(files, ElementsAre(std::make_pair("CD2.srt", second), std::make_pair("CD1.srt", first),
                                    std::make_pair("CD3.srt", third)));
 
@@ -150,18 +81,18 @@ TEST_F(LegacyServiceTest, FindsAndFetchesWhateverTheTitleHolds)
     Connect(server);
     for (char const* const title : {"50% Chance of Rain", "Étude in C#", "Salt & Ember", "ÖLBERG", "northern BEACON"})
     {
-        ASSERT_EQ(Search({{SearchTags::TITLE, title}}), "finished");
-        ASSERT_FALSE(portions.at(0).empty()) << title;
-        EXPECT_EQ(Download({portions[0].back()}), "finished") << title;
+        ASSERT_EQ(Search({{{SearchTags::TITLE, title}}, {}}), "finished");
+        ASSERT_FALSE(results.empty()) << title;
+        EXPECT_EQ(Download({results.back()}), "finished") << title;
         ASSERT_EQ(files.size(), 1u);
         EXPECT_TRUE(files[0].second.contains(" --> ") || files[0].second.contains("[Events]")) << files[0].first;
     }
 
-    ASSERT_EQ(Search({{SearchTags::MOVIE_HASH_OS, "0000000000020000"}, {SearchTags::MOVIE_BYTE_SIZE, "131072"}},
-                     {LanguageID::German}),
+    ASSERT_EQ(Search({{{SearchTags::MOVIE_HASH_OS, "0000000000020000"}, {SearchTags::MOVIE_BYTE_SIZE, "131072"}},
+                      {LanguageID::German}}),
               "finished");
-    EXPECT_EQ(portions.at(0).size(), 3u); // one film's, and the two discs of another that has the same fingerprint
-    for (auto const& result : portions.at(0))
+    EXPECT_EQ(results.size(), 3u); // one film's, and the two discs of another that has the same fingerprint
+    for (auto const& result : results)
         EXPECT_TRUE(result->facts.isHashMatch && result->facts.language == LanguageID::German);
 
     EXPECT_EQ(Await(engine->AutoSuggest(SearchTags::TITLE, QStringLiteral("Lantern"))), "finished");
@@ -191,8 +122,8 @@ TEST_F(LegacyServiceTest, StoresNothingThatIsNoSubtitle)
                 return HttpReply(200, isSearch ? "[" + MakeRow(request, "a.srt", wanted, 1, "/dl/7") + "]" : sent);
             });
         Connect(server);
-        ASSERT_EQ(Search({{SearchTags::TITLE, "Up"}}), "finished");
-        EXPECT_THAT(Download(portions.at(0)), HasSubstr(expected)) << body.left(20).toStdString();
+        ASSERT_EQ(Search({{{SearchTags::TITLE, "Up"}}, {}}), "finished");
+        EXPECT_THAT(Download(results), HasSubstr(expected)) << body.left(20).toStdString();
     }
     QDir const stored(QString::fromStdString((folder / "new").utf8string()));
     EXPECT_TRUE(stored.entryList(QDir::Files | QDir::Hidden).isEmpty());

@@ -1,4 +1,5 @@
-#include "Listener.h"
+#include "Subtitles/Details/OnlineSearch/OpenSubtitles/ServiceFixture.h"
+#include "Subtitles/Details/OnlineSearch/RecordedReplies.h"
 
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_1/RESTAutoSuggestRequest.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_1/RESTDownloadRequest.h"
@@ -7,10 +8,6 @@
 
 #include "Subtitles/Entities/SearchTags.h"
 
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
 #include <QJsonDocument>
 
 namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_1
@@ -185,18 +182,12 @@ TEST(OpenSubtitlesVer1, TakesOnlyWebAddressesForDownloadLinks)
 /// Figures as the recorded replies hold them.
 TEST(OpenSubtitlesVer1, ReadsWhatTheServiceReallySent)
 {
-    QString const folder = qEnvironmentVariable("KORVEX_TEST_REPLIES");
-    if (folder.isEmpty())
-        GTEST_SKIP() << "KORVEX_TEST_REPLIES names no folder of recorded replies";
-    auto const load = [&folder](QString const& name)
-    {
-        QFile file(folder + QStringLiteral("/v1/") + name);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-        return file.readAll();
-    };
+    if (!Testing::HasReplies())
+        GTEST_SKIP() << Testing::NO_REPLIES;
+    auto const load = [](QString const& name) { return Testing::LoadReply("v1/" + name); };
     std::size_t hitCount = 0;
     qint64 downloadCount = 0;
-    for (QString const& name : QDir(folder + QStringLiteral("/v1")).entryList({QStringLiteral("subtitles-*.json")}))
+    for (QString const& name : Testing::GetReplies("v1").entryList({QStringLiteral("subtitles-*.json")}))
     {
         for (auto const& hit : ReadHits(load(name)))
         {
@@ -208,7 +199,7 @@ TEST(OpenSubtitlesVer1, ReadsWhatTheServiceReallySent)
     }
     EXPECT_EQ(hitCount, 228U);
     EXPECT_EQ(downloadCount, 4045640);
-    for (QString const& name : QDir(folder + QStringLiteral("/v1")).entryList({QStringLiteral("*.json")}))
+    for (QString const& name : Testing::GetReplies("v1").entryList({QStringLiteral("*.json")}))
     {
         Listener listener;
         RESTSearchRequest search({}, {});
