@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <map>
+#include <set>
 #include <tuple>
 
 namespace Korvex::Converter::Subtitles::UseCases
@@ -18,6 +19,25 @@ namespace
 bool IsSame(std::string const& a, std::string const& b)
 {
     return !a.empty() && QString::fromStdString(a).compare(QString::fromStdString(b), Qt::CaseInsensitive) == 0;
+}
+
+/// Whether both have letters of one script, or one of them has none at all.
+bool AreComparable(std::string const& a, std::string const& b)
+{
+    auto const findScripts = [](std::string const& title)
+    {
+        std::set<QChar::Script> scripts;
+        for (uint const character : QString::fromStdString(title).toUcs4())
+        {
+            if (QChar::isLetter(character))
+                scripts.insert(QChar::script(character));
+        }
+        return scripts;
+    };
+    std::set<QChar::Script> const first = findScripts(a);
+    std::set<QChar::Script> const second = findScripts(b);
+    return first.empty() || second.empty() ||
+           std::any_of(first.begin(), first.end(), [&](QChar::Script script) { return second.count(script) > 0; });
 }
 
 /// Holds one result against the film that is looked for.
@@ -113,6 +133,9 @@ private:
         std::string const title = m_facts.title.toStdString();
         // A bare file name ("english.srt") is no witness against the film.
         if (m_film.title.empty() || (title.empty() && m_facts.release.isEmpty()))
+            return false;
+        // "Ночной паром" and "Night Ferry" may be the same film.
+        if (!AreComparable(m_film.title, title.empty() ? m_release.title : title))
             return false;
         for (std::string const& wanted : {m_film.title, m_film.release.title})
         {

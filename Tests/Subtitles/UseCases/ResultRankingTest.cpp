@@ -131,6 +131,9 @@ TEST(ResultRankingTest, CallsNoFilmAnotherOneWithoutReason)
     film = MakeFilm("Agents.of.S.H.I.E.L.D.S02E05.mkv");
     EXPECT_FALSE(isOther("", Titled("Marvel's Agents of S.H.I.E.L.D.", 2013)));
     EXPECT_TRUE(isOther("", Titled("Agents of Fortune", 2013)));
+
+    film = MakeFilm("Ночной паром.mkv");
+    EXPECT_FALSE(isOther("", Titled("Night Ferry", 2003))) << "cannot be compared";
 }
 
 TEST(ResultRankingTest, KeepsThePartsOfASetTogether)
