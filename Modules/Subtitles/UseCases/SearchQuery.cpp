@@ -44,15 +44,14 @@ bool IsDiscFolder(QString const& folded)
 bool IsEmptyTitle(std::string const& title)
 {
     static QSet<QString> const NAMES = {
-        QStringLiteral("untitled"),   QStringLiteral("no title"),    QStringLiteral("unknown"),
-        QStringLiteral("title"),      QStringLiteral("new project"), QStringLiteral("dvd video"),
-        QStringLiteral("main"),       QStringLiteral("index"),       QStringLiteral("main movie"),
-        QStringLiteral("main title"), QStringLiteral("sample"),      QStringLiteral("file"),
-        QStringLiteral("vts 01 1"),   QStringLiteral("00000"),       QStringLiteral("00001"),
-        QStringLiteral("00800")};
+        QStringLiteral("untitled"),    QStringLiteral("no title"),   QStringLiteral("unknown"), QStringLiteral("title"),
+        QStringLiteral("new project"), QStringLiteral("dvd video"),  QStringLiteral("main"),    QStringLiteral("index"),
+        QStringLiteral("main movie"),  QStringLiteral("main title"), QStringLiteral("sample"),  QStringLiteral("file"),
+        QStringLiteral("00000"),       QStringLiteral("00001"),      QStringLiteral("00800")};
     QString const folded = FoldTitle(title);
-    for (char const* const beginning : {"encoded by", "ripped by", "created by", "made with", "uploaded by", "rip by",
-                                        "converted by", "downloaded from", "www ", "http", "lavf", "visit "})
+    for (char const* const beginning :
+         {"encoded by", "ripped by", "created by", "made with", "uploaded by", "rip by", "converted by",
+          "downloaded from", "vts ", "video ts", "www ", "http", "lavf", "visit "})
     {
         if (folded.startsWith(QLatin1String(beginning)))
             return true;
