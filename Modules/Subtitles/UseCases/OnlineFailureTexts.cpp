@@ -119,9 +119,15 @@ QString DescribeReply(OnlineFailure const& failure)
                    ? Fill(Texts::tr("The answer of %1 was empty, broke off or was too large; try again later."),
                           service)
                    : Fill(Texts::tr("The answer of %1 cannot be used%2; try again later."), service, cause);
-    return failure.status == Status::ServerError
-               ? Fill(Texts::tr("%1 could not answer%2; try again later."), service, cause)
-               : Fill(Texts::tr("The connection to %1 failed%2; try again later."), service, cause);
+    if (httpStatus > 0)
+        return Fill(Texts::tr("%1 could not answer%2; try again later."), service, cause);
+    if (failure.status == Status::ServerError)
+        return Fill(Texts::tr("%1 could not answer%2; check the address that is set for it and the proxy, or try again "
+                              "later."),
+                    service, cause);
+    return Fill(Texts::tr("The connection to %1 failed%2; check the proxy and whether the service's certificate is "
+                          "valid, or try again later."),
+                service, cause);
 }
 
 } // namespace
