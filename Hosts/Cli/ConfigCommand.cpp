@@ -123,7 +123,7 @@ ExitCode ConfigCommand::Run(Arguments const& arguments, Console& console)
     Configuration const configuration = App::LoadConfiguration(file, &App::LookUpEnvironment);
     (arguments.Find("--json") != nullptr ? PrintJson : PrintText)(file, configuration, console.out);
     for (std::string const& problem : configuration.problems)
-        console.err << "korvex: " << problem << '\n';
+        console.err << "korvex: " << ToSafeLine(ToJsonText(problem)).toStdString() << '\n';
     return ExitCode::Done;
 }
 

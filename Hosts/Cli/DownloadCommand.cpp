@@ -15,6 +15,7 @@
 
 #include "Core/FileSystem.h"
 
+#include <QDir>
 #include <QJsonObject>
 
 #include <algorithm>
@@ -68,6 +69,8 @@ void ThrowIfFailed(Core::Status const& status, ioPath const& file)
 /// Before anything is fetched: a download that cannot be stored would cost quota all the same.
 void PrepareFolder(ioPath const& folder)
 {
+    if (Core::PathExists(folder) && !Core::FolderExists(folder))
+        throw Hosts::FileError({Core::ErrorCode::OutputNotWritable, folder, {}, {}, {}, "it is not a folder"});
     ThrowIfFailed(Core::CreateFolders(folder), folder);
     ioPath const probe = Core::MakeTemporaryPath(folder / "korvex");
     ThrowIfFailed(Core::WriteFile(probe, {}, false), folder);
@@ -186,6 +189,7 @@ ExitCode DownloadCommand::Run(Arguments const& arguments, Console& console)
     if (results.empty())
         throw OnlineError(DescribeNothingFound(request));
     auto const picked = FindPicks(choice.picks, results);
+    bool const isFolderNew = !Core::FolderExists(choice.folder);
     PrepareFolder(choice.folder);
 
     Hosts::WorkFolder workFolder;
@@ -211,6 +215,9 @@ ExitCode DownloadCommand::Run(Arguments const& arguments, Console& console)
             code = ExitCode::Failed;
         }
     }
+    // Qt removes it only when nothing is in it.
+    if (isFolderNew)
+        QDir().rmdir(QString::fromStdString(choice.folder.utf8string()));
     if (outcome.isInterrupted)
         throw Interrupted();
     if (outcome.error)

@@ -1,6 +1,8 @@
 #include "Cli/OnlineOptions.h"
 
 #include "Cli/Console.h"
+#include "Cli/Json.h"
+#include "Cli/TextWidth.h"
 #include "Cli/Values.h"
 #include "Common/SessionError.h"
 
@@ -42,7 +44,8 @@ std::string ReadImdbId(GivenOption const& option)
 {
     constexpr std::size_t mostDigits = 10;
     std::string const& text = option.Value();
-    std::string digits = text.rfind("tt", 0) == 0 ? text.substr(2) : text;
+    bool const hasPrefix = text.rfind("tt", 0) == 0 || text.rfind("TT", 0) == 0;
+    std::string digits = hasPrefix ? text.substr(2) : text;
     bool const isNumber = !digits.empty() && digits.size() <= mostDigits &&
                           std::all_of(digits.begin(), digits.end(), [](char c) { return c >= '0' && c <= '9'; });
     if (!isNumber || digits.find_first_not_of('0') == std::string::npos)
@@ -124,7 +127,7 @@ App::Configuration ReadOnlineConfiguration(Arguments const& arguments, Console& 
 
     App::Configuration configuration = App::LoadConfiguration();
     for (std::string const& problem : configuration.problems)
-        console.err << "korvex: " << problem << '\n';
+        console.err << "korvex: " << ToSafeLine(ToJsonText(problem)).toStdString() << '\n';
     std::string const& address = App::UsesOpenSubtitlesVersion1(configuration) ? configuration.openSubtitlesUrl
                                                                                : configuration.openSubtitlesLegacyUrl;
     if (address.empty())

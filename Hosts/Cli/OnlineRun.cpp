@@ -36,6 +36,9 @@ OnlineRun::~OnlineRun() = default;
 SearchRequest OnlineRun::MakeRequest(OnlineQuery const& query) const
 {
     SearchRequest request = m_interactor->MakeQuery(query.media);
+    if (request.tags.empty() && query.media.path.empty())
+        throw UsageError("Nothing in " + Hosts::Quoted(query.media.title) +
+                         " can be looked for; write the title in letters or digits, or add --imdb ID.");
     if (request.tags.empty())
         throw UsageError("Nothing tells which film " + Hosts::Quoted(query.media.path) +
                          " is; add --title TITLE or --imdb ID.");

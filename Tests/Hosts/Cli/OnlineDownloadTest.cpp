@@ -138,7 +138,7 @@ TEST_F(OnlineDownloadTest, WhatIsNoSubtitleIsNotKept)
             EXPECT_EQ(result.exitCode, 1) << fault.fault;
             EXPECT_EQ(result.out, "") << fault.fault;
             EXPECT_THAT(result.err, HasSubstr(fault.fragment)) << fault.fault;
-            EXPECT_THAT(ListNames(GetFolder()), IsEmpty()) << fault.fault;
+            EXPECT_FALSE(Core::PathExists(GetFolder())) << fault.fault;
         }
 }
 
