@@ -1,5 +1,6 @@
 #include "App/Configuration.h"
 
+#include "App/Files/PrivateFile.h"
 #include "App/Ini/IniText.h"
 
 #include "Core/FileSystem.h"
@@ -23,6 +24,7 @@ namespace
 constexpr char const* VERSION_1_FEATURE = "USE_OPENSUBTITLES_VER_1";
 constexpr char const* FILE_VARIABLE = "KORVEX_CONFIG";
 constexpr char const* SERVICE_SECTION = "opensubtitles";
+constexpr char const* API_KEY = "api_key";
 constexpr char const* FEATURE_SECTION = "features";
 constexpr std::size_t MOST_FILE_BYTES = 1 << 20;
 
@@ -158,7 +160,7 @@ struct Setting
 
 constexpr std::array<Setting, 5> SETTINGS{{
     {"url", "KORVEX_OPENSUBTITLES_URL", &TakeUrl, &ShowUrl},
-    {"api_key", "KORVEX_OPENSUBTITLES_API_KEY", &TakeApiKey, &ShowApiKey},
+    {API_KEY, "KORVEX_OPENSUBTITLES_API_KEY", &TakeApiKey, &ShowApiKey},
     {"legacy_url", "KORVEX_OPENSUBTITLES_LEGACY_URL", &TakeLegacyUrl, &ShowLegacyUrl},
     {"timeout", "KORVEX_OPENSUBTITLES_TIMEOUT", &TakeTimeout, &ShowTimeout},
     {"json_body", "KORVEX_OPENSUBTITLES_JSON_BODY", &TakeJsonBody, &ShowJsonBody},
@@ -328,6 +330,16 @@ Configuration LoadConfiguration(ioPath const& file, EnvironmentLookup const& env
 Configuration LoadConfiguration()
 {
     return LoadConfiguration(FindConfigurationFile(&LookUpEnvironment), &LookUpEnvironment);
+}
+
+Core::Status StoreApiKey(ioPath const& file, std::string const& key)
+{
+    auto const bytes = Core::ReadFile(file, MOST_FILE_BYTES);
+    if (!bytes && bytes.GetError().code != Core::ErrorCode::FileNotFound)
+        return bytes.GetError(); // writing would destroy it
+    std::string const text = bytes ? *bytes : std::string();
+    return WritePrivateFile(file, key.empty() ? RemoveIniValue(text, SERVICE_SECTION, API_KEY)
+                                              : SetIniValue(text, SERVICE_SECTION, API_KEY, key));
 }
 
 bool UsesOpenSubtitlesVersion1(Configuration const& configuration)

@@ -2,6 +2,7 @@
 
 #include "App/ICustomizationManager.h"
 #include "Core/Export.h"
+#include "Core/Result.h"
 #include "Core/ioPath.h"
 
 #include <chrono>
@@ -77,6 +78,12 @@ using EnvironmentLookup = std::function<std::optional<std::string>(std::string c
                                                                   EnvironmentLookup const& environment);
 /// The same with the process's own file and environment.
 [[nodiscard]] KORVEX_PLATFORM_API Configuration LoadConfiguration();
+
+/// Writes the API key into the file, which is made where it is missing; an empty key is taken out. Everything else in
+/// the file stays, comments and unknown settings included. Afterwards its user alone may read it. Takes effect with the
+/// next `LoadConfiguration`.
+/// @param key visible ASCII
+[[nodiscard]] KORVEX_PLATFORM_API Core::Status StoreApiKey(ioPath const& file, std::string const& key);
 
 /// Whether the online search goes to version 1 of the service rather than to the older one.
 [[nodiscard]] KORVEX_PLATFORM_API bool UsesOpenSubtitlesVersion1(Configuration const& configuration);

@@ -5,6 +5,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QFileInfo>
+
 namespace Korvex::App
 {
 namespace
@@ -148,6 +151,60 @@ TEST_F(ConfigurationTest, AFileThatCannotBeReadIsAProblemAMissingOneIsNot)
     EXPECT_THAT(LoadConfiguration(m_file, nothing).problems, testing::IsEmpty());
     EXPECT_THAT(LoadConfiguration(m_file, named).problems, testing::ElementsAre(testing::HasSubstr("does not exist")));
     EXPECT_THAT(LoadConfiguration(m_folder, nothing).problems, testing::ElementsAre(testing::HasSubstr("a folder")));
+}
+
+TEST_F(ConfigurationTest, StoringAnApiKeyLeavesTheRestOfTheFileAlone)
+{
+    struct Case
+    {
+        std::string before;
+        std::string key;
+        std::string after;
+    };
+    std::string const others = "; mine\n[features]\nX = true\n";
+    Case const cases[] = {
+        {"", "abc", "[opensubtitles]\napi_key = abc\n"},
+        {others, "abc", others + "\n[opensubtitles]\napi_key = abc\n"},
+        {"[opensubtitles]\nunknown=  1 ; kept\n  api_key=old\n" + others, "a=b;c",
+         "[opensubtitles]\nunknown=  1 ; kept\napi_key = a=b;c\n" + others},
+        {"[opensubtitles]\r\n# none yet", "abc", "[opensubtitles]\r\napi_key = abc\r\n# none yet"},
+        {"\xEF\xBB\xBF[opensubtitles]", "\"abc\"", "\xEF\xBB\xBF[opensubtitles]\napi_key = \"\"abc\"\"\n"},
+        {"[opensubtitles]\napi_key=1\n[x]\napi_key=3\n[opensubtitles]\napi_key=2\n", "abc",
+         "[opensubtitles]\napi_key=1\n[x]\napi_key=3\n[opensubtitles]\napi_key = abc\n"},
+        {"[opensubtitles]\napi_key=1\n[x]\napi_key=3\n[opensubtitles]\napi_key=2\ntimeout = 5\n", "",
+         "[opensubtitles]\n[x]\napi_key=3\n[opensubtitles]\ntimeout = 5\n"},
+    };
+    for (Case const& each : cases)
+    {
+        Load(each.before);
+        EXPECT_EQ(StoreApiKey(m_file, each.key), Core::SUCCESS);
+        auto const after = Core::ReadFile(m_file, 1000);
+        ASSERT_TRUE(after);
+        EXPECT_EQ(*after, each.after);
+        EXPECT_EQ(Load(*after).openSubtitlesApiKey, each.key);
+    }
+}
+
+TEST_F(ConfigurationTest, AStoredApiKeyIsItsUsersAlone)
+{
+    ioPath const fresh = m_folder / "new" / "korvex.conf";
+    ASSERT_EQ(StoreApiKey(fresh, "abc"), Core::SUCCESS);
+    ioPath const real = m_folder / "real.conf";
+    ASSERT_EQ(Core::WriteFile(real, "; shared\n", true), Core::SUCCESS);
+    QString const link = QString::fromStdString(m_file.utf8string());
+    ASSERT_TRUE(QFile::link(QString::fromStdString(real.utf8string()), link));
+    ASSERT_EQ(StoreApiKey(m_file, "abc"), Core::SUCCESS);
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    for (ioPath const& file : {fresh, real})
+        EXPECT_EQ(QFileInfo(QString::fromStdString(file.utf8string())).permissions() &
+                      (QFile::ReadGroup | QFile::ReadOther),
+                  QFile::Permissions());
+
+    // What cannot be read is not replaced.
+    ioPath const large = m_folder / "large.conf";
+    ASSERT_EQ(Core::WriteFile(large, std::string(2 << 20, ';'), true), Core::SUCCESS);
+    EXPECT_NE(StoreApiKey(large, "abc"), Core::SUCCESS);
+    EXPECT_EQ(Core::FindFileStamp(large)->size, std::uintmax_t{2} << 20);
 }
 
 } // namespace

@@ -25,4 +25,13 @@ struct IniText
 /// commas, backslashes, percent signs and semicolons belong to addresses and keys.
 [[nodiscard]] IniText ParseIni(std::string const& text);
 
+/// The text with another value for one setting: in its own place, else at the top of its section, else in a new section
+/// at the end. Where the setting is written more than once, the one that counts is changed. Everything else stays byte
+/// by byte.
+/// @param value one line
+[[nodiscard]] std::string SetIniValue(std::string const& text, std::string const& section, std::string const& key,
+                                      std::string const& value);
+/// The text without the lines that make one setting.
+[[nodiscard]] std::string RemoveIniValue(std::string const& text, std::string const& section, std::string const& key);
+
 } // namespace Korvex::App
