@@ -9,6 +9,7 @@
 #include "Desktop/Words/Languages.h"
 
 #include "App/Configuration.h"
+#include "App/JsonLinesTracker.h"
 #include "Core/FileSystem.h"
 #include "Gui/LookAndFeelManager.h"
 #include "Subtitles/Entities/SubtitleTextSettings.h"
@@ -172,7 +173,8 @@ public:
           m_films(m_services),
           m_queue(m_services),
           m_store(m_films, folder / "session.json"),
-          m_window({m_services, m_films, m_queue, m_store, m_look, m_languages})
+          m_statistics(folder / "statistics.jsonl"),
+          m_window({m_services, m_films, m_queue, m_store, m_look, m_languages, m_statistics})
     {
         m_window.show();
         Rest(milliseconds(200));
@@ -250,6 +252,7 @@ private:
     Desktop::FilmList m_films;
     Desktop::ConversionQueue m_queue;
     Desktop::SessionStore m_store;
+    App::JsonLinesTracker m_statistics;
     Desktop::MainWindow m_window;
     Desktop::PreviewPane* m_preview = nullptr;
     QSlider* m_slider = nullptr;

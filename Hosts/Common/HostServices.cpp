@@ -7,6 +7,7 @@
 
 #include "App/Configuration.h"
 #include "App/GUIContainer.h"
+#include "App/IStatisticTracker.h"
 #include "Proc/Register.h"
 #include "Transcoder/TranscoderInteractor.h"
 
@@ -32,7 +33,9 @@ struct HostServices::Impl
     std::shared_ptr<ISubtitleController> controller;
 };
 
-HostServices::HostServices(App::Configuration const& configuration) : m_impl(std::make_unique<Impl>())
+HostServices::HostServices(App::Configuration const& configuration,
+                           std::shared_ptr<App::IStatisticTracker> const& statistics)
+    : m_impl(std::make_unique<Impl>())
 {
     // Components read it when they are made.
     App::SetActiveConfiguration(configuration);
@@ -43,6 +46,8 @@ HostServices::HostServices(App::Configuration const& configuration) : m_impl(std
     Hypodermic::ContainerBuilder builder;
     builder.registerInstance(m_impl->gui);
     builder.registerInstance(m_impl->transcoder).as<ITranscoderInteractor>();
+    if (statistics)
+        builder.registerInstance(statistics).as<App::IStatisticTracker>();
     Converter::Subtitles::FillBuilder(builder, std::make_shared<App::CustomizationManager>(configuration));
     m_impl->container = builder.build();
     Converter::Subtitles::InitFactories(m_impl->container);

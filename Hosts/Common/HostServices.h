@@ -12,6 +12,7 @@ class Container;
 namespace Korvex::App
 {
 struct Configuration;
+class IStatisticTracker;
 } // namespace Korvex::App
 
 namespace Korvex::Converter::Gui
@@ -44,7 +45,9 @@ class HostServices
 {
 public:
     /// The configuration becomes the one in force in this process.
-    explicit HostServices(App::Configuration const& configuration);
+    /// @param statistics hears what the module counts; null: nothing is counted
+    explicit HostServices(App::Configuration const& configuration,
+                          std::shared_ptr<App::IStatisticTracker> const& statistics = nullptr);
     ~HostServices();
     HostServices(HostServices const&) = delete;
     HostServices& operator=(HostServices const&) = delete;

@@ -340,6 +340,11 @@ std::map<ioPath, FileStamp> const& Film::ListUnreadableFiles() const
     return m_impl->ListUnreadableFiles();
 }
 
+bool Film::HadTrack(SubtitleTrackID const& id) const
+{
+    return m_impl->subtitles.IsSettled(id);
+}
+
 FilmChoice Film::GetChoice() const
 {
     return m_impl->GetChoice();

@@ -99,6 +99,9 @@ public:
     /// Its subtitle files that hold no subtitles, as they were when that was found out.
     [[nodiscard]] std::map<ioPath, FileStamp> const& ListUnreadableFiles() const;
 
+    /// Whether the track was in when `Changed` came last. While a file is being added: whether it had been in before.
+    [[nodiscard]] bool HadTrack(Converter::Subtitles::Entities::SubtitleTrackID const& id) const;
+
     /// What was decided; also of a film that is not there at the moment.
     [[nodiscard]] FilmChoice GetChoice() const;
     /// Decides all of it; takes effect when the film has been read.

@@ -64,6 +64,8 @@ public:
     /// The files that were found beside the film, as they were found.
     [[nodiscard]] std::map<TrackID, Track> const& ListFoundBeside() const { return m_foundBeside; }
     [[nodiscard]] TrackProperties GetProperties(TrackID const& id) const;
+    /// Whether the track was in when this was settled last.
+    [[nodiscard]] bool IsSettled(TrackID const& id) const { return m_codecs.Knows(id); }
 
     void AddFiles(std::vector<ioPath> const& paths);
     void ChooseNone();

@@ -36,6 +36,7 @@ public:
 
     /// The codec that a track comes in with is its source's. False when the track was known.
     bool Learn(Track const& track);
+    [[nodiscard]] bool Knows(TrackID const& id) const { return m_sources.count(id) > 0; }
     void Forget(TrackID const& id) { m_sources.erase(id); }
 
     void ShowSources(Collection& collection) const;

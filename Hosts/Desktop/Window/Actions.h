@@ -15,6 +15,7 @@ enum class ActionId
 {
     AddFilms,
     AddSubtitles,
+    ShowSettings,
     Quit,
     ChooseSubtitles,
     ApplyToAll,

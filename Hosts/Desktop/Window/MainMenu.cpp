@@ -35,6 +35,8 @@ MainMenu::MainMenu(Actions const& actions, QMenuBar& bar, QObject* parent)
 {
     Fill(m_file, actions, {ActionId::AddFilms, ActionId::AddSubtitles});
     m_file->addSeparator();
+    Fill(m_file, actions, {ActionId::ShowSettings});
+    m_file->addSeparator();
     Fill(m_file, actions, {ActionId::Quit});
 
     Fill(m_film, actions, {ActionId::ConvertFilm, ActionId::CancelFilm, ActionId::RevealOutput});

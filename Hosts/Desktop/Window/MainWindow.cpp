@@ -10,6 +10,7 @@
 #include "Desktop/Window/ConversionControl.h"
 #include "Desktop/Window/DropTarget.h"
 #include "Desktop/Window/EmptyPage.h"
+#include "Desktop/Window/FetchedSubtitles.h"
 #include "Desktop/Window/FileActions.h"
 #include "Desktop/Window/FilmActions.h"
 #include "Desktop/Window/FilmListPane.h"
@@ -17,8 +18,10 @@
 #include "Desktop/Window/ModulePanels.h"
 #include "Desktop/Window/NoticeBar.h"
 #include "Desktop/Window/Notices.h"
+#include "Desktop/Window/OnlineSettings.h"
 #include "Desktop/Window/OutputBar.h"
 #include "Desktop/Window/OutputControl.h"
+#include "Desktop/Window/SettingsDialog.h"
 #include "Desktop/Window/ShortcutsDialog.h"
 #include "Desktop/Window/SubtitlesPopup.h"
 #include "Desktop/Window/SubtitlesSide.h"
@@ -73,7 +76,7 @@ MainWindow::~MainWindow() = default;
 
 void MainWindow::MakeParts()
 {
-    auto const& [services, films, queue, store, look, languages] = m_program;
+    auto const& [services, films, queue, store, look, languages, statistics] = m_program;
     m_actions = new Actions(this);
     m_menu = new MainMenu(*m_actions, *menuBar(), this);
     m_control = new ConversionControl(films, queue, this);
@@ -86,6 +89,8 @@ void MainWindow::MakeParts()
     m_filmActions = new FilmActions({films, *m_filmPane, queue, *m_control, *m_notices, *m_actions, *this});
     m_filmActions->FillPutBackMenu(*m_menu->GetPutBackMenu());
     m_trackActions = new TrackActions(*m_panels, *m_notices, *this);
+    m_onlineSettings = new OnlineSettings(store, statistics, this);
+    new FetchedSubtitles(services, films, *m_notices, this);
     // Without a parent until they are laid out, so that the tabulator comes to them in that order.
     m_textHelp = new TextHelpPane;
     m_preview = new PreviewPane(this);
@@ -174,6 +179,8 @@ void MainWindow::ConnectHelp()
 {
     connect(&m_program.store, &SessionStore::SavingFailed, this, &MainWindow::ShowWarning);
     connect(m_actions->Get(ActionId::Quit), &QAction::triggered, this, &QWidget::close);
+    connect(m_actions->Get(ActionId::ShowSettings), &QAction::triggered, this,
+            [this] { SettingsDialog(*m_onlineSettings, this).exec(); });
     connect(m_actions->Get(ActionId::ShowShortcuts), &QAction::triggered, this,
             [this] { ShortcutsDialog(*m_actions, this).exec(); });
     connect(m_actions->Get(ActionId::ShowAbout), &QAction::triggered, this, [this] { AboutDialog(this).exec(); });

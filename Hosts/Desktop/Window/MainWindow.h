@@ -13,6 +13,7 @@ class QStackedWidget;
 namespace Korvex::App
 {
 class ILookAndFeelManager;
+class JsonLinesTracker;
 } // namespace Korvex::App
 
 namespace Korvex::Desktop
@@ -30,6 +31,7 @@ class MainMenu;
 class ModulePanels;
 class NoticeBar;
 class Notices;
+class OnlineSettings;
 class OutputBar;
 class PreviewPane;
 class SessionStore;
@@ -46,6 +48,7 @@ struct Program
     SessionStore& store; ///< has restored
     App::ILookAndFeelManager& look;
     Languages& languages;
+    App::JsonLinesTracker& statistics;
 };
 
 /// Puts the parts of the program beside each other and connects them; what they do is theirs. GUI thread.
@@ -91,6 +94,7 @@ private:
     FileActions* m_fileActions = nullptr;
     FilmActions* m_filmActions = nullptr;
     TrackActions* m_trackActions = nullptr;
+    OnlineSettings* m_onlineSettings = nullptr;
     TextHelpPane* m_textHelp = nullptr;
     PreviewPane* m_preview = nullptr;
     OutputBar* m_outputBar = nullptr;

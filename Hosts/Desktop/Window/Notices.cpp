@@ -85,13 +85,44 @@ void Notices::ShowFilm(Film* film)
 void Notices::AddNews(Mark mark, QString const& sentence)
 {
     bool const isKnown = std::any_of(m_news.begin(), m_news.end(),
-                                     [&sentence](NewsItem const& item) { return item.sentence == sentence; });
+                                     [&sentence](NewsItem const& item) { return item.notice.sentence == sentence; });
     if (!isKnown)
-        m_news.insert(m_news.begin(), NewsItem{m_nextNumber++, mark, sentence});
-    if (m_news.size() > MAX_NEWS)
-        m_news.pop_back();
+        PrependNews({mark, sentence, {}, mark == Mark::Success, {}}, {});
     Update();
     m_bar.ShowNotice(sentence);
+}
+
+void Notices::PutNews(std::string const& name, Notice const& notice)
+{
+    EraseNews([&name](NewsItem const& item) { return item.name == name; });
+    PrependNews(notice, name);
+    Update();
+    m_bar.ShowNotice(notice.sentence);
+}
+
+void Notices::RemoveNews(std::string const& name)
+{
+    EraseNews([&name](NewsItem const& item) { return item.name == name; });
+    Update();
+}
+
+void Notices::PrependNews(Notice notice, std::string const& name)
+{
+    int const number = m_nextNumber++;
+    notice.close = [this, number]
+    {
+        EraseNews([number](NewsItem const& item) { return item.number == number; });
+        Update();
+    };
+    m_news.insert(m_news.begin(), NewsItem{number, std::move(notice), name});
+    if (m_news.size() > MAX_NEWS)
+        m_news.pop_back();
+}
+
+template <typename Predicate>
+void Notices::EraseNews(Predicate const& isMeant)
+{
+    m_news.erase(std::remove_if(m_news.begin(), m_news.end(), isMeant), m_news.end());
 }
 
 void Notices::ShowBatch(BatchReport const& report)
@@ -223,18 +254,8 @@ void Notices::AppendBatch(std::vector<Notice>& notices)
 
 void Notices::AppendNews(std::vector<Notice>& notices)
 {
-    auto const toNotice = [this](NewsItem const& item)
-    {
-        auto const close = [this, number = item.number]
-        {
-            m_news.erase(std::remove_if(m_news.begin(), m_news.end(),
-                                        [number](NewsItem const& entry) { return entry.number == number; }),
-                         m_news.end());
-            Update();
-        };
-        return Notice{item.mark, item.sentence, {}, item.mark == Mark::Success, close};
-    };
-    std::transform(m_news.begin(), m_news.end(), std::back_inserter(notices), toNotice);
+    std::transform(m_news.begin(), m_news.end(), std::back_inserter(notices),
+                   [](NewsItem const& item) { return item.notice; });
 }
 
 void Notices::Take(Remedy const& remedy)

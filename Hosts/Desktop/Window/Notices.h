@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 #include <set>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -40,6 +41,10 @@ public:
     /// Follows every change of this film from now on; null: news alone.
     void ShowFilm(Film* film);
     void AddNews(Mark mark, QString const& sentence);
+    /// The same for a notice of which there may be more to say: it takes the place of what was put under this name
+    /// before. The user may close it.
+    void PutNews(std::string const& name, Notice const& notice);
+    void RemoveNews(std::string const& name);
     /// In the place of what was said of the films before; turns to it. Nothing when there is nothing to say.
     void ShowBatch(BatchReport const& report);
     /// Turns to the remarks on this film's last conversion, also where they were closed; it has to be shown.
@@ -66,6 +71,9 @@ private:
     void AppendRemarks(std::vector<Notice>& notices);
     void AppendBatch(std::vector<Notice>& notices);
     void AppendNews(std::vector<Notice>& notices);
+    void PrependNews(Notice notice, std::string const& name);
+    template <typename Predicate>
+    void EraseNews(Predicate const& isMeant);
     void Take(Remedy const& remedy);
 
     FilmList& m_films;
@@ -79,8 +87,8 @@ private:
     struct NewsItem
     {
         int number;
-        Mark mark;
-        QString sentence;
+        Notice notice;
+        std::string name; ///< empty: stands for itself
     };
     std::vector<NewsItem> m_news; ///< newest first
     int m_nextNumber = 0;

@@ -4,11 +4,13 @@
 #include "Desktop/Films/FilmList.h"
 #include "Desktop/Films/SessionStore.h"
 #include "Desktop/Window/MainWindow.h"
+#include "Desktop/Window/OnlineSettings.h"
 #include "Desktop/Words/Languages.h"
 
 #include "Common/HostServices.h"
 
 #include "App/Configuration.h"
+#include "App/JsonLinesTracker.h"
 #include "Gui/LookAndFeelManager.h"
 
 #include <QGuiApplication>
@@ -34,14 +36,15 @@ struct RunningProgram::Impl
     {
         languages.Switch(Languages::FindSystemLanguage());
         QString const failure = store.Restore();
-        window = std::make_unique<MainWindow>(Program{services, films, queue, store, lookAndFeel, languages});
+        window =
+            std::make_unique<MainWindow>(Program{services, films, queue, store, lookAndFeel, languages, *statistics});
         if (!failure.isEmpty())
             window->ShowWarning(failure);
     }
 
     GUI::LookAndFeelManager lookAndFeel{GUI::FindSystemTheme()};
-    Hosts::HostServices services{
-        App::LoadConfiguration(App::FindConfigurationFile(&App::LookUpEnvironment), &App::LookUpEnvironment)};
+    std::shared_ptr<App::JsonLinesTracker> statistics = std::make_shared<App::JsonLinesTracker>(FindStatisticsFile());
+    Hosts::HostServices services{App::LoadConfiguration(), statistics};
     Languages languages;
     FilmList films{services};
     ConversionQueue queue{services};

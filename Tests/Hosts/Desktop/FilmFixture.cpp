@@ -1,7 +1,5 @@
 #include "Hosts/Desktop/FilmFixture.h"
 
-#include "App/Configuration.h"
-
 #include <QtTest/QTest>
 
 namespace Korvex::Testing
@@ -10,7 +8,12 @@ namespace Korvex::Testing
 using Desktop::Film;
 using Desktop::FilmState;
 
-FilmFixture::FilmFixture() : m_services(App::Configuration()), m_list(m_services) {}
+FilmFixture::FilmFixture(App::Configuration const& configuration)
+    : m_statistics(std::make_shared<App::JsonLinesTracker>(m_folder / "statistics.jsonl")),
+      m_services(configuration, m_statistics),
+      m_list(m_services)
+{
+}
 
 ioPath FilmFixture::MakeFilm(std::string const& name, std::vector<MadeSubtitle> subtitles)
 {

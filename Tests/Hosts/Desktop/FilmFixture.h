@@ -2,6 +2,8 @@
 
 #include "Support/MediaMaker.h"
 
+#include "App/Configuration.h"
+#include "App/JsonLinesTracker.h"
 #include "Common/HostServices.h"
 #include "Desktop/Films/Film.h"
 #include "Desktop/Films/FilmList.h"
@@ -9,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -21,7 +24,7 @@ using SubtitleTrackID = Converter::Subtitles::Entities::SubtitleTrackID;
 class FilmFixture : public testing::Test
 {
 protected:
-    FilmFixture();
+    explicit FilmFixture(App::Configuration const& configuration = {});
 
     /// With picture and sound, so that subtitles begin at stream 2.
     ioPath MakeFilm(std::string const& name, std::vector<MadeSubtitle> subtitles = {});
@@ -34,6 +37,7 @@ protected:
     [[nodiscard]] static std::vector<std::string> ListSentences(Desktop::Film const& film);
 
     TemporaryFolder m_folder;
+    std::shared_ptr<App::JsonLinesTracker> m_statistics;
     Hosts::HostServices m_services;
     Desktop::FilmList m_list;
 };

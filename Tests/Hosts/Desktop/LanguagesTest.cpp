@@ -107,7 +107,7 @@ TEST_F(LanguagesTest, EveryTextOfTheWindowFollowsASwitchToGerman)
     film.ChooseTrack(Testing::SubtitleTrackID(added));
     SetFormat("mp4");
     SessionStore store(m_list, m_folder / "session.json");
-    MainWindow window({m_services, m_list, queue, store, Testing::GetLookAndFeel(), languages});
+    MainWindow window({m_services, m_list, queue, store, Testing::GetLookAndFeel(), languages, *m_statistics});
     window.resize(1200, 800);
     Testing::ShowAndWait(window);
     ASSERT_GT(recorder.GetRequests().size(), 50U);

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QMenu>
+#include <QTabWidget>
 #include <QTimer>
 #include <QTranslator>
 
@@ -145,6 +146,14 @@ protected:
     {
         LookAtDialog("about", [this] { Trigger("showAboutAction"); });
         LookAtDialog("shortcuts", [this] { Trigger("showShortcutsAction"); });
+        LookAtDialog("settings-online", [this] { Trigger("settingsAction"); });
+        LookAtDialog("settings-statistics",
+                     [this]
+                     {
+                         QTimer::singleShot(0, &GetWindow(),
+                                            [this] { Get<QTabWidget>("settingsTabs").setCurrentIndex(1); });
+                         Trigger("settingsAction");
+                     });
         LookAtDialog("apply-report", [this] { Trigger("applyToAllAction"); });
         LookAtDialog("font", [this] { Click("selectFontButton"); });
         LookAtDialog("color", [this] { Click("textColorPicker"); });

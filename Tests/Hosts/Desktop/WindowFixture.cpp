@@ -13,7 +13,7 @@ namespace Korvex::Testing
 
 using Desktop::Film;
 
-WindowFixture::WindowFixture()
+WindowFixture::WindowFixture(App::Configuration const& configuration) : FilmFixture(configuration)
 {
     Start();
 }
@@ -31,7 +31,7 @@ void WindowFixture::Start()
     if (m_store->GetExtra("language").isEmpty())
         m_store->SetExtra("language", "en");
     m_window = std::make_unique<Desktop::MainWindow>(
-        Desktop::Program{m_services, m_list, *m_queue, *m_store, GetLookAndFeel(), m_languages});
+        Desktop::Program{m_services, m_list, *m_queue, *m_store, GetLookAndFeel(), m_languages, *m_statistics});
     ShowAndWait(*m_window);
 }
 

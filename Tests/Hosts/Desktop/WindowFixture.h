@@ -21,7 +21,7 @@ namespace Korvex::Testing
 class WindowFixture : public FilmFixture
 {
 protected:
-    WindowFixture();
+    explicit WindowFixture(App::Configuration const& configuration = {});
     ~WindowFixture() override;
 
     /// Ends the program and starts it again with an empty list.
