@@ -67,9 +67,11 @@ enum class OnlineSearchMark
 class IOnlineSearchDialogEventObserver
 {
 public:
+    /// By the button or Enter in a field. Enter in the title is told by its autocomplete control alone.
     virtual void OnSearchRequested() = 0;
     /// The user changed a field, the title included.
     virtual void OnFieldsEdited() = 0;
+    /// Once the list of languages has closed, if others are chosen than before.
     virtual void OnLanguagesChanged(std::set<Entities::Language::LanguageID> const& languages) = 0;
     /// Never empty; in the order of the list.
     virtual void OnDownloadRequested(std::vector<std::shared_ptr<UseCases::SearchResult>> const& results) = 0;

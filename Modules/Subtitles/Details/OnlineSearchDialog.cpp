@@ -84,11 +84,7 @@ public:
     void OnTextEdited(QString const& /*text*/) override { TellFieldsEdited(); }
     void OnSuggestionChosen(QString const& /*title*/) override { TellFieldsEdited(); }
 
-    void OnConfirmed() override
-    {
-        if (m_window != nullptr)
-            m_window->RequestSearch();
-    }
+    void OnConfirmed() override {} // whoever observes the title hears it from there
 
 private:
     /// The window that the user works in. While a search window closes, that is the one below it.

@@ -55,7 +55,7 @@ OnlineSearchWindow::~OnlineSearchWindow() = default;
 
 void OnlineSearchWindow::Wire()
 {
-    connect(m_fields, &OnlineSearchWindowFields::SearchRequested, this, &OnlineSearchWindow::RequestSearch);
+    connect(m_fields, &OnlineSearchWindowFields::SearchRequested, this, [this] { RequestSearch(); });
     connect(m_results, &ResultList::Chosen, this, [this] { RequestDownload(); });
     connect(m_results, &ResultList::SelectionChanged, this,
             [this] { m_status->SetCounts(m_results->CountRows(), static_cast<int>(m_results->GetSelected().size())); });

@@ -31,8 +31,6 @@ public:
     [[nodiscard]] OnlineSearchWindowFields& GetFields() const { return *m_fields; }
     void SetResults(std::vector<Adapters::OnlineSearchRow> const& rows);
     void SetState(Adapters::OnlineSearchState state, QString const& sentence, Adapters::OnlineSearchMark mark);
-    /// As the search button does, if a search can be begun now.
-    void RequestSearch();
 
 Q_SIGNALS:
     void SearchRequested();
@@ -46,6 +44,7 @@ protected:
 private:
     void Wire();
     void Retranslate();
+    void RequestSearch();
     void RequestDownload();
     /// The sentence stands in the list's place where there is nothing to list, and below the list else.
     void ShowState();

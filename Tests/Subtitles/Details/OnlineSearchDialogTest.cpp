@@ -1,12 +1,10 @@
 #include "Hosts/Desktop/LayoutLint.h"
 #include "Support/WidgetSupport.h"
 
-#include "Subtitles/Adapters/IAutocompleteControl.h"
+#include "Subtitles/Details/AutocompleteControl.h"
 #include "Subtitles/Details/OnlineSearchDialog.h"
 #include "Subtitles/Entities/SearchTags.h"
 #include "Subtitles/UseCases/SearchResult.h"
-
-#include "Core/EventHandlerList.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -17,7 +15,6 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMainWindow>
-#include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSettings>
@@ -46,38 +43,6 @@ using Entities::Language::LanguageID;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using UseCases::SearchResult;
-
-/// A plain field in the title's place.
-class TitleField final : public Adapters::IAutocompleteControl
-{
-public:
-    using Observer = Adapters::IAutocompleteControlEventObserver;
-
-    void RegisterEventHandler(Observer* observer) override { observers.RegisterEventHandler(observer); }
-    void UnregisterEventHandler(Observer* observer) override { observers.UnregisterEventHandler(observer); }
-    void SetText(QString const& text) override { GetEdit()->setText(text); }
-    QString GetText() const override { return edit ? edit->text() : QString(); }
-    void ShowSuggestions(std::vector<QString> const& /*titles*/) override {}
-    QWidget* GetWidget() override { return GetEdit(); }
-
-private:
-    QLineEdit* GetEdit()
-    {
-        if (edit)
-            return edit;
-        edit = new QLineEdit;
-        edit->setObjectName("titleEdit");
-        QObject::connect(edit, &QLineEdit::textEdited, edit,
-                         [this](QString const& text)
-                         { observers.Notify([&](Observer* observer) { observer->OnTextEdited(text); }); });
-        QObject::connect(edit, &QLineEdit::returnPressed, edit,
-                         [this] { observers.Notify([](Observer* observer) { observer->OnConfirmed(); }); });
-        return edit;
-    }
-
-    Core::EventHandlerList<Observer> observers;
-    QPointer<QLineEdit> edit;
-};
 
 class Listener final : public Adapters::IOnlineSearchDialogEventObserver
 {
@@ -227,31 +192,32 @@ protected:
 
     QTemporaryDir settings;
     std::unique_ptr<QMainWindow> window = std::make_unique<QMainWindow>();
-    std::shared_ptr<TitleField> title = std::make_shared<TitleField>();
+    std::shared_ptr<AutocompleteControl> title = std::make_shared<AutocompleteControl>();
     Listener listener;
     std::unique_ptr<OnlineSearchDialog> dialog = std::make_unique<OnlineSearchDialog>(title);
 };
 
-TEST_F(OnlineSearchDialogTest, AsksForASearchByButtonAndByEnterInEachField)
+TEST_F(OnlineSearchDialogTest, AsksForASearchOnceByButtonAndByEnterInAField)
 {
     Open();
     EXPECT_EQ(Window()->parentWidget(), window.get());
     EXPECT_FALSE(Window()->isModal()) << "the preview stays alive";
-    EXPECT_TRUE(Get("titleEdit").hasFocus());
+    EXPECT_TRUE(Get("autocompleteField").hasFocus());
     EXPECT_FALSE(Get("seasonEdit").isVisible());
-    QTest::keyClicks(&Get("titleEdit"), "ab");
-    QTest::keyClick(&Get("titleEdit"), Qt::Key_Return);
+    QTest::keyClicks(&Get("autocompleteField"), "ab");
+    QTest::keyClick(&Get("autocompleteField"), Qt::Key_Return);
     Click("showEpisodeButton");
     EXPECT_TRUE(Get("seasonEdit").hasFocus());
     EXPECT_FALSE(Get("showEpisodeButton").isVisible());
     QTest::keyClicks(&Get("seasonEdit"), "x2");
     QTest::keyClick(&Get("seasonEdit"), Qt::Key_Enter);
     QTest::keyClick(&Get("seasonEdit"), Qt::Key_R, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return listener.log.size() == 6; })) << "the button goes down and up";
-    EXPECT_THAT(listener.Take(), ElementsAre("edited", "edited", "search", "edited", "search", "search"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return listener.log.size() == 5; })) << "the button goes down and up";
+    EXPECT_THAT(listener.Take(), ElementsAre("edited", "edited", "edited", "search", "search"))
+        << "the title tells of Enter by itself";
 
     SetState(OnlineSearchState::Searching);
-    QTest::keyClick(&Get("titleEdit"), Qt::Key_Return);
+    QTest::keyClick(&Get("autocompleteField"), Qt::Key_Return);
     QTest::keyClick(&Get("seasonEdit"), Qt::Key_Return);
     Click("searchButton");
     EXPECT_THAT(listener.Take(), IsEmpty());
@@ -295,7 +261,7 @@ TEST_F(OnlineSearchDialogTest, SaysInWordsWhatIsWrongWithAnImdbId)
     for (char const* const right : {"", "tt0133093", "0133093", "TT1234567890", " tt0133093 "})
         EXPECT_EQ(reasonFor(right), "") << right;
     EXPECT_TRUE(reasonFor("tt013309").startsWith("dim: The IMDb id is too short")) << "perhaps still being typed";
-    Get("titleEdit").setFocus();
+    Get("autocompleteField").setFocus();
     EXPECT_EQ(Get("imdbReasonLabel").property("role"), "error");
     field.setFocus();
     EXPECT_TRUE(reasonFor("12345678901").startsWith("error: The IMDb id is too long"));
@@ -489,7 +455,7 @@ TEST_F(OnlineSearchDialogTest, TellsOnceThatItIsClosedHoweverThatComes)
     QWidget* const early = window.get();
     Open();
     SetState(OnlineSearchState::Searching);
-    QTest::keyClick(&Get("titleEdit"), Qt::Key_Escape);
+    QTest::keyClick(&Get("autocompleteField"), Qt::Key_Escape);
     EXPECT_EQ(Window(), nullptr);
     dialog->Close();
     dialog->SetResults(MakeManyRows(2));
@@ -500,7 +466,7 @@ TEST_F(OnlineSearchDialogTest, TellsOnceThatItIsClosedHoweverThatComes)
     EXPECT_EQ(Window()->parentWidget(), early);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     ASSERT_NE(Window(), nullptr);
-    QTest::keyClicks(&Get("titleEdit"), "a");
+    QTest::keyClicks(&Get("autocompleteField"), "a");
     EXPECT_THAT(listener.Take(), ElementsAre("edited"));
     Window()->close();
     EXPECT_THAT(listener.Take(), ElementsAre("closed"));
@@ -525,7 +491,7 @@ TEST_F(OnlineSearchDialogTest, IsDrivenByKeysAndNamedForScreenReaders)
     Open();
     dialog->SetFileSearchAvailable(true);
     dialog->SetResults(MakeManyRows(4));
-    Get("titleEdit").setFocus();
+    Get("autocompleteField").setFocus();
     std::vector<std::string> stops;
     do
     {
@@ -533,11 +499,10 @@ TEST_F(OnlineSearchDialogTest, IsDrivenByKeysAndNamedForScreenReaders)
         stops.push_back(widget->objectName().toStdString());
         auto const* const button = qobject_cast<QAbstractButton const*>(widget);
         bool const hasText = button != nullptr && !button->text().isEmpty();
-        EXPECT_TRUE(hasText || !widget->accessibleName().isEmpty() || widget->objectName() == "titleEdit")
-            << stops.back();
+        EXPECT_TRUE(hasText || !widget->accessibleName().isEmpty()) << stops.back();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    } while (QApplication::focusWidget()->objectName() != "titleEdit" && stops.size() < 30);
-    EXPECT_THAT(stops, ElementsAre("titleEdit", "seasonEdit", "episodeEdit", "searchButton", "imdbEdit",
+    } while (QApplication::focusWidget()->objectName() != "autocompleteField" && stops.size() < 30);
+    EXPECT_THAT(stops, ElementsAre("autocompleteField", "seasonEdit", "episodeEdit", "searchButton", "imdbEdit",
                                    "languagesButton", "exactFileCheckBox", "resultFilterEdit", "resultOrderComboBox",
                                    "resultListView", "downloadButton", "searchCloseButton"));
     QModelIndex const match = View().model()->index(0, 1);
