@@ -1,9 +1,6 @@
+#include "Subtitles/Fakes/FakeOnlineService.h"
+
 #include "Subtitles/Adapters/AutocompletePresenter.h"
-
-#include "Subtitles/Entities/SearchTags.h"
-#include "Subtitles/UseCases/IOnlineSearchController.h"
-
-#include "Core/EventHandlerList.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -18,53 +15,15 @@ namespace
 using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using Services = std::vector<std::shared_ptr<UseCases::IOnlineSearchController>>;
 
-/// Keeps the rules of the real one: busy until its reply has come, still busy while it tells of a failure, and silent
-/// about what was cancelled.
-class SlowService final : public UseCases::IOnlineSearchController
+void Wait(std::function<bool()> const& isEnough, std::chrono::milliseconds longest = 5s)
 {
-public:
-    using Observer = UseCases::IOnlineSearchControllerObserver;
-
-    void RegisterEventHandler(Observer* observer) override { observers.RegisterEventHandler(observer); }
-    void UnregisterEventHandler(Observer* observer) override { observers.UnregisterEventHandler(observer); }
-    Status StartSearch(UseCases::SearchRequest const&) override { return UnsupportedSearch; }
-    Status DownloadSubtitles(std::vector<std::shared_ptr<UseCases::SearchResult>> const&, ioPath const&) override
-    {
-        return UnsupportedSearch;
-    }
-    Status AutoSuggest(std::string const& tag, QString const& text) override
-    {
-        EXPECT_EQ(tag, Entities::SearchTags::TITLE);
-        if (isBusy)
-            return Busy;
-        isCanceled = false;
-        isBusy = true;
-        asked.push_back(text.toStdString());
-        return Success;
-    }
-    bool CancelOperation() override { return isCanceled = isBusy; }
-
-    void Answer(std::vector<QString> const& titles)
-    {
-        if (!isCanceled)
-            observers.Notify([&](Observer* observer) { observer->OnAutoSuggestResults(titles); });
-        isBusy = false;
-        if (!isCanceled)
-            observers.Notify([](Observer* observer) { observer->OnOperationFinished(); });
-    }
-    void Fail()
-    {
-        if (!isCanceled)
-            observers.Notify([](Observer* observer) { observer->OnOperationFailed(NoConnection, "offline"); });
-        isBusy = false;
-    }
-
-    Core::EventHandlerList<Observer> observers;
-    std::vector<std::string> asked;
-    bool isBusy = false;
-    bool isCanceled = false;
-};
+    QElapsedTimer timer;
+    timer.start();
+    while (!isEnough() && timer.elapsed() < longest.count())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
+}
 
 class AutocompletePresenterTest : public testing::Test, public UseCases::IAutocompletePresenterEventObserver
 {
@@ -83,29 +42,22 @@ protected:
         if (onShown)
             onShown();
     }
-
-    static void Wait(std::function<bool()> const& isEnough, std::chrono::milliseconds longest = 5s)
+    /// Until the service has been asked that often, or for a while.
+    void Type(char const* text, std::size_t questions = 0)
     {
-        QElapsedTimer timer;
-        timer.start();
-        while (!isEnough() && timer.elapsed() < longest.count())
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
+        m_presenter->SetText(text);
+        Wait([&] { return questions != 0 && m_service->started.size() >= questions; }, questions != 0 ? 5000ms : 30ms);
     }
-    void Type(char const* text, std::size_t questions)
+    void Answer(std::vector<QString> const& titles)
     {
-        m_presenter->SetText(QString::fromUtf8(text));
-        Wait([&] { return m_service->asked.size() >= questions; });
-    }
-    static void Rest()
-    {
-        Wait([] { return false; }, 30ms);
+        m_service->Suggest(titles);
+        m_service->End();
     }
 
     int m_argumentCount = 0;
     QCoreApplication const m_application{m_argumentCount, nullptr};
-    std::shared_ptr<SlowService> m_service = std::make_shared<SlowService>();
-    std::unique_ptr<AutocompletePresenter> m_presenter = std::make_unique<AutocompletePresenter>(
-        std::vector<std::shared_ptr<UseCases::IOnlineSearchController>>{m_service, std::make_shared<SlowService>()});
+    std::shared_ptr<Testing::FakeOnlineService> m_service = std::make_shared<Testing::FakeOnlineService>();
+    std::unique_ptr<AutocompletePresenter> m_presenter = std::make_unique<AutocompletePresenter>(Services{m_service});
     std::vector<std::string> shown;
     std::function<void()> onShown;
 };
@@ -115,64 +67,61 @@ TEST_F(AutocompletePresenterTest, AsksOnceTheTextRestsAndOnlyWhatIsWorthIt)
     m_presenter->SetDelay(AutocompletePresenter::DELAY);
     QElapsedTimer timer;
     timer.start();
-    for (char const* const text : {"a", "al", "ali", " Tom & Jerry #2 "})
+    for (char const* const text : {"a", "al", "ali"})
         m_presenter->SetText(text);
-    Wait([&] { return !m_service->asked.empty(); });
+    Type(" Tom & Jerry #2 ", 1);
     EXPECT_GE(timer.elapsed(), 299);
-    EXPECT_THAT(m_service->asked, ElementsAre("Tom Jerry 2"));
+    Answer({" Heat", "HEAT", "", "Heat  2", "Été", "ÉTÉ"});
+    EXPECT_THAT(shown, ElementsAre(" Tom & Jerry #2 : Heat Heat 2 Été"));
 
     m_presenter->SetDelay(1ms);
-    m_service->Answer({" Heat", "HEAT", "", "Heat  2", "Été", "ÉTÉ"});
-    EXPECT_THAT(shown, ElementsAre(" Tom & Jerry #2 : Heat Heat 2 Été"));
-    m_presenter->SetText("Tom Jerry   2"); // the same for a service
-    Rest();
+    Type("Tom Jerry   2"); // the same for a service
     Type("Tom", 2);
     std::vector<QString> many;
     for (int i = 0; i < 30; ++i)
         many.push_back(QString::number(i));
-    m_service->Answer(many);
+    Answer(many);
     EXPECT_THAT(shown.back(), testing::EndsWith(" 18 19"));
     for (char const* const text : {"", " x ", "#&%?", "é "})
-        Type(text, 0);
-    Rest();
-    EXPECT_THAT(m_service->asked, ElementsAre("Tom Jerry 2", "Tom"));
-    EXPECT_EQ(shown.size(), 3u) << "the list of what is gone is taken away once";
-    EXPECT_EQ(shown.back(), ":");
+        Type(text);
+    EXPECT_THAT(m_service->started, ElementsAre("Tom Jerry 2", "Tom"));
+    EXPECT_EQ(shown.size(), 3u);
+    EXPECT_EQ(shown.back(), ":") << "the list of what is gone is taken away";
 }
 
 TEST_F(AutocompletePresenterTest, WhileAnOlderTextIsAnsweredTheNewestOneWaits)
 {
     Type("al", 1);
     for (char const* const text : {"ali", "alie", "alien"})
-    {
-        m_presenter->SetText(text);
-        Rest();
-    }
-    m_service->Answer({"Ali"});
+        Type(text);
+    Answer({"Ali"});
     EXPECT_THAT(shown, IsEmpty());
-    Type("alien", 2);
-    EXPECT_THAT(m_service->asked, ElementsAre("al", "alien"));
-    m_presenter->SetText("aliens");
-    Rest();
+    EXPECT_THAT(m_service->started, ElementsAre("al", "alien"));
+    Type("aliens");
     m_presenter->SetText("alien"); // back again before the answer
-    m_service->Answer({"Alien"});
-    Rest();
+    Answer({"Alien"});
+    Type("alien");
     EXPECT_THAT(shown, ElementsAre("alien: Alien"));
-    EXPECT_EQ(m_service->asked.size(), 2u);
+    EXPECT_EQ(m_service->started.size(), 2u);
+
+    Type("heat", 3);
+    m_presenter->SetDelay(1h);
+    m_presenter->SetText("heat 2");
+    Answer({});
+    EXPECT_EQ(m_service->started.size(), 3u) << "it has not rested yet";
 }
 
 TEST_F(AutocompletePresenterTest, AFailureIsSilentAndTheNextTextIsAsked)
 {
     Type("al", 1);
-    m_presenter->SetText("ali");
-    Rest();
-    m_service->Fail();
-    Wait([&] { return m_service->asked.size() == 2; });
-    m_service->Fail();
-    Rest();
-    EXPECT_THAT(m_service->asked, ElementsAre("al", "ali")) << "what failed is not tried over and over";
+    Type("ali");
+    m_service->Fail(UseCases::IOnlineSearchController::NoConnection);
+    Type("ali", 2);
+    m_service->Fail(UseCases::IOnlineSearchController::ServerError);
+    Type("ali");
+    EXPECT_THAT(m_service->started, ElementsAre("al", "ali")) << "what failed is not tried over and over";
     Type("alien", 3);
-    m_service->Answer({"Alien"});
+    Answer({"Alien"});
     EXPECT_THAT(shown, ElementsAre("alien: Alien"));
 }
 
@@ -180,22 +129,17 @@ TEST_F(AutocompletePresenterTest, NothingArrivesAfterStopAndTheNextTextGetsThrou
 {
     Type("heat", 1);
     m_presenter->Stop();
-    m_presenter->SetText("alien");
-    Rest(); // the service is busy with what was given up and will not tell of its end
-    EXPECT_THAT(m_service->asked, ElementsAre("heat"));
-    m_service->Answer({"Heat"});
-    Wait([&] { return m_service->asked.size() == 2; });
-    EXPECT_THAT(m_service->asked, ElementsAre("heat", "alien"));
+    Type("alien"); // the service is busy with what was given up and will not tell of its end
+    Answer({"Heat"});
+    Type("alien", 2);
+    EXPECT_THAT(m_service->started, ElementsAre("heat", "alien"));
     EXPECT_THAT(shown, IsEmpty());
-    m_service->Answer({"Alien"});
+    Answer({"Alien"});
     m_presenter->SetText("ronin");
     m_presenter->Stop();
-    Rest();
-    EXPECT_THAT(m_service->asked, ElementsAre("heat", "alien"));
-    m_presenter->SetText("alien");
-    Wait([&] { return shown.size() == 2; });
+    Type("alien");
     EXPECT_THAT(shown, ElementsAre("alien: Alien", "alien: Alien")) << "remembered";
-    EXPECT_EQ(m_service->asked.size(), 2u);
+    EXPECT_EQ(m_service->started.size(), 2u);
 }
 
 TEST_F(AutocompletePresenterTest, MayBeDestroyedAtAnyTime)
@@ -207,24 +151,19 @@ TEST_F(AutocompletePresenterTest, MayBeDestroyedAtAnyTime)
     m_presenter->RegisterEventHandler(&second);
     onShown = [this] { m_presenter.reset(); };
     Type("alien", 1);
-    m_service->Answer({"Alien"});
+    Answer({"Alien"});
     EXPECT_EQ(m_presenter, nullptr);
-    EXPECT_EQ(shown.size(), 1u);
 
-    m_presenter = std::make_unique<AutocompletePresenter>(
-        std::vector<std::shared_ptr<UseCases::IOnlineSearchController>>{m_service});
-    m_presenter->SetDelay(1ms);
-    Type("heat", 2);
-    m_presenter.reset();
-    EXPECT_TRUE(m_service->isCanceled);
+    for (Services const& services : {Services{m_service}, Services{}})
+    {
+        m_presenter = std::make_unique<AutocompletePresenter>(services);
+        m_presenter->SetDelay(1ms);
+        Type("heat");
+        m_presenter.reset();
+        EXPECT_TRUE(m_service->isCanceled);
+    }
     m_service->isCanceled = false;
-    m_service->Answer({"Heat"}); // into nothing
-    Rest();
-
-    AutocompletePresenter alone({});
-    alone.SetDelay(1ms);
-    alone.SetText("alien");
-    Rest();
+    Answer({"Heat"}); // into nothing
 }
 
 } // namespace

@@ -1,10 +1,10 @@
+#include "Subtitles/Fakes/FakeOnlineService.h"
+
 #include "Subtitles/UseCases/OnlineDownloaderInteractor.h"
 
 #include "Subtitles/Entities/SearchTags.h"
 #include "Subtitles/Entities/SubtitleSearchMediaInfoSettings.h"
 #include "Subtitles/UseCases/IOnlineSearchMetadataFiller.h"
-
-#include "Core/EventHandlerList.h"
 
 #include <functional>
 
@@ -14,78 +14,7 @@ namespace
 {
 
 using Entities::SearchTags;
-
-std::string Describe(SearchRequest const& request)
-{
-    std::string text;
-    for (auto const& [tag, value] : request.tags)
-        text += (text.empty() ? "" : " ") + tag + "=" + value;
-    return text;
-}
-
-/// Keeps the rules of the real one: busy until an operation has ended, idle already when it tells so, silent once
-/// cancelled.
-class FakeService final : public IOnlineSearchController, public IServerReportSource
-{
-public:
-    void RegisterEventHandler(IOnlineSearchControllerObserver* observer) override
-    {
-        observers.RegisterEventHandler(observer);
-    }
-    void UnregisterEventHandler(IOnlineSearchControllerObserver* observer) override
-    {
-        observers.UnregisterEventHandler(observer);
-    }
-    Status StartSearch(SearchRequest const& request) override { return Start(Describe(request)); }
-    Status AutoSuggest(std::string const&, QString const& text) override { return Start(text.toStdString()); }
-    Status DownloadSubtitles(std::vector<std::shared_ptr<SearchResult>> const& results, ioPath const&) override
-    {
-        return results.empty() ? Success : Start("download");
-    }
-    bool CancelOperation() override { return isCanceled = isBusy; }
-    ServerReport GetServerReport() const override { return report; }
-
-    void End()
-    {
-        isBusy = false;
-        Tell([](auto* observer) { observer->OnOperationFinished(); });
-    }
-    void Fail(Status status)
-    {
-        Tell([&](auto* observer) { observer->OnOperationFailed(status, "its own words"); });
-        isBusy = false;
-    }
-    void Find(std::vector<std::shared_ptr<SearchResult>> const& results)
-    {
-        Tell([&](auto* observer) { observer->OnSearchResults(results); });
-    }
-
-    Core::EventHandlerList<IOnlineSearchControllerObserver> observers;
-    std::vector<std::string> started;
-    ServerReport report;
-    Status refusal = Success;
-    bool isBusy = false;
-    bool isCanceled = false;
-
-private:
-    Status Start(std::string const& what)
-    {
-        if (isBusy)
-            return Busy;
-        if (refusal != Success)
-            return refusal;
-        started.push_back(what);
-        isBusy = true;
-        isCanceled = false;
-        return Success;
-    }
-    template <typename Event>
-    void Tell(Event const& event)
-    {
-        if (!isCanceled)
-            observers.Notify(event);
-    }
-};
+using FakeService = Testing::FakeOnlineService;
 
 class FakeFiller final : public IOnlineSearchMetadataFiller
 {
@@ -247,11 +176,12 @@ TEST_F(OnlineDownloaderInteractorTest, LeavesTheFingerprintToFillersAndDiscsWith
     Entities::SubtitleSearchMediaInfoSettings media;
     media.path = "no-such-folder/Northern.Lights.S02E05.2015.mkv";
     media.year = 2014;
-    EXPECT_EQ(Describe(m_interactor.MakeQuery(media)),
+    EXPECT_EQ(FakeService::Describe(m_interactor.MakeQuery(media)),
               "EPISODE_NUMBER=5 MOVIE_BYTE_SIZE=131072 MOVIE_HASH_OS=0123456789abcdef SEASON_NUMBER=2 "
               "TITLE=Northern Lights");
     media.isDvd = true;
-    EXPECT_EQ(Describe(m_interactor.MakeQuery(media)), "EPISODE_NUMBER=5 SEASON_NUMBER=2 TITLE=Northern Lights");
+    EXPECT_EQ(FakeService::Describe(m_interactor.MakeQuery(media)),
+              "EPISODE_NUMBER=5 SEASON_NUMBER=2 TITLE=Northern Lights");
 }
 
 } // namespace
