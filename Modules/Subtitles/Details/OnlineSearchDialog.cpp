@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QPointer>
+#include <QSettings>
 
 #include <optional>
 #include <utility>
@@ -19,6 +20,18 @@ namespace Korvex::Converter::Subtitles::Details
 {
 
 using Entities::Language::LanguageID;
+
+namespace
+{
+
+constexpr char const* SIZE_KEY = "onlineSearch/windowSize";
+
+struct Settings : QSettings
+{
+    Settings() : QSettings(QStringLiteral("korvex"), QStringLiteral("subtitles")) {}
+};
+
+} // namespace
 
 class OnlineSearchDialog::Impl final : public Adapters::IAutocompleteControlEventObserver
 {
@@ -52,6 +65,8 @@ public:
         m_title->SetText(QString());
         m_window = new OnlineSearchWindow(filmName, m_title->GetWidget(), m_parent);
         m_window->GetFields().SetLanguages(GetLanguages());
+        if (QSize const size = Settings().value(SIZE_KEY).toSize(); size.isValid())
+            m_window->resize(size);
         Connect();
         GUI::PlaceInCorner(*m_window);
         m_window->show();
@@ -123,6 +138,7 @@ private:
     {
         KeepLanguages(m_window->GetFields().GetLanguages());
         OnlineSearchWindow* const window = std::exchange(m_window, nullptr);
+        Settings().setValue(SIZE_KEY, window->size());
         window->deleteLater(); // one of its own signals may be on its way
         OnGone();
     }

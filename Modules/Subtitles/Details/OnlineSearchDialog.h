@@ -10,8 +10,8 @@ namespace Korvex::Converter::Subtitles::Details
 
 /// The search dialog. Making it needs no display; `Open` does. Its window is not modal, so that the film and its
 /// preview stay in reach, and stays above the window that was active. It goes when it is closed, with that window, or
-/// with this object; in the last case nobody is told. The languages are remembered in later runs of the program, too
-/// (settings "onlineSearch/..." of the organisation "korvex", application "subtitles").
+/// with this object; in the last case nobody is told. The languages and the size are remembered in later runs of the
+/// program, too (settings "onlineSearch/..." of the organisation "korvex", application "subtitles").
 class KVSUBTITLES_API OnlineSearchDialog final : public Adapters::IOnlineSearchDialog
 {
 public:

@@ -9,8 +9,8 @@
 #include "Gui/KLabel.h"
 #include "Gui/Style.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -264,6 +264,16 @@ void ResultList::Retranslate()
     m_orderBox->setAccessibleName(tr("Sort by"));
     m_view->FitColumns();
     ShowPage();
+}
+
+void ResultList::keyPressEvent(QKeyEvent* event)
+{
+    if (m_filter->hasFocus() && event->key() == Qt::Key_Escape && !m_filter->text().isEmpty())
+        m_filter->clear();
+    else if (m_filter->hasFocus() && event->key() == Qt::Key_Down)
+        m_view->setFocus(Qt::OtherFocusReason);
+    else
+        QFrame::keyPressEvent(event);
 }
 
 void ResultList::changeEvent(QEvent* event)

@@ -47,6 +47,8 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent* event) override;
+    /// In the filter: Escape empties it, Down goes on to the rows.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void NameWidgets();

@@ -20,6 +20,7 @@ namespace
 {
 
 constexpr int MARGIN = 6;
+constexpr int FIGURE_MARGIN = 20; ///< at the side where figures end, as wide as the arrow in the head
 constexpr int VERTICAL_MARGIN = 4;
 constexpr int ICON_SIDE = 16;
 constexpr int MARK_PADDING = 4; ///< between a mark's frame and its text
@@ -211,9 +212,17 @@ void ResultListDelegate::paint(QPainter* painter, QStyleOptionViewItem const& op
     case ResultListModel::MARKS:
         PaintMarks(*painter, cell, place, row);
         break;
+    case ResultListModel::DOWNLOADS:
+    case ResultListModel::RATING:
+    {
+        QRect const figure = place.adjusted(0, 0, MARGIN - FIGURE_MARGIN, 0);
+        int const side = static_cast<int>(QStyle::visualAlignment(cell.direction, cell.displayAlignment));
+        painter->drawText(QStyle::visualRect(cell.direction, cell.rect, figure), side | Qt::TextSingleLine, text);
+        break;
+    }
     default:
         PaintLines(*painter, place, BreakIntoLines(text, cell.font, place.width()),
-                   QStyle::visualAlignment(cell.direction, cell.displayAlignment & Qt::AlignHorizontal_Mask));
+                   QStyle::visualAlignment(cell.direction, Qt::AlignLeft));
     }
     painter->restore();
 }
@@ -251,11 +260,12 @@ int ResultListDelegate::FindColumnWidth(QFontMetrics const& metrics, int column)
         int most;
     };
     // In average characters: enough for two lines of most texts.
-    static constexpr Limits LIMITS[ResultListModel::COLUMN_COUNT] = {{24, 24}, {10, 17}, {6, 12}, {4, 14},
+    static constexpr Limits LIMITS[ResultListModel::COLUMN_COUNT] = {{25, 25}, {10, 20}, {6, 10}, {4, 12},
                                                                      {4, 10},  {3, 6},   {6, 10}, {3, 6}};
     Limits const& limits = LIMITS[column];
     int const character = metrics.averageCharWidth();
-    int const icon = column == ResultListModel::MATCH ? ICON_SIDE + MARGIN : 0;
+    bool const isFigure = column == ResultListModel::DOWNLOADS || column == ResultListModel::RATING;
+    int const more = column == ResultListModel::MATCH ? ICON_SIDE + MARGIN : isFigure ? FIGURE_MARGIN - MARGIN : 0;
     int const most = limits.most * character;
     MarkMeter marks(metrics);
     int widest = 0;
@@ -268,7 +278,7 @@ int ResultListDelegate::FindColumnWidth(QFontMetrics const& metrics, int column)
         else if (text.size() * character * 2 > widest)
             widest = std::max(widest, metrics.horizontalAdvance(text));
     }
-    return std::clamp(widest + icon, limits.least * character, most) + 2 * MARGIN;
+    return std::clamp(widest, limits.least * character, most) + more + 2 * MARGIN;
 }
 
 } // namespace Korvex::Converter::Subtitles::Details

@@ -15,6 +15,13 @@
 namespace Korvex::Converter::Subtitles::Details
 {
 
+namespace
+{
+
+constexpr int HEAD_PADDING = 28; ///< both sides in the style sheet, and a little for rounding
+
+} // namespace
+
 ResultListView::ResultListView(ResultListModel& model, ResultListOrder& order, QWidget* parent)
     : QTreeView(parent),
       m_order(order),

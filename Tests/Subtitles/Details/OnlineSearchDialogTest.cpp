@@ -417,8 +417,12 @@ TEST_F(OnlineSearchDialogTest, DownloadsWhatIsSelected)
     QTest::keyClicks(&filter, "x");
     EXPECT_FALSE(button.isEnabled());
     EXPECT_TRUE(Get("resultEmptyLabel").isVisible());
-    filter.clear();
+    filter.setFocus();
+    QTest::keyClick(&filter, Qt::Key_Escape);
     EXPECT_FALSE(Get("resultEmptyLabel").isVisible());
+    EXPECT_EQ(Names().size(), 4U);
+    QTest::keyClick(&filter, Qt::Key_Down);
+    EXPECT_TRUE(View().hasFocus());
     dialog->SetResults({});
     EXPECT_FALSE(button.isEnabled());
 }
@@ -468,10 +472,12 @@ TEST_F(OnlineSearchDialogTest, TellsOnceThatItIsClosedHoweverThatComes)
     ASSERT_NE(Window(), nullptr);
     QTest::keyClicks(&Get("autocompleteField"), "a");
     EXPECT_THAT(listener.Take(), ElementsAre("edited"));
+    Window()->resize(700, 500);
     Window()->close();
     EXPECT_THAT(listener.Take(), ElementsAre("closed"));
 
     Open();
+    EXPECT_EQ(Window()->size(), QSize(700, 500)) << "as it was left";
     Open();
     EXPECT_THAT(listener.Take(), ElementsAre("closed")) << "one at a time";
     Click("languagesButton");
