@@ -31,10 +31,8 @@ protected:
     AutocompleteControlTest() : m_window(std::make_unique<QDialog>()), m_field(MakeField())
     {
         auto* const column = new QVBoxLayout(m_window.get());
-        column->addWidget(m_label);
-        column->addWidget(m_field);
-        column->addWidget(m_next);
-        column->addWidget(m_default);
+        for (QWidget* const widget : std::initializer_list<QWidget*>{m_label, m_field, m_next, m_default})
+            column->addWidget(widget);
         column->addStretch();
         m_default->setDefault(true);
         m_window->resize(420, 420);
@@ -181,23 +179,15 @@ TEST_F(AutocompleteControlTest, WhateverTheUserTurnsToClosesTheList)
 
 TEST_F(AutocompleteControlTest, TheListStaysInsideAndShortensWhatHasNoRoom)
 {
-    Korvex::Testing::ForEachTheme(
-        [this](QString const& theme)
-        {
-            Offer();
-            Press(Qt::Key_Down);
-            Korvex::Testing::SaveScreenshot(*m_window, "autocomplete-few-" + theme);
-            EXPECT_EQ(List()->geometry().left(), m_field->geometry().left());
-            EXPECT_EQ(List()->width(), m_field->width());
-            EXPECT_EQ(List()->verticalScrollBar()->maximum(), 0);
-            OfferMany();
-            Korvex::Testing::SaveScreenshot(*m_window, "autocomplete-many-" + theme);
-            EXPECT_TRUE(m_window->rect().contains(List()->geometry()));
-            EXPECT_EQ(List()->horizontalScrollBar()->maximum(), 0);
-            EXPECT_GT(List()->geometry().top(), m_field->geometry().bottom());
-            EXPECT_EQ(List()->viewport()->height() % Row(0).height(), 0) << "no half rows";
-            EXPECT_LE(List()->viewport()->height(), 10 * Row(0).height());
-        });
+    Offer();
+    EXPECT_EQ(List()->geometry().left(), m_field->geometry().left());
+    EXPECT_EQ(List()->width(), m_field->width());
+    EXPECT_EQ(List()->verticalScrollBar()->maximum(), 0);
+    OfferMany();
+    EXPECT_TRUE(m_window->rect().contains(List()->geometry()));
+    EXPECT_GT(List()->geometry().top(), m_field->geometry().bottom());
+    EXPECT_EQ(List()->horizontalScrollBar()->maximum(), 0);
+    EXPECT_EQ(List()->viewport()->height(), 10 * Row(0).height());
     QPoint const place = Row(0).center();
     QHelpEvent question(QEvent::ToolTip, place, List()->viewport()->mapToGlobal(place));
     QCoreApplication::sendEvent(List()->viewport(), &question);
@@ -251,7 +241,6 @@ TEST_F(AutocompleteControlTest, GoesOnWithANewFieldWhenTheWindowIsGone)
     EXPECT_EQ(m_control.GetText(), "heat");
     m_control.SetText("Ronin");
     EXPECT_EQ(MakeField()->text(), "Ronin");
-    EXPECT_EQ(m_control.GetWidget(), m_control.GetWidget());
 }
 
 } // namespace
