@@ -36,7 +36,7 @@ OnlineSearchWindow::OnlineSearchWindow(QString const& filmName, QWidget* title, 
     setObjectName(QStringLiteral("onlineSearchWindow"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowFlag(Qt::WindowMaximizeButtonHint, true);
-    setSizeGripEnabled(false);
+    setAttribute(Qt::WA_QuitOnClose, false); // the program ends with its own window
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(MARGIN, MARGIN, MARGIN, MARGIN);
     column->setSpacing(GAP);

@@ -609,7 +609,7 @@ TEST_F(OnlineSearchDialogTest, HasRoomForEverythingInBothThemesAndLongLanguages)
     LongerTexts longer;
     auto const lookAt = [&](QString const& what)
     {
-        // The layout comes to rest in a few rounds.
+        QTest::qWait(20); // the layout comes to rest in a few rounds
         (void)QTest::qWaitFor([] { return Testing::FindLayoutFaults(*Window()).empty(); }, 1000);
         Testing::SaveScreenshot(*Window(), what);
         for (std::string const& fault : Testing::FindLayoutFaults(*Window()))
