@@ -9,10 +9,10 @@ extern "C"
 #include <libavutil/mastering_display_metadata.h>
 #include <libavutil/opt.h>
 #include <libavutil/pixdesc.h>
+#include <libavutil/samplefmt.h>
 }
 
 #include <algorithm>
-#include <cmath>
 #include <cstring>
 #include <map>
 #include <stdexcept>
@@ -218,11 +218,11 @@ std::vector<Packet> EncodePgs(MadeSubtitle const& subtitle)
     for (std::size_t i = 0; i < subtitle.cues.size(); ++i)
     {
         MadeCue const& cue = subtitle.cues[i];
-        packets.push_back(MakeDataPacket(MakePgsDisplaySet(cue, subtitle.canvasWidth, subtitle.canvasHeight, number++),
-                                         cue.start, milliseconds(0)));
+        auto const add = [&](bool isShown, milliseconds time)
+        { packets.push_back(MakeDataPacket(MakePgsSet(cue, isShown, number++), time, milliseconds(0))); };
+        add(true, cue.start);
         if (i + 1 == subtitle.cues.size() || subtitle.cues[i + 1].start > cue.end)
-            packets.push_back(MakeDataPacket(
-                MakePgsClearSet(cue, subtitle.canvasWidth, subtitle.canvasHeight, number++), cue.end, milliseconds(0)));
+            add(false, cue.end);
     }
     return packets;
 }
@@ -316,20 +316,12 @@ std::vector<Packet> EncodeAudio(MadeAudio const& audio, AVStream& stream, bool h
         frame->nb_samples = static_cast<int>(std::min<std::int64_t>(block, total - done));
         Check(av_channel_layout_copy(&frame->ch_layout, &encoder->ch_layout), "av_channel_layout_copy");
         Check(av_frame_get_buffer(frame.get(), 0), "av_frame_get_buffer");
-        for (int i = 0; i < frame->nb_samples; ++i)
-        {
-            double const wave =
-                0.2 * std::sin(2.0 * 3.14159265358979 * 440.0 * static_cast<double>(done + i) / audio.sampleRate);
-            if (av_get_bytes_per_sample(encoder->sample_fmt) == 4)
-                reinterpret_cast<float*>(frame->data[0])[i] = static_cast<float>(wave);
-            else
-                reinterpret_cast<std::int16_t*>(frame->data[0])[i] = static_cast<std::int16_t>(wave * 32767.0);
-        }
+        av_samples_set_silence(frame->data, 0, frame->nb_samples, 1, encoder->sample_fmt);
         frame->pts = done;
         Drain(*encoder, frame.get(), packets);
     }
     Drain(*encoder, nullptr, packets);
-    // The encoder's run-in would make muxers move every stream: the tone begins at zero instead.
+    // The encoder's run-in would make muxers move every stream: the sound begins at zero instead.
     std::int64_t const runIn = packets.front()->pts;
     for (Packet& packet : packets)
     {
@@ -365,8 +357,8 @@ std::vector<Packet> EncodeBitmapCues(MadeSubtitle const& subtitle, AVCodecParame
     AVCodec const* codec = avcodec_find_encoder(parameters.codec_id);
     Check(codec ? 0 : AVERROR_ENCODER_NOT_FOUND, "avcodec_find_encoder");
     CodecContext encoder(avcodec_alloc_context3(codec));
-    encoder->width = subtitle.canvasWidth;
-    encoder->height = subtitle.canvasHeight;
+    encoder->width = CANVAS_WIDTH;
+    encoder->height = CANVAS_HEIGHT;
     encoder->time_base = {1, 1000};
     Check(avcodec_open2(encoder.get(), codec, nullptr), "avcodec_open2");
     Check(avcodec_parameters_from_context(&parameters, encoder.get()), "avcodec_parameters_from_context");

@@ -9,6 +9,9 @@ namespace Korvex::Testing
 
 /// Of every packet that is made here, whatever the container makes of it.
 inline constexpr AVRational PACKET_TIME_BASE{1, 90000};
+/// Of bitmap subtitles.
+inline constexpr int CANVAS_WIDTH = 320;
+inline constexpr int CANVAS_HEIGHT = 180;
 
 /// Throws std::runtime_error when `result` is negative.
 void Check(int result, char const* function);

@@ -17,7 +17,7 @@ namespace Korvex::Testing
 namespace
 {
 
-constexpr char const* DEFAULT_SCRIPT_HEADER =
+constexpr char const* SCRIPT_HEADER =
     "[Script Info]\nScriptType: v4.00+\nPlayResX: 320\nPlayResY: 180\n\n[V4+ Styles]\n"
     "Format: Name, Fontname, Fontsize, PrimaryColour, SecondaryColour, OutlineColour, BackColour, Bold, Italic, "
     "Underline, StrikeOut, ScaleX, ScaleY, Spacing, Angle, BorderStyle, Outline, Shadow, Alignment, MarginL, MarginR, "
@@ -69,8 +69,7 @@ void AddSubtitle(Output& output, MadeSubtitle const& subtitle, std::chrono::mill
     stream.time_base = PACKET_TIME_BASE;
     stream.disposition = (subtitle.isDefault ? AV_DISPOSITION_DEFAULT : 0) |
                          (subtitle.isForced ? AV_DISPOSITION_FORCED : 0) |
-                         (subtitle.isHearingImpaired ? AV_DISPOSITION_HEARING_IMPAIRED : 0) |
-                         (subtitle.isCommentary ? AV_DISPOSITION_COMMENT : 0);
+                         (subtitle.isHearingImpaired ? AV_DISPOSITION_HEARING_IMPAIRED : 0);
     AVCodecParameters& parameters = *stream.codecpar;
     parameters.codec_type = AVMEDIA_TYPE_SUBTITLE;
     AVCodecDescriptor const* codec = avcodec_descriptor_get_by_name(subtitle.codecId.c_str());
@@ -78,13 +77,13 @@ void AddSubtitle(Output& output, MadeSubtitle const& subtitle, std::chrono::mill
     parameters.codec_id = codec->id;
     if (codec->props & AV_CODEC_PROP_BITMAP_SUB)
     {
-        parameters.width = subtitle.canvasWidth;
-        parameters.height = subtitle.canvasHeight;
+        parameters.width = CANVAS_WIDTH;
+        parameters.height = CANVAS_HEIGHT;
         output.Take(stream, EncodeBitmapCues(subtitle, parameters), shift);
         return;
     }
     if (codec->id == AV_CODEC_ID_ASS)
-        SetHeader(parameters, subtitle.scriptHeader.empty() ? DEFAULT_SCRIPT_HEADER : subtitle.scriptHeader);
+        SetHeader(parameters, SCRIPT_HEADER);
     output.Take(stream, EncodeTextCues(subtitle), shift);
 }
 

@@ -88,15 +88,11 @@ struct MadeSubtitle
     /// subrip, ass, webvtt, mov_text, text, hdmv_pgs_subtitle, dvd_subtitle or dvb_subtitle
     std::string codecId = "subrip";
     std::vector<MadeCue> cues;
-    std::string scriptHeader; ///< ASS only; empty: a header with one style "Default"
     std::string language;
     std::string title;
     bool isDefault = false;
     bool isForced = false;
     bool isHearingImpaired = false;
-    bool isCommentary = false;
-    int canvasWidth = 320; ///< bitmaps only
-    int canvasHeight = 180;
 };
 
 struct MadeAttachment

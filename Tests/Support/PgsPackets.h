@@ -5,8 +5,7 @@
 namespace Korvex::Testing
 {
 
-/// The display set of a Blu-ray subtitle that shows the cue's box, and the one that clears the screen.
-[[nodiscard]] std::string MakePgsDisplaySet(MadeCue const& cue, int canvasWidth, int canvasHeight, int number);
-[[nodiscard]] std::string MakePgsClearSet(MadeCue const& cue, int canvasWidth, int canvasHeight, int number);
+/// The display set of a Blu-ray subtitle that shows the cue's box, or the one that clears the screen of it.
+[[nodiscard]] std::string MakePgsSet(MadeCue const& cue, bool isShown, int number);
 
 } // namespace Korvex::Testing

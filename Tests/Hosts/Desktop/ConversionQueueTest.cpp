@@ -64,12 +64,7 @@ protected:
         film.video->encoder = "mpeg4";
         film.video->frameCount = 25 * seconds;
         for (std::string const& codec : codecs)
-        {
-            Testing::MadeSubtitle subtitle;
-            subtitle.codecId = codec;
-            subtitle.cues = codec == "subrip" ? Testing::MakeTextCues() : Testing::MakeBoxCues();
-            film.subtitles.push_back(subtitle);
-        }
+            film.subtitles.push_back(Testing::MakeSubtitle(codec));
         ioPath path = m_folder / name;
         Testing::MakeMedia(path, film);
         return path;
@@ -80,9 +75,7 @@ protected:
     {
         ConversionJob job;
         job.film = id;
-        auto media = Proc::ProbeMedia(film);
-        EXPECT_TRUE(media);
-        job.media = std::move(media).Value();
+        job.media = Testing::ValueOf(Proc::ProbeMedia(film));
         job.collection.tracks = Converter::Subtitles::ListMediaTracks(job.media);
         job.collection.mode = mode;
         if (mode == SubtitleCollectionMode::SelectedTrack)
@@ -109,11 +102,9 @@ protected:
 
     static std::vector<std::string> CodecsOf(ioPath const& file)
     {
-        auto const media = Proc::ProbeMedia(file);
         std::vector<std::string> codecs;
-        if (media)
-            for (Proc::StreamInfo const& stream : media->streams)
-                codecs.push_back(stream.codecId);
+        for (Proc::StreamInfo const& stream : Testing::ValueOf(Proc::ProbeMedia(file)).streams)
+            codecs.push_back(stream.codecId);
         return codecs;
     }
 

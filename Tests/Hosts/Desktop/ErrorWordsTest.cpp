@@ -36,11 +36,9 @@ protected:
     /// What the core says of a try to save text as a file of pictures.
     [[nodiscard]] Core::Error SaveTextAsPictures() const
     {
-        Testing::MadeSubtitle text;
-        text.cues = Testing::MakeTextCues();
         Testing::MadeMedia film;
         film.video.emplace();
-        film.subtitles = {text};
+        film.subtitles = {Testing::MakeSubtitle("subrip")};
         Testing::MakeMedia(m_folder / "film.mkv", film);
         Proc::SubtitleSource source;
         source.path = m_folder / "film.mkv";

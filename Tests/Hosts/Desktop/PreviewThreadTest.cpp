@@ -2,9 +2,6 @@
 
 #include "Support/MediaMaker.h"
 
-#include "Core/FileSystem.h"
-#include "Proc/Settings.h"
-
 #include <QTest>
 
 #include <chrono>
@@ -43,8 +40,6 @@ protected:
         film.video->keyFrameInterval = frames;
         film.video->sample = [frames](int frame, int component, int x, int y)
         { return component == 0 ? (x * y / 8 + frame * 3) % 200 : frames % 200; };
-        film.subtitles.resize(1);
-        film.subtitles[0].cues = MakeTextCues();
         MakeMedia(folder / name, film);
         return folder / name;
     }
@@ -59,13 +54,11 @@ protected:
         return film;
     }
 
-    std::uint64_t Ask(ioPath const& film, microseconds time,
-                      std::shared_ptr<Proc::SettingsSubtitleMixer const> subtitles = nullptr)
+    std::uint64_t Ask(ioPath const& film, microseconds time)
     {
         PreviewRequest request;
         request.film = film;
         request.time = time;
-        request.subtitles = std::move(subtitles);
         return m_thread->Request(request);
     }
 
@@ -136,34 +129,6 @@ TEST_F(PreviewThreadTest, AnswersAreAboutTheFilmThatIsWantedHoweverQuicklyItChan
     m_thread->Clear();
     QTest::qWait(100);
     EXPECT_TRUE(m_answers.empty());
-}
-
-TEST_F(PreviewThreadTest, ATrackOfTheFilmIsReadBehindTheFirstPictureAndEditsKeepItsCues)
-{
-    ioPath const film = MakeFilm("film.mkv");
-    auto mixer = std::make_shared<Proc::SettingsSubtitleMixer>();
-    mixer->SetSubtitleStreamIndex(1);
-    ASSERT_TRUE(WaitFor(Ask(film, milliseconds(720), mixer)));
-    auto const cues = m_answers.back().cues;
-    ASSERT_TRUE(cues);
-    EXPECT_EQ(cues->size(), 3U);
-    QImage const first = m_answers.back().picture;
-
-    auto edited = std::make_shared<Proc::SettingsSubtitleMixer>(*mixer);
-    Proc::SettingsSubtitleDrawer drawer;
-    drawer.SetVerticalAligment(Proc::AlignmentVertical::Top);
-    edited->SetDrawerSettings(drawer);
-    ASSERT_TRUE(WaitFor(Ask(film, milliseconds(720), edited)));
-    EXPECT_EQ(m_answers.back().cues, cues);
-    EXPECT_NE(m_answers.back().picture, first);
-
-    auto missing = std::make_shared<Proc::SettingsSubtitleMixer>();
-    missing->SetFilename(m_folder / "none.srt");
-    ASSERT_TRUE(WaitFor(Ask(film, milliseconds(720), missing)));
-    ASSERT_TRUE(m_answers.back().failure);
-    EXPECT_EQ(m_answers.back().failure->file.FileName(), "none.srt");
-    ASSERT_TRUE(WaitFor(Ask(film, milliseconds(720), mixer)));
-    EXPECT_EQ(m_answers.back().picture, first);
 }
 
 TEST_F(PreviewThreadTest, GoesAwayQuicklyWhileItDecodes)

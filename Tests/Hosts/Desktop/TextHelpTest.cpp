@@ -68,30 +68,6 @@ std::vector<std::string> VisibleTexts(QWidget const& widget)
 std::vector<std::string> const RUSSIAN = {"Ты опять опоздал на поезд?", "Я ждал тебя целый час.",
                                           "Ничего, завтра поедем вместе, если только ты не забудешь ключи."};
 
-TEST_F(TextHelpTest, OffersTheRightEncodingAtOneClick)
-{
-    ioPath const path = Write("film.srt", Testing::EncodeText(MakeSubRip(RUSSIAN), "CP1251"));
-    TextHelpView view;
-    view.Show(Read({path, std::nullopt, "CP1250", "DejaVu Sans"}));
-    view.resize(320, 10);
-    Testing::ShowAndWait(view);
-
-    EXPECT_THAT(view.findChild<QLabel*>("detectionLabel")->text().toStdString(),
-                HasSubstr("Windows-1251, very sure (9"));
-    auto const buttons = view.findChildren<AlternativeButton*>();
-    ASSERT_EQ(buttons.size(), 3);
-    QSignalSpy chosen(&view, &TextHelpView::EncodingChosen);
-    buttons[0]->setFocus();
-    QTest::keyClick(buttons[0], Qt::Key_Space);
-    ASSERT_EQ(chosen.size(), 1);
-    EXPECT_EQ(chosen[0][0].toString(), "CP1251");
-    EXPECT_EQ(buttons[0]->accessibleName(), "Windows-1251: Ты опять опоздал на поезд?");
-
-    view.Show(Read({path, std::nullopt, "CP1251", "DejaVu Sans"}));
-    EXPECT_EQ(view.findChild<KLabel*>()->text(), "Ты опять опоздал на поезд?");
-    EXPECT_FALSE(view.findChild<QLabel*>("replacedBytesLabel")->isVisible());
-}
-
 TEST_F(TextHelpTest, SaysWhatCannotBeReadAndWhichFontsStandIn)
 {
     TextHelpView view;

@@ -1,6 +1,7 @@
 #include "Proc/Blend/BitmapScaler.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace Korvex::Proc::Tests
 {
@@ -42,15 +43,10 @@ TEST(BitmapScaler, KeepsAreaAndColourInEveryDirection)
         ASSERT_EQ(scaled.size(), 4U * static_cast<unsigned>(width * height));
         double const expected = area * width * height / (24.0 * 24.0);
         EXPECT_NEAR(SumOfOpacity(scaled), expected, 0.03 * expected) << width << 'x' << height;
+        // Nothing of the clear pixels' magenta.
         for (std::size_t i = 0; i < scaled.size(); i += 4)
-        {
-            if (scaled[i + 3] == 0)
-                continue;
-            // Nothing of the clear pixels' magenta.
-            ASSERT_NEAR(scaled[i], 200, 1);
-            ASSERT_NEAR(scaled[i + 1], 100, 1);
-            ASSERT_NEAR(scaled[i + 2], 50, 1);
-        }
+            ASSERT_TRUE(scaled[i + 3] == 0 || (std::abs(scaled[i] - 200) <= 1 && std::abs(scaled[i + 1] - 100) <= 1 &&
+                                               std::abs(scaled[i + 2] - 50) <= 1));
     }
     Pixels const same = Blend::ScaleRgba(square.data(), 24, 24, 24, 24);
     for (std::size_t i = 3; i < same.size(); i += 4)

@@ -148,10 +148,8 @@ PixelLayout PackedRgb(std::vector<int> const& order)
     layout.chromaShiftY = 0;
     layout.componentCount = static_cast<int>(order.size());
     for (std::size_t i = 0; i < order.size(); ++i)
-    {
         layout.components[static_cast<std::size_t>(order[i])] = {0, static_cast<int>(order.size()),
                                                                  static_cast<int>(i)};
-    }
     return layout;
 }
 

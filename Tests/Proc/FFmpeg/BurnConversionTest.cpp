@@ -81,8 +81,7 @@ TEST(BurnConversionTest, PicturesAreThoseOfThePreviewAndOtherwiseUntouched)
         Proc::SettingsTranscode settings = BurnSettings(folder / "in.mkv", folder / "out.mkv", "matroska", text);
         settings.crf = 0;
         settings.takenName = Core::TakenName::Replace;
-        Conversion const done = Convert(settings);
-        ASSERT_TRUE(done.Succeeded()) << done.Words();
+        MustConvert(settings);
 
         auto const before = DecodePictures(folder / "in.mkv");
         auto const after = DecodePictures(folder / "out.mkv");
@@ -123,8 +122,7 @@ TEST(BurnConversionTest, VariableRateKeepsItsTimesAndTheLastPictureItsDuration)
         Proc::SettingsTranscode settings = BurnSettings(folder / "in.mp4", path, format, WriteSubtitles(folder));
         settings.takenName = Core::TakenName::Replace;
         settings.preset = "medium"; // which looks ahead and reorders
-        Conversion const done = Convert(settings);
-        ASSERT_TRUE(done.Succeeded()) << done.Words();
+        MustConvert(settings);
         auto const pictures = DecodePictures(path);
         ASSERT_EQ(pictures.size(), 8U);
         for (std::size_t i = 0; i < 8; ++i)
@@ -155,8 +153,7 @@ TEST(BurnConversionTest, TurnedPicturesStandUprightWithTheTextAtTheirFoot)
         Proc::SettingsTranscode settings = BurnSettings(folder / "in.mp4", folder / "out.mp4", "mp4", text);
         settings.takenName = Core::TakenName::Replace;
         settings.crf = 5;
-        Conversion const done = Convert(settings);
-        ASSERT_TRUE(done.Succeeded()) << done.Words();
+        MustConvert(settings);
 
         Film const out = ReadFilm(folder / "out.mp4");
         bool const isSideways = degrees != 180;
@@ -199,8 +196,7 @@ TEST(BurnConversionTest, TurningKeepsTheColoursThatTheStoredSizeImplies)
     film.video->rotationDegrees = 90;
     MakeMedia(folder / "in.mp4", film);
     Proc::SettingsTranscode const settings = BurnSettings(folder / "in.mp4", folder / "out.mp4", "mp4", text);
-    Conversion const done = Convert(settings);
-    ASSERT_TRUE(done.Succeeded()) << done.Words();
+    MustConvert(settings);
 
     EXPECT_EQ(ReadFilm(folder / "out.mp4").Stream(0).codecpar->color_space, AVCOL_SPC_SMPTE170M);
 }
@@ -223,8 +219,7 @@ TEST(BurnConversionTest, FieldsAndHdrDescriptionSurvive)
     for (char const* format : {"mp4", "matroska"})
     {
         ioPath const path = folder / (std::string("hdr.") + format);
-        Conversion const done = Convert(BurnSettings(folder / "hdr.mkv", path, format, text));
-        ASSERT_TRUE(done.Succeeded()) << done.Words();
+        MustConvert(BurnSettings(folder / "hdr.mkv", path, format, text));
         Film const in = ReadFilm(folder / "hdr.mkv");
         Film const out = ReadFilm(path);
         AVCodecParameters const& parameters = *out.Stream(0).codecpar;
@@ -237,8 +232,7 @@ TEST(BurnConversionTest, FieldsAndHdrDescriptionSurvive)
         ASSERT_NE(before.bytes, nullptr);
         EXPECT_NE(after.bytes, nullptr) << format;
     }
-    Conversion const done = Convert(BurnSettings(folder / "fields.mkv", folder / "fields.mp4", "mp4", text));
-    ASSERT_TRUE(done.Succeeded()) << done.Words();
+    MustConvert(BurnSettings(folder / "fields.mkv", folder / "fields.mp4", "mp4", text));
     auto const before = DecodePictures(folder / "fields.mkv");
     auto const after = DecodePictures(folder / "fields.mp4");
     ASSERT_EQ(before.size(), after.size());
@@ -249,8 +243,7 @@ TEST(BurnConversionTest, FieldsAndHdrDescriptionSurvive)
     film.formatId = "mp4";
     film.video->rotationDegrees = 180; // the top field becomes the bottom one
     MakeMedia(folder / "turned.mp4", film);
-    Conversion const turned = Convert(BurnSettings(folder / "turned.mp4", folder / "upright.mp4", "mp4", text));
-    ASSERT_TRUE(turned.Succeeded()) << turned.Words();
+    MustConvert(BurnSettings(folder / "turned.mp4", folder / "upright.mp4", "mp4", text));
     EXPECT_FALSE(Proc::FFmpeg::IsTopFieldFirst(*DecodePictures(folder / "upright.mp4")[10]));
     EXPECT_EQ(ReadFilm(folder / "upright.mp4").Stream(0).codecpar->field_order, AV_FIELD_BB);
 }
@@ -266,8 +259,7 @@ TEST(BurnConversionTest, RgbSourcesAndOddSizesBecomePlayable)
     film.video->height = 181;
     film.video->sample = [](int, int component, int, int) { return component == 0 ? 200 : 20; }; // red
     MakeMedia(folder / "in.mkv", film);
-    Conversion const done = Convert(BurnSettings(folder / "in.mkv", folder / "out.mp4", "mp4", WriteSubtitles(folder)));
-    ASSERT_TRUE(done.Succeeded()) << done.Words();
+    MustConvert(BurnSettings(folder / "in.mkv", folder / "out.mp4", "mp4", WriteSubtitles(folder)));
     auto const pictures = DecodePictures(folder / "out.mp4");
     ASSERT_EQ(pictures.size(), 50U);
     EXPECT_EQ(pictures[0]->width, 320);
@@ -289,8 +281,7 @@ TEST(BurnConversionTest, TextCountsFromTheFilmsOwnStart)
     film.audios.resize(1);
     MakeMedia(folder / "in.ts", film);
     ioPath const text = WriteSubtitles(folder);
-    Conversion const done = Convert(BurnSettings(folder / "in.ts", folder / "out.mp4", "mp4", text));
-    ASSERT_TRUE(done.Succeeded()) << done.Words();
+    MustConvert(BurnSettings(folder / "in.ts", folder / "out.mp4", "mp4", text));
     auto const pictures = DecodePictures(folder / "out.mp4");
     ASSERT_EQ(pictures.size(), 50U);
     for (std::size_t i = 0; i < pictures.size(); ++i)
@@ -324,8 +315,7 @@ TEST(BurnConversionTest, SubtitlesStayWithThePictureWhereTheClockJumps)
     Proc::SettingsSubtitleMixer mixer;
     mixer.SetSubtitleStreamIndex(2);
     settings.mixer = std::make_shared<Proc::SettingsSubtitleMixer>(mixer);
-    Conversion const done = Convert(settings);
-    ASSERT_TRUE(done.Succeeded()) << done.Words();
+    Conversion const done = MustConvert(settings);
     EXPECT_TRUE(done.report.warnings.empty()) << Proc::ToSentence(done.report.warnings.front());
     for (auto const& picture : DecodePictures(folder / "out.mp4"))
     {

@@ -1,5 +1,7 @@
 #include "Proc/FFmpeg/ConversionRunner.h"
 
+#include <stdexcept>
+
 namespace Korvex::Testing
 {
 
@@ -63,6 +65,14 @@ Conversion Convert(Proc::SettingsTranscode const& settings, std::function<void(P
     (*job)->Start(listener);
     (*job)->Wait();
     return result;
+}
+
+Conversion MustConvert(Proc::SettingsTranscode const& settings)
+{
+    Conversion done = Convert(settings);
+    if (!done.Succeeded())
+        throw std::runtime_error(done.Words());
+    return done;
 }
 
 Proc::SettingsTranscode SoftSettings(ioPath const& input, ioPath const& output, std::string const& formatId,

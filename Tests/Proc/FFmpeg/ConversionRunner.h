@@ -29,6 +29,9 @@ struct Conversion
 [[nodiscard]] Conversion Convert(Proc::SettingsTranscode const& settings,
                                  std::function<void(Proc::ITranscodeJob&)> const& onProgress = {});
 
+/// The same where it has to succeed; throws the sentence of what failed.
+Conversion MustConvert(Proc::SettingsTranscode const& settings);
+
 [[nodiscard]] Proc::SettingsTranscode SoftSettings(ioPath const& input, ioPath const& output,
                                                    std::string const& formatId,
                                                    std::vector<Proc::SubtitleTrack> tracks);

@@ -76,20 +76,18 @@ Document Load(ioPath const& path)
 TEST_F(ExportTest, TextComesOutAsItIsInTheFile)
 {
     ioPath const film = Make("film.mkv", "matroska", {"subrip", "ass"});
-    auto const srt = ExtractSubtitle(StreamOf(film, 1), m_folder / "out.srt");
-    ASSERT_TRUE(srt) << Core::ToSentence(srt.GetError());
-    EXPECT_EQ(srt->cueCount, 3U);
-    EXPECT_EQ(BytesOf(srt->path), "1\n00:00:00,500 --> 00:00:01,000\nFirst\n\n2\n00:00:01,000 --> 00:00:01,500\n"
-                                  "Second \xC3\xBC\n\n3\n00:00:01,600 --> 00:00:01,900\nThird\n\n");
-    Core::Result<ExportedSubtitle> const ass = ExtractSubtitle(StreamOf(film, 2), m_folder / "out.ass");
-    ASSERT_TRUE(ass);
-    EXPECT_NE(BytesOf(ass->path).find("PlayResY: 180"), std::string::npos) << "the script's own header";
-    EXPECT_NE(BytesOf(ass->path).find("Dialogue: 0,0:00:00.50,0:00:01.00,Default,,0,0,0,,First"), std::string::npos);
+    auto const srt = Testing::ValueOf(ExtractSubtitle(StreamOf(film, 1), m_folder / "out.srt"));
+    EXPECT_EQ(srt.cueCount, 3U);
+    EXPECT_EQ(BytesOf(srt.path), "1\n00:00:00,500 --> 00:00:01,000\nFirst\n\n2\n00:00:01,000 --> 00:00:01,500\n"
+                                 "Second \xC3\xBC\n\n3\n00:00:01,600 --> 00:00:01,900\nThird\n\n");
+    auto const ass = Testing::ValueOf(ExtractSubtitle(StreamOf(film, 2), m_folder / "out.ass"));
+    EXPECT_NE(BytesOf(ass.path).find("PlayResY: 180"), std::string::npos) << "the script's own header";
+    EXPECT_NE(BytesOf(ass.path).find("Dialogue: 0,0:00:00.50,0:00:01.00,Default,,0,0,0,,First"), std::string::npos);
 
     EXPECT_EQ(ExtractSubtitle(StreamOf(film, 1), m_folder / "out.srt").GetError().code, ErrorCode::OutputExists);
     EXPECT_EQ(ExtractSubtitle(StreamOf(film, 0), m_folder / "x.srt").GetError().code, ErrorCode::TrackNotSubtitle);
     EXPECT_EQ(ExtractSubtitle(StreamOf(film, 1), m_folder / "x.sup").GetError().code, ErrorCode::ContainerCannotCarry);
-    Core::Error const textFile = ExtractSubtitle(FileOf(srt->path), m_folder / "x.sup").GetError();
+    Core::Error const textFile = ExtractSubtitle(FileOf(srt.path), m_folder / "x.sup").GetError();
     EXPECT_THAT(Core::ToSentence(textFile), testing::EndsWith("is SubRip, which a .sup file cannot carry: save it as "
                                                               ".srt instead."));
     EXPECT_EQ(ExtractSubtitle(StreamOf(film, 1), m_folder / "x.doc").GetError().code, ErrorCode::ContainerUnknown);
@@ -103,17 +101,15 @@ TEST_F(ExportTest, BluRayTracksAreTheSameInAFileOfTheirOwn)
 {
     // The stamps of the source begin at an hour.
     ioPath const film = Make("film.m2ts", "m2ts", {"hdmv_pgs_subtitle"}, milliseconds(3'601'000));
-    Core::Result<SubtitleDocument> const source = LoadSubtitleStream(film, 1);
-    ASSERT_TRUE(source);
-    Core::Result<ExportedSubtitle> const sup = ExtractSubtitle(StreamOf(film, 1), m_folder / "out.sup");
-    ASSERT_TRUE(sup) << Core::ToSentence(sup.GetError());
-    EXPECT_EQ(sup->cueCount, 3U);
-    std::string const bytes = BytesOf(sup->path);
+    auto const source = Testing::ValueOf(LoadSubtitleStream(film, 1));
+    auto const sup = Testing::ValueOf(ExtractSubtitle(StreamOf(film, 1), m_folder / "out.sup"));
+    EXPECT_EQ(sup.cueCount, 3U);
+    std::string const bytes = BytesOf(sup.path);
     ASSERT_GT(bytes.size(), 13U);
     EXPECT_EQ(bytes.substr(0, 6), (std::string{'P', 'G', 0, 0, '\xAF', '\xC8'})) << "0.5 s in units of 90 kHz";
 
-    auto const before = std::get<BitmapDocument>(*source);
-    auto const after = Load<BitmapDocument>(sup->path);
+    auto const before = std::get<BitmapDocument>(source);
+    auto const after = Load<BitmapDocument>(sup.path);
     ASSERT_EQ(after.cues.size(), before.cues.size());
     for (std::size_t i = 0; i < after.cues.size(); ++i)
     {
@@ -127,21 +123,18 @@ TEST_F(ExportTest, BluRayTracksAreTheSameInAFileOfTheirOwn)
 TEST_F(ExportTest, AnyTrackFitsIntoMatroska)
 {
     ioPath const film = Make("film.mkv", "matroska", {"dvd_subtitle", "ass"});
-    Core::Result<ExportedSubtitle> const bitmaps = ExtractSubtitle(StreamOf(film, 1), m_folder / "dvd.mkv");
-    ASSERT_TRUE(bitmaps) << Core::ToSentence(bitmaps.GetError());
-    EXPECT_EQ(Load<BitmapDocument>(bitmaps->path).cues.at(2).start, milliseconds(1600));
-    Core::Result<MediaInfo> const info = ProbeMedia(bitmaps->path);
-    ASSERT_TRUE(info);
-    ASSERT_EQ(info->streams.size(), 1U);
-    EXPECT_EQ(info->streams[0].language, "eng");
-    ASSERT_TRUE(ExtractSubtitle(StreamOf(film, 2), m_folder / "ass.mkv"));
-    EXPECT_TRUE(Load<TextDocument>(m_folder / "ass.mkv").HasOwnLook());
+    auto const bitmaps = Testing::ValueOf(ExtractSubtitle(StreamOf(film, 1), m_folder / "dvd.mkv"));
+    EXPECT_EQ(Load<BitmapDocument>(bitmaps.path).cues.at(2).start, milliseconds(1600));
+    auto const info = Testing::ValueOf(ProbeMedia(bitmaps.path));
+    ASSERT_EQ(info.streams.size(), 1U);
+    EXPECT_EQ(info.streams[0].language, "eng");
+    EXPECT_TRUE(Load<TextDocument>(Testing::ValueOf(ExtractSubtitle(StreamOf(film, 2), m_folder / "ass.mkv")).path)
+                    .HasOwnLook());
     // Matroska has no mov_text.
     ioPath const mp4 = Make("film.mp4", "mp4", {"mov_text"});
-    Core::Result<ExportedSubtitle> const text = ExtractSubtitle(StreamOf(mp4, 1), m_folder / "text.mkv");
-    ASSERT_TRUE(text) << Core::ToSentence(text.GetError());
-    EXPECT_EQ(text->codecId, "subrip");
-    EXPECT_EQ(Load<TextDocument>(text->path).cues.at(1).text, "Second \xC3\xBC");
+    auto const text = Testing::ValueOf(ExtractSubtitle(StreamOf(mp4, 1), m_folder / "text.mkv"));
+    EXPECT_EQ(text.codecId, "subrip");
+    EXPECT_EQ(Load<TextDocument>(text.path).cues.at(1).text, "Second \xC3\xBC");
 }
 
 TEST_F(ExportTest, AMovTextFileGivesBackTheCues)
@@ -154,14 +147,13 @@ TEST_F(ExportTest, AMovTextFileGivesBackTheCues)
     SubtitleSource source = FileOf(srt);
     source.encoding = "CP1251";
     source.timeShift = milliseconds(-1500);
-    Core::Result<ExportedSubtitle> const prepared =
-        PrepareSubtitle(source, {"dvd_subtitle", "mov_text"}, m_folder.Path(), "work");
-    ASSERT_TRUE(prepared) << Core::ToSentence(prepared.GetError());
-    EXPECT_EQ(prepared->path.FileName(), "work.mp4");
-    EXPECT_EQ(prepared->codecId, "mov_text");
-    EXPECT_EQ(prepared->cueCount, 3U);
+    auto const prepared =
+        Testing::ValueOf(PrepareSubtitle(source, {"dvd_subtitle", "mov_text"}, m_folder.Path(), "work"));
+    EXPECT_EQ(prepared.path.FileName(), "work.mp4");
+    EXPECT_EQ(prepared.codecId, "mov_text");
+    EXPECT_EQ(prepared.cueCount, 3U);
 
-    auto const document = Load<TextDocument>(prepared->path);
+    auto const document = Load<TextDocument>(prepared.path);
     ASSERT_EQ(document.cues.size(), 4U);
     EXPECT_EQ(document.cues[0].start, milliseconds(8500)) << "counted from zero, not from the first text";
     EXPECT_EQ(document.cues[0].end, milliseconds(10500));
@@ -179,11 +171,10 @@ TEST_F(ExportTest, WhatMovTextCannotHoldIsCounted)
                                                       "\n\n2\n00:00:03,000 --> 00:00:04,000\nHello\n\n"
                                                       "3\n999:00:00,000 --> 999:00:01,000\nLate\n\n"
                                                       "4\n00:00:05,000 --> 00:00:05,000\nNever\n");
-    Core::Result<ExportedSubtitle> const prepared = PrepareSubtitle(FileOf(srt), {"mov_text"}, m_folder.Path(), "w");
-    ASSERT_TRUE(prepared) << Core::ToSentence(prepared.GetError());
-    EXPECT_EQ(prepared->cueCount, 1U);
-    EXPECT_EQ(prepared->leftOutCues, 3U);
-    EXPECT_EQ(Load<TextDocument>(prepared->path).cues.at(0).text, "Hello");
+    auto const prepared = Testing::ValueOf(PrepareSubtitle(FileOf(srt), {"mov_text"}, m_folder.Path(), "w"));
+    EXPECT_EQ(prepared.cueCount, 1U);
+    EXPECT_EQ(prepared.leftOutCues, 3U);
+    EXPECT_EQ(Load<TextDocument>(prepared.path).cues.at(0).text, "Hello");
 }
 
 TEST_F(ExportTest, PreparingPicksWhatLosesLeast)
@@ -215,11 +206,10 @@ TEST_F(ExportTest, AClassOfSamiAndAShiftBeforeZero)
     SubtitleSource source = FileOf(smi);
     source.samiClass = "KRCC";
     source.timeShift = milliseconds(-6000);
-    Core::Result<ExportedSubtitle> const prepared = PrepareSubtitle(source, {"subrip"}, m_folder.Path(), "w");
-    ASSERT_TRUE(prepared) << Core::ToSentence(prepared.GetError());
-    EXPECT_EQ(BytesOf(prepared->path), "1\n00:00:00,000 --> 00:00:03,000\nSegye\n\n");
-    EXPECT_EQ(prepared->leftOutCues, 1U) << "the cue that would end before the film begins";
-    EXPECT_EQ(prepared->sourceCodecId, "sami");
+    auto const prepared = Testing::ValueOf(PrepareSubtitle(source, {"subrip"}, m_folder.Path(), "w"));
+    EXPECT_EQ(BytesOf(prepared.path), "1\n00:00:00,000 --> 00:00:03,000\nSegye\n\n");
+    EXPECT_EQ(prepared.leftOutCues, 1U) << "the cue that would end before the film begins";
+    EXPECT_EQ(prepared.sourceCodecId, "sami");
 }
 
 TEST_F(ExportTest, ACancelEndsTheReadingAtAnyMomentAndLeavesNoFile)

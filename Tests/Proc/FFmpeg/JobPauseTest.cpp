@@ -92,7 +92,7 @@ protected:
 
 TEST_F(JobPauseTest, APausedJobStandsStillAndGoesOnToTheSameOutput)
 {
-    ASSERT_TRUE(Testing::Convert(Settings("straight.mkv")).Succeeded());
+    Testing::MustConvert(Settings("straight.mkv"));
 
     Listener listener;
     auto const job = StartAndPause(listener, "paused.mkv");

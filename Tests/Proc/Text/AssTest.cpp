@@ -31,9 +31,7 @@ std::string WithLineEnds(std::string const& text, std::string const& end)
 {
     std::string result;
     for (char const letter : text)
-    {
         result += letter == '\n' ? end : std::string(1, letter);
-    }
     return result;
 }
 
@@ -166,9 +164,7 @@ TEST(AssTest, ReadsFontsAndWritesThemBack)
 {
     std::vector<std::uint8_t> bytes;
     for (int i = 0; i < 1000; ++i)
-    {
         bytes.push_back(static_cast<std::uint8_t>(i * 7 + i / 3));
-    }
     for (std::size_t const size : {std::size_t{1}, std::size_t{2}, std::size_t{3}, std::size_t{60}, std::size_t{1000}})
     {
         TextDocument document = ReadAss(std::string(INFO) + STYLES + EVENTS);

@@ -33,9 +33,7 @@ TEST(MarkupTest, SubRipTagsBecomeOverrides)
              Case{"{\\an8}top {\\i1}x{\\i0}", "{\\an8}top {\\i1}x{\\i0}"},
              Case{"{y:i}old {c:$0000ff}code", "old code"},
          })
-    {
         EXPECT_EQ(ToAssText(c.source, TextMarkup::SubRip), c.expected) << c.source;
-    }
 }
 
 TEST(MarkupTest, TextNeverBecomesAnOverride)
@@ -50,9 +48,7 @@ TEST(MarkupTest, TextNeverBecomesAnOverride)
              Case{"<sic> alone, <q>pair</q>, </end>", "<sic> alone, pair, </end>"},
              Case{"a &amp; b &lt;i&gt; &nbsp;&#233; &unknown; &amp", "a & b <i> \xC2\xA0\xC3\xA9 &unknown; &amp"},
          })
-    {
         EXPECT_EQ(ToAssText(c.source, TextMarkup::SubRip), c.expected) << c.source;
-    }
     EXPECT_EQ(ToAssText("{\\an8}<i>\n\\N", TextMarkup::Plain), "\\{\\an8\\}<i>\\N\\" WJ "N");
     EXPECT_EQ(ToAssText("a\nb", TextMarkup::Ass), "a\\Nb");
 }
@@ -68,9 +64,7 @@ TEST(MarkupTest, SamiReadsLikeAPage)
              Case{"<b>a{\\an8}\\N</b>", "{\\b1}a\\{\\an8\\}\\" WJ "N{\\b}"},
              Case{"1 < 2", "1 < 2"},
          })
-    {
         EXPECT_EQ(ToAssText(c.source, TextMarkup::Sami), c.expected) << c.source;
-    }
 }
 
 TEST(MarkupTest, AssBecomesSubRip)
@@ -91,9 +85,7 @@ TEST(MarkupTest, AssBecomesSubRip)
              Case{"\\{a\\} C:\\" WJ "new", "{a} C:\\new"},
              Case{"a <b> c &amp; d", "a <" WJ "b> c &" WJ "amp; d"},
          })
-    {
         EXPECT_EQ(ToSubRipText(c.source, TextMarkup::Ass), c.expected) << c.source;
-    }
     EXPECT_EQ(ToSubRipText("<b>a</b>", TextMarkup::SubRip), "<b>a</b>");
     EXPECT_EQ(ToSubRipText("<b>x</b> &lt;b&gt;<br>y", TextMarkup::Sami), "<b>x</b> <" WJ "b>\ny");
 }
@@ -110,9 +102,7 @@ TEST(MarkupTest, LiteralTextSurvivesTheWayThereAndBack)
         for (std::string* const value : {&shown, &plain})
         {
             for (std::size_t at = value->find(WJ); at != std::string::npos; at = value->find(WJ))
-            {
                 value->erase(at, 3);
-            }
         }
         EXPECT_EQ(shown, plain) << text;
     }

@@ -69,9 +69,7 @@ TEST(SamiTest, RepairsWhatEditorsLeaveBehind)
              Case{"comment open", "<SYNC Start=100><P>a<!-- b<SYNC Start=300><P>&nbsp;", {{100, 300, "a b"}}},
              Case{"nothing", "<SAMI><BODY>no sync</BODY></SAMI>", {}},
          })
-    {
         EXPECT_EQ(CuesOf(ReadSami(c.text)), c.expected) << c.name;
-    }
 }
 
 } // namespace

@@ -16,9 +16,7 @@ TEST(SubRipTest, ReadsEveryLineEnd)
     {
         std::string text = "\xEF\xBB\xBF";
         for (char const letter : unix)
-        {
             text += letter == '\n' ? end : std::string(1, letter);
-        }
         auto const document = ReadSubRip(text);
         EXPECT_EQ(CuesOf(document), expected) << testing::PrintToString(end);
         EXPECT_EQ(document.codecId, "subrip");

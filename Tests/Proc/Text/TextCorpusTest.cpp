@@ -27,9 +27,7 @@ std::vector<std::string> Split(std::string const& text, char separator)
 {
     std::vector<std::string> parts(1);
     for (char const letter : text)
-    {
         letter == separator ? static_cast<void>(parts.emplace_back()) : parts.back().push_back(letter);
-    }
     return parts;
 }
 
@@ -53,9 +51,7 @@ protected:
             auto const values = Split(lines[i], '\t');
             Row row;
             for (std::size_t column = 0; column < names.size() && column < values.size(); ++column)
-            {
                 row.fields[names[column]] = values[column];
-            }
             if (values.size() >= names.size() - 1)
             {
                 m_rows.push_back(std::move(row));

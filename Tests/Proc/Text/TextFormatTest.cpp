@@ -39,9 +39,7 @@ TEST(TextFormatTest, ContentWinsAndTheNameHelps)
              Case{"{100}{200}Frames|here", "sub", std::nullopt},
              Case{"0:00:00.000,0:00:01.939\nother format\n", "srt", std::nullopt},
          })
-    {
         EXPECT_EQ(DetermineTextFormat(c.text, c.extension), c.expected) << c.extension << ": " << c.text;
-    }
 }
 
 TEST(TextFileTest, TheNameHelpsWithTheEncodingAndWhatIsNoTextIsLeft)

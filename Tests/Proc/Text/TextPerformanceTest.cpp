@@ -15,9 +15,7 @@ std::string Repeat(std::string const& piece, std::size_t count)
 {
     std::string text;
     for (std::size_t i = 0; i < count; ++i)
-    {
         text += piece;
-    }
     return text;
 }
 
@@ -49,9 +47,7 @@ TEST(TextPerformanceTest, TimeGrowsWithTheLengthAlone)
     std::string const sami = "<SYNC Start=1><P Class=A>x";
     std::string backwards;
     for (int i = 100'000; i > 0; --i)
-    {
         backwards += "<SYNC Start=" + std::to_string(i) + ">x";
-    }
     for (std::string const& text : {
              srtHead + std::string(300'000, 'x'),
              srtHead + Repeat("{", 400'000),

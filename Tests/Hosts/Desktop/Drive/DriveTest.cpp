@@ -215,23 +215,6 @@ TEST_F(DriveTest, FromDropToFilmWithTextDrawnIn)
     m_program.WaitForPicture("the same look after a restart", isWhereItBelongs);
 }
 
-TEST_F(DriveTest, NoticeSaysWhatCannotGoOutAndDrawsItInAtAClick)
-{
-    m_program.DragIn({MakeFilm("Pictures.mkv", {"hdmv_pgs_subtitle"})});
-    Film* film = m_program.WaitForFilm("Pictures.mkv");
-    EXPECT_EQ(OnGui([] { return DrivenProgram::FindShown("noticeBar"); }), nullptr);
-    m_program.ChooseInBox("formatCombo", "MP4");
-    m_program.WaitUntilShown("noticeBar");
-    auto const sentence =
-        DrivenProgram::Ask<QLabel>("noticeSentence", [](QLabel& label) { return label.text().toStdString(); });
-    EXPECT_THAT(sentence, testing::AllOf(testing::HasSubstr("PGS"), testing::HasSubstr("MP4")));
-
-    m_program.ClickText("noticeButton", "Draw it in");
-    WaitUntilDrawn(*film, "2");
-    m_program.WaitUntilHidden("noticeBar");
-    m_program.WaitForPicture("the bitmap in it", [](QImage const& now) { return FindInk(now, &IsWhite).pixels > 200; });
-}
-
 TEST_F(DriveTest, KeyboardAloneReachesEverything)
 {
     DisplayPerson& person = m_program.GetPerson();

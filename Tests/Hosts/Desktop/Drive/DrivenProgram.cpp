@@ -5,7 +5,6 @@
 #include "Desktop/Films/FilmList.h"
 #include "Desktop/Window/MainWindow.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
 
@@ -113,28 +112,6 @@ void DrivenProgram::ChooseInBox(std::string const& comboBox, QString const& text
                          auto const* box = qobject_cast<QComboBox*>(FindShown(comboBox));
                          return box != nullptr && box->currentText() == text && !box->view()->isVisible();
                      });
-}
-
-void DrivenProgram::ClickText(std::string const& name, QString const& text)
-{
-    QPoint place;
-    m_person.WaitFor("a button " + name + " that says \"" + text.toStdString() + "\"",
-                     [&]
-                     {
-                         for (QWidget* widget : QApplication::allWidgets())
-                         {
-                             auto const* button = qobject_cast<QAbstractButton*>(widget);
-                             if (button == nullptr || button->objectName() != QString::fromStdString(name) ||
-                                 !button->isVisible() || button->text() != text)
-                                 continue;
-                             QPoint const now = button->mapToGlobal(button->rect().center());
-                             bool const holdsStill = now == place;
-                             place = now;
-                             return holdsStill;
-                         }
-                         return false;
-                     });
-    m_person.Click(place);
 }
 
 void DrivenProgram::EnterInto(char const* dialogClass, QString const& text)

@@ -43,8 +43,6 @@ public:
     void Click(std::string const& name);
     void ClickRow(std::string const& view, int row);
     void ChooseInBox(std::string const& comboBox, QString const& text);
-    /// Clicks the button that says so.
-    void ClickText(std::string const& name, QString const& text);
     /// Into the first field that can be written into of the toolkit's dialog that is open.
     void EnterInto(char const* dialogClass, QString const& text);
     /// Presses Enter in the dialog and waits until it has closed.
