@@ -48,16 +48,11 @@ QString GetText(QWidget const& widget)
 
 std::string Describe(QWidget const& widget)
 {
-    std::string name = widget.metaObject()->className();
-    for (QWidget const* part = &widget; part != nullptr; part = part->parentWidget())
-    {
-        if (part->objectName().isEmpty())
-            continue;
-        name += " \"" + part->objectName().toStdString() + (part == &widget ? "\"" : "\" (a parent)");
-        break;
-    }
-    QString const text = GetText(widget);
-    return text.isEmpty() ? name : name + " \"" + text.toStdString() + "\"";
+    QWidget const* named = &widget;
+    while (named->objectName().isEmpty() && named->parentWidget() != nullptr)
+        named = named->parentWidget();
+    return widget.metaObject()->className() + (named == &widget ? std::string(" ") : std::string(" in ")) +
+           named->objectName().toStdString() + " \"" + GetText(widget).toStdString() + "\"";
 }
 
 std::string Describe(QSize const& size)
@@ -99,28 +94,35 @@ private:
 
     void CheckRoom(QWidget const& widget)
     {
-        if (auto const* label = qobject_cast<QLabel const*>(&widget))
-            CheckLabel(*label);
-        else if (auto const* button = qobject_cast<QAbstractButton const*>(&widget))
-            CheckButton(*button);
-        else if (auto const* bar = qobject_cast<QMenuBar const*>(&widget))
-            CheckMenuBar(*bar);
-        else if (auto const* field = qobject_cast<QLineEdit const*>(&widget))
+        QSize const need = FindNeed(widget);
+        if (need.width() > widget.width() + ROUNDING || need.height() > widget.height() + ROUNDING)
+            Report(widget, "needs " + Describe(need) + ", has " + Describe(widget.size()));
+        if (auto const* bar = qobject_cast<QMenuBar const*>(&widget))
+        {
+            for (QAction* action : bar->actions())
+                if (action->isVisible() && !bar->rect().contains(bar->actionGeometry(action)))
+                    Report(widget, "has no room for \"" + action->text().toStdString() + "\"");
+        }
+        if (auto const* field = qobject_cast<QLineEdit const*>(&widget))
             CheckField(*field);
     }
 
-    void CheckLabel(QLabel const& label)
+    /// To be seen whole; invalid where there is no text or the widget shortens it itself.
+    static QSize FindNeed(QWidget const& widget)
     {
-        bool const isShortened = (qobject_cast<KLabel const*>(&label) != nullptr && !label.wordWrap()) ||
-                                 qobject_cast<Desktop::HintLabel const*>(&label) != nullptr;
-        if (label.text().isEmpty() || isShortened)
-            return;
-        QSize const room = label.size();
-        QSize need = label.sizeHint();
-        if (label.wordWrap())
-            need = QSize(FindWidestWord(label), label.heightForWidth(room.width()));
-        if (need.width() > room.width() + ROUNDING || need.height() > room.height() + ROUNDING)
-            Report(label, "needs " + Describe(need) + ", has " + Describe(room));
+        auto const* label = qobject_cast<QLabel const*>(&widget);
+        auto const* tool = qobject_cast<QToolButton const*>(&widget);
+        bool const isIconOnly =
+            tool != nullptr && tool->toolButtonStyle() == Qt::ToolButtonIconOnly && !tool->icon().isNull();
+        bool const isShortened = (qobject_cast<KLabel const*>(&widget) != nullptr && !label->wordWrap()) ||
+                                 qobject_cast<Desktop::HintLabel const*>(&widget) != nullptr ||
+                                 qobject_cast<GUI::DropDownButton const*>(&widget) != nullptr ||
+                                 qobject_cast<GUI::ColorPickerButton const*>(&widget) != nullptr;
+        if (GetText(widget).isEmpty() || isShortened || isIconOnly)
+            return {};
+        if (label != nullptr && label->wordWrap())
+            return {FindWidestWord(*label), label->heightForWidth(label->width())};
+        return widget.sizeHint();
     }
 
     static int FindWidestWord(QLabel const& label)
@@ -145,27 +147,6 @@ private:
                 widest = std::max(widest, label.fontMetrics().horizontalAdvance(word));
         }
         return widest + label.width() - label.contentsRect().width();
-    }
-
-    void CheckButton(QAbstractButton const& button)
-    {
-        bool const isShortened = qobject_cast<GUI::DropDownButton const*>(&button) != nullptr ||
-                                 qobject_cast<GUI::ColorPickerButton const*>(&button) != nullptr;
-        auto const* tool = qobject_cast<QToolButton const*>(&button);
-        bool const isIconOnly =
-            tool != nullptr && tool->toolButtonStyle() == Qt::ToolButtonIconOnly && !tool->icon().isNull();
-        if (button.text().isEmpty() || isShortened || isIconOnly)
-            return;
-        QSize const need = button.sizeHint();
-        if (need.width() > button.width() + ROUNDING || need.height() > button.height() + ROUNDING)
-            Report(button, "needs " + Describe(need) + ", has " + Describe(button.size()));
-    }
-
-    void CheckMenuBar(QMenuBar const& bar)
-    {
-        for (QAction* action : bar.actions())
-            if (action->isVisible() && !bar.rect().contains(bar.actionGeometry(action)))
-                Report(bar, "has no room for \"" + action->text().toStdString() + "\"");
     }
 
     /// What cannot be seen of a field that the user has not typed into.

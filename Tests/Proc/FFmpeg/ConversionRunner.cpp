@@ -8,32 +8,15 @@ namespace Korvex::Testing
 namespace
 {
 
-class Listener final : public Proc::ITranscodeObserver
+struct Listener final : Proc::ITranscodeObserver
 {
-public:
-    Listener(Conversion& result, Proc::ITranscodeJob& job, std::function<void(Proc::ITranscodeJob&)> const& onProgress)
-        : m_result(result),
-          m_job(job),
-          m_onProgress(onProgress)
-    {
-    }
-
-    void OnProgress(Proc::TranscodeProgress const& progress) override
-    {
-        m_result.progress.push_back(progress);
-        if (m_onProgress)
-            m_onProgress(m_job);
-    }
+    void OnProgress(Proc::TranscodeProgress const& progress) override { result.progress.push_back(progress); }
     void OnFinished(Proc::TranscodeReport const& report) override
     {
-        m_result.report = report;
-        ++m_result.finishedCount;
+        result.report = report;
+        ++result.finishedCount;
     }
-
-private:
-    Conversion& m_result;
-    Proc::ITranscodeJob& m_job;
-    std::function<void(Proc::ITranscodeJob&)> const& m_onProgress;
+    Conversion result;
 };
 
 } // namespace
@@ -52,19 +35,18 @@ std::string Conversion::Words() const
     return report.error ? "failed: " + Core::ToSentence(*report.error) : "succeeded";
 }
 
-Conversion Convert(Proc::SettingsTranscode const& settings, std::function<void(Proc::ITranscodeJob&)> const& onProgress)
+Conversion Convert(Proc::SettingsTranscode const& settings)
 {
-    Conversion result;
-    auto job = Proc::MakeTranscodeJob(settings);
+    Listener listener;
+    auto const job = Proc::MakeTranscodeJob(settings);
     if (!job)
     {
-        result.refusal = job.GetError();
-        return result;
+        listener.result.refusal = job.GetError();
+        return listener.result;
     }
-    Listener listener(result, **job, onProgress);
     (*job)->Start(listener);
     (*job)->Wait();
-    return result;
+    return listener.result;
 }
 
 Conversion MustConvert(Proc::SettingsTranscode const& settings)
@@ -93,10 +75,8 @@ Proc::SettingsTranscode BurnSettings(ioPath const& input, ioPath const& output, 
 {
     auto mixer = std::make_shared<Proc::SettingsSubtitleMixer>();
     mixer->SetFilename(subtitles);
-    Proc::SettingsTranscode settings;
-    settings.input = input;
-    settings.output = output;
-    settings.formatId = formatId;
+    Proc::SettingsTranscode settings = SoftSettings(input, output, formatId, {});
+    settings.soft.reset();
     settings.mixer = mixer;
     settings.preset = "ultrafast";
     return settings;

@@ -3,7 +3,6 @@
 #include "Proc/Settings.h"
 #include "Proc/Transcode.h"
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -25,9 +24,8 @@ struct Conversion
     [[nodiscard]] std::string Words() const;
 };
 
-/// Makes a job, runs it to its end. `onProgress` may cancel it.
-[[nodiscard]] Conversion Convert(Proc::SettingsTranscode const& settings,
-                                 std::function<void(Proc::ITranscodeJob&)> const& onProgress = {});
+/// Makes a job, runs it to its end.
+[[nodiscard]] Conversion Convert(Proc::SettingsTranscode const& settings);
 
 /// The same where it has to succeed; throws the sentence of what failed.
 Conversion MustConvert(Proc::SettingsTranscode const& settings);

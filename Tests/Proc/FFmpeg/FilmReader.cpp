@@ -16,6 +16,17 @@ using namespace Proc::FFmpeg;
 namespace
 {
 
+InputContext Open(ioPath const& path)
+{
+    AVFormatContext* raw = nullptr;
+    if (avformat_open_input(&raw, ("file:" + path.utf8string()).c_str(), nullptr, nullptr) < 0)
+        throw std::runtime_error("cannot open " + path.utf8string());
+    InputContext file(raw);
+    if (avformat_find_stream_info(raw, nullptr) < 0)
+        throw std::runtime_error("cannot analyse " + path.utf8string());
+    return file;
+}
+
 std::chrono::microseconds TimeOf(AVFormatContext const& file, std::int64_t stamp, AVRational timeBase)
 {
     std::int64_t const start = file.start_time == AV_NOPTS_VALUE ? 0 : file.start_time;
@@ -59,15 +70,11 @@ std::string Film::TagOf(int stream, char const* key) const
 
 Film ReadFilm(ioPath const& path)
 {
-    AVFormatContext* raw = nullptr;
-    if (avformat_open_input(&raw, ("file:" + path.utf8string()).c_str(), nullptr, nullptr) < 0)
-        throw std::runtime_error("cannot open " + path.utf8string());
     Film film;
-    film.context.reset(raw);
-    if (avformat_find_stream_info(raw, nullptr) < 0)
-        throw std::runtime_error("cannot analyse " + path.utf8string());
-    AVPacket* packet = av_packet_alloc();
-    while (av_read_frame(raw, packet) >= 0)
+    film.context = Open(path);
+    AVFormatContext* const raw = film.context.get();
+    Packet const packet(av_packet_alloc());
+    while (av_read_frame(raw, packet.get()) >= 0)
     {
         AVRational const timeBase = raw->streams[packet->stream_index]->time_base;
         std::int64_t const stamp = packet->pts == AV_NOPTS_VALUE ? packet->dts : packet->pts;
@@ -75,19 +82,15 @@ Film ReadFilm(ioPath const& path)
             {packet->stream_index, TimeOf(*raw, stamp, timeBase),
              std::chrono::microseconds(av_rescale_q(packet->duration, timeBase, AV_TIME_BASE_Q)),
              std::string(reinterpret_cast<char const*>(packet->data), static_cast<std::size_t>(packet->size))});
-        av_packet_unref(packet);
+        av_packet_unref(packet.get());
     }
-    av_packet_free(&packet);
     return film;
 }
 
 std::vector<Frame> DecodePictures(ioPath const& path)
 {
-    AVFormatContext* raw = nullptr;
-    if (avformat_open_input(&raw, ("file:" + path.utf8string()).c_str(), nullptr, nullptr) < 0)
-        throw std::runtime_error("cannot open " + path.utf8string());
-    InputContext const file(raw);
-    avformat_find_stream_info(raw, nullptr);
+    InputContext const file = Open(path);
+    AVFormatContext* const raw = file.get();
     AVCodec const* codec = nullptr;
     int const index = av_find_best_stream(raw, AVMEDIA_TYPE_VIDEO, -1, -1, &codec, 0);
     if (index < 0)
@@ -103,18 +106,12 @@ std::vector<Frame> DecodePictures(ioPath const& path)
     for (bool more = true; more;)
     {
         more = av_read_frame(raw, packet.get()) >= 0;
-        if (more && packet->stream_index != index)
-        {
-            av_packet_unref(packet.get());
-            continue;
-        }
-        avcodec_send_packet(decoder.get(), more ? packet.get() : nullptr);
+        if (!more || packet->stream_index == index)
+            avcodec_send_packet(decoder.get(), more ? packet.get() : nullptr);
         av_packet_unref(packet.get());
-        for (;;)
+        for (Frame frame(av_frame_alloc()); avcodec_receive_frame(decoder.get(), frame.get()) >= 0;
+             frame.reset(av_frame_alloc()))
         {
-            Frame frame(av_frame_alloc());
-            if (avcodec_receive_frame(decoder.get(), frame.get()) < 0)
-                break;
             frame->pts = TimeOf(*raw, frame->best_effort_timestamp, raw->streams[index]->time_base).count();
             frames.push_back(std::move(frame));
         }

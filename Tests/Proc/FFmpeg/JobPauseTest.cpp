@@ -59,10 +59,7 @@ protected:
 
     SettingsTranscode Settings(std::string const& output) const
     {
-        SettingsTranscode settings;
-        settings.input = m_folder / "in.mkv";
-        settings.output = m_folder / output;
-        settings.formatId = "matroska";
+        SettingsTranscode settings = Testing::SoftSettings(m_folder / "in.mkv", m_folder / output, "matroska", {});
         settings.videoCodecId = "h264";
         settings.audioCodecId = "aac";
         return settings;

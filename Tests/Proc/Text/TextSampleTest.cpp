@@ -99,17 +99,19 @@ TEST_F(TextSampleTest, OffersWhatMayBeMeantAndNoOtherScriptForALongText)
                 testing::IsSupersetOf({"ISO-8859-7", "KOI8-R"}));
 }
 
-TEST_F(TextSampleTest, CountsWhatDoesNotDecodeInTheWholeFile)
+TEST_F(TextSampleTest, CountsWhatDoesNotDecodeInTheWholeFileAndShowsALineThatTells)
 {
     std::string russian;
-    for (std::size_t cue = 0; cue < 5000; ++cue)
+    for (std::size_t cue = 0; cue < 9000; ++cue)
+        russian += MakeCue(cue, "Credits " + std::to_string(cue));
+    for (std::size_t cue = 9000; cue < 14'000; ++cue)
         russian += MakeCue(cue, "Подожди, я слышу шаги.");
     std::string const bytes = Testing::EncodeText(russian, "CP1251");
     auto const sample = ReadTextSample(Write("film.srt", bytes), "UTF-8");
     ASSERT_TRUE(sample);
     EXPECT_EQ(sample->decoding.replacedBytes, 17U * 5000);
-    EXPECT_THAT(sample->lines, SizeIs(5));
-    EXPECT_THAT(sample->lines, Each(HasSubstr("\xEF\xBF\xBD")));
+    ASSERT_THAT(sample->lines, SizeIs(5));
+    EXPECT_THAT(sample->lines[4], HasSubstr("\xEF\xBF\xBD")) << "a line that tells, however late";
     ASSERT_THAT(sample->alternatives, Not(IsEmpty()));
     EXPECT_EQ(sample->alternatives.front().line, "Подожди, я слышу шаги.");
 }
@@ -122,18 +124,6 @@ TEST_F(TextSampleTest, OffersNothingWhereNothingReadsOtherwise)
     // What is UTF-8 without doubt is all that there is to offer to somebody who chose otherwise.
     auto const wrong = ReadTextSample(Write("d.srt", RUSSIAN), "CP1251");
     EXPECT_THAT(wrong->alternatives, ElementsAre(Field(&TextAlternative::encoding, "UTF-8")));
-}
-
-TEST_F(TextSampleTest, ShowsALineThatTells)
-{
-    std::string credits;
-    for (std::size_t cue = 0; cue < 9000; ++cue)
-        credits += MakeCue(cue, "Credits " + std::to_string(cue));
-    auto const path = Write("film.srt", credits + Testing::EncodeText(MakeCue(9000, "Gdzie byłeś wczoraj?"), "CP1250"));
-    auto const sample = ReadTextSample(path, "ISO-8859-15");
-    EXPECT_THAT(sample->lines, ElementsAre("Credits 0", "Credits 1", "Credits 2", "Credits 3", "Gdzie by³eœ wczoraj?"));
-    ASSERT_THAT(sample->alternatives, Not(IsEmpty()));
-    EXPECT_EQ(sample->alternatives.front().line, "Gdzie byłeś wczoraj?");
 }
 
 TEST_F(TextSampleTest, ReadsEveryFormatAndRefusesWhatIsNoText)
