@@ -6,6 +6,8 @@
 #include "Cli/Values.h"
 #include "Common/SessionError.h"
 
+#include "Subtitles/UseCases/ImdbId.h"
+
 #include "Core/FileSystem.h"
 
 #include <algorithm>
@@ -42,14 +44,9 @@ std::vector<Language::LanguageID> ReadLanguages(GivenOption const& option)
 /// "tt0133093", or the number alone.
 std::string ReadImdbId(GivenOption const& option)
 {
-    constexpr std::size_t mostDigits = 10;
-    std::string const& text = option.Value();
-    bool const hasPrefix = text.rfind("tt", 0) == 0 || text.rfind("TT", 0) == 0;
-    std::string digits = hasPrefix ? text.substr(2) : text;
-    bool const isNumber = !digits.empty() && digits.size() <= mostDigits &&
-                          std::all_of(digits.begin(), digits.end(), [](char c) { return c >= '0' && c <= '9'; });
-    if (!isNumber || digits.find_first_not_of('0') == std::string::npos)
-        throw UsageError("The option --imdb takes an IMDb id such as tt0133093, not \"" + text + "\".");
+    std::string const digits = Converter::Subtitles::UseCases::CleanImdbId(option.Value());
+    if (digits.empty())
+        throw UsageError("The option --imdb takes an IMDb id such as tt0133093, not \"" + option.Value() + "\".");
     return digits;
 }
 

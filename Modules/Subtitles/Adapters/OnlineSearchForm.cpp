@@ -2,6 +2,8 @@
 
 #include "Subtitles/Entities/SearchTags.h"
 
+#include "Subtitles/UseCases/ImdbId.h"
+
 #include <algorithm>
 #include <optional>
 

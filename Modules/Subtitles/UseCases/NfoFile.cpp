@@ -1,6 +1,6 @@
 #include "Subtitles/UseCases/NfoFile.h"
 
-#include "Subtitles/UseCases/ReleaseName.h"
+#include "Subtitles/UseCases/ImdbId.h"
 
 #include "Core/FileSystem.h"
 

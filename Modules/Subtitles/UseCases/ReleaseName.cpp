@@ -1,5 +1,6 @@
 #include "Subtitles/UseCases/ReleaseName.h"
 
+#include "Subtitles/UseCases/ImdbId.h"
 #include "Subtitles/UseCases/ReleaseAtoms.h"
 #include "Subtitles/UseCases/ReleaseEpisode.h"
 #include "Subtitles/UseCases/ReleaseTags.h"
@@ -368,16 +369,6 @@ private:
     ReleaseName m_result;
 };
 
-bool IsDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
-bool IsAlphanumeric(char c)
-{
-    return IsDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-
 } // namespace
 
 ReleaseName ParseReleaseName(std::string const& name)
@@ -385,30 +376,6 @@ ReleaseName ParseReleaseName(std::string const& name)
     ReleaseName result = Parser(name).Run();
     result.imdbId = FindImdbId(name);
     return result;
-}
-
-std::string FindImdbId(std::string const& text)
-{
-    constexpr std::size_t FEWEST_DIGITS = 7;
-    constexpr std::size_t MOST_DIGITS = 10;
-    for (std::size_t i = 0; i + 2 + FEWEST_DIGITS <= text.size(); ++i)
-    {
-        bool const isStart = (text[i] == 't' || text[i] == 'T') && (text[i + 1] == 't' || text[i + 1] == 'T') &&
-                             (i == 0 || !IsAlphanumeric(text[i - 1]));
-        if (!isStart)
-            continue;
-        std::size_t const begin = i + 2;
-        std::size_t end = begin;
-        while (end < text.size() && IsDigit(text[end]))
-            ++end;
-        std::size_t const significant = std::min(text.find_first_not_of('0', begin), end);
-        bool const isId = end - begin >= FEWEST_DIGITS && end - begin <= MOST_DIGITS &&
-                          (end == text.size() || !IsAlphanumeric(text[end]));
-        if (isId && significant < end)
-            return text.substr(significant, end - significant);
-        i = end - 1;
-    }
-    return {};
 }
 
 } // namespace Korvex::Converter::Subtitles::UseCases

@@ -19,16 +19,12 @@ struct ReleaseName
     bool isAbsoluteEpisode = false; ///< counted through all seasons, as anime releases do
     std::string imdbId;             ///< decimal digits without leading zeros
     std::string resolution;         ///< "1080p", "2160p", ..., lower case
-    std::string source; ///< one of "BluRay", "WEB-DL", "WEBRip", "HDTV", "DVD", "CAM", ... as `ReleaseName.cpp` lists
+    std::string source; ///< one of "BluRay", "WEB-DL", "WEBRip", "HDTV", "DVD", "CAM", ... as `ReleaseTags.cpp` lists
     std::string videoCodec; ///< "x264", "x265", "AV1", ...
     std::string group;      ///< who released it
 };
 
 /// Reads a file name (without its folder) or a release name, with or without an extension.
 [[nodiscard]] KVSUBTITLES_API ReleaseName ParseReleaseName(std::string const& name);
-
-/// The first IMDb id ("tt" and seven to ten digits, also within an address) in a text; digits without leading zeros,
-/// empty when there is none.
-[[nodiscard]] KVSUBTITLES_API std::string FindImdbId(std::string const& text);
 
 } // namespace Korvex::Converter::Subtitles::UseCases

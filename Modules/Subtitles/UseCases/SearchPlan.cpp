@@ -1,6 +1,7 @@
 #include "Subtitles/UseCases/SearchPlan.h"
 
 #include "Subtitles/Entities/SearchTags.h"
+#include "Subtitles/UseCases/ImdbId.h"
 #include "Subtitles/UseCases/SearchQuery.h"
 
 namespace Korvex::Converter::Subtitles::UseCases

@@ -2,6 +2,7 @@
 
 #include "Subtitles/Entities/SearchTags.h"
 #include "Subtitles/Entities/SubtitleSearchMediaInfoSettings.h"
+#include "Subtitles/UseCases/ImdbId.h"
 #include "Subtitles/UseCases/NfoFile.h"
 #include "Subtitles/UseCases/TitleFolding.h"
 
@@ -284,17 +285,6 @@ std::string CleanTitle(std::string const& title)
         text.truncate(blank > 0 ? blank : LONGEST - (text.at(LONGEST).isLowSurrogate() ? 1 : 0));
     }
     return text.toStdString();
-}
-
-std::string CleanImdbId(std::string const& id)
-{
-    constexpr std::size_t MOST_DIGITS = 10;
-    bool const hasPrefix = id.size() > 2 && (id[0] == 't' || id[0] == 'T') && (id[1] == 't' || id[1] == 'T');
-    std::string const digits = hasPrefix ? id.substr(2) : id;
-    std::size_t const begin = digits.find_first_not_of('0');
-    bool const isNumber = digits.find_first_not_of("0123456789") == std::string::npos;
-    return isNumber && begin != std::string::npos && digits.size() <= MOST_DIGITS ? digits.substr(begin)
-                                                                                  : std::string();
 }
 
 } // namespace Korvex::Converter::Subtitles::UseCases

@@ -40,7 +40,4 @@ struct SearchedFilm
 /// mean something in an address, at most 200 characters long. They become blanks, since services look for words.
 [[nodiscard]] KVSUBTITLES_API std::string CleanTitle(std::string const& title);
 
-/// The digits of an IMDb id that may begin with "tt", without leading zeros; empty when it is none.
-[[nodiscard]] KVSUBTITLES_API std::string CleanImdbId(std::string const& id);
-
 } // namespace Korvex::Converter::Subtitles::UseCases

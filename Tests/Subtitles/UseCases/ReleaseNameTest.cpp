@@ -1,5 +1,7 @@
 #include "Subtitles/UseCases/ReleaseName.h"
 
+#include "Subtitles/UseCases/ImdbId.h"
+
 #include <ctime>
 #include <random>
 

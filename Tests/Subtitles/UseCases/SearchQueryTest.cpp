@@ -1,6 +1,7 @@
 #include "Subtitles/UseCases/SearchQuery.h"
 
 #include "Subtitles/Entities/SubtitleSearchMediaInfoSettings.h"
+#include "Subtitles/UseCases/ImdbId.h"
 #include "Subtitles/UseCases/NfoFile.h"
 
 #include "Core/FileSystem.h"

@@ -142,10 +142,4 @@ QString FindMessage(QJsonObject const& object)
     return {};
 }
 
-QString ReadImdbDigits(QString const& id)
-{
-    static QRegularExpression const IMDB_ID(QStringLiteral(R"(\A(?:tt)?0*([1-9][0-9]{0,9})\z)"));
-    return IMDB_ID.match(id).captured(1);
-}
-
 } // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles

@@ -21,8 +21,4 @@ namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
 /// The server's own words in a JSON reply: its `message`, else `error`, else `errors`. Empty when it says nothing.
 [[nodiscard]] KVSUBTITLES_API QString FindMessage(QJsonObject const& reply);
 
-/// The digits of an IMDb id without leading zeros, written with or without "tt" before them. Empty for anything but one
-/// number above 0 of at most ten digits.
-[[nodiscard]] KVSUBTITLES_API QString ReadImdbDigits(QString const& id);
-
 } // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles

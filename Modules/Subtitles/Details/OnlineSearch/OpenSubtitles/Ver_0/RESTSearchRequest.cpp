@@ -1,6 +1,5 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTSearchRequest.h"
 
-#include "Subtitles/Details/OnlineSearch/OpenSubtitles/ServiceText.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/ArchiveLink.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/Languages.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTProtocol.h"
@@ -8,6 +7,7 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/SearchRow.h"
 
 #include "Subtitles/Entities/SearchTags.h"
+#include "Subtitles/UseCases/ImdbId.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -39,7 +39,7 @@ QString WriteTitle(QString const& title)
 
 QString WriteImdbId(QString const& id)
 {
-    QString const digits = ReadImdbDigits(id);
+    QString const digits = QString::fromStdString(UseCases::CleanImdbId(id.toStdString()));
     return digits.isEmpty() ? QString() : digits.rightJustified(IMDB_ID_DIGITS, u'0');
 }
 

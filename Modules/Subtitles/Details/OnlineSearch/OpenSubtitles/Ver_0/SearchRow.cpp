@@ -7,6 +7,7 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTSearchResultData.h"
 
 #include "Subtitles/Entities/SearchTags.h"
+#include "Subtitles/UseCases/ImdbId.h"
 
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -104,7 +105,7 @@ void ReadFilm(Row const& row, UseCases::SearchResultFacts& facts)
 
     facts.title = row.Line(RESTProtocol::RESULT_KEY_MOVIE_NAME);
     facts.year = row.Number(RESTProtocol::RESULT_KEY_MOVIE_YEAR, 1);
-    facts.imdbId = ReadImdbDigits(row.Text(RESTProtocol::RESULT_KEY_IMDB_ID)).toStdString();
+    facts.imdbId = UseCases::CleanImdbId(row.Text(RESTProtocol::RESULT_KEY_IMDB_ID).toStdString());
     if (row.Text(RESTProtocol::RESULT_KEY_MOVIE_KIND) != EPISODE)
         return;
 
@@ -114,7 +115,7 @@ void ReadFilm(Row const& row, UseCases::SearchResultFacts& facts)
     if (name.hasMatch())
         facts.title = name.captured(1);
     if (facts.imdbId.empty())
-        facts.imdbId = ReadImdbDigits(row.Text(RESTProtocol::RESULT_KEY_SERIES_IMDB_ID)).toStdString();
+        facts.imdbId = UseCases::CleanImdbId(row.Text(RESTProtocol::RESULT_KEY_SERIES_IMDB_ID).toStdString());
 }
 
 /// A row without votes carries a rating of 0, which says nothing.

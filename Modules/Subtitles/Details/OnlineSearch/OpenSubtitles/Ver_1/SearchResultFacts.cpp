@@ -6,6 +6,8 @@
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_1/Languages.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_1/RESTProtocol.h"
 
+#include "Subtitles/UseCases/ImdbId.h"
+
 #include <QJsonObject>
 
 #include <algorithm>
@@ -49,7 +51,7 @@ std::string ReadImdbId(QJsonObject const& object, char const* key)
 {
     auto const number = ReadInteger(object, QLatin1String(key));
     QString const text = ReadText(object, QLatin1String(key)).trimmed();
-    return ReadImdbDigits(number ? QString::number(*number) : text).toStdString();
+    return UseCases::CleanImdbId(number ? std::to_string(*number) : text.toStdString());
 }
 
 QDateTime ReadTime(QJsonObject const& object, char const* key)
