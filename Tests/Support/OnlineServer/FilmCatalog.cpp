@@ -1,10 +1,10 @@
 #include "Support/OnlineServer/FilmCatalog.h"
 
-#include "Support/OnlineServer/SubtitleTexts.h"
-
 #include <QRegularExpression>
+#include <QTextCodec>
 
 #include <algorithm>
+#include <map>
 
 namespace Korvex::Testing
 {
@@ -27,32 +27,27 @@ struct Upload
     unsigned marks = 0;
     char const* format = "srt";
     char const* encoding = "UTF-8";
-    char const* comment = "";
 };
 
 // Identifiers are given in this order: new rows go to the end.
 constexpr Upload UPLOADS[] = {
     {99'000'101, "en", "The.Lantern.Keeper.2014.1080p.BluRay.x264-TIDAL", 41'205, MARK_TRUSTED | MARK_HIGH_DEFINITION},
-    {99'000'101, "en", "The.Lantern.Keeper.2014.720p.WEB-DL.H264-QUAY", 18'630, MARK_HIGH_DEFINITION | MARK_ALTERNATE},
-    {99'000'101, "en", "The.Lantern.Keeper.2014.1080p.BluRay.x264-TIDAL", 9'004, MARK_HEARING_IMPAIRED, "srt", "UTF-8",
-     "For the hearing impaired.\nSynced by ear."},
+    {99'000'101, "en", "The.Lantern.Keeper.2014.720p.WEB-DL.H264-QUAY", 18'630, MARK_HIGH_DEFINITION},
+    {99'000'101, "en", "The.Lantern.Keeper.2014.1080p.BluRay.x264-TIDAL", 9'004, MARK_HEARING_IMPAIRED},
     {99'000'101, "en", "The.Lantern.Keeper.2014.DVDRip.XviD-MOOR", 2'210, MARK_FOREIGN_PARTS},
     {99'000'101, "fr", "The.Lantern.Keeper.2014.FRENCH.1080p.BluRay.x264-PHARE", 7'512, 0, "srt", "windows-1252"},
     {99'000'101, "fr", "The.Lantern.Keeper.2014.720p.WEB-DL.H264-QUAY", 310, MARK_MACHINE},
     {99'000'101, "de", "The.Lantern.Keeper.2014.German.DL.1080p.BluRay.x264-KOGGE", 6'044, MARK_TRUSTED},
-    {99'000'101, "pt-BR", "The.Lantern.Keeper.2014.1080p.BluRay.x264-TIDAL", 8'877, 0, "srt", "UTF-8",
-     "Tradução &amp; revisão"},
+    {99'000'101, "pt-BR", "The.Lantern.Keeper.2014.1080p.BluRay.x264-TIDAL", 8'877},
     {99'000'101, "ru", "The.Lantern.Keeper.2014.BDRip.1080p", 3'901, 0, "srt", "windows-1251"},
     {99'000'101, "ja", "The.Lantern.Keeper.2014.1080p.BluRay.x264-TIDAL", 990, 0, "ass"},
     {99'000'102, "en", "Salt.and.Ember.2019.2160p.WEB.h265-CINDER", 12'400, MARK_TRUSTED | MARK_HIGH_DEFINITION},
-    {99'000'102, "fr", "Salt.and.Ember.2019.2160p.WEB.h265-CINDER", 2'040, MARK_NO_FILE_NAME},
+    {99'000'102, "fr", "Salt.and.Ember.2019.2160p.WEB.h265-CINDER", 2'040},
     {99'000'103, "en", "Harbour.Lights.2008.DVDRip.XviD.2CD-MOOR", 15'720, MARK_TWO_DISCS},
-    {99'000'103, "en", "Harbour.Lights.2008.720p.BluRay.x264-TIDAL", 4'411, MARK_HIGH_DEFINITION},
-    {99'000'103, "de", "Harbour.Lights.2008.DVDRip.XviD.2CD-MOOR", 803, MARK_TWO_DISCS | MARK_ALTERNATE},
+    {99'000'103, "de", "Harbour.Lights.2008.DVDRip.XviD.2CD-MOOR", 803, MARK_TWO_DISCS},
     {99'000'104, "de", "Ölberg.2016.German.1080p.WEB-DL.H264-KOGGE", 2'700, MARK_HIGH_DEFINITION},
     {99'000'105, "ru", "Северный маяк (1987) DVDRip", 640, 0, "srt", "windows-1251"},
     {99'000'105, "en", "Northern.Beacon.1987.DVDRip.XviD-MOOR", 512},
-    {99'000'106, "en", "Night.Ferry.2003.720p.BluRay.x264-AOMORI", 1'604, MARK_HIGH_DEFINITION},
     {99'000'108, "fr", "Cafe.Meridian.2011.FRENCH.DVDRip.XviD-PHARE", 3'015, 0, "srt", "windows-1252"},
     {99'000'108, "en", "Cafe.Meridian.2011.720p.BluRay.x264-QUAY", 2'990, MARK_HEARING_IMPAIRED},
     {99'000'110, "en", "50.Percent.Chance.of.Rain.2017.1080p.WEB-DL-NIMBUS", 2'222},
@@ -77,6 +72,42 @@ Film const& FindFilm(int imdbId)
                          [imdbId](Film const& film) { return film.imdbId == imdbId; });
 }
 
+QStringList const& GetLines(QByteArray const& language)
+{
+    static std::map<QByteArray, QStringList> const LINES = {
+        {"en", {"You kept the light burning all night.", "The tide turns at four.", "Not one letter arrived."}},
+        {"fr", {"Tu as gardé la lampe allumée.", "La marée tourne à quatre heures.", "Aucune lettre n'est arrivée."}},
+        {"de", {"Du hast das Licht brennen lassen.", "Um vier kommt die Flut.", "Hast du das gehört?"}},
+        {"pt-BR", {"Você deixou a luz acesa a noite toda.", "A maré vira às quatro.", "É só o vento nos fios."}},
+        {"ru", {"Ты всю ночь не гасил свет.", "В четыре начнётся прилив.", "Ни одно письмо не дошло."}},
+        {"ja", {"一晩中、明かりを灯していたのね。", "潮は四時に変わる。", "一通も届かなかった。"}},
+    };
+    return LINES.at(language);
+}
+
+/// Lines end in CR LF, as most uploaded files' do. Different first seconds make different files.
+QByteArray MakeText(Upload const& upload, QString const& title, int firstSecond)
+{
+    constexpr int CUE_COUNT = 24;
+    constexpr int CUE_SECONDS = 5;
+    bool const isAss = upload.format == QByteArray("ass");
+    QString const cuePattern =
+        isAss ? "Dialogue: 0,%2,%3,Default,,0,0,0,,%4%1\n" : QStringLiteral("%1\n%2 --> %3\n%4\n\n");
+    QString const timePattern = isAss ? "h:mm:ss.00" : "hh:mm:ss,zzz";
+    QString file = isAss ? "[Script Info]\nScriptType: v4.00+\n\n[V4+ Styles]\nFormat: Name, Fontname, Fontsize\n"
+                           "Style: Default,Sans,48\n\n[Events]\nFormat: Layer, Start, End, Style, Name, MarginL, "
+                           "MarginR, MarginV, Effect, Text\n"
+                         : "";
+    QStringList const& lines = GetLines(upload.language);
+    for (int cue = 0; cue < CUE_COUNT; ++cue)
+    {
+        QTime const start = QTime(0, 0).addSecs(firstSecond + cue * CUE_SECONDS);
+        file += cuePattern.arg(isAss ? QString() : QString::number(cue + 1), start.toString(timePattern),
+                               start.addSecs(3).toString(timePattern), cue == 0 ? title : lines[cue % lines.size()]);
+    }
+    return QTextCodec::codecForName(upload.encoding)->fromUnicode(file.replace('\n', QLatin1String("\r\n")));
+}
+
 Subtitle MakeSubtitle(Upload const& upload, int number)
 {
     Subtitle subtitle;
@@ -86,12 +117,10 @@ Subtitle MakeSubtitle(Upload const& upload, int number)
     subtitle.language = &FindLanguage(upload.language);
     subtitle.release = QString::fromUtf8(upload.release);
     subtitle.format = QString::fromLatin1(upload.format);
-    subtitle.comment = QString::fromUtf8(upload.comment);
     subtitle.downloads = upload.downloads;
     subtitle.marks = upload.marks;
     subtitle.votes = number % 5;
     subtitle.rating = subtitle.votes == 0 ? 0.0 : 6.0 + subtitle.votes * 0.8;
-    subtitle.framesPerSecond = number % 3 == 0 ? 0.0 : 23.976;
     subtitle.uploaded = QDateTime(QDate(2021, 1, 5), QTime(13, 19, 24), Qt::UTC).addSecs(number * 86'477LL);
     int const discs = subtitle.Has(MARK_TWO_DISCS) ? 2 : 1;
     for (int disc = 1; disc <= discs; ++disc)
@@ -101,8 +130,7 @@ Subtitle MakeSubtitle(Upload const& upload, int number)
         QString const part = discs > 1 ? QStringLiteral(".CD%1.").arg(disc) : QStringLiteral(".");
         subtitle.files.push_back({FIRST_FILE_ID + offset, FIRST_LEGACY_FILE_ID + offset, disc,
                                   subtitle.release + part + subtitle.format,
-                                  MakeSubtitleText({subtitle.film->title, upload.language, upload.format,
-                                                    upload.encoding, offset, subtitle.Has(MARK_HEARING_IMPAIRED)})});
+                                  MakeText(upload, subtitle.film->title, offset)});
     }
     return subtitle;
 }
@@ -126,7 +154,6 @@ std::vector<Film> const& GetFilms()
         {99'000'103, "Harbour Lights", 2008, "0000000000020000"},
         {99'000'104, "Ölberg", 2016},
         {99'000'105, "Northern Beacon", 1987},
-        {99'000'106, "Night Ferry", 2003},
         {99'000'108, "Café Meridian", 2011},
         {99'000'110, "50% Chance of Rain", 2017},
         {99'000'111, "Étude in C#", 2013},

@@ -38,9 +38,7 @@ enum SubtitleMark : unsigned
     MARK_MACHINE = 1U << 2U, ///< machine translated
     MARK_TRUSTED = 1U << 3U,
     MARK_HIGH_DEFINITION = 1U << 4U,
-    MARK_TWO_DISCS = 1U << 5U,
-    MARK_ALTERNATE = 1U << 6U,   ///< the legacy archive holds a second version of the file
-    MARK_NO_FILE_NAME = 1U << 7U ///< version 1 gives an empty file name
+    MARK_TWO_DISCS = 1U << 5U
 };
 
 struct SubtitleFile
@@ -61,12 +59,10 @@ struct Subtitle
     CatalogLanguage const* language = nullptr;
     QString release;
     QString format; ///< "srt" or "ass"
-    QString comment;
     int downloads = 0;
     unsigned marks = 0; ///< SubtitleMark values
     int votes = 0;
     double rating = 0.0; ///< 0 without votes
-    double framesPerSecond = 0.0;
     QDateTime uploaded;
     std::vector<SubtitleFile> files;
 

@@ -2,7 +2,6 @@
 
 #include "Support/OnlineServer/Archives.h"
 #include "Support/OnlineServer/FilmCatalog.h"
-#include "Support/OnlineServer/SubtitleTexts.h"
 
 #include <QCryptographicHash>
 #include <QJsonArray>
@@ -72,13 +71,11 @@ QJsonObject MakeRow(Subtitle const& subtitle, SubtitleFile const& file, Query co
         {"SubLanguageID", subtitle.language->threeLetters},
         {"ISO639", subtitle.language->twoLetters},
         {"SubFormat", subtitle.format},
-        {"SubAuthorComment", subtitle.comment.isEmpty() ? QJsonValue() : QJsonValue(subtitle.comment)},
         {"SubAddDate", subtitle.uploaded.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"))},
         {"SubRating", QString::number(subtitle.rating, 'f', 1)},
         {"SubSumVotes", QString::number(subtitle.votes)},
         {"SubDownloadsCnt", QString::number(subtitle.downloads)},
         {"MovieReleaseName", ' ' + subtitle.release},
-        {"MovieFPS", QString::number(subtitle.framesPerSecond, 'f', 3)},
         {"SubHearingImpaired", flag(MARK_HEARING_IMPAIRED)},
         {"SubHD", flag(MARK_HIGH_DEFINITION)},
         {"SubAutoTranslation", flag(MARK_MACHINE)},
@@ -120,13 +117,11 @@ HttpReply Suggest(HttpRequest const& request)
     return MakeArray(suggestions);
 }
 
-/// Every disc's file, for some a second version, and the notes of whoever packed it, which are no valid UTF-8.
+/// Every disc's file, and the notes of whoever packed it, which are no valid UTF-8.
 QByteArray MakeSet(Subtitle const& subtitle)
 {
     std::vector<ArchiveMember> members = {
         {"notes.(" + QByteArray::number(subtitle.legacyId) + ").nfo", QByteArray(1'000, '\xdb')}};
-    if (subtitle.Has(MARK_ALTERNATE))
-        members.push_back({"alternate.srt", MakeSubtitleText({"Alternate", "en", "srt", "UTF-8"})});
     for (auto file = subtitle.files.rbegin(); file != subtitle.files.rend(); ++file)
         members.push_back({file->name.toUtf8(), file->bytes});
     return MakeZip(members);

@@ -13,12 +13,10 @@ namespace Korvex::Testing
 ///  -----------------------  --------  ----------------------------------------------------------------------------
 ///  The Lantern Keeper 2014  99000101  4 en, 2 fr (CP1252; machine), de, pt-BR, ru (CP1251), ja (ass);
 ///                                     hash 0000000000020000, size 131072 (that many zero bytes)
-///  Salt & Ember 2019        99000102  version 1 writes &amp;; the fr row has no file name; hash a0601fdf9f610000
-///                                     (131,072 bytes, byte i is i & 255)
+///  Salt & Ember 2019        99000102  version 1 writes &amp;; hash a0601fdf9f610000 (131,072 bytes, byte i is i & 255)
 ///  Harbour Lights 2008      99000103  two-disc sets en and de; shares the Lantern Keeper's hash
 ///  Ölberg 2016              99000104  de; a letter that only Unicode lowers
 ///  Northern Beacon 1987     99000105  ru: release in Cyrillic, CP1251; en
-///  Night Ferry 2003         99000106  en
 ///  Café Meridian 2011       99000108  fr (CP1252), en for the hearing impaired
 ///  50% Chance of Rain 2017  99000110  percent sign
 ///  Étude in C# 2013         99000111  number sign

@@ -88,28 +88,23 @@ QJsonObject MakeRow(Subtitle const& subtitle)
     }
     QJsonArray files;
     for (SubtitleFile const& file : subtitle.files)
-        files.append(
-            QJsonObject{{"file_id", file.fileId},
-                        {"cd_number", file.discNumber},
-                        {"file_name", subtitle.Has(MARK_NO_FILE_NAME) ? QString("") : file.name.section('.', 0, -2)}});
-    QJsonObject const attributes = {
-        {"language", subtitle.language->version1},
-        {"download_count", subtitle.downloads},
-        {"new_download_count", subtitle.downloads / 3},
-        {"hearing_impaired", subtitle.Has(MARK_HEARING_IMPAIRED)},
-        {"hd", subtitle.Has(MARK_HIGH_DEFINITION)},
-        {"fps", subtitle.framesPerSecond},
-        {"votes", subtitle.votes},
-        {"ratings", subtitle.rating},
-        {"from_trusted", subtitle.Has(MARK_TRUSTED)},
-        {"foreign_parts_only", subtitle.Has(MARK_FOREIGN_PARTS)},
-        {"upload_date", subtitle.uploaded.toString(Qt::ISODate)},
-        {"machine_translated", subtitle.Has(MARK_MACHINE)},
-        {"nb_cd", static_cast<int>(subtitle.files.size())},
-        {"release", subtitle.release},
-        {"comments", subtitle.comment.isEmpty() ? QJsonValue() : QJsonValue(subtitle.comment)},
-        {"feature_details", feature},
-        {"files", files}};
+        files.append(QJsonObject{
+            {"file_id", file.fileId}, {"cd_number", file.discNumber}, {"file_name", file.name.section('.', 0, -2)}});
+    QJsonObject const attributes = {{"language", subtitle.language->version1},
+                                    {"download_count", subtitle.downloads},
+                                    {"new_download_count", subtitle.downloads / 3},
+                                    {"hearing_impaired", subtitle.Has(MARK_HEARING_IMPAIRED)},
+                                    {"hd", subtitle.Has(MARK_HIGH_DEFINITION)},
+                                    {"votes", subtitle.votes},
+                                    {"ratings", subtitle.rating},
+                                    {"from_trusted", subtitle.Has(MARK_TRUSTED)},
+                                    {"foreign_parts_only", subtitle.Has(MARK_FOREIGN_PARTS)},
+                                    {"upload_date", subtitle.uploaded.toString(Qt::ISODate)},
+                                    {"machine_translated", subtitle.Has(MARK_MACHINE)},
+                                    {"nb_cd", static_cast<int>(subtitle.files.size())},
+                                    {"release", subtitle.release},
+                                    {"feature_details", feature},
+                                    {"files", files}};
     return {{"id", QString::number(subtitle.id)}, {"type", "subtitle"}, {"attributes", attributes}};
 }
 

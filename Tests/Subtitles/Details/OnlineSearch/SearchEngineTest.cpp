@@ -255,27 +255,6 @@ TEST_F(SearchEngineTest, StartsOnlyWhatItCan)
                 ElementsAre("first hears of a", "second hears of a", "first finished", "second finished"));
 }
 
-TEST_F(SearchEngineTest, CancelledOperationEndsInSilenceAndKeepsTheEngineBusyUntilThen)
-{
-    for (auto const error : {Reply::NoError, Reply::HostNotFoundError})
-    {
-        Create(EndLater(20, error));
-        Queue("a");
-        Queue("b");
-        ASSERT_EQ(engine->StartSearch({}), Status::Success);
-        EXPECT_TRUE(engine->CancelOperation());
-        EXPECT_EQ(engine->StartSearch({}), Status::Busy);
-        EXPECT_TRUE(engine->CancelOperation());
-        ASSERT_TRUE(WaitUntilIdle());
-        EXPECT_THAT(diary.Take(), IsEmpty());
-        EXPECT_EQ(network->requestCount, 1);
-        EXPECT_FALSE(engine->CancelOperation());
-    }
-    Create(EndLater(1));
-    Queue("c");
-    EXPECT_THAT(RunOne(), ElementsAre("first hears of c", "second hears of c", "first finished", "second finished"));
-}
-
 TEST_F(SearchEngineTest, SendsNothingForWhatCannotBeAsked)
 {
     Create(EndLater(1));
