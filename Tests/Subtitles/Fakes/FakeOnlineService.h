@@ -2,6 +2,7 @@
 
 #include "Subtitles/UseCases/IOnlineSearchController.h"
 #include "Subtitles/UseCases/IServerReportSource.h"
+#include "Subtitles/UseCases/IServiceName.h"
 
 #include "Core/EventHandlerList.h"
 
@@ -12,7 +13,9 @@ namespace Korvex::Converter::Subtitles::Testing
 
 /// Keeps the rules of the real one: busy until an operation has ended, idle already when it tells so but not yet when
 /// it tells of a failure, silent once cancelled.
-class FakeOnlineService final : public UseCases::IOnlineSearchController, public UseCases::IServerReportSource
+class FakeOnlineService final : public UseCases::IOnlineSearchController,
+                                public UseCases::IServerReportSource,
+                                public UseCases::IServiceName
 {
 public:
     using Observer = UseCases::IOnlineSearchControllerObserver;
@@ -22,12 +25,15 @@ public:
     Status StartSearch(UseCases::SearchRequest const& request) override { return Start(Describe(request)); }
     Status AutoSuggest(std::string const&, QString const& text) override { return Start(text.toStdString()); }
     Status DownloadSubtitles(std::vector<std::shared_ptr<UseCases::SearchResult>> const& results,
-                             ioPath const&) override
+                             ioPath const& folder) override
     {
-        return results.empty() ? Success : Start("download");
+        if (results.empty())
+            return isBusy ? Busy : Success;
+        return Start("download " + folder.FileName());
     }
     bool CancelOperation() override { return isCanceled = isBusy; }
     UseCases::ServerReport GetServerReport() const override { return report; }
+    std::string GetServiceName() const override { return "fake"; }
 
     static std::string Describe(UseCases::SearchRequest const& request)
     {

@@ -5,6 +5,12 @@
 #include "Subtitles/Entities/SearchTags.h"
 #include "Subtitles/Entities/SubtitleSearchMediaInfoSettings.h"
 #include "Subtitles/UseCases/IOnlineSearchMetadataFiller.h"
+#include "Subtitles/UseCases/SubtitleStorage.h"
+
+#include "Core/FileSystem.h"
+
+#include <QCoreApplication>
+#include <QTest>
 
 #include <functional>
 
@@ -182,6 +188,109 @@ TEST_F(OnlineDownloaderInteractorTest, LeavesTheFingerprintToFillersAndDiscsWith
     media.isDvd = true;
     EXPECT_EQ(FakeService::Describe(m_interactor.MakeQuery(media)),
               "EPISODE_NUMBER=5 SEASON_NUMBER=2 TITLE=Northern Lights");
+}
+
+/// Files of a service that are kept in folders of their own.
+class FetchTest : public OnlineDownloaderInteractorTest
+{
+protected:
+    void SetUp() override { m_storage = std::move(Core::CreateWorkFolder()).Value(); }
+    void TearDown() override { Core::RemoveWorkFolder(m_storage); }
+
+    void OnSubtitlesDownloaded(Entities::SubtitleCollectionID, std::shared_ptr<SearchResult> const& result,
+                               ioPath const& file) override
+    {
+        m_events.push_back(result->facts.serviceId.toStdString() + " " + file.Parent().FileName() + "/" +
+                           file.FileName());
+        if (m_onResults)
+            m_onResults();
+    }
+    ioPath Keep(char const* id, std::string const& name, std::string const& text = "text")
+    {
+        ioPath const folder = m_storage / MakeStorageName("fake", id);
+        EXPECT_FALSE(Core::CreateFolders(folder));
+        EXPECT_FALSE(Core::WriteFile(folder / name, text, false));
+        return folder / name;
+    }
+    bool WaitFor(std::size_t eventCount)
+    {
+        return QTest::qWaitFor([&] { return m_events.size() >= eventCount; });
+    }
+    void Store(std::shared_ptr<SearchResult> const& result, ioPath const& file)
+    {
+        m_service->observers.Notify([&](auto* observer) { observer->OnSubtitlesDownloaded(result, file); });
+    }
+
+    int m_argumentCount = 0;
+    QCoreApplication const m_application{m_argumentCount, nullptr};
+    ioPath m_storage;
+};
+
+TEST_F(FetchTest, AsksOnlyForWhatIsNotThere)
+{
+    Keep("2", "kept.srt");
+    EXPECT_EQ(m_interactor.Fetch(m_film, {MakeResult("1"), MakeResult("2"), MakeResult("3")}, m_storage),
+              IOnlineSearchController::Success);
+    EXPECT_EQ(m_interactor.Fetch(m_film, {}, m_storage), IOnlineSearchController::Busy);
+    EXPECT_EQ(TakeEvents(), Events{"failed 5"});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_service->isBusy; }));
+    Store(MakeResult("1"), Keep("1", "new.srt"));
+    m_service->End();
+    m_service->Fail(IOnlineSearchController::NoConnection);
+    EXPECT_EQ(TakeEvents(), (Events{"1 fake-1/new.srt", "2 fake-2/kept.srt", "failed 3"}));
+    EXPECT_EQ(m_service->started, (Events{"download fake-1", "download fake-3"}));
+
+    m_interactor.Fetch(m_film, {MakeResult("1"), MakeResult("2")}, m_storage);
+    EXPECT_TRUE(TakeEvents().empty()) << "from the event loop, like one that is fetched";
+    ASSERT_TRUE(WaitFor(3));
+    EXPECT_EQ(TakeEvents(), (Events{"1 fake-1/new.srt", "2 fake-2/kept.srt", "finished"}));
+    m_interactor.Fetch(m_film, {}, m_storage);
+    ASSERT_TRUE(WaitFor(1));
+    EXPECT_EQ(TakeEvents(), Events{"finished"});
+    EXPECT_EQ(m_service->started.size(), 2U);
+}
+
+TEST_F(FetchTest, CountsNoHalfWrittenOrDoubtfulFile)
+{
+    Keep("1", ".a.1.part.srt");
+    Keep("2", "empty.srt", "");
+    Keep("3", "a.srt");
+    Keep("3", "b.srt");
+    for (char const* const id : {"1", "2", "3"})
+    {
+        m_interactor.Fetch(m_film, {MakeResult(id)}, m_storage);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return m_service->isBusy; })) << id;
+        m_service->End();
+    }
+    EXPECT_EQ(TakeEvents(), (Events{"finished", "finished", "finished"}));
+    m_interactor.Fetch(m_film, {MakeResult("")}, m_storage);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_service->isBusy; }));
+    EXPECT_EQ(m_service->started.back(), "download " + m_storage.FileName()) << "nothing to find it by again";
+
+    std::string const awkward = MakeStorageName("fake", QString::fromUtf8("../a:Ä"));
+    EXPECT_EQ(awkward.find_first_not_of("abcdefghijklmnopqrstuvwxyz0123456789_-"), std::string::npos) << awkward;
+    EXPECT_NE(MakeStorageName("fake", "A"), MakeStorageName("fake", "_41"));
+    QString const longId(300, QLatin1Char('a'));
+    EXPECT_LT(MakeStorageName("fake", longId).size(), 100U);
+    EXPECT_NE(MakeStorageName("fake", longId), MakeStorageName("fake", longId + 'b'));
+}
+
+TEST_F(FetchTest, NothingArrivesOnceCancelled)
+{
+    Keep("1", "a.srt");
+    Keep("2", "b.srt");
+    auto const both = {MakeResult("1"), MakeResult("2")};
+    m_interactor.Fetch(m_film, both, m_storage);
+    EXPECT_TRUE(m_interactor.Cancel());
+    QTest::qWait(50);
+    EXPECT_TRUE(TakeEvents().empty());
+
+    m_onResults = [&] { m_interactor.Cancel(); };
+    m_interactor.Fetch(m_film, both, m_storage);
+    ASSERT_TRUE(WaitFor(1));
+    QTest::qWait(50);
+    EXPECT_EQ(TakeEvents(), Events{"1 fake-1/a.srt"});
+    m_interactor.Fetch(m_film, both, m_storage); // and then the interactor goes
 }
 
 } // namespace
