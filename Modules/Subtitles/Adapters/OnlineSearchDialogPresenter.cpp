@@ -3,21 +3,19 @@
 #include "Subtitles/Adapters/IAutocompleteControl.h"
 #include "Subtitles/Adapters/IOnlineSearchDialog.h"
 #include "Subtitles/Adapters/ISearchDialogStatisticHandler.h"
+#include "Subtitles/Adapters/LanguageWatcher.h"
 #include "Subtitles/Adapters/OnlineSearchForm.h"
+#include "Subtitles/Adapters/OnlineSearchHits.h"
 #include "Subtitles/Adapters/OnlineSearchWords.h"
 
 #include "Subtitles/Entities/SearchTags.h"
 #include "Subtitles/Entities/SubtitleSearchMediaInfoSettings.h"
 
 #include "Subtitles/UseCases/IAutocompletePresenter.h"
-#include "Subtitles/UseCases/ResultRanking.h"
 #include "Subtitles/UseCases/SearchQuery.h"
 
 #include "Core/ScopedObservation.h"
 
-#include <QCoreApplication>
-#include <QEvent>
-#include <QLocale>
 #include <QObject>
 #include <QTimer>
 
@@ -40,43 +38,6 @@ namespace
 
 /// Several languages are chosen one after the other, and one search is enough.
 constexpr std::chrono::milliseconds LANGUAGE_DELAY{800};
-
-/// Calls back when the application's language has changed.
-class LanguageWatcher final : public QObject
-{
-public:
-    explicit LanguageWatcher(std::function<void()> onChanged) : m_onChanged(std::move(onChanged))
-    {
-        if (QCoreApplication* const application = QCoreApplication::instance())
-            application->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::LanguageChange && watched == QCoreApplication::instance())
-            m_onChanged();
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    std::function<void()> m_onChanged;
-};
-
-/// The chosen languages, those of the system's user first and in their order; the user's own where all are chosen.
-std::vector<LanguageID> OrderLanguages(std::set<LanguageID> const& chosen)
-{
-    std::vector<LanguageID> ordered;
-    std::set<LanguageID> rest = chosen;
-    for (QString const& name : QLocale::system().uiLanguages())
-    {
-        LanguageID const language = Entities::Language::GetLanguageFromShortName(name.toStdString());
-        bool const isWanted = chosen.empty() ? language != LanguageID::None : rest.erase(language) != 0;
-        if (isWanted)
-            ordered.push_back(language);
-    }
-    ordered.insert(ordered.end(), rest.begin(), rest.end());
-    return ordered;
-}
 
 QString NameFilm(SubtitleSearchMediaInfoSettings const& media)
 {
@@ -118,7 +79,7 @@ public:
             return m_observers.Notify([](auto* observer) { observer->OnSearchClosed(); });
         m_isOpen = true;
         m_hasSearched = m_isEdited = false;
-        m_results.clear();
+        m_hits = {};
         m_film = UseCases::DescribeFilmByName(media);
         if (m_feed)
             m_statistics->Observe(*m_dialog, *m_feed);
@@ -175,27 +136,25 @@ public:
     void ShowSearching(SearchRequest const& request)
     {
         m_hasSearched = true;
-        m_request = request;
-        m_wanted = MakeWantedFilm(m_film, request);
-        m_results.clear();
+        m_hits = OnlineSearchHits(m_film, request);
         ShowRows();
         ShowSearchGoesOn();
     }
 
     void AddResults(Results const& results)
     {
-        m_results.insert(m_results.end(), results.begin(), results.end());
+        m_hits.Add(results);
         ShowRows();
         ShowSearchGoesOn();
     }
 
     void ShowSearchFinished()
     {
-        if (m_results.empty())
+        if (m_hits.GetCount() == 0)
             return Show(OnlineSearchState::Ready, OnlineSearchMark::Hint,
-                        [this] { return OnlineSearchWords::DescribeNothingFound(m_request); });
+                        [this] { return OnlineSearchWords::DescribeNothingFound(m_hits.GetRequest()); });
         Show(OnlineSearchState::Ready, OnlineSearchMark::None,
-             [this] { return OnlineSearchWords::DescribeFound(m_results.size()); });
+             [this] { return OnlineSearchWords::DescribeFound(m_hits.GetCount()); });
     }
 
     void ShowDownloading(std::size_t count)
@@ -221,7 +180,7 @@ public:
             return Show(OnlineSearchState::Ready, OnlineSearchMark::None,
                         &OnlineSearchWords::DescribeCancelledDownload);
         Show(OnlineSearchState::Ready, OnlineSearchMark::None,
-             [this] { return OnlineSearchWords::DescribeCancelledSearch(m_results.size()); });
+             [this] { return OnlineSearchWords::DescribeCancelledSearch(m_hits.GetCount()); });
     }
 
     void ShowFailure(QString const& sentence)
@@ -260,7 +219,7 @@ public:
         m_autocomplete->Stop();
         m_titleObservation.reset();
         m_languageWatcher.reset();
-        m_results.clear();
+        m_hits = {};
         m_observers.Notify([](auto* observer) { observer->OnSearchClosed(); });
         // Not before they have heard of the end.
         if (!m_isOpen)
@@ -337,31 +296,25 @@ private:
     /// What was searched for, whatever has been typed since.
     void SearchInOtherLanguages()
     {
-        if (m_state == OnlineSearchState::Downloading || m_request.tags.empty())
+        SearchRequest request = m_hits.GetRequest();
+        if (m_state == OnlineSearchState::Downloading || request.tags.empty())
             return;
-        SearchRequest request = m_request;
+        if (request.languages == m_dialog->GetLanguages())
+            return;
         request.languages = m_dialog->GetLanguages();
-        if (request.languages == m_request.languages)
-            return;
         m_observers.Notify([&](auto* observer) { observer->OnSearchRequested(request); });
     }
 
     void ShowRows()
     {
-        if (!m_isOpen)
-            return;
-        std::vector<OnlineSearchRow> rows;
-        rows.reserve(m_results.size());
-        for (auto const& ranked : UseCases::RankResults(m_results, m_wanted, OrderLanguages(m_request.languages)))
-            rows.push_back({ranked.result, OnlineSearchWords::DescribeMatch(ranked.reasons),
-                            OnlineSearchWords::RateMatch(ranked.reasons, m_wanted)});
-        m_dialog->SetResults(rows);
+        if (m_isOpen)
+            m_dialog->SetResults(m_hits.MakeRows());
     }
 
     void ShowSearchGoesOn()
     {
         Show(OnlineSearchState::Searching, OnlineSearchMark::None,
-             [this] { return OnlineSearchWords::DescribeSearching(m_results.size()); });
+             [this] { return OnlineSearchWords::DescribeSearching(m_hits.GetCount()); });
     }
 
     void Show(OnlineSearchState state, OnlineSearchMark mark, std::function<QString()> sentence)
@@ -397,10 +350,8 @@ private:
     std::shared_ptr<IAutocompleteControl> m_title;
     UseCases::SearchedFilm m_film; ///< the one on the disk
     SearchTagMap m_fileTags;
-    QString m_filledImdbId;          ///< as it was filled in, not typed
-    SearchRequest m_request;         ///< the last search
-    UseCases::SearchedFilm m_wanted; ///< by the last search
-    Results m_results;
+    QString m_filledImdbId;  ///< as it was filled in, not typed
+    OnlineSearchHits m_hits; ///< of the last search
     OnlineSearchState m_state = OnlineSearchState::Ready;
     OnlineSearchMark m_mark = OnlineSearchMark::None;
     std::function<QString()> m_sentence; ///< puts the state into words, again after a change of language
