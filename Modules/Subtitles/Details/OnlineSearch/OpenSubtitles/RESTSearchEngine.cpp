@@ -62,6 +62,7 @@ RESTSearchEngine::RESTSearchEngine(std::shared_ptr<INetworkManager> const& netwo
     connect(m_worker.get(), &RESTSearchWorker::Error, this, &RESTSearchEngine::OnRequestFailed, Qt::QueuedConnection);
     connect(m_workerThread, &QThread::finished, m_worker.get(), &RESTSearchWorker::OnThreadFinished);
     m_workerThread->setObjectName(QStringLiteral("online search"));
+    m_workerThread->start();
 }
 
 RESTSearchEngine::~RESTSearchEngine()
@@ -145,8 +146,6 @@ void RESTSearchEngine::StartNextRequest()
 {
     if (!HasPendingRequest())
         return;
-    if (!m_workerThread->isRunning())
-        m_workerThread->start();
     TakeReport({}); // words of the request before are none about this one
     m_worker->SetRequest(m_queue.front());
     QueueGiving const giving(m_worker.get());

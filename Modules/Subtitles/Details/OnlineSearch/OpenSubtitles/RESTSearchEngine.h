@@ -26,7 +26,7 @@ namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
 class RESTSearchWorker;
 
 /// Turns each start call into a queue of network operations and has them run one after the other by a worker on a
-/// thread of its own, which begins with the first request. Observers hear of it on the thread that owns the engine.
+/// thread of its own. Observers hear of it on the thread that owns the engine.
 ///
 /// Idle -> a start call that queued something -> running -> idle, told by `OnOperationFinished` or, at the first
 /// failure, by `OnOperationFailed`, each exactly once. A cancelled operation lets its running request end and is then
