@@ -4,6 +4,7 @@
 #include "Subtitles/Details/EditingPanel.h"
 #include "Subtitles/Details/ExternalSubtitlesDialog.h"
 #include "Subtitles/Details/ItemPanel.h"
+#include "Subtitles/Details/OnlineSearchDialog.h"
 
 #include "Subtitles/UseCases/RegistrationGroups.h"
 
@@ -20,6 +21,7 @@ void RegisterGroupOne(Hypodermic::ContainerBuilder& builder)
 
 void RegisterGroupTwo(Hypodermic::ContainerBuilder& builder)
 {
+    builder.registerType<OnlineSearchDialog>().as<Adapters::IOnlineSearchDialog>();
     builder.registerType<AutocompleteControl>().as<Adapters::IAutocompleteControl>();
 }
 

@@ -4,6 +4,7 @@
 #include "Subtitles/Adapters/IEditingPanel.h"
 #include "Subtitles/Adapters/IExternalSubtitlesDialog.h"
 #include "Subtitles/Adapters/IItemPanel.h"
+#include "Subtitles/Adapters/IOnlineSearchDialog.h"
 #include "Subtitles/Details/OnlineSearch/INetworkManager.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/IRESTRequestFactory.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTSearchEngine.h"
@@ -77,8 +78,8 @@ TEST(CompositionTest, RegistersEveryInterfaceOnce)
                     UseCases::ISubtitleCollectionPresenter, UseCases::IEditingPresenter, UseCases::ISubtitleController,
                     UseCases::IOnlineDownloaderController, UseCases::ISubtitleStreamAdapter, UseCases::IItemPresenter,
                     UseCases::IMessagesController, UseCases::IAutocompletePresenter, Adapters::IExternalSubtitlesDialog,
-                    Adapters::IAutocompleteControl, Adapters::IEditingPanel, Adapters::IItemPanel>(*container,
-                                                                                                   Lifetime::EachAnew);
+                    Adapters::IOnlineSearchDialog, Adapters::IAutocompleteControl, Adapters::IEditingPanel,
+                    Adapters::IItemPanel>(*container, Lifetime::EachAnew);
     auto const factory = container->resolve<UseCases::IAdaptersFactory>();
     EXPECT_NE(factory->CreateEditingPresenter(), factory->CreateEditingPresenter());
     EXPECT_NE(factory->CreateItemPresenter(), factory->CreateItemPresenter());
