@@ -119,8 +119,6 @@ Subtitle MakeSubtitle(Upload const& upload, int number)
     subtitle.format = QString::fromLatin1(upload.format);
     subtitle.downloads = upload.downloads;
     subtitle.marks = upload.marks;
-    subtitle.votes = number % 5;
-    subtitle.rating = subtitle.votes == 0 ? 0.0 : 6.0 + subtitle.votes * 0.8;
     subtitle.uploaded = QDateTime(QDate(2021, 1, 5), QTime(13, 19, 24), Qt::UTC).addSecs(number * 86'477LL);
     int const discs = subtitle.Has(MARK_TWO_DISCS) ? 2 : 1;
     for (int disc = 1; disc <= discs; ++disc)

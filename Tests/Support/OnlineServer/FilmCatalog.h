@@ -61,8 +61,6 @@ struct Subtitle
     QString format; ///< "srt" or "ass"
     int downloads = 0;
     unsigned marks = 0; ///< SubtitleMark values
-    int votes = 0;
-    double rating = 0.0; ///< 0 without votes
     QDateTime uploaded;
     std::vector<SubtitleFile> files;
 

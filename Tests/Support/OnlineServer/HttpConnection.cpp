@@ -35,13 +35,13 @@ std::optional<HttpRequest> TakeRequest(QByteArray& bytes)
 
 } // namespace
 
-HttpConnection::HttpConnection(qintptr socketHandle, Answer answer, QObject* parent)
-    : QObject(parent),
+HttpConnection::HttpConnection(QTcpSocket& socket, Answer answer)
+    : QObject(&socket),
+      m_socket(socket),
       m_answer(std::move(answer))
 {
     connect(&m_socket, &QTcpSocket::readyRead, this, &HttpConnection::ReadRequest);
-    connect(&m_socket, &QTcpSocket::disconnected, this, &QObject::deleteLater);
-    m_socket.setSocketDescriptor(socketHandle);
+    connect(&m_socket, &QTcpSocket::disconnected, &m_socket, &QObject::deleteLater);
     m_socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
 }
 

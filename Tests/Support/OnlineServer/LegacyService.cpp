@@ -72,8 +72,6 @@ QJsonObject MakeRow(Subtitle const& subtitle, SubtitleFile const& file, Query co
         {"ISO639", subtitle.language->twoLetters},
         {"SubFormat", subtitle.format},
         {"SubAddDate", subtitle.uploaded.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"))},
-        {"SubRating", QString::number(subtitle.rating, 'f', 1)},
-        {"SubSumVotes", QString::number(subtitle.votes)},
         {"SubDownloadsCnt", QString::number(subtitle.downloads)},
         {"MovieReleaseName", ' ' + subtitle.release},
         {"SubHearingImpaired", flag(MARK_HEARING_IMPAIRED)},

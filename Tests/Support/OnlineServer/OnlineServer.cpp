@@ -15,23 +15,6 @@
 namespace Korvex::Testing
 {
 
-namespace
-{
-
-class Listener final : public QTcpServer
-{
-public:
-    explicit Listener(HttpConnection::Answer answer) : m_answer(std::move(answer)) {}
-
-protected:
-    void incomingConnection(qintptr socketHandle) override { new HttpConnection(socketHandle, m_answer, this); }
-
-private:
-    HttpConnection::Answer const m_answer;
-};
-
-} // namespace
-
 class OnlineServer::Impl final : public QThread
 {
 public:
@@ -75,7 +58,13 @@ protected:
     void run() override
     {
         {
-            Listener listener([this](HttpRequest const& request) { return Answer(request); });
+            QTcpServer listener;
+            connect(&listener, &QTcpServer::newConnection, &listener,
+                    [this, &listener]
+                    {
+                        while (QTcpSocket* const socket = listener.nextPendingConnection())
+                            new HttpConnection(*socket, [this](HttpRequest const& request) { return Answer(request); });
+                    });
             bool const isListening = listener.listen(QHostAddress::LocalHost, m_port);
             m_started.set_value(isListening ? listener.serverPort() : 0);
             if (isListening)

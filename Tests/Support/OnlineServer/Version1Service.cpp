@@ -95,8 +95,6 @@ QJsonObject MakeRow(Subtitle const& subtitle)
                                     {"new_download_count", subtitle.downloads / 3},
                                     {"hearing_impaired", subtitle.Has(MARK_HEARING_IMPAIRED)},
                                     {"hd", subtitle.Has(MARK_HIGH_DEFINITION)},
-                                    {"votes", subtitle.votes},
-                                    {"ratings", subtitle.rating},
                                     {"from_trusted", subtitle.Has(MARK_TRUSTED)},
                                     {"foreign_parts_only", subtitle.Has(MARK_FOREIGN_PARTS)},
                                     {"upload_date", subtitle.uploaded.toString(Qt::ISODate)},
@@ -157,13 +155,11 @@ HttpReply Version1Service::MakeLink(HttpRequest const& request, ServiceContext c
     SubtitleFile const* const file = FindFile(request.body);
     if (!file)
         return MakeReply(400, {{"errors", QJsonArray{"Invalid file_id"}}, {"status", 400}});
-    QDateTime const reset(QDateTime::currentDateTimeUtc().date(), QTime(23, 59, 59), Qt::UTC);
-    qint64 const minutes = QDateTime::currentDateTimeUtc().secsTo(reset) / 60;
     QJsonObject object = {
         {"remaining", 0},
         {"message", QStringLiteral("You have downloaded your allowed %1 subtitles for 24h.").arg(DOWNLOAD_QUOTA)},
-        {"reset_time", QStringLiteral("%1 hours and %2 minutes").arg(minutes / 60).arg(minutes % 60)},
-        {"reset_time_utc", reset.toString(Qt::ISODate)}};
+        {"reset_time", "1 hours and 0 minutes"},
+        {"reset_time_utc", QDateTime::currentDateTimeUtc().addSecs(3'600).toString(Qt::ISODate)}};
     if (context.isQuotaUsedUp || m_downloads == DOWNLOAD_QUOTA)
         return MakeReply(406, object);
 

@@ -29,6 +29,8 @@ using testing::IsEmpty;
 
 using Reply = QNetworkReply;
 
+constexpr int AT_ONCE = -1;
+
 /// The text of everything that happened, from both threads, in order.
 class Diary
 {
@@ -204,16 +206,9 @@ FakeNetworkManager::Script EndLater(int delayMs, Reply::NetworkError error = Rep
     return [delayMs, error](FakeReply& reply)
     {
         reply.SetBody("[]");
+        if (delayMs == AT_ONCE)
+            return reply.BeOver(error);
         QTimer::singleShot(delayMs, &reply, [&reply, error] { reply.End(error); });
-    };
-}
-
-FakeNetworkManager::Script BeOver(Reply::NetworkError error = Reply::NoError)
-{
-    return [error](FakeReply& reply)
-    {
-        reply.SetBody("[]");
-        reply.BeOver(error);
     };
 }
 
@@ -286,10 +281,10 @@ TEST_F(SearchEngineTest, ReportsEachTransportErrorOnceWhetherItComesAtOnceOrLate
           Reply::ProtocolUnknownError, Reply::ProxyNotFoundError}}};
     for (auto const& [status, errors] : kinds)
         for (auto const error : errors)
-            for (bool const isOver : {true, false})
+            for (int const delayMs : {AT_ONCE, 0})
             {
                 SCOPED_TRACE(error);
-                Create(isOver ? BeOver(error) : EndLater(0, error));
+                Create(EndLater(delayMs, error));
                 Queue("a");
                 Queue("b");
                 auto const failed = "failed " + std::to_string(status);
@@ -297,7 +292,7 @@ TEST_F(SearchEngineTest, ReportsEachTransportErrorOnceWhetherItComesAtOnceOrLate
                 EXPECT_EQ(network->aliveReplyCount, 0);
                 EXPECT_EQ(network->requestCount, 1);
             }
-    Create(BeOver());
+    Create(EndLater(AT_ONCE));
     Queue("over without an error");
     EXPECT_EQ(RunOne().size(), 4U);
 }
