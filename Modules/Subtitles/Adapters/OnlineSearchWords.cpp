@@ -69,9 +69,13 @@ QString DescribeMatch(std::vector<MatchReason> const& reasons)
     // What speaks against a hit matters most.
     std::vector<MatchReason> ordered = reasons;
     std::stable_partition(ordered.begin(), ordered.end(), [](MatchReason reason) { return IsWrong({reason}); });
+    bool const isSameGroup = Has(reasons, MatchReason::SameGroup);
     QStringList words;
     for (MatchReason const reason : ordered)
     {
+        bool const isImplied = reason == MatchReason::SameSource || reason == MatchReason::SameResolution;
+        if (isSameGroup && isImplied)
+            continue;
         if (QString const name = NameReason(reason); !name.isEmpty())
             words.append(name);
     }

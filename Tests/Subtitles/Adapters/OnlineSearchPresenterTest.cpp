@@ -227,7 +227,7 @@ TEST_F(OnlineSearchPresenterTest, OrdersHitsAndSaysWhy)
     m_presenter.AddResults({exact});
     ASSERT_EQ(m_dialog->rows.size(), 3U);
     EXPECT_EQ(m_dialog->rows[0].result, exact);
-    EXPECT_EQ(m_dialog->rows[0].match, "Same release group, same source, same resolution, same episode");
+    EXPECT_EQ(m_dialog->rows[0].match, "Same release group, same episode");
     EXPECT_EQ(m_dialog->rows[0].level, MatchLevel::Exact);
     EXPECT_EQ(m_dialog->rows[1].match, "Same episode");
     EXPECT_EQ(m_dialog->rows[1].level, MatchLevel::Likely);
