@@ -137,16 +137,6 @@ protected:
     Listener m_listener;
 };
 
-TEST_F(TranscoderInteractorTest, ARefusedJobIsAnErrorAndNoConversion)
-{
-    TranscoderInteractor interactor(
-        [](Proc::SettingsTranscode const&) -> Core::Result<boost::intrusive_ptr<Proc::ITranscodeJob>>
-        { return MakeError(Core::ErrorCode::OutputExists); });
-    auto const started = interactor.StartConversion(m_request, m_listener);
-    ASSERT_FALSE(started);
-    EXPECT_EQ(started.GetError().code, Core::ErrorCode::OutputExists);
-}
-
 TEST_F(TranscoderInteractorTest, ALoopThatDoesNotRunIsNotFloodedWithProgress)
 {
     std::atomic<bool> reported{false};

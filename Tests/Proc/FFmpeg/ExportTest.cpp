@@ -218,17 +218,16 @@ TEST_F(ExportTest, ACancelEndsTheReadingAtAnyMomentAndLeavesNoFile)
     media.audios.resize(1);
     media.audios[0].duration = std::chrono::minutes(3);
     media.audios[0].sampleRate = 8000;
-    media.subtitles.resize(2);
-    media.subtitles[1].codecId = "hdmv_pgs_subtitle";
-    for (int second = 0; second < 179; ++second)
+    MadeCue cue = Testing::MakeBoxCues().front();
+    cue.text = "Cue";
+    std::vector<MadeCue> cues(179, cue);
+    for (std::size_t second = 0; second < cues.size(); ++second)
     {
-        MadeCue cue = Testing::MakeBoxCues().front();
-        cue.text = "Cue";
-        cue.start = std::chrono::seconds(second);
-        cue.end = cue.start + milliseconds(700);
-        media.subtitles[0].cues.push_back(cue);
-        media.subtitles[1].cues.push_back(cue);
+        cues[second].start = std::chrono::seconds(second);
+        cues[second].end = cues[second].start + milliseconds(700);
     }
+    media.subtitles = {Testing::MakeSubtitle("subrip"), Testing::MakeSubtitle("hdmv_pgs_subtitle")};
+    media.subtitles[0].cues = media.subtitles[1].cues = cues;
     ioPath const film = m_folder / "film.mkv";
     Testing::MakeMedia(film, media);
 

