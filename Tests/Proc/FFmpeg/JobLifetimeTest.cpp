@@ -132,25 +132,5 @@ TEST(JobLifetimeTest, EveryEndIsReportedOnceAndLeavesAWholeFileOrNone)
     }
 }
 
-TEST(JobLifetimeTest, WhatIsCheckedLateIsRefusedInTheReport)
-{
-    TemporaryFolder const folder;
-    auto settings = Testing::SoftSettings(folder / "gone.mkv", folder / "out.mkv", "matroska", {});
-    EXPECT_EQ(MakeTranscodeJob(settings).GetError().code, Core::ErrorCode::FileNotFound);
-    auto job = MakeTranscodeJob(settings, TranscodeChecks::WhenStarted);
-    ASSERT_TRUE(job);
-    Listener listener;
-    (*job)->Start(listener);
-    (*job)->Wait();
-    EXPECT_EQ(listener.count, 1);
-    ASSERT_TRUE(listener.error);
-    EXPECT_EQ(listener.error->code, Core::ErrorCode::FileNotFound);
-    EXPECT_TRUE(Core::ListFolder(folder.Path()).empty());
-
-    settings.output = folder / "no folder/out.mkv";
-    EXPECT_EQ(MakeTranscodeJob(settings, TranscodeChecks::WhenStarted).GetError().code,
-              Core::ErrorCode::OutputFolderMissing);
-}
-
 } // namespace
 } // namespace Korvex::Proc
