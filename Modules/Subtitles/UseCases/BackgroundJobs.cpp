@@ -48,6 +48,11 @@ public:
 
     bool event(QEvent* event) override
     {
+        {
+            // Events are posted under this mutex. Qt's own queue orders the hand-over as well, but unseen by tools that
+            // know only what was compiled with them.
+            std::lock_guard const lock(m_shared->mutex);
+        }
         if (event->type() != WakeType())
             return QObject::event(event);
         if (Delivery const delivery = Take())
