@@ -164,6 +164,14 @@ TEST(LookTest, SwitchingTheThemeRestylesWhatIsOnTheScreenAndTells)
     look.SetTheme(App::Theme::Light);
     look.UnregisterEventHandler(&listener);
 
+    QLineEdit field;
+    ShowAndWait(field);
+    for (App::Theme const theme : {App::Theme::Dark, App::Theme::Light})
+    {
+        look.SetTheme(theme);
+        EXPECT_EQ(field.palette().color(QPalette::PlaceholderText), GUI::GetColor(GUI::ColorRole::DimText));
+    }
+
     EXPECT_EQ(listener.themes, (std::vector{App::Theme::Dark, App::Theme::Light}));
     EXPECT_LT(listener.windowColors.front().lightness(), 64);
     EXPECT_EQ(button.grab().toImage(), light);

@@ -1,9 +1,30 @@
 #include "Gui/Style/HostStyle.h"
 
 #include "Gui/Icons.h"
+#include "Gui/LookAndFeelManager.h"
+
+#include <QEvent>
+#include <QLineEdit>
+#include <QPalette>
 
 namespace Korvex::GUI
 {
+
+namespace
+{
+
+/// The style sheet gives a field's hint the colour of what is typed, and has no property for it.
+void DimPlaceholder(QLineEdit& field)
+{
+    QPalette palette = field.palette();
+    QColor const color = GetColor(ColorRole::DimText);
+    if (palette.color(QPalette::PlaceholderText) == color)
+        return;
+    palette.setColor(QPalette::PlaceholderText, color);
+    field.setPalette(palette);
+}
+
+} // namespace
 
 HostStyle::HostStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
@@ -70,6 +91,35 @@ int HostStyle::pixelMetric(PixelMetric metric, QStyleOption const* option, QWidg
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
+}
+
+void HostStyle::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    if (qobject_cast<QLineEdit*>(widget) != nullptr)
+        widget->installEventFilter(this);
+}
+
+void HostStyle::unpolish(QWidget* widget)
+{
+    widget->removeEventFilter(this);
+    QProxyStyle::unpolish(widget);
+}
+
+bool HostStyle::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type())
+    {
+    case QEvent::Polish:
+    case QEvent::StyleChange:
+    case QEvent::PaletteChange:
+        if (auto* const field = qobject_cast<QLineEdit*>(watched))
+            DimPlaceholder(*field);
+        break;
+    default:
+        break;
+    }
+    return QProxyStyle::eventFilter(watched, event);
 }
 
 } // namespace Korvex::GUI

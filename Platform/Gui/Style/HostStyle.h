@@ -16,6 +16,13 @@ public:
     int styleHint(StyleHint hint, QStyleOption const* option, QWidget const* widget,
                   QStyleHintReturn* returnData) const override;
     int pixelMetric(PixelMetric metric, QStyleOption const* option, QWidget const* widget) const override;
+    using QProxyStyle::polish;
+    void polish(QWidget* widget) override;
+    using QProxyStyle::unpolish;
+    void unpolish(QWidget* widget) override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 };
 
 } // namespace Korvex::GUI
