@@ -60,8 +60,8 @@ constexpr Upload UPLOADS[] = {
 
 CatalogLanguage const& FindLanguage(QByteArray const& version1)
 {
-    static CatalogLanguage const LANGUAGES[] = {{"eng", "en", "en"},    {"fre", "fr", "fr"}, {"ger", "de", "de"},
-                                                {"pob", "pb", "pt-BR"}, {"rus", "ru", "ru"}, {"jpn", "ja", "ja"}};
+    static CatalogLanguage const LANGUAGES[] = {{"eng", "en"},    {"fre", "fr"}, {"ger", "de"},
+                                                {"pob", "pt-BR"}, {"rus", "ru"}, {"jpn", "ja"}};
     return *std::find_if(std::begin(LANGUAGES), std::end(LANGUAGES),
                          [&version1](CatalogLanguage const& language) { return language.version1 == version1; });
 }

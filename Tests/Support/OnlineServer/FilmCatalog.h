@@ -14,7 +14,6 @@ namespace Korvex::Testing
 struct CatalogLanguage
 {
     char const* threeLetters; ///< legacy `SubLanguageID`
-    char const* twoLetters;   ///< legacy `ISO639`
     char const* version1;     ///< as version 1 replies: "pt-BR"
 };
 

@@ -5,7 +5,7 @@
 namespace Korvex::Testing
 {
 
-QByteArray FindHeader(HttpHeaders const& headers, QByteArray const& name)
+QByteArray HttpRequest::Header(QByteArray const& name) const
 {
     for (auto const& header : headers)
     {

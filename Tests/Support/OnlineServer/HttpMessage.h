@@ -12,9 +12,6 @@ namespace Korvex::Testing
 
 using HttpHeaders = QList<QPair<QByteArray, QByteArray>>;
 
-/// The value of the first header of that name, whatever the case of its name; empty when there is none.
-[[nodiscard]] QByteArray FindHeader(HttpHeaders const& headers, QByteArray const& name);
-
 /// One request as it arrived, byte for byte.
 struct HttpRequest
 {
@@ -24,7 +21,7 @@ struct HttpRequest
     QByteArray body;
 
     /// The header's value, whatever the case of its name; empty when it is missing.
-    [[nodiscard]] QByteArray Header(QByteArray const& name) const { return FindHeader(headers, name); }
+    [[nodiscard]] QByteArray Header(QByteArray const& name) const;
     /// The target without its query.
     [[nodiscard]] QByteArray Path() const;
     /// A query value in its true characters ("+" and "%20" are blanks); empty when it is missing.

@@ -69,7 +69,6 @@ QJsonObject MakeRow(Subtitle const& subtitle, SubtitleFile const& file, Query co
         {"SubHash", QString(QCryptographicHash::hash(file.bytes, QCryptographicHash::Md5).toHex())},
         {"ZipDownloadLink", QString(url + SET_PATH + QByteArray::number(subtitle.legacyId))},
         {"SubLanguageID", subtitle.language->threeLetters},
-        {"ISO639", subtitle.language->twoLetters},
         {"SubFormat", subtitle.format},
         {"SubAddDate", subtitle.uploaded.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"))},
         {"SubDownloadsCnt", QString::number(subtitle.downloads)},

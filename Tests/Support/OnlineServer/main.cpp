@@ -15,21 +15,12 @@ using namespace Korvex::Testing;
 namespace
 {
 
-constexpr int WRONG_USAGE = 2;
-
-QString DescribeFaults()
-{
-    QString text = QStringLiteral(
-        "Plays both interfaces of the subtitle service on this machine, with made-up films. Ends on Ctrl-C.\n\n"
-        "Put /faults/NAME in front of a path for the same service with a fault, as in\n"
-        "  KORVEX_OPENSUBTITLES_URL=http://127.0.0.1:PORT/faults/stall/api/v1\n"
-        "  KORVEX_OPENSUBTITLES_LEGACY_URL=http://127.0.0.1:PORT/faults/file-drop\n"
-        "\"file-\" before the name limits it to the download itself. The names:\n");
-    for (Fault const& fault : GetFaults())
-        text +=
-            QStringLiteral("  %1 %2\n").arg(QString::fromLatin1(fault.name), -18).arg(QString::fromLatin1(fault.help));
-    return text;
-}
+constexpr char DESCRIPTION[] =
+    "Plays both interfaces of the subtitle service on this machine, with made-up films. Ends on Ctrl-C.\n\n"
+    "Put /faults/NAME in front of a path for the same service with a fault, as in\n"
+    "  KORVEX_OPENSUBTITLES_URL=http://127.0.0.1:PORT/faults/stall/api/v1\n"
+    "  KORVEX_OPENSUBTITLES_LEGACY_URL=http://127.0.0.1:PORT/faults/file-drop\n"
+    "\"file-\" before the name limits it to the download itself. The names:\n";
 
 int Serve(quint16 port)
 {
@@ -64,7 +55,10 @@ int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
     QCommandLineParser parser;
-    parser.setApplicationDescription(DescribeFaults());
+    QString description = DESCRIPTION;
+    for (Fault const& fault : GetFaults())
+        description += QStringLiteral("  %1 %2\n").arg(QString(fault.name), -18).arg(QString(fault.help));
+    parser.setApplicationDescription(description);
     parser.addHelpOption();
     parser.addOption({"port", "Port to listen on; 0, the default, takes any free one.", "N", "0"});
     parser.process(application);
@@ -80,5 +74,5 @@ int main(int argc, char** argv)
     {
         std::cerr << "korvex-testserver: " << error.what() << ". Choose another port with --port.\n";
     }
-    return WRONG_USAGE;
+    return 2;
 }

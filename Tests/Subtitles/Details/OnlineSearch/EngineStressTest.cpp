@@ -1,9 +1,9 @@
+#include "TestedEngine.h"
+
 #include "Support/OnlineServer/OnlineServer.h"
 
-#include "Subtitles/Details/OnlineSearch/INetworkOperation.h"
 #include "Subtitles/Details/OnlineSearch/NetworkManagerQt.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/RESTRequest.h"
-#include "Subtitles/Details/OnlineSearch/OpenSubtitles/RESTSearchEngine.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -103,30 +103,6 @@ private:
     QString const m_baseUrl;
 };
 
-class FatedEngine final : public RESTSearchEngine
-{
-public:
-    FatedEngine(std::shared_ptr<INetworkManager> const& network, QString baseUrl)
-        : RESTSearchEngine(network),
-          m_baseUrl(std::move(baseUrl))
-    {
-    }
-
-    std::vector<Fate> next;
-
-protected:
-    void AddSearchRequest(UseCases::SearchRequest const&) override
-    {
-        for (auto const& fate : next)
-            Append(std::make_shared<FatedRequest>(fate, m_baseUrl));
-    }
-    void AddAutoSuggestRequest(QString const&) override {}
-    void AddDownloadRequest(std::shared_ptr<UseCases::SearchResult> const&, ioPath const&) override {}
-
-private:
-    QString const m_baseUrl;
-};
-
 /// What the whole run counts, so that it is seen to have tried everything.
 using Counts = std::map<std::string, int>;
 
@@ -148,7 +124,10 @@ public:
     void Act()
     {
         if (m_engine == nullptr)
-            Create();
+        {
+            m_engine = std::make_unique<Korvex::Testing::TestedEngine>(m_network);
+            m_engine->RegisterEventHandler(this);
+        }
         CheckIdle();
         switch (Draw(m_isHanging ? 6 : 12))
         {
@@ -213,19 +192,15 @@ private:
         return m_fates[static_cast<std::size_t>(Draw(Draw(2) == 0 ? count : std::min(count, GOOD_FATES)))];
     }
 
-    void Create()
-    {
-        m_engine = std::make_unique<FatedEngine>(m_network, m_baseUrl);
-        m_engine->RegisterEventHandler(this);
-    }
-
     void Start()
     {
         std::vector<Fate> fates(1 + static_cast<std::size_t>(Draw(3)));
         for (auto& fate : fates)
             fate = DrawFate();
         bool const isBusy = m_engine->HasPendingRequest();
-        m_engine->next = fates;
+        m_engine->next.clear();
+        for (Fate const& fate : fates)
+            m_engine->next.push_back(std::make_shared<FatedRequest>(fate, m_baseUrl));
         EXPECT_EQ(m_engine->StartSearch({}), isBusy ? Status::Busy : Status::Success);
         if (isBusy)
         {
@@ -309,7 +284,7 @@ private:
     QString const m_baseUrl;
     std::mt19937& m_random;
     Counts& m_counts;
-    std::unique_ptr<FatedEngine> m_engine;
+    std::unique_ptr<Korvex::Testing::TestedEngine> m_engine;
     std::deque<std::string> m_expected;
     bool m_isHanging = false; ///< a request that the server never answers is queued
 };

@@ -21,12 +21,7 @@ using Status = UseCases::IOnlineSearchController::Status;
 
 ArchiveWish MakeWish(QString const& name, QString const& format = "srt", int disc = 1, int discs = 1)
 {
-    ArchiveWish wish;
-    wish.fileName = name;
-    wish.format = format;
-    wish.discNumber = disc;
-    wish.discCount = discs;
-    return wish;
+    return {name, format, {}, disc, discs};
 }
 
 /// The bytes of the chosen file, or the status of the failure.
