@@ -481,6 +481,42 @@
     </message>
 </context>
 <context>
+    <name>Korvex::Converter::Subtitles::Details::AutocompleteField</name>
+    <message>
+        <source>Film or series</source>
+        <translation type="unfinished">Film oder Serie</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished">Titel</translation>
+    </message>
+    <message>
+        <source>Suggested titles</source>
+        <translation type="unfinished">Vorgeschlagene Titel</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::ImdbIdValidator</name>
+    <message numerus="yes">
+        <source>The IMDb id is too short: it has at least %n digit(s), as in tt0123456.</source>
+        <translation type="unfinished">
+            <numerusform>Die IMDb-ID ist zu kurz: Sie hat mindestens %n Ziffer, wie in tt0123456.</numerusform>
+            <numerusform>Die IMDb-ID ist zu kurz: Sie hat mindestens %n Ziffern, wie in tt0123456.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The IMDb id is too long: it has at most %n digit(s).</source>
+        <translation type="unfinished">
+            <numerusform>Die IMDb-ID ist zu lang: Sie hat höchstens %n Ziffer.</numerusform>
+            <numerusform>Die IMDb-ID ist zu lang: Sie hat höchstens %n Ziffern.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is no IMDb id: type &quot;tt&quot; and a number, or the number alone, as in tt0123456.</source>
+        <translation type="unfinished">Das ist keine IMDb-ID: Geben Sie „tt“ und eine Zahl oder nur die Zahl ein, wie in tt0123456.</translation>
+    </message>
+</context>
+<context>
     <name>Korvex::Converter::Subtitles::Details::ItemPanel</name>
     <message>
         <source>Subtitles of this film</source>
@@ -513,6 +549,177 @@
     <message>
         <source>Done</source>
         <translation type="unfinished">Fertig</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::LanguageSelector</name>
+    <message>
+        <source>Languages: %1</source>
+        <translation type="unfinished">Sprachen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::LanguageSelectorList</name>
+    <message>
+        <source>Languages to search in</source>
+        <translation type="unfinished">Sprachen, in denen gesucht wird</translation>
+    </message>
+    <message>
+        <source>Find a language</source>
+        <translation type="unfinished">Sprache suchen</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindow</name>
+    <message>
+        <source>Type a title and press &quot;Search&quot;.</source>
+        <translation type="unfinished">Geben Sie einen Titel ein und drücken Sie „Suchen“.</translation>
+    </message>
+    <message>
+        <source>Find subtitles</source>
+        <translation type="unfinished">Untertitel suchen</translation>
+    </message>
+    <message>
+        <source>Find subtitles: %1</source>
+        <translation type="unfinished">Untertitel suchen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindowFields</name>
+    <message>
+        <source>&amp;Title</source>
+        <translation type="unfinished">&amp;Titel</translation>
+    </message>
+    <message>
+        <source>&amp;Season</source>
+        <translation type="unfinished">&amp;Staffel</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation type="unfinished">Staffel</translation>
+    </message>
+    <message>
+        <source>&amp;Episode</source>
+        <translation type="unfinished">&amp;Folge</translation>
+    </message>
+    <message>
+        <source>Episode</source>
+        <translation type="unfinished">Folge</translation>
+    </message>
+    <message>
+        <source>&amp;Episode...</source>
+        <translation type="unfinished">&amp;Folge...</translation>
+    </message>
+    <message>
+        <source>Search for an episode of a series</source>
+        <translation type="unfinished">Nach einer Folge einer Serie suchen</translation>
+    </message>
+    <message>
+        <source>Sea&amp;rch</source>
+        <translation type="unfinished">S&amp;uchen</translation>
+    </message>
+    <message>
+        <source>I&amp;MDb id</source>
+        <translation type="unfinished">I&amp;MDb-ID</translation>
+    </message>
+    <message>
+        <source>IMDb id</source>
+        <translation type="unfinished">IMDb-ID</translation>
+    </message>
+    <message>
+        <source>The film&apos;s number at IMDb, as in tt0123456</source>
+        <translation type="unfinished">Die Nummer des Films bei IMDb, wie in tt0123456</translation>
+    </message>
+    <message>
+        <source>&amp;Languages</source>
+        <translation type="unfinished">S&amp;prachen</translation>
+    </message>
+    <message>
+        <source>E&amp;xactly this file</source>
+        <translation type="unfinished">Genau &amp;diese Datei</translation>
+    </message>
+    <message>
+        <source>Finds subtitles by the fingerprint of the file, whatever its name is</source>
+        <translation type="unfinished">Findet Untertitel anhand des Fingerabdrucks der Datei, wie sie auch heißt</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindowStatus</name>
+    <message>
+        <source>Searching...</source>
+        <translation type="unfinished">Suche läuft...</translation>
+    </message>
+    <message>
+        <source>Downloading...</source>
+        <translation type="unfinished">Wird heruntergeladen...</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation type="unfinished">Wird abgebrochen...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) found</source>
+        <translation type="unfinished">
+            <numerusform>%n Untertitel gefunden</numerusform>
+            <numerusform>%n Untertitel gefunden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished">&amp;Abbrechen</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Download %n</source>
+        <translation type="unfinished">
+            <numerusform>%n &amp;herunterladen</numerusform>
+            <numerusform>%n &amp;herunterladen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Download</source>
+        <translation type="unfinished">&amp;Herunterladen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::ResultList</name>
+    <message>
+        <source>Smallest first; press to turn it round</source>
+        <translation type="unfinished">Kleinstes zuerst; zum Umkehren drücken</translation>
+    </message>
+    <message>
+        <source>Largest first; press to turn it round</source>
+        <translation type="unfinished">Größtes zuerst; zum Umkehren drücken</translation>
+    </message>
+    <message numerus="yes">
+        <source>None of the %n subtitle(s) found holds &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform>Der %n gefundene Untertitel enthält „%1“ nicht.</numerusform>
+            <numerusform>Keiner der %n gefundenen Untertitel enthält „%1“.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Best match</source>
+        <translation type="unfinished">Beste Treffer zuerst</translation>
+    </message>
+    <message>
+        <source>Subtitles found</source>
+        <translation type="unfinished">Gefundene Untertitel</translation>
+    </message>
+    <message>
+        <source>Filter the list</source>
+        <translation type="unfinished">Liste filtern</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by</source>
+        <translation type="unfinished">S&amp;ortieren nach</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation type="unfinished">Sortieren nach</translation>
     </message>
 </context>
 <context>
@@ -628,6 +835,10 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <source>Add</source>
         <translation type="unfinished">Hinzufügen</translation>
     </message>
+    <message>
+        <source>S&amp;ettings...</source>
+        <translation type="unfinished">&amp;Einstellungen...</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>
@@ -736,6 +947,24 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     <message>
         <source>Folders work too. Subtitle files beside a film are found automatically.</source>
         <translation type="unfinished">Auch Ordner gehen. Untertiteldateien neben einem Film werden von selbst gefunden.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::FetchedSubtitles</name>
+    <message>
+        <source>&quot;%1&quot; was added to &quot;%2&quot;.</source>
+        <translation type="unfinished">„%1“ wurde zu „%2“ hinzugefügt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle file(s) were added to &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform>%n Untertiteldatei wurde zu „%1“ hinzugefügt.</numerusform>
+            <numerusform>%n Untertiteldateien wurden zu „%1“ hinzugefügt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished">Rückgängig</translation>
     </message>
 </context>
 <context>
@@ -1273,6 +1502,139 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     <message>
         <source>The list of films could not be saved in &quot;%1&quot; (%2): check that you may write there.</source>
         <translation type="unfinished">Die Liste der Filme ließ sich nicht in „%1“ speichern (%2): Prüfen Sie, ob Sie dort schreiben dürfen.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished">Einstellungen</translation>
+    </message>
+    <message>
+        <source>Online service</source>
+        <translation type="unfinished">Online-Dienst</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation type="unfinished">Statistik</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished">OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsOnlinePage</name>
+    <message>
+        <source>version 1 of OpenSubtitles, because an API key is set.</source>
+        <translation type="unfinished">Version 1 von OpenSubtitles, weil ein API-Schlüssel festgelegt ist.</translation>
+    </message>
+    <message>
+        <source>version 1 of OpenSubtitles, because the configuration file says so. It answers nobody without an API key: enter one below.</source>
+        <translation type="unfinished">Version 1 von OpenSubtitles, weil die Konfigurationsdatei es so vorgibt. Ohne API-Schlüssel antwortet sie niemandem: Geben Sie unten einen ein.</translation>
+    </message>
+    <message>
+        <source>the older interface of OpenSubtitles, because the configuration file says so. The API key is not used.</source>
+        <translation type="unfinished">die ältere Schnittstelle von OpenSubtitles, weil die Konfigurationsdatei es so vorgibt. Der API-Schlüssel wird nicht verwendet.</translation>
+    </message>
+    <message>
+        <source>the older interface of OpenSubtitles, because no API key is set.</source>
+        <translation type="unfinished">die ältere Schnittstelle von OpenSubtitles, weil kein API-Schlüssel festgelegt ist.</translation>
+    </message>
+    <message>
+        <source>API &amp;key:</source>
+        <translation type="unfinished">API-&amp;Schlüssel:</translation>
+    </message>
+    <message>
+        <source>API key</source>
+        <translation type="unfinished">API-Schlüssel</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation type="unfinished">An&amp;zeigen</translation>
+    </message>
+    <message>
+        <source>Fetched &amp;files:</source>
+        <translation type="unfinished">&amp;Download-Ordner:</translation>
+    </message>
+    <message>
+        <source>Folder for fetched files</source>
+        <translation type="unfinished">Ordner für heruntergeladene Dateien</translation>
+    </message>
+    <message>
+        <source>&amp;Choose...</source>
+        <translation type="unfinished">&amp;Wählen...</translation>
+    </message>
+    <message>
+        <source>&amp;Usual folder</source>
+        <translation type="unfinished">Ü&amp;blicher Ordner</translation>
+    </message>
+    <message>
+        <source>Version 1:</source>
+        <translation type="unfinished">Version 1:</translation>
+    </message>
+    <message>
+        <source>Older interface:</source>
+        <translation type="unfinished">Ältere Schnittstelle:</translation>
+    </message>
+    <message>
+        <source>The addresses are set in the configuration file &quot;%1&quot;.</source>
+        <translation type="unfinished">Die Adressen werden in der Konfigurationsdatei „%1“ festgelegt.</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation type="unfinished">In Gebrauch: %1</translation>
+    </message>
+    <message>
+        <source>From the next start of the program on: %1</source>
+        <translation type="unfinished">Ab dem nächsten Start des Programms: %1</translation>
+    </message>
+    <message>
+        <source>Folder for fetched subtitle files</source>
+        <translation type="unfinished">Ordner für heruntergeladene Untertiteldateien</translation>
+    </message>
+    <message>
+        <source>It comes from the account pages of opensubtitles.com, is kept in the configuration file, and is used from the next start on.</source>
+        <translation type="unfinished">Er kommt von den Kontoseiten auf opensubtitles.com, steht in der Konfigurationsdatei und wird ab dem nächsten Start verwendet.</translation>
+    </message>
+    <message>
+        <source>The variable %1 of the environment sets it.</source>
+        <translation type="unfinished">Ihn legt die Umgebungsvariable %1 fest.</translation>
+    </message>
+    <message>
+        <source>This is no API key: a key has no blanks and no special characters. Copy it again.</source>
+        <translation type="unfinished">Das ist kein API-Schlüssel: Ein Schlüssel hat weder Leerzeichen noch Sonderzeichen. Kopieren Sie ihn noch einmal.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsStatisticsPage</name>
+    <message>
+        <source>If you agree, the program counts how the online search is used: from where it is opened, which fields are filled in, how many searches find something, nothing or fail, and how many files are fetched. Names, folders and what you type are never recorded. The record stays on this computer; it is sent to nobody.</source>
+        <translation type="unfinished">Wenn Sie zustimmen, zählt das Programm, wie die Online-Suche benutzt wird: von wo aus sie geöffnet wird, welche Felder ausgefüllt sind, wie viele Suchen etwas oder nichts finden oder scheitern und wie viele Dateien heruntergeladen werden. Namen, Ordner und Ihre Eingaben werden nie aufgezeichnet. Die Aufzeichnung bleibt auf diesem Computer; sie wird niemandem geschickt.</translation>
+    </message>
+    <message>
+        <source>&amp;Count how the online search is used</source>
+        <translation type="unfinished">&amp;Zählen, wie die Online-Suche benutzt wird</translation>
+    </message>
+    <message>
+        <source>&amp;Recorded in &quot;%1&quot;:</source>
+        <translation type="unfinished">&amp;Aufgezeichnet in „%1“:</translation>
+    </message>
+    <message>
+        <source>Nothing has been recorded.</source>
+        <translation type="unfinished">Es wurde nichts aufgezeichnet.</translation>
+    </message>
+    <message>
+        <source>What has been recorded</source>
+        <translation type="unfinished">Was aufgezeichnet wurde</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished">&amp;Löschen</translation>
     </message>
 </context>
 <context>
@@ -1840,6 +2202,13 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     </message>
 </context>
 <context>
+    <name>LanguageSelector</name>
+    <message>
+        <source>All languages</source>
+        <translation type="unfinished">Alle Sprachen</translation>
+    </message>
+</context>
+<context>
     <name>NumberTexts</name>
     <message>
         <source>%1%</source>
@@ -1852,6 +2221,347 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     <message>
         <source>No online subtitle service is set up; add its API key to the settings.</source>
         <translation type="unfinished">Es ist kein Online-Dienst für Untertitel eingerichtet; tragen Sie dessen API-Schlüssel in die Einstellungen ein.</translation>
+    </message>
+    <message>
+        <source> (it says: &quot;%1&quot;)</source>
+        <translation type="unfinished"> (er meldet: „%1“)</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again after %3.</source>
+        <translation type="unfinished">Ihre Downloads beim Dienst %1 sind aufgebraucht%2; laden Sie nach diesem Zeitpunkt wieder herunter: %3.</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again in %3.</source>
+        <translation type="unfinished">Ihre Downloads beim Dienst %1 sind aufgebraucht%2; laden Sie nach dieser Wartezeit wieder herunter: %3.</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again tomorrow.</source>
+        <translation type="unfinished">Ihre Downloads beim Dienst %1 sind aufgebraucht%2; laden Sie morgen wieder herunter.</translation>
+    </message>
+    <message>
+        <source>%1 was asked too often%2; wait %3 s and try again.</source>
+        <translation type="unfinished">Der Dienst %1 wurde zu oft gefragt%2; warten Sie %3 s und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>%1 was asked too often%2; try again in a minute.</source>
+        <translation type="unfinished">Der Dienst %1 wurde zu oft gefragt%2; versuchen Sie es in einer Minute erneut.</translation>
+    </message>
+    <message>
+        <source>%1 did not accept the API key%2; set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
+        <translation type="unfinished">Der Dienst %1 hat den API-Schlüssel nicht angenommen%2; legen Sie einen gültigen als KORVEX_OPENSUBTITLES_API_KEY in der Umgebung oder als api_key in der Konfigurationsdatei fest.</translation>
+    </message>
+    <message>
+        <source>%1 sent something else in place of the subtitle%2; choose another one, or try again later.</source>
+        <translation type="unfinished">Der Dienst %1 hat statt des Untertitels etwas anderes geschickt%2; wählen Sie einen anderen, oder versuchen Sie es später erneut.</translation>
+    </message>
+    <message>
+        <source>%1 is down or overloaded at the moment%2; try again later.</source>
+        <translation type="unfinished">Der Dienst %1 ist zurzeit außer Betrieb oder überlastet%2; versuchen Sie es später erneut.</translation>
+    </message>
+    <message>
+        <source>The subtitle could not be unpacked or stored in &quot;%1&quot;%2; choose another subtitle, or make sure that the folder may be written and has room.</source>
+        <translation type="unfinished">Der Untertitel ließ sich nicht entpacken oder nicht in „%1“ speichern%2; wählen Sie einen anderen Untertitel, oder sorgen Sie dafür, dass der Ordner beschreibbar ist und Platz hat.</translation>
+    </message>
+    <message>
+        <source>%1 refused the request%2; ask for something else, or try again later.</source>
+        <translation type="unfinished">Der Dienst %1 hat die Anfrage abgelehnt%2; fragen Sie nach etwas anderem, oder versuchen Sie es später erneut.</translation>
+    </message>
+    <message>
+        <source>%1 points to other addresses without end, or to one that may not be used%2; check the address that is set for it, or try again later.</source>
+        <translation type="unfinished">Der Dienst %1 verweist endlos auf andere Adressen oder auf eine, die nicht verwendet werden darf%2; prüfen Sie die für ihn festgelegte Adresse, oder versuchen Sie es später erneut.</translation>
+    </message>
+    <message>
+        <source>The answer of %1 was empty, broke off or was too large; try again later.</source>
+        <translation type="unfinished">Die Antwort des Dienstes %1 war leer, brach ab oder war zu groß; versuchen Sie es später erneut.</translation>
+    </message>
+    <message>
+        <source>The answer of %1 cannot be used%2; try again later.</source>
+        <translation type="unfinished">Die Antwort des Dienstes %1 ist nicht verwendbar%2; versuchen Sie es später erneut.</translation>
+    </message>
+    <message>
+        <source>%1 could not answer%2; try again later.</source>
+        <translation type="unfinished">Der Dienst %1 konnte nicht antworten%2; versuchen Sie es später erneut.</translation>
+    </message>
+    <message>
+        <source>%1 could not answer%2; check the address that is set for it and the proxy, or try again later.</source>
+        <translation type="unfinished">Der Dienst %1 konnte nicht antworten%2; prüfen Sie die für ihn festgelegte Adresse und den Proxy, oder versuchen Sie es später erneut.</translation>
+    </message>
+    <message>
+        <source>The connection to %1 failed%2; check the proxy and whether the service&apos;s certificate is valid, or try again later.</source>
+        <translation type="unfinished">Die Verbindung mit dem Dienst %1 ist gescheitert%2; prüfen Sie den Proxy und ob das Zertifikat des Dienstes gültig ist, oder versuchen Sie es später erneut.</translation>
+    </message>
+    <message>
+        <source>Another search or download has not ended yet; try again in a moment.</source>
+        <translation type="unfinished">Eine andere Suche oder ein anderer Download läuft noch; versuchen Sie es gleich noch einmal.</translation>
+    </message>
+    <message>
+        <source>%1 cannot look for this%2; type a title or an IMDb id.</source>
+        <translation type="unfinished">Der Dienst %1 kann danach nicht suchen%2; geben Sie einen Titel oder eine IMDb-ID ein.</translation>
+    </message>
+    <message>
+        <source>%1 cannot search in this way; look for a title or an IMDb id.</source>
+        <translation type="unfinished">Der Dienst %1 kann so nicht suchen; suchen Sie nach einem Titel oder einer IMDb-ID.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be reached or did not answer in time; check the connection to the network and try again.</source>
+        <translation type="unfinished">Der Dienst %1 ist nicht erreichbar oder hat nicht rechtzeitig geantwortet; prüfen Sie die Netzwerkverbindung und versuchen Sie es erneut.</translation>
+    </message>
+</context>
+<context>
+    <name>OnlineSearchDialogPresenter</name>
+    <message>
+        <source>same file</source>
+        <translation type="unfinished">gleiche Datei</translation>
+    </message>
+    <message>
+        <source>same release group</source>
+        <translation type="unfinished">gleiche Release-Gruppe</translation>
+    </message>
+    <message>
+        <source>same source</source>
+        <translation type="unfinished">gleiche Quelle</translation>
+    </message>
+    <message>
+        <source>same resolution</source>
+        <translation type="unfinished">gleiche Auflösung</translation>
+    </message>
+    <message>
+        <source>same episode</source>
+        <translation type="unfinished">gleiche Folge</translation>
+    </message>
+    <message>
+        <source>another episode</source>
+        <translation type="unfinished">andere Folge</translation>
+    </message>
+    <message>
+        <source>another film</source>
+        <translation type="unfinished">anderer Film</translation>
+    </message>
+    <message>
+        <source>Type a title or an IMDb id to search for.</source>
+        <translation type="unfinished">Geben Sie einen Titel oder eine IMDb-ID für die Suche ein.</translation>
+    </message>
+    <message>
+        <source>This is no IMDb id: type &quot;tt&quot; and digits, or leave it empty.</source>
+        <translation type="unfinished">Das ist keine IMDb-ID: Geben Sie „tt“ und Ziffern ein, oder lassen Sie das Feld leer.</translation>
+    </message>
+    <message>
+        <source>The season is no number: type digits, or leave it empty.</source>
+        <translation type="unfinished">Die Staffel ist keine Zahl: Geben Sie Ziffern ein, oder lassen Sie das Feld leer.</translation>
+    </message>
+    <message>
+        <source>The episode is no number: type digits, or leave it empty.</source>
+        <translation type="unfinished">Die Folge ist keine Zahl: Geben Sie Ziffern ein, oder lassen Sie das Feld leer.</translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation type="unfinished">Suche läuft...</translation>
+    </message>
+    <message numerus="yes">
+        <source>Searching... %n found so far</source>
+        <translation type="unfinished">
+            <numerusform>Suche läuft... bisher %n gefunden</numerusform>
+            <numerusform>Suche läuft... bisher %n gefunden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) found.</source>
+        <translation type="unfinished">
+            <numerusform>%n Untertitel gefunden.</numerusform>
+            <numerusform>%n Untertitel gefunden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>check the spelling of the title</source>
+        <translation type="unfinished">die Schreibweise des Titels prüfen</translation>
+    </message>
+    <message>
+        <source>type the title</source>
+        <translation type="unfinished">den Titel eingeben</translation>
+    </message>
+    <message>
+        <source>type the film&apos;s IMDb id</source>
+        <translation type="unfinished">die IMDb-ID des Films eingeben</translation>
+    </message>
+    <message>
+        <source>check the IMDb id</source>
+        <translation type="unfinished">die IMDb-ID prüfen</translation>
+    </message>
+    <message>
+        <source>leave out the season and the episode</source>
+        <translation type="unfinished">Staffel und Folge weglassen</translation>
+    </message>
+    <message>
+        <source>choose other languages</source>
+        <translation type="unfinished">andere Sprachen wählen</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation type="unfinished">%1 oder %2</translation>
+    </message>
+    <message>
+        <source>No subtitles were found: %1.</source>
+        <translation type="unfinished">Es wurden keine Untertitel gefunden; bitte %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Downloading %n subtitle(s)...</source>
+        <translation type="unfinished">
+            <numerusform>%n Untertitel wird heruntergeladen...</numerusform>
+            <numerusform>%n Untertitel werden heruntergeladen...</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) added to the film.</source>
+        <translation type="unfinished">
+            <numerusform>%n Untertitel zum Film hinzugefügt.</numerusform>
+            <numerusform>%n Untertitel zum Film hinzugefügt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n download(s) left.</source>
+        <translation type="unfinished">
+            <numerusform>Noch %n Download übrig.</numerusform>
+            <numerusform>Noch %n Downloads übrig.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Waiting for the last request to end...</source>
+        <translation type="unfinished">Das Ende der letzten Anfrage wird abgewartet...</translation>
+    </message>
+    <message>
+        <source>The search was cancelled.</source>
+        <translation type="unfinished">Die Suche wurde abgebrochen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The search was cancelled; %n subtitle(s) found.</source>
+        <translation type="unfinished">
+            <numerusform>Die Suche wurde abgebrochen; %n Untertitel gefunden.</numerusform>
+            <numerusform>Die Suche wurde abgebrochen; %n Untertitel gefunden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The download was cancelled.</source>
+        <translation type="unfinished">Das Herunterladen wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>ResultList</name>
+    <message>
+        <source>Machine</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Maschine</translation>
+    </message>
+    <message>
+        <source>Translated by a machine</source>
+        <translation type="unfinished">Maschinell übersetzt</translation>
+    </message>
+    <message>
+        <source>Foreign</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Fremdteile</translation>
+    </message>
+    <message>
+        <source>Only what is spoken in a foreign language</source>
+        <translation type="unfinished">Nur, was in einer fremden Sprache gesprochen wird</translation>
+    </message>
+    <message>
+        <source>HI</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">HG</translation>
+    </message>
+    <message>
+        <source>For the hearing impaired: sounds are described</source>
+        <translation type="unfinished">Für Hörgeschädigte: Geräusche werden beschrieben</translation>
+    </message>
+    <message>
+        <source>Trusted</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Bewährt</translation>
+    </message>
+    <message>
+        <source>From an uploader whom the service trusts</source>
+        <translation type="unfinished">Von jemandem hochgeladen, dem der Dienst vertraut</translation>
+    </message>
+    <message>
+        <source>CD %1/%2</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">CD %1/%2</translation>
+    </message>
+    <message>
+        <source>Part %1 of %2; all parts are downloaded</source>
+        <translation type="unfinished">Teil %1 von %2; alle Teile werden heruntergeladen</translation>
+    </message>
+    <message>
+        <source>HD</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">HD</translation>
+    </message>
+    <message>
+        <source>Made for a release in high definition</source>
+        <translation type="unfinished">Für eine Ausgabe in hoher Auflösung gemacht</translation>
+    </message>
+    <message>
+        <source>Made for this file or release</source>
+        <translation type="unfinished">Für diese Datei oder diesen Release gemacht</translation>
+    </message>
+    <message>
+        <source>For this film, perhaps for another cut of it</source>
+        <translation type="unfinished">Für diesen Film, vielleicht für eine andere Schnittfassung</translation>
+    </message>
+    <message>
+        <source>For another film or episode</source>
+        <translation type="unfinished">Für einen anderen Film oder eine andere Folge</translation>
+    </message>
+    <message>
+        <source>It is not known how well it fits</source>
+        <translation type="unfinished">Wie gut er passt, ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished">Name</translation>
+    </message>
+    <message>
+        <source>Match</source>
+        <translation type="unfinished">Übereinstimmung</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished">Sprache</translation>
+    </message>
+    <message>
+        <source>Marks</source>
+        <translation type="unfinished">Markierungen</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation type="unfinished">Downloads</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation type="unfinished">Bewertung</translation>
+    </message>
+    <message>
+        <source>Uploaded</source>
+        <translation type="unfinished">Hochgeladen</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation type="unfinished">Format</translation>
+    </message>
+    <message>
+        <source>Release: %1</source>
+        <translation type="unfinished">Release: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of 10, by %n vote(s)</source>
+        <translation type="unfinished">
+            <numerusform>%1 von 10, bei %n Stimme</numerusform>
+            <numerusform>%1 von 10, bei %n Stimmen</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -67,6 +67,60 @@
     </message>
 </context>
 <context>
+    <name>Korvex::Converter::Subtitles::Details::ImdbIdValidator</name>
+    <message numerus="yes">
+        <source>The IMDb id is too short: it has at least %n digit(s), as in tt0123456.</source>
+        <translation type="unfinished">
+            <numerusform>The IMDb id is too short: it has at least %n digit, as in tt0123456.</numerusform>
+            <numerusform>The IMDb id is too short: it has at least %n digits, as in tt0123456.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The IMDb id is too long: it has at most %n digit(s).</source>
+        <translation type="unfinished">
+            <numerusform>The IMDb id is too long: it has at most %n digit.</numerusform>
+            <numerusform>The IMDb id is too long: it has at most %n digits.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindowStatus</name>
+    <message numerus="yes">
+        <source>%n subtitle(s) found</source>
+        <translation type="unfinished">
+            <numerusform>%n subtitle found</numerusform>
+            <numerusform>%n subtitles found</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Download %n</source>
+        <translation type="unfinished">
+            <numerusform>&amp;Download %n</numerusform>
+            <numerusform>&amp;Download %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::ResultList</name>
+    <message numerus="yes">
+        <source>None of the %n subtitle(s) found holds &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform>The %n subtitle found does not hold &quot;%1&quot;.</numerusform>
+            <numerusform>None of the %n subtitles found holds &quot;%1&quot;.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::FetchedSubtitles</name>
+    <message numerus="yes">
+        <source>%n subtitle file(s) were added to &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform>%n subtitle file was added to &quot;%1&quot;.</numerusform>
+            <numerusform>%n subtitle files were added to &quot;%1&quot;.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Korvex::Desktop::FilmListPane</name>
     <message numerus="yes">
         <source>%n film(s)</source>
@@ -138,6 +192,61 @@
         <translation type="unfinished">
             <numerusform>No installed font has %n character of this text (%1); it shows as an empty box.</numerusform>
             <numerusform>No installed font has %n characters of this text (%1); they show as empty boxes.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>OnlineSearchDialogPresenter</name>
+    <message numerus="yes">
+        <source>Searching... %n found so far</source>
+        <translation type="unfinished">
+            <numerusform>Searching... %n found so far</numerusform>
+            <numerusform>Searching... %n found so far</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) found.</source>
+        <translation type="unfinished">
+            <numerusform>%n subtitle found.</numerusform>
+            <numerusform>%n subtitles found.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Downloading %n subtitle(s)...</source>
+        <translation type="unfinished">
+            <numerusform>Downloading %n subtitle...</numerusform>
+            <numerusform>Downloading %n subtitles...</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) added to the film.</source>
+        <translation type="unfinished">
+            <numerusform>%n subtitle added to the film.</numerusform>
+            <numerusform>%n subtitles added to the film.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n download(s) left.</source>
+        <translation type="unfinished">
+            <numerusform>%n download left.</numerusform>
+            <numerusform>%n downloads left.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The search was cancelled; %n subtitle(s) found.</source>
+        <translation type="unfinished">
+            <numerusform>The search was cancelled; %n subtitle found.</numerusform>
+            <numerusform>The search was cancelled; %n subtitles found.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ResultList</name>
+    <message numerus="yes">
+        <source>%1 of 10, by %n vote(s)</source>
+        <translation type="unfinished">
+            <numerusform>%1 of 10, by %n vote</numerusform>
+            <numerusform>%1 of 10, by %n votes</numerusform>
         </translation>
     </message>
 </context>

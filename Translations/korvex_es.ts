@@ -481,6 +481,42 @@
     </message>
 </context>
 <context>
+    <name>Korvex::Converter::Subtitles::Details::AutocompleteField</name>
+    <message>
+        <source>Film or series</source>
+        <translation type="unfinished">Película o serie</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished">Título</translation>
+    </message>
+    <message>
+        <source>Suggested titles</source>
+        <translation type="unfinished">Títulos sugeridos</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::ImdbIdValidator</name>
+    <message numerus="yes">
+        <source>The IMDb id is too short: it has at least %n digit(s), as in tt0123456.</source>
+        <translation type="unfinished">
+            <numerusform>El ID de IMDb es demasiado corto: tiene al menos %n cifra, como en tt0123456.</numerusform>
+            <numerusform>El ID de IMDb es demasiado corto: tiene al menos %n cifras, como en tt0123456.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The IMDb id is too long: it has at most %n digit(s).</source>
+        <translation type="unfinished">
+            <numerusform>El ID de IMDb es demasiado largo: tiene como mucho %n cifra.</numerusform>
+            <numerusform>El ID de IMDb es demasiado largo: tiene como mucho %n cifras.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is no IMDb id: type &quot;tt&quot; and a number, or the number alone, as in tt0123456.</source>
+        <translation type="unfinished">Esto no es un ID de IMDb: escriba «tt» y un número, o solo el número, como en tt0123456.</translation>
+    </message>
+</context>
+<context>
     <name>Korvex::Converter::Subtitles::Details::ItemPanel</name>
     <message>
         <source>Subtitles of this film</source>
@@ -513,6 +549,177 @@
     <message>
         <source>Done</source>
         <translation type="unfinished">Listo</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::LanguageSelector</name>
+    <message>
+        <source>Languages: %1</source>
+        <translation type="unfinished">Idiomas: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::LanguageSelectorList</name>
+    <message>
+        <source>Languages to search in</source>
+        <translation type="unfinished">Idiomas en los que buscar</translation>
+    </message>
+    <message>
+        <source>Find a language</source>
+        <translation type="unfinished">Buscar un idioma</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindow</name>
+    <message>
+        <source>Type a title and press &quot;Search&quot;.</source>
+        <translation type="unfinished">Escriba un título y pulse «Buscar».</translation>
+    </message>
+    <message>
+        <source>Find subtitles</source>
+        <translation type="unfinished">Buscar subtítulos</translation>
+    </message>
+    <message>
+        <source>Find subtitles: %1</source>
+        <translation type="unfinished">Buscar subtítulos: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindowFields</name>
+    <message>
+        <source>&amp;Title</source>
+        <translation type="unfinished">&amp;Título</translation>
+    </message>
+    <message>
+        <source>&amp;Season</source>
+        <translation type="unfinished">T&amp;emporada</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation type="unfinished">Temporada</translation>
+    </message>
+    <message>
+        <source>&amp;Episode</source>
+        <translation type="unfinished">E&amp;pisodio</translation>
+    </message>
+    <message>
+        <source>Episode</source>
+        <translation type="unfinished">Episodio</translation>
+    </message>
+    <message>
+        <source>&amp;Episode...</source>
+        <translation type="unfinished">E&amp;pisodio...</translation>
+    </message>
+    <message>
+        <source>Search for an episode of a series</source>
+        <translation type="unfinished">Buscar un episodio de una serie</translation>
+    </message>
+    <message>
+        <source>Sea&amp;rch</source>
+        <translation type="unfinished">&amp;Buscar</translation>
+    </message>
+    <message>
+        <source>I&amp;MDb id</source>
+        <translation type="unfinished">ID de I&amp;MDb</translation>
+    </message>
+    <message>
+        <source>IMDb id</source>
+        <translation type="unfinished">ID de IMDb</translation>
+    </message>
+    <message>
+        <source>The film&apos;s number at IMDb, as in tt0123456</source>
+        <translation type="unfinished">El número de la película en IMDb, como en tt0123456</translation>
+    </message>
+    <message>
+        <source>&amp;Languages</source>
+        <translation type="unfinished">&amp;Idiomas</translation>
+    </message>
+    <message>
+        <source>E&amp;xactly this file</source>
+        <translation type="unfinished">E&amp;xactamente este archivo</translation>
+    </message>
+    <message>
+        <source>Finds subtitles by the fingerprint of the file, whatever its name is</source>
+        <translation type="unfinished">Encuentra subtítulos por la huella del archivo, se llame como se llame</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindowStatus</name>
+    <message>
+        <source>Searching...</source>
+        <translation type="unfinished">Buscando...</translation>
+    </message>
+    <message>
+        <source>Downloading...</source>
+        <translation type="unfinished">Descargando...</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation type="unfinished">Cancelando...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) found</source>
+        <translation type="unfinished">
+            <numerusform>%n subtítulo encontrado</numerusform>
+            <numerusform>%n subtítulos encontrados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished">&amp;Cancelar</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Download %n</source>
+        <translation type="unfinished">
+            <numerusform>&amp;Descargar %n</numerusform>
+            <numerusform>&amp;Descargar %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Download</source>
+        <translation type="unfinished">&amp;Descargar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::ResultList</name>
+    <message>
+        <source>Smallest first; press to turn it round</source>
+        <translation type="unfinished">Menor primero; pulse para invertir</translation>
+    </message>
+    <message>
+        <source>Largest first; press to turn it round</source>
+        <translation type="unfinished">Mayor primero; pulse para invertir</translation>
+    </message>
+    <message numerus="yes">
+        <source>None of the %n subtitle(s) found holds &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform>El %n subtítulo encontrado no contiene «%1».</numerusform>
+            <numerusform>Ninguno de los %n subtítulos encontrados contiene «%1».</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Best match</source>
+        <translation type="unfinished">Mejor coincidencia</translation>
+    </message>
+    <message>
+        <source>Subtitles found</source>
+        <translation type="unfinished">Subtítulos encontrados</translation>
+    </message>
+    <message>
+        <source>Filter the list</source>
+        <translation type="unfinished">Filtrar la lista</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by</source>
+        <translation type="unfinished">&amp;Ordenar por</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation type="unfinished">Ordenar por</translation>
     </message>
 </context>
 <context>
@@ -628,6 +835,10 @@ Se basa en Qt, FFmpeg y libass.</translation>
         <source>Add</source>
         <translation type="unfinished">Añadir</translation>
     </message>
+    <message>
+        <source>S&amp;ettings...</source>
+        <translation type="unfinished">A&amp;justes...</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>
@@ -736,6 +947,24 @@ Se basa en Qt, FFmpeg y libass.</translation>
     <message>
         <source>Folders work too. Subtitle files beside a film are found automatically.</source>
         <translation type="unfinished">También sirven carpetas. Los archivos de subtítulos junto a una película se encuentran solos.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::FetchedSubtitles</name>
+    <message>
+        <source>&quot;%1&quot; was added to &quot;%2&quot;.</source>
+        <translation type="unfinished">«%1» se añadió a «%2».</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle file(s) were added to &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform>Se añadió %n archivo de subtítulos a «%1».</numerusform>
+            <numerusform>Se añadieron %n archivos de subtítulos a «%1».</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished">Deshacer</translation>
     </message>
 </context>
 <context>
@@ -1273,6 +1502,139 @@ Se basa en Qt, FFmpeg y libass.</translation>
     <message>
         <source>The list of films could not be saved in &quot;%1&quot; (%2): check that you may write there.</source>
         <translation type="unfinished">La lista de películas no se pudo guardar en «%1» (%2): compruebe que puede escribir allí.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished">Ajustes</translation>
+    </message>
+    <message>
+        <source>Online service</source>
+        <translation type="unfinished">Servicio en línea</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation type="unfinished">Estadísticas</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished">Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsOnlinePage</name>
+    <message>
+        <source>version 1 of OpenSubtitles, because an API key is set.</source>
+        <translation type="unfinished">la versión 1 de OpenSubtitles, porque hay una clave de API.</translation>
+    </message>
+    <message>
+        <source>version 1 of OpenSubtitles, because the configuration file says so. It answers nobody without an API key: enter one below.</source>
+        <translation type="unfinished">la versión 1 de OpenSubtitles, porque así lo indica el archivo de configuración. No responde a nadie sin clave de API: introduzca una abajo.</translation>
+    </message>
+    <message>
+        <source>the older interface of OpenSubtitles, because the configuration file says so. The API key is not used.</source>
+        <translation type="unfinished">la interfaz antigua de OpenSubtitles, porque así lo indica el archivo de configuración. La clave de API no se usa.</translation>
+    </message>
+    <message>
+        <source>the older interface of OpenSubtitles, because no API key is set.</source>
+        <translation type="unfinished">la interfaz antigua de OpenSubtitles, porque no hay clave de API.</translation>
+    </message>
+    <message>
+        <source>API &amp;key:</source>
+        <translation type="unfinished">C&amp;lave de API:</translation>
+    </message>
+    <message>
+        <source>API key</source>
+        <translation type="unfinished">Clave de API</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation type="unfinished">&amp;Mostrar</translation>
+    </message>
+    <message>
+        <source>Fetched &amp;files:</source>
+        <translation type="unfinished">&amp;Descargas:</translation>
+    </message>
+    <message>
+        <source>Folder for fetched files</source>
+        <translation type="unfinished">Carpeta para los archivos descargados</translation>
+    </message>
+    <message>
+        <source>&amp;Choose...</source>
+        <translation type="unfinished">&amp;Elegir...</translation>
+    </message>
+    <message>
+        <source>&amp;Usual folder</source>
+        <translation type="unfinished">Carpeta &amp;habitual</translation>
+    </message>
+    <message>
+        <source>Version 1:</source>
+        <translation type="unfinished">Versión 1:</translation>
+    </message>
+    <message>
+        <source>Older interface:</source>
+        <translation type="unfinished">Interfaz antigua:</translation>
+    </message>
+    <message>
+        <source>The addresses are set in the configuration file &quot;%1&quot;.</source>
+        <translation type="unfinished">Las direcciones se fijan en el archivo de configuración «%1».</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation type="unfinished">En uso: %1</translation>
+    </message>
+    <message>
+        <source>From the next start of the program on: %1</source>
+        <translation type="unfinished">A partir del próximo inicio del programa: %1</translation>
+    </message>
+    <message>
+        <source>Folder for fetched subtitle files</source>
+        <translation type="unfinished">Carpeta para los archivos de subtítulos descargados</translation>
+    </message>
+    <message>
+        <source>It comes from the account pages of opensubtitles.com, is kept in the configuration file, and is used from the next start on.</source>
+        <translation type="unfinished">Se obtiene en las páginas de la cuenta de opensubtitles.com, se guarda en el archivo de configuración y se usa a partir del próximo inicio.</translation>
+    </message>
+    <message>
+        <source>The variable %1 of the environment sets it.</source>
+        <translation type="unfinished">La fija la variable de entorno %1.</translation>
+    </message>
+    <message>
+        <source>This is no API key: a key has no blanks and no special characters. Copy it again.</source>
+        <translation type="unfinished">Esto no es una clave de API: una clave no tiene espacios ni caracteres especiales. Cópiela de nuevo.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsStatisticsPage</name>
+    <message>
+        <source>If you agree, the program counts how the online search is used: from where it is opened, which fields are filled in, how many searches find something, nothing or fail, and how many files are fetched. Names, folders and what you type are never recorded. The record stays on this computer; it is sent to nobody.</source>
+        <translation type="unfinished">Si está de acuerdo, el programa cuenta cómo se usa la búsqueda en línea: desde dónde se abre, qué campos se rellenan, cuántas búsquedas encuentran algo, no encuentran nada o fallan, y cuántos archivos se descargan. Nunca se registran nombres, carpetas ni lo que usted escribe. El registro se queda en este equipo; no se envía a nadie.</translation>
+    </message>
+    <message>
+        <source>&amp;Count how the online search is used</source>
+        <translation type="unfinished">&amp;Contar cómo se usa la búsqueda en línea</translation>
+    </message>
+    <message>
+        <source>&amp;Recorded in &quot;%1&quot;:</source>
+        <translation type="unfinished">&amp;Registrado en «%1»:</translation>
+    </message>
+    <message>
+        <source>Nothing has been recorded.</source>
+        <translation type="unfinished">No se ha registrado nada.</translation>
+    </message>
+    <message>
+        <source>What has been recorded</source>
+        <translation type="unfinished">Lo que se ha registrado</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished">&amp;Eliminar</translation>
     </message>
 </context>
 <context>
@@ -1840,6 +2202,13 @@ Se basa en Qt, FFmpeg y libass.</translation>
     </message>
 </context>
 <context>
+    <name>LanguageSelector</name>
+    <message>
+        <source>All languages</source>
+        <translation type="unfinished">Todos los idiomas</translation>
+    </message>
+</context>
+<context>
     <name>NumberTexts</name>
     <message>
         <source>%1%</source>
@@ -1852,6 +2221,347 @@ Se basa en Qt, FFmpeg y libass.</translation>
     <message>
         <source>No online subtitle service is set up; add its API key to the settings.</source>
         <translation type="unfinished">No hay ningún servicio de subtítulos en línea configurado; añada su clave de API a la configuración.</translation>
+    </message>
+    <message>
+        <source> (it says: &quot;%1&quot;)</source>
+        <translation type="unfinished"> (dice: «%1»)</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again after %3.</source>
+        <translation type="unfinished">Sus descargas en %1 se han agotado%2; vuelva a descargar después de este momento: %3.</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again in %3.</source>
+        <translation type="unfinished">Sus descargas en %1 se han agotado%2; vuelva a descargar pasado este tiempo: %3.</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again tomorrow.</source>
+        <translation type="unfinished">Sus descargas en %1 se han agotado%2; vuelva a descargar mañana.</translation>
+    </message>
+    <message>
+        <source>%1 was asked too often%2; wait %3 s and try again.</source>
+        <translation type="unfinished">Se hicieron demasiadas peticiones a %1%2; espere %3 s e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>%1 was asked too often%2; try again in a minute.</source>
+        <translation type="unfinished">Se hicieron demasiadas peticiones a %1%2; inténtelo de nuevo dentro de un minuto.</translation>
+    </message>
+    <message>
+        <source>%1 did not accept the API key%2; set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
+        <translation type="unfinished">%1 no aceptó la clave de API%2; fije una válida como KORVEX_OPENSUBTITLES_API_KEY en el entorno o como api_key en el archivo de configuración.</translation>
+    </message>
+    <message>
+        <source>%1 sent something else in place of the subtitle%2; choose another one, or try again later.</source>
+        <translation type="unfinished">%1 envió otra cosa en lugar del subtítulo%2; elija otro o inténtelo más tarde.</translation>
+    </message>
+    <message>
+        <source>%1 is down or overloaded at the moment%2; try again later.</source>
+        <translation type="unfinished">%1 está caído o sobrecargado en este momento%2; inténtelo más tarde.</translation>
+    </message>
+    <message>
+        <source>The subtitle could not be unpacked or stored in &quot;%1&quot;%2; choose another subtitle, or make sure that the folder may be written and has room.</source>
+        <translation type="unfinished">No se pudo descomprimir el subtítulo o guardarlo en «%1»%2; elija otro subtítulo o asegúrese de que se puede escribir en la carpeta y de que tiene espacio.</translation>
+    </message>
+    <message>
+        <source>%1 refused the request%2; ask for something else, or try again later.</source>
+        <translation type="unfinished">%1 rechazó la petición%2; pida otra cosa o inténtelo más tarde.</translation>
+    </message>
+    <message>
+        <source>%1 points to other addresses without end, or to one that may not be used%2; check the address that is set for it, or try again later.</source>
+        <translation type="unfinished">%1 remite sin fin a otras direcciones o a una que no se puede usar%2; compruebe la dirección fijada para él o inténtelo más tarde.</translation>
+    </message>
+    <message>
+        <source>The answer of %1 was empty, broke off or was too large; try again later.</source>
+        <translation type="unfinished">La respuesta de %1 estaba vacía, se cortó o era demasiado grande; inténtelo más tarde.</translation>
+    </message>
+    <message>
+        <source>The answer of %1 cannot be used%2; try again later.</source>
+        <translation type="unfinished">La respuesta de %1 no se puede usar%2; inténtelo más tarde.</translation>
+    </message>
+    <message>
+        <source>%1 could not answer%2; try again later.</source>
+        <translation type="unfinished">%1 no pudo responder%2; inténtelo más tarde.</translation>
+    </message>
+    <message>
+        <source>%1 could not answer%2; check the address that is set for it and the proxy, or try again later.</source>
+        <translation type="unfinished">%1 no pudo responder%2; compruebe la dirección fijada para él y el proxy, o inténtelo más tarde.</translation>
+    </message>
+    <message>
+        <source>The connection to %1 failed%2; check the proxy and whether the service&apos;s certificate is valid, or try again later.</source>
+        <translation type="unfinished">Falló la conexión con %1%2; compruebe el proxy y si el certificado del servicio es válido, o inténtelo más tarde.</translation>
+    </message>
+    <message>
+        <source>Another search or download has not ended yet; try again in a moment.</source>
+        <translation type="unfinished">Otra búsqueda o descarga no ha terminado aún; inténtelo de nuevo dentro de un momento.</translation>
+    </message>
+    <message>
+        <source>%1 cannot look for this%2; type a title or an IMDb id.</source>
+        <translation type="unfinished">%1 no puede buscar esto%2; escriba un título o un ID de IMDb.</translation>
+    </message>
+    <message>
+        <source>%1 cannot search in this way; look for a title or an IMDb id.</source>
+        <translation type="unfinished">%1 no puede buscar de esta manera; busque un título o un ID de IMDb.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be reached or did not answer in time; check the connection to the network and try again.</source>
+        <translation type="unfinished">No se puede acceder a %1 o no respondió a tiempo; compruebe la conexión a la red e inténtelo de nuevo.</translation>
+    </message>
+</context>
+<context>
+    <name>OnlineSearchDialogPresenter</name>
+    <message>
+        <source>same file</source>
+        <translation type="unfinished">mismo archivo</translation>
+    </message>
+    <message>
+        <source>same release group</source>
+        <translation type="unfinished">mismo grupo de publicación</translation>
+    </message>
+    <message>
+        <source>same source</source>
+        <translation type="unfinished">misma fuente</translation>
+    </message>
+    <message>
+        <source>same resolution</source>
+        <translation type="unfinished">misma resolución</translation>
+    </message>
+    <message>
+        <source>same episode</source>
+        <translation type="unfinished">mismo episodio</translation>
+    </message>
+    <message>
+        <source>another episode</source>
+        <translation type="unfinished">otro episodio</translation>
+    </message>
+    <message>
+        <source>another film</source>
+        <translation type="unfinished">otra película</translation>
+    </message>
+    <message>
+        <source>Type a title or an IMDb id to search for.</source>
+        <translation type="unfinished">Escriba un título o un ID de IMDb que buscar.</translation>
+    </message>
+    <message>
+        <source>This is no IMDb id: type &quot;tt&quot; and digits, or leave it empty.</source>
+        <translation type="unfinished">Esto no es un ID de IMDb: escriba «tt» y cifras o déjelo vacío.</translation>
+    </message>
+    <message>
+        <source>The season is no number: type digits, or leave it empty.</source>
+        <translation type="unfinished">La temporada no es un número: escriba cifras o déjela vacía.</translation>
+    </message>
+    <message>
+        <source>The episode is no number: type digits, or leave it empty.</source>
+        <translation type="unfinished">El episodio no es un número: escriba cifras o déjelo vacío.</translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation type="unfinished">Buscando...</translation>
+    </message>
+    <message numerus="yes">
+        <source>Searching... %n found so far</source>
+        <translation type="unfinished">
+            <numerusform>Buscando... %n encontrado hasta ahora</numerusform>
+            <numerusform>Buscando... %n encontrados hasta ahora</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) found.</source>
+        <translation type="unfinished">
+            <numerusform>%n subtítulo encontrado.</numerusform>
+            <numerusform>%n subtítulos encontrados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>check the spelling of the title</source>
+        <translation type="unfinished">compruebe la ortografía del título</translation>
+    </message>
+    <message>
+        <source>type the title</source>
+        <translation type="unfinished">escriba el título</translation>
+    </message>
+    <message>
+        <source>type the film&apos;s IMDb id</source>
+        <translation type="unfinished">escriba el ID de IMDb de la película</translation>
+    </message>
+    <message>
+        <source>check the IMDb id</source>
+        <translation type="unfinished">compruebe el ID de IMDb</translation>
+    </message>
+    <message>
+        <source>leave out the season and the episode</source>
+        <translation type="unfinished">omita la temporada y el episodio</translation>
+    </message>
+    <message>
+        <source>choose other languages</source>
+        <translation type="unfinished">elija otros idiomas</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation type="unfinished">%1 o %2</translation>
+    </message>
+    <message>
+        <source>No subtitles were found: %1.</source>
+        <translation type="unfinished">No se encontraron subtítulos: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Downloading %n subtitle(s)...</source>
+        <translation type="unfinished">
+            <numerusform>Descargando %n subtítulo...</numerusform>
+            <numerusform>Descargando %n subtítulos...</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) added to the film.</source>
+        <translation type="unfinished">
+            <numerusform>%n subtítulo añadido a la película.</numerusform>
+            <numerusform>%n subtítulos añadidos a la película.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n download(s) left.</source>
+        <translation type="unfinished">
+            <numerusform>Queda %n descarga.</numerusform>
+            <numerusform>Quedan %n descargas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Waiting for the last request to end...</source>
+        <translation type="unfinished">Esperando a que termine la última petición...</translation>
+    </message>
+    <message>
+        <source>The search was cancelled.</source>
+        <translation type="unfinished">La búsqueda se canceló.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The search was cancelled; %n subtitle(s) found.</source>
+        <translation type="unfinished">
+            <numerusform>La búsqueda se canceló; %n subtítulo encontrado.</numerusform>
+            <numerusform>La búsqueda se canceló; %n subtítulos encontrados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The download was cancelled.</source>
+        <translation type="unfinished">La descarga se canceló.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>ResultList</name>
+    <message>
+        <source>Machine</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Automático</translation>
+    </message>
+    <message>
+        <source>Translated by a machine</source>
+        <translation type="unfinished">Traducido por una máquina</translation>
+    </message>
+    <message>
+        <source>Foreign</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Extranjero</translation>
+    </message>
+    <message>
+        <source>Only what is spoken in a foreign language</source>
+        <translation type="unfinished">Solo lo que se habla en un idioma extranjero</translation>
+    </message>
+    <message>
+        <source>HI</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Sordos</translation>
+    </message>
+    <message>
+        <source>For the hearing impaired: sounds are described</source>
+        <translation type="unfinished">Para personas sordas: se describen los sonidos</translation>
+    </message>
+    <message>
+        <source>Trusted</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Fiable</translation>
+    </message>
+    <message>
+        <source>From an uploader whom the service trusts</source>
+        <translation type="unfinished">De alguien en quien confía el servicio</translation>
+    </message>
+    <message>
+        <source>CD %1/%2</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">CD %1/%2</translation>
+    </message>
+    <message>
+        <source>Part %1 of %2; all parts are downloaded</source>
+        <translation type="unfinished">Parte %1 de %2; se descargan todas las partes</translation>
+    </message>
+    <message>
+        <source>HD</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">HD</translation>
+    </message>
+    <message>
+        <source>Made for a release in high definition</source>
+        <translation type="unfinished">Hecho para una edición en alta definición</translation>
+    </message>
+    <message>
+        <source>Made for this file or release</source>
+        <translation type="unfinished">Hecho para este archivo o esta edición</translation>
+    </message>
+    <message>
+        <source>For this film, perhaps for another cut of it</source>
+        <translation type="unfinished">Para esta película, quizá para otro montaje</translation>
+    </message>
+    <message>
+        <source>For another film or episode</source>
+        <translation type="unfinished">Para otra película u otro episodio</translation>
+    </message>
+    <message>
+        <source>It is not known how well it fits</source>
+        <translation type="unfinished">No se sabe hasta qué punto encaja</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished">Nombre</translation>
+    </message>
+    <message>
+        <source>Match</source>
+        <translation type="unfinished">Coincidencia</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished">Idioma</translation>
+    </message>
+    <message>
+        <source>Marks</source>
+        <translation type="unfinished">Marcas</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation type="unfinished">Descargas</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation type="unfinished">Valoración</translation>
+    </message>
+    <message>
+        <source>Uploaded</source>
+        <translation type="unfinished">Subido</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation type="unfinished">Formato</translation>
+    </message>
+    <message>
+        <source>Release: %1</source>
+        <translation type="unfinished">Edición: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of 10, by %n vote(s)</source>
+        <translation type="unfinished">
+            <numerusform>%1 de 10, con %n voto</numerusform>
+            <numerusform>%1 de 10, con %n votos</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -481,6 +481,42 @@
     </message>
 </context>
 <context>
+    <name>Korvex::Converter::Subtitles::Details::AutocompleteField</name>
+    <message>
+        <source>Film or series</source>
+        <translation type="unfinished">Film ou série</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished">Titre</translation>
+    </message>
+    <message>
+        <source>Suggested titles</source>
+        <translation type="unfinished">Titres suggérés</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::ImdbIdValidator</name>
+    <message numerus="yes">
+        <source>The IMDb id is too short: it has at least %n digit(s), as in tt0123456.</source>
+        <translation type="unfinished">
+            <numerusform>L&apos;ID IMDb est trop court&#xa0;: il a au moins %n chiffre, comme dans tt0123456.</numerusform>
+            <numerusform>L&apos;ID IMDb est trop court&#xa0;: il a au moins %n chiffres, comme dans tt0123456.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The IMDb id is too long: it has at most %n digit(s).</source>
+        <translation type="unfinished">
+            <numerusform>L&apos;ID IMDb est trop long&#xa0;: il a au plus %n chiffre.</numerusform>
+            <numerusform>L&apos;ID IMDb est trop long&#xa0;: il a au plus %n chiffres.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is no IMDb id: type &quot;tt&quot; and a number, or the number alone, as in tt0123456.</source>
+        <translation type="unfinished">Ce n&apos;est pas un ID IMDb&#xa0;: tapez «&#xa0;tt&#xa0;» et un nombre, ou le nombre seul, comme dans tt0123456.</translation>
+    </message>
+</context>
+<context>
     <name>Korvex::Converter::Subtitles::Details::ItemPanel</name>
     <message>
         <source>Subtitles of this film</source>
@@ -513,6 +549,177 @@
     <message>
         <source>Done</source>
         <translation type="unfinished">Terminé</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::LanguageSelector</name>
+    <message>
+        <source>Languages: %1</source>
+        <translation type="unfinished">Langues&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::LanguageSelectorList</name>
+    <message>
+        <source>Languages to search in</source>
+        <translation type="unfinished">Langues de recherche</translation>
+    </message>
+    <message>
+        <source>Find a language</source>
+        <translation type="unfinished">Chercher une langue</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindow</name>
+    <message>
+        <source>Type a title and press &quot;Search&quot;.</source>
+        <translation type="unfinished">Tapez un titre et appuyez sur «&#xa0;Rechercher&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Find subtitles</source>
+        <translation type="unfinished">Chercher des sous-titres</translation>
+    </message>
+    <message>
+        <source>Find subtitles: %1</source>
+        <translation type="unfinished">Chercher des sous-titres&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindowFields</name>
+    <message>
+        <source>&amp;Title</source>
+        <translation type="unfinished">&amp;Titre</translation>
+    </message>
+    <message>
+        <source>&amp;Season</source>
+        <translation type="unfinished">&amp;Saison</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation type="unfinished">Saison</translation>
+    </message>
+    <message>
+        <source>&amp;Episode</source>
+        <translation type="unfinished">É&amp;pisode</translation>
+    </message>
+    <message>
+        <source>Episode</source>
+        <translation type="unfinished">Épisode</translation>
+    </message>
+    <message>
+        <source>&amp;Episode...</source>
+        <translation type="unfinished">É&amp;pisode...</translation>
+    </message>
+    <message>
+        <source>Search for an episode of a series</source>
+        <translation type="unfinished">Rechercher un épisode d&apos;une série</translation>
+    </message>
+    <message>
+        <source>Sea&amp;rch</source>
+        <translation type="unfinished">&amp;Rechercher</translation>
+    </message>
+    <message>
+        <source>I&amp;MDb id</source>
+        <translation type="unfinished">ID I&amp;MDb</translation>
+    </message>
+    <message>
+        <source>IMDb id</source>
+        <translation type="unfinished">ID IMDb</translation>
+    </message>
+    <message>
+        <source>The film&apos;s number at IMDb, as in tt0123456</source>
+        <translation type="unfinished">Le numéro du film chez IMDb, comme dans tt0123456</translation>
+    </message>
+    <message>
+        <source>&amp;Languages</source>
+        <translation type="unfinished">&amp;Langues</translation>
+    </message>
+    <message>
+        <source>E&amp;xactly this file</source>
+        <translation type="unfinished">E&amp;xactement ce fichier</translation>
+    </message>
+    <message>
+        <source>Finds subtitles by the fingerprint of the file, whatever its name is</source>
+        <translation type="unfinished">Trouve les sous-titres d&apos;après l&apos;empreinte du fichier, quel que soit son nom</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindowStatus</name>
+    <message>
+        <source>Searching...</source>
+        <translation type="unfinished">Recherche...</translation>
+    </message>
+    <message>
+        <source>Downloading...</source>
+        <translation type="unfinished">Téléchargement...</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation type="unfinished">Annulation...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) found</source>
+        <translation type="unfinished">
+            <numerusform>%n sous-titre trouvé</numerusform>
+            <numerusform>%n sous-titres trouvés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished">&amp;Annuler</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Download %n</source>
+        <translation type="unfinished">
+            <numerusform>Téléc&amp;harger %n</numerusform>
+            <numerusform>Téléc&amp;harger %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Download</source>
+        <translation type="unfinished">Téléc&amp;harger</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::ResultList</name>
+    <message>
+        <source>Smallest first; press to turn it round</source>
+        <translation type="unfinished">Le plus petit d&apos;abord&#xa0;; appuyez pour inverser</translation>
+    </message>
+    <message>
+        <source>Largest first; press to turn it round</source>
+        <translation type="unfinished">Le plus grand d&apos;abord&#xa0;; appuyez pour inverser</translation>
+    </message>
+    <message numerus="yes">
+        <source>None of the %n subtitle(s) found holds &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform>Le %n sous-titre trouvé ne contient pas «&#xa0;%1&#xa0;».</numerusform>
+            <numerusform>Aucun des %n sous-titres trouvés ne contient «&#xa0;%1&#xa0;».</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Best match</source>
+        <translation type="unfinished">Meilleure correspondance</translation>
+    </message>
+    <message>
+        <source>Subtitles found</source>
+        <translation type="unfinished">Sous-titres trouvés</translation>
+    </message>
+    <message>
+        <source>Filter the list</source>
+        <translation type="unfinished">Filtrer la liste</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by</source>
+        <translation type="unfinished">Tr&amp;ier par</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation type="unfinished">Trier par</translation>
     </message>
 </context>
 <context>
@@ -628,6 +835,10 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <source>Add</source>
         <translation type="unfinished">Ajouter</translation>
     </message>
+    <message>
+        <source>S&amp;ettings...</source>
+        <translation type="unfinished">&amp;Réglages...</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>
@@ -736,6 +947,24 @@ Il repose sur Qt, FFmpeg et libass.</translation>
     <message>
         <source>Folders work too. Subtitle files beside a film are found automatically.</source>
         <translation type="unfinished">Les dossiers aussi. Les fichiers de sous-titres à côté d&apos;un film sont trouvés automatiquement.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::FetchedSubtitles</name>
+    <message>
+        <source>&quot;%1&quot; was added to &quot;%2&quot;.</source>
+        <translation type="unfinished">«&#xa0;%1&#xa0;» a été ajouté à «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle file(s) were added to &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform>%n fichier de sous-titres a été ajouté à «&#xa0;%1&#xa0;».</numerusform>
+            <numerusform>%n fichiers de sous-titres ont été ajoutés à «&#xa0;%1&#xa0;».</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished">Défaire</translation>
     </message>
 </context>
 <context>
@@ -1273,6 +1502,139 @@ Il repose sur Qt, FFmpeg et libass.</translation>
     <message>
         <source>The list of films could not be saved in &quot;%1&quot; (%2): check that you may write there.</source>
         <translation type="unfinished">La liste des films n&apos;a pas pu être conservée dans «&#xa0;%1&#xa0;» (%2)&#xa0;: vérifiez que vous pouvez y écrire.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished">Réglages</translation>
+    </message>
+    <message>
+        <source>Online service</source>
+        <translation type="unfinished">Service en ligne</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation type="unfinished">Statistiques</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished">OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsOnlinePage</name>
+    <message>
+        <source>version 1 of OpenSubtitles, because an API key is set.</source>
+        <translation type="unfinished">la version 1 d&apos;OpenSubtitles, car une clé d&apos;API est fixée.</translation>
+    </message>
+    <message>
+        <source>version 1 of OpenSubtitles, because the configuration file says so. It answers nobody without an API key: enter one below.</source>
+        <translation type="unfinished">la version 1 d&apos;OpenSubtitles, car le fichier de configuration le demande. Elle ne répond à personne sans clé d&apos;API&#xa0;: saisissez-en une ci-dessous.</translation>
+    </message>
+    <message>
+        <source>the older interface of OpenSubtitles, because the configuration file says so. The API key is not used.</source>
+        <translation type="unfinished">l&apos;ancienne interface d&apos;OpenSubtitles, car le fichier de configuration le demande. La clé d&apos;API n&apos;est pas utilisée.</translation>
+    </message>
+    <message>
+        <source>the older interface of OpenSubtitles, because no API key is set.</source>
+        <translation type="unfinished">l&apos;ancienne interface d&apos;OpenSubtitles, car aucune clé d&apos;API n&apos;est fixée.</translation>
+    </message>
+    <message>
+        <source>API &amp;key:</source>
+        <translation type="unfinished">C&amp;lé d&apos;API&#xa0;:</translation>
+    </message>
+    <message>
+        <source>API key</source>
+        <translation type="unfinished">Clé d&apos;API</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation type="unfinished">&amp;Afficher</translation>
+    </message>
+    <message>
+        <source>Fetched &amp;files:</source>
+        <translation type="unfinished">&amp;Téléchargements&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Folder for fetched files</source>
+        <translation type="unfinished">Dossier des fichiers téléchargés</translation>
+    </message>
+    <message>
+        <source>&amp;Choose...</source>
+        <translation type="unfinished">&amp;Choisir...</translation>
+    </message>
+    <message>
+        <source>&amp;Usual folder</source>
+        <translation type="unfinished">Dossier &amp;habituel</translation>
+    </message>
+    <message>
+        <source>Version 1:</source>
+        <translation type="unfinished">Version 1&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Older interface:</source>
+        <translation type="unfinished">Ancienne interface&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The addresses are set in the configuration file &quot;%1&quot;.</source>
+        <translation type="unfinished">Les adresses sont fixées dans le fichier de configuration «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation type="unfinished">Utilisé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>From the next start of the program on: %1</source>
+        <translation type="unfinished">À partir du prochain démarrage du programme&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Folder for fetched subtitle files</source>
+        <translation type="unfinished">Dossier des fichiers de sous-titres téléchargés</translation>
+    </message>
+    <message>
+        <source>It comes from the account pages of opensubtitles.com, is kept in the configuration file, and is used from the next start on.</source>
+        <translation type="unfinished">Elle vient des pages de compte d&apos;opensubtitles.com, est conservée dans le fichier de configuration et sert à partir du prochain démarrage.</translation>
+    </message>
+    <message>
+        <source>The variable %1 of the environment sets it.</source>
+        <translation type="unfinished">Elle est fixée par la variable d&apos;environnement %1.</translation>
+    </message>
+    <message>
+        <source>This is no API key: a key has no blanks and no special characters. Copy it again.</source>
+        <translation type="unfinished">Ce n&apos;est pas une clé d&apos;API&#xa0;: une clé n&apos;a ni espaces ni caractères spéciaux. Copiez-la de nouveau.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsStatisticsPage</name>
+    <message>
+        <source>If you agree, the program counts how the online search is used: from where it is opened, which fields are filled in, how many searches find something, nothing or fail, and how many files are fetched. Names, folders and what you type are never recorded. The record stays on this computer; it is sent to nobody.</source>
+        <translation type="unfinished">Si vous êtes d&apos;accord, le programme compte comment la recherche en ligne est utilisée&#xa0;: d&apos;où elle est ouverte, quels champs sont remplis, combien de recherches trouvent quelque chose, ne trouvent rien ou échouent, et combien de fichiers sont téléchargés. Les noms, les dossiers et ce que vous tapez ne sont jamais enregistrés. Le relevé reste sur cet ordinateur&#xa0;; il n&apos;est envoyé à personne.</translation>
+    </message>
+    <message>
+        <source>&amp;Count how the online search is used</source>
+        <translation type="unfinished">&amp;Compter comment la recherche en ligne est utilisée</translation>
+    </message>
+    <message>
+        <source>&amp;Recorded in &quot;%1&quot;:</source>
+        <translation type="unfinished">&amp;Enregistré dans «&#xa0;%1&#xa0;»&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Nothing has been recorded.</source>
+        <translation type="unfinished">Rien n&apos;a été enregistré.</translation>
+    </message>
+    <message>
+        <source>What has been recorded</source>
+        <translation type="unfinished">Ce qui a été enregistré</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished">&amp;Supprimer</translation>
     </message>
 </context>
 <context>
@@ -1840,6 +2202,13 @@ Il repose sur Qt, FFmpeg et libass.</translation>
     </message>
 </context>
 <context>
+    <name>LanguageSelector</name>
+    <message>
+        <source>All languages</source>
+        <translation type="unfinished">Toutes les langues</translation>
+    </message>
+</context>
+<context>
     <name>NumberTexts</name>
     <message>
         <source>%1%</source>
@@ -1852,6 +2221,347 @@ Il repose sur Qt, FFmpeg et libass.</translation>
     <message>
         <source>No online subtitle service is set up; add its API key to the settings.</source>
         <translation type="unfinished">Aucun service de sous-titres en ligne n&apos;est configuré&#xa0;; ajoutez sa clé d&apos;API aux paramètres.</translation>
+    </message>
+    <message>
+        <source> (it says: &quot;%1&quot;)</source>
+        <translation type="unfinished"> (il répond&#xa0;: «&#xa0;%1&#xa0;»)</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again after %3.</source>
+        <translation type="unfinished">Vos téléchargements auprès du service %1 sont épuisés%2&#xa0;; téléchargez de nouveau après ce moment&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again in %3.</source>
+        <translation type="unfinished">Vos téléchargements auprès du service %1 sont épuisés%2&#xa0;; téléchargez de nouveau après ce délai&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again tomorrow.</source>
+        <translation type="unfinished">Vos téléchargements auprès du service %1 sont épuisés%2&#xa0;; téléchargez de nouveau demain.</translation>
+    </message>
+    <message>
+        <source>%1 was asked too often%2; wait %3 s and try again.</source>
+        <translation type="unfinished">Le service %1 a été trop souvent interrogé%2&#xa0;; attendez %3 s et réessayez.</translation>
+    </message>
+    <message>
+        <source>%1 was asked too often%2; try again in a minute.</source>
+        <translation type="unfinished">Le service %1 a été trop souvent interrogé%2&#xa0;; réessayez dans une minute.</translation>
+    </message>
+    <message>
+        <source>%1 did not accept the API key%2; set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
+        <translation type="unfinished">Le service %1 n&apos;a pas accepté la clé d&apos;API%2&#xa0;; fixez-en une valable comme KORVEX_OPENSUBTITLES_API_KEY dans l&apos;environnement ou comme api_key dans le fichier de configuration.</translation>
+    </message>
+    <message>
+        <source>%1 sent something else in place of the subtitle%2; choose another one, or try again later.</source>
+        <translation type="unfinished">Le service %1 a envoyé autre chose que le sous-titre%2&#xa0;; choisissez-en un autre ou réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>%1 is down or overloaded at the moment%2; try again later.</source>
+        <translation type="unfinished">Le service %1 est en panne ou surchargé en ce moment%2&#xa0;; réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>The subtitle could not be unpacked or stored in &quot;%1&quot;%2; choose another subtitle, or make sure that the folder may be written and has room.</source>
+        <translation type="unfinished">Le sous-titre n&apos;a pas pu être décompressé ou enregistré dans «&#xa0;%1&#xa0;»%2&#xa0;; choisissez-en un autre ou assurez-vous que le dossier est accessible en écriture et a de la place.</translation>
+    </message>
+    <message>
+        <source>%1 refused the request%2; ask for something else, or try again later.</source>
+        <translation type="unfinished">Le service %1 a refusé la demande%2&#xa0;; demandez autre chose ou réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>%1 points to other addresses without end, or to one that may not be used%2; check the address that is set for it, or try again later.</source>
+        <translation type="unfinished">Le service %1 renvoie sans fin à d&apos;autres adresses, ou à une adresse qui ne peut pas être utilisée%2&#xa0;; vérifiez l&apos;adresse fixée pour lui ou réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>The answer of %1 was empty, broke off or was too large; try again later.</source>
+        <translation type="unfinished">La réponse du service %1 était vide, interrompue ou trop grande&#xa0;; réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>The answer of %1 cannot be used%2; try again later.</source>
+        <translation type="unfinished">La réponse du service %1 est inutilisable%2&#xa0;; réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>%1 could not answer%2; try again later.</source>
+        <translation type="unfinished">Le service %1 n&apos;a pas pu répondre%2&#xa0;; réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>%1 could not answer%2; check the address that is set for it and the proxy, or try again later.</source>
+        <translation type="unfinished">Le service %1 n&apos;a pas pu répondre%2&#xa0;; vérifiez l&apos;adresse fixée pour lui et le proxy, ou réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>The connection to %1 failed%2; check the proxy and whether the service&apos;s certificate is valid, or try again later.</source>
+        <translation type="unfinished">La connexion au service %1 a échoué%2&#xa0;; vérifiez le proxy et la validité du certificat du service, ou réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>Another search or download has not ended yet; try again in a moment.</source>
+        <translation type="unfinished">Une autre recherche ou un autre téléchargement n&apos;est pas terminé&#xa0;; réessayez dans un instant.</translation>
+    </message>
+    <message>
+        <source>%1 cannot look for this%2; type a title or an IMDb id.</source>
+        <translation type="unfinished">Le service %1 ne peut pas chercher cela%2&#xa0;; tapez un titre ou un ID IMDb.</translation>
+    </message>
+    <message>
+        <source>%1 cannot search in this way; look for a title or an IMDb id.</source>
+        <translation type="unfinished">Le service %1 ne peut pas chercher de cette façon&#xa0;; cherchez un titre ou un ID IMDb.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be reached or did not answer in time; check the connection to the network and try again.</source>
+        <translation type="unfinished">Le service %1 est injoignable ou n&apos;a pas répondu à temps&#xa0;; vérifiez la connexion au réseau et réessayez.</translation>
+    </message>
+</context>
+<context>
+    <name>OnlineSearchDialogPresenter</name>
+    <message>
+        <source>same file</source>
+        <translation type="unfinished">même fichier</translation>
+    </message>
+    <message>
+        <source>same release group</source>
+        <translation type="unfinished">même groupe de diffusion</translation>
+    </message>
+    <message>
+        <source>same source</source>
+        <translation type="unfinished">même source</translation>
+    </message>
+    <message>
+        <source>same resolution</source>
+        <translation type="unfinished">même résolution</translation>
+    </message>
+    <message>
+        <source>same episode</source>
+        <translation type="unfinished">même épisode</translation>
+    </message>
+    <message>
+        <source>another episode</source>
+        <translation type="unfinished">autre épisode</translation>
+    </message>
+    <message>
+        <source>another film</source>
+        <translation type="unfinished">autre film</translation>
+    </message>
+    <message>
+        <source>Type a title or an IMDb id to search for.</source>
+        <translation type="unfinished">Tapez un titre ou un ID IMDb à rechercher.</translation>
+    </message>
+    <message>
+        <source>This is no IMDb id: type &quot;tt&quot; and digits, or leave it empty.</source>
+        <translation type="unfinished">Ce n&apos;est pas un ID IMDb&#xa0;: tapez «&#xa0;tt&#xa0;» et des chiffres, ou laissez le champ vide.</translation>
+    </message>
+    <message>
+        <source>The season is no number: type digits, or leave it empty.</source>
+        <translation type="unfinished">La saison n&apos;est pas un nombre&#xa0;: tapez des chiffres ou laissez le champ vide.</translation>
+    </message>
+    <message>
+        <source>The episode is no number: type digits, or leave it empty.</source>
+        <translation type="unfinished">L&apos;épisode n&apos;est pas un nombre&#xa0;: tapez des chiffres ou laissez le champ vide.</translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation type="unfinished">Recherche...</translation>
+    </message>
+    <message numerus="yes">
+        <source>Searching... %n found so far</source>
+        <translation type="unfinished">
+            <numerusform>Recherche... %n trouvé jusqu&apos;ici</numerusform>
+            <numerusform>Recherche... %n trouvés jusqu&apos;ici</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) found.</source>
+        <translation type="unfinished">
+            <numerusform>%n sous-titre trouvé.</numerusform>
+            <numerusform>%n sous-titres trouvés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>check the spelling of the title</source>
+        <translation type="unfinished">vérifiez l&apos;orthographe du titre</translation>
+    </message>
+    <message>
+        <source>type the title</source>
+        <translation type="unfinished">tapez le titre</translation>
+    </message>
+    <message>
+        <source>type the film&apos;s IMDb id</source>
+        <translation type="unfinished">tapez l&apos;ID IMDb du film</translation>
+    </message>
+    <message>
+        <source>check the IMDb id</source>
+        <translation type="unfinished">vérifiez l&apos;ID IMDb</translation>
+    </message>
+    <message>
+        <source>leave out the season and the episode</source>
+        <translation type="unfinished">omettez la saison et l&apos;épisode</translation>
+    </message>
+    <message>
+        <source>choose other languages</source>
+        <translation type="unfinished">choisissez d&apos;autres langues</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation type="unfinished">%1 ou %2</translation>
+    </message>
+    <message>
+        <source>No subtitles were found: %1.</source>
+        <translation type="unfinished">Aucun sous-titre trouvé&#xa0;: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Downloading %n subtitle(s)...</source>
+        <translation type="unfinished">
+            <numerusform>Téléchargement de %n sous-titre...</numerusform>
+            <numerusform>Téléchargement de %n sous-titres...</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) added to the film.</source>
+        <translation type="unfinished">
+            <numerusform>%n sous-titre ajouté au film.</numerusform>
+            <numerusform>%n sous-titres ajoutés au film.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n download(s) left.</source>
+        <translation type="unfinished">
+            <numerusform>Il reste %n téléchargement.</numerusform>
+            <numerusform>Il reste %n téléchargements.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Waiting for the last request to end...</source>
+        <translation type="unfinished">Attente de la fin de la dernière demande...</translation>
+    </message>
+    <message>
+        <source>The search was cancelled.</source>
+        <translation type="unfinished">La recherche a été annulée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The search was cancelled; %n subtitle(s) found.</source>
+        <translation type="unfinished">
+            <numerusform>La recherche a été annulée&#xa0;; %n sous-titre trouvé.</numerusform>
+            <numerusform>La recherche a été annulée&#xa0;; %n sous-titres trouvés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The download was cancelled.</source>
+        <translation type="unfinished">Le téléchargement a été annulé.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>ResultList</name>
+    <message>
+        <source>Machine</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Machine</translation>
+    </message>
+    <message>
+        <source>Translated by a machine</source>
+        <translation type="unfinished">Traduit par une machine</translation>
+    </message>
+    <message>
+        <source>Foreign</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Étranger</translation>
+    </message>
+    <message>
+        <source>Only what is spoken in a foreign language</source>
+        <translation type="unfinished">Seulement ce qui est dit dans une langue étrangère</translation>
+    </message>
+    <message>
+        <source>HI</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">SME</translation>
+    </message>
+    <message>
+        <source>For the hearing impaired: sounds are described</source>
+        <translation type="unfinished">Pour sourds et malentendants&#xa0;: les sons sont décrits</translation>
+    </message>
+    <message>
+        <source>Trusted</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Fiable</translation>
+    </message>
+    <message>
+        <source>From an uploader whom the service trusts</source>
+        <translation type="unfinished">D&apos;un contributeur en qui le service a confiance</translation>
+    </message>
+    <message>
+        <source>CD %1/%2</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">CD %1/%2</translation>
+    </message>
+    <message>
+        <source>Part %1 of %2; all parts are downloaded</source>
+        <translation type="unfinished">Partie %1 sur %2&#xa0;; toutes les parties sont téléchargées</translation>
+    </message>
+    <message>
+        <source>HD</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">HD</translation>
+    </message>
+    <message>
+        <source>Made for a release in high definition</source>
+        <translation type="unfinished">Fait pour une version en haute définition</translation>
+    </message>
+    <message>
+        <source>Made for this file or release</source>
+        <translation type="unfinished">Fait pour ce fichier ou cette version</translation>
+    </message>
+    <message>
+        <source>For this film, perhaps for another cut of it</source>
+        <translation type="unfinished">Pour ce film, peut-être pour un autre montage</translation>
+    </message>
+    <message>
+        <source>For another film or episode</source>
+        <translation type="unfinished">Pour un autre film ou épisode</translation>
+    </message>
+    <message>
+        <source>It is not known how well it fits</source>
+        <translation type="unfinished">On ne sait pas s&apos;il convient</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished">Nom</translation>
+    </message>
+    <message>
+        <source>Match</source>
+        <translation type="unfinished">Correspondance</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished">Langue</translation>
+    </message>
+    <message>
+        <source>Marks</source>
+        <translation type="unfinished">Marques</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation type="unfinished">Téléchargements</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation type="unfinished">Note</translation>
+    </message>
+    <message>
+        <source>Uploaded</source>
+        <translation type="unfinished">Mis en ligne</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation type="unfinished">Format</translation>
+    </message>
+    <message>
+        <source>Release: %1</source>
+        <translation type="unfinished">Version&#xa0;: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of 10, by %n vote(s)</source>
+        <translation type="unfinished">
+            <numerusform>%1 sur 10, avec %n vote</numerusform>
+            <numerusform>%1 sur 10, avec %n votes</numerusform>
+        </translation>
     </message>
 </context>
 <context>

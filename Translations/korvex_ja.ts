@@ -473,6 +473,40 @@
     </message>
 </context>
 <context>
+    <name>Korvex::Converter::Subtitles::Details::AutocompleteField</name>
+    <message>
+        <source>Film or series</source>
+        <translation type="unfinished">映画またはシリーズ</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished">タイトル</translation>
+    </message>
+    <message>
+        <source>Suggested titles</source>
+        <translation type="unfinished">タイトルの候補</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::ImdbIdValidator</name>
+    <message numerus="yes">
+        <source>The IMDb id is too short: it has at least %n digit(s), as in tt0123456.</source>
+        <translation type="unfinished">
+            <numerusform>IMDb ID が短すぎます。数字は tt0123456 のように最低 %n 桁です。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The IMDb id is too long: it has at most %n digit(s).</source>
+        <translation type="unfinished">
+            <numerusform>IMDb ID が長すぎます。数字は最大 %n 桁です。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is no IMDb id: type &quot;tt&quot; and a number, or the number alone, as in tt0123456.</source>
+        <translation type="unfinished">これは IMDb ID ではありません。tt0123456 のように「tt」と番号、または番号だけを入力してください。</translation>
+    </message>
+</context>
+<context>
     <name>Korvex::Converter::Subtitles::Details::ItemPanel</name>
     <message>
         <source>Subtitles of this film</source>
@@ -505,6 +539,174 @@
     <message>
         <source>Done</source>
         <translation type="unfinished">完了</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::LanguageSelector</name>
+    <message>
+        <source>Languages: %1</source>
+        <translation type="unfinished">言語: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::LanguageSelectorList</name>
+    <message>
+        <source>Languages to search in</source>
+        <translation type="unfinished">検索する言語</translation>
+    </message>
+    <message>
+        <source>Find a language</source>
+        <translation type="unfinished">言語を探す</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindow</name>
+    <message>
+        <source>Type a title and press &quot;Search&quot;.</source>
+        <translation type="unfinished">タイトルを入力して「検索」を押してください。</translation>
+    </message>
+    <message>
+        <source>Find subtitles</source>
+        <translation type="unfinished">字幕を探す</translation>
+    </message>
+    <message>
+        <source>Find subtitles: %1</source>
+        <translation type="unfinished">字幕を探す: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindowFields</name>
+    <message>
+        <source>&amp;Title</source>
+        <translation type="unfinished">タイトル(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Season</source>
+        <translation type="unfinished">シーズン(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation type="unfinished">シーズン</translation>
+    </message>
+    <message>
+        <source>&amp;Episode</source>
+        <translation type="unfinished">エピソード(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Episode</source>
+        <translation type="unfinished">エピソード</translation>
+    </message>
+    <message>
+        <source>&amp;Episode...</source>
+        <translation type="unfinished">エピソード(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Search for an episode of a series</source>
+        <translation type="unfinished">シリーズのエピソードを検索します</translation>
+    </message>
+    <message>
+        <source>Sea&amp;rch</source>
+        <translation type="unfinished">検索(&amp;R)</translation>
+    </message>
+    <message>
+        <source>I&amp;MDb id</source>
+        <translation type="unfinished">IMDb ID(&amp;M)</translation>
+    </message>
+    <message>
+        <source>IMDb id</source>
+        <translation type="unfinished">IMDb ID</translation>
+    </message>
+    <message>
+        <source>The film&apos;s number at IMDb, as in tt0123456</source>
+        <translation type="unfinished">IMDb での映画の番号（例：tt0123456）</translation>
+    </message>
+    <message>
+        <source>&amp;Languages</source>
+        <translation type="unfinished">言語(&amp;L)</translation>
+    </message>
+    <message>
+        <source>E&amp;xactly this file</source>
+        <translation type="unfinished">このファイルだけ(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Finds subtitles by the fingerprint of the file, whatever its name is</source>
+        <translation type="unfinished">ファイル名に関係なく、ファイルのフィンガープリントで字幕を探します</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindowStatus</name>
+    <message>
+        <source>Searching...</source>
+        <translation type="unfinished">検索しています...</translation>
+    </message>
+    <message>
+        <source>Downloading...</source>
+        <translation type="unfinished">ダウンロードしています...</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation type="unfinished">キャンセルしています...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) found</source>
+        <translation type="unfinished">
+            <numerusform>字幕が %n 件見つかりました</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished">キャンセル(&amp;C)</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Download %n</source>
+        <translation type="unfinished">
+            <numerusform>%n 件をダウンロード(&amp;D)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Download</source>
+        <translation type="unfinished">ダウンロード(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::ResultList</name>
+    <message>
+        <source>Smallest first; press to turn it round</source>
+        <translation type="unfinished">小さい順。押すと逆にします</translation>
+    </message>
+    <message>
+        <source>Largest first; press to turn it round</source>
+        <translation type="unfinished">大きい順。押すと逆にします</translation>
+    </message>
+    <message numerus="yes">
+        <source>None of the %n subtitle(s) found holds &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform>見つかった %n 件の字幕に「%1」を含むものはありません。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Best match</source>
+        <translation type="unfinished">一致度</translation>
+    </message>
+    <message>
+        <source>Subtitles found</source>
+        <translation type="unfinished">見つかった字幕</translation>
+    </message>
+    <message>
+        <source>Filter the list</source>
+        <translation type="unfinished">一覧を絞り込む</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by</source>
+        <translation type="unfinished">並べ替え(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation type="unfinished">並べ替え</translation>
     </message>
 </context>
 <context>
@@ -620,6 +822,10 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <source>Add</source>
         <translation type="unfinished">追加</translation>
     </message>
+    <message>
+        <source>S&amp;ettings...</source>
+        <translation type="unfinished">設定(&amp;E)...</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>
@@ -728,6 +934,23 @@ Qt、FFmpeg、libass を利用しています。</translation>
     <message>
         <source>Folders work too. Subtitle files beside a film are found automatically.</source>
         <translation type="unfinished">フォルダーも使えます。映画と同じ場所の字幕ファイルは自動で見つかります。</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::FetchedSubtitles</name>
+    <message>
+        <source>&quot;%1&quot; was added to &quot;%2&quot;.</source>
+        <translation type="unfinished">「%1」を「%2」に追加しました。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle file(s) were added to &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform>字幕ファイル %n 個を「%1」に追加しました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished">元に戻す</translation>
     </message>
 </context>
 <context>
@@ -1259,6 +1482,139 @@ Qt、FFmpeg、libass を利用しています。</translation>
     <message>
         <source>The list of films could not be saved in &quot;%1&quot; (%2): check that you may write there.</source>
         <translation type="unfinished">映画の一覧を「%1」に保存できませんでした (%2)。書き込み権限を確認してください。</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished">設定</translation>
+    </message>
+    <message>
+        <source>Online service</source>
+        <translation type="unfinished">オンラインサービス</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation type="unfinished">統計</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished">OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsOnlinePage</name>
+    <message>
+        <source>version 1 of OpenSubtitles, because an API key is set.</source>
+        <translation type="unfinished">OpenSubtitles のバージョン 1（API キーが設定されているため）。</translation>
+    </message>
+    <message>
+        <source>version 1 of OpenSubtitles, because the configuration file says so. It answers nobody without an API key: enter one below.</source>
+        <translation type="unfinished">OpenSubtitles のバージョン 1（設定ファイルの指定による）。API キーがないと応答しません。下に入力してください。</translation>
+    </message>
+    <message>
+        <source>the older interface of OpenSubtitles, because the configuration file says so. The API key is not used.</source>
+        <translation type="unfinished">OpenSubtitles の旧インターフェイス（設定ファイルの指定による）。API キーは使われません。</translation>
+    </message>
+    <message>
+        <source>the older interface of OpenSubtitles, because no API key is set.</source>
+        <translation type="unfinished">OpenSubtitles の旧インターフェイス（API キーが設定されていないため）。</translation>
+    </message>
+    <message>
+        <source>API &amp;key:</source>
+        <translation type="unfinished">API キー(&amp;K):</translation>
+    </message>
+    <message>
+        <source>API key</source>
+        <translation type="unfinished">API キー</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation type="unfinished">表示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Fetched &amp;files:</source>
+        <translation type="unfinished">ダウンロード先(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Folder for fetched files</source>
+        <translation type="unfinished">ダウンロードしたファイルのフォルダー</translation>
+    </message>
+    <message>
+        <source>&amp;Choose...</source>
+        <translation type="unfinished">選択(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>&amp;Usual folder</source>
+        <translation type="unfinished">既定のフォルダー(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Version 1:</source>
+        <translation type="unfinished">バージョン 1:</translation>
+    </message>
+    <message>
+        <source>Older interface:</source>
+        <translation type="unfinished">旧インターフェイス:</translation>
+    </message>
+    <message>
+        <source>The addresses are set in the configuration file &quot;%1&quot;.</source>
+        <translation type="unfinished">アドレスは設定ファイル「%1」で指定します。</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation type="unfinished">使用中: %1</translation>
+    </message>
+    <message>
+        <source>From the next start of the program on: %1</source>
+        <translation type="unfinished">次回のプログラム起動時から: %1</translation>
+    </message>
+    <message>
+        <source>Folder for fetched subtitle files</source>
+        <translation type="unfinished">ダウンロードした字幕ファイルのフォルダー</translation>
+    </message>
+    <message>
+        <source>It comes from the account pages of opensubtitles.com, is kept in the configuration file, and is used from the next start on.</source>
+        <translation type="unfinished">opensubtitles.com のアカウントページで取得します。設定ファイルに保存され、次回の起動時から使われます。</translation>
+    </message>
+    <message>
+        <source>The variable %1 of the environment sets it.</source>
+        <translation type="unfinished">環境変数 %1 で指定されています。</translation>
+    </message>
+    <message>
+        <source>This is no API key: a key has no blanks and no special characters. Copy it again.</source>
+        <translation type="unfinished">これは API キーではありません。キーに空白や特殊文字は含まれません。もう一度コピーしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsStatisticsPage</name>
+    <message>
+        <source>If you agree, the program counts how the online search is used: from where it is opened, which fields are filled in, how many searches find something, nothing or fail, and how many files are fetched. Names, folders and what you type are never recorded. The record stays on this computer; it is sent to nobody.</source>
+        <translation type="unfinished">同意すると、オンライン検索の使われ方を数えます。どこから開かれたか、どの項目が入力されたか、何かが見つかった検索、何も見つからなかった検索、失敗した検索の数、ダウンロードしたファイルの数です。名前、フォルダー、入力内容は決して記録しません。記録はこのコンピューターに残り、誰にも送信されません。</translation>
+    </message>
+    <message>
+        <source>&amp;Count how the online search is used</source>
+        <translation type="unfinished">オンライン検索の使われ方を数える(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Recorded in &quot;%1&quot;:</source>
+        <translation type="unfinished">「%1」の記録(&amp;R):</translation>
+    </message>
+    <message>
+        <source>Nothing has been recorded.</source>
+        <translation type="unfinished">何も記録されていません。</translation>
+    </message>
+    <message>
+        <source>What has been recorded</source>
+        <translation type="unfinished">記録された内容</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished">削除(&amp;D)</translation>
     </message>
 </context>
 <context>
@@ -1823,6 +2179,13 @@ Qt、FFmpeg、libass を利用しています。</translation>
     </message>
 </context>
 <context>
+    <name>LanguageSelector</name>
+    <message>
+        <source>All languages</source>
+        <translation type="unfinished">すべての言語</translation>
+    </message>
+</context>
+<context>
     <name>NumberTexts</name>
     <message>
         <source>%1%</source>
@@ -1835,6 +2198,340 @@ Qt、FFmpeg、libass を利用しています。</translation>
     <message>
         <source>No online subtitle service is set up; add its API key to the settings.</source>
         <translation type="unfinished">オンライン字幕サービスが設定されていません。設定に API キーを追加してください。</translation>
+    </message>
+    <message>
+        <source> (it says: &quot;%1&quot;)</source>
+        <translation type="unfinished"> （応答：「%1」）</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again after %3.</source>
+        <translation type="unfinished">%1 でのダウンロード回数を使い切りました%2。%3 以降にもう一度ダウンロードしてください。</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again in %3.</source>
+        <translation type="unfinished">%1 でのダウンロード回数を使い切りました%2。次の時間が過ぎてからもう一度ダウンロードしてください: %3。</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again tomorrow.</source>
+        <translation type="unfinished">%1 でのダウンロード回数を使い切りました%2。明日もう一度ダウンロードしてください。</translation>
+    </message>
+    <message>
+        <source>%1 was asked too often%2; wait %3 s and try again.</source>
+        <translation type="unfinished">%1 への要求が多すぎます%2。%3 秒待ってからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>%1 was asked too often%2; try again in a minute.</source>
+        <translation type="unfinished">%1 への要求が多すぎます%2。1 分後にもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>%1 did not accept the API key%2; set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
+        <translation type="unfinished">%1 は API キーを受け付けませんでした%2。有効なキーを環境変数 KORVEX_OPENSUBTITLES_API_KEY または設定ファイルの api_key に設定してください。</translation>
+    </message>
+    <message>
+        <source>%1 sent something else in place of the subtitle%2; choose another one, or try again later.</source>
+        <translation type="unfinished">%1 から字幕ではないものが送られてきました%2。別の字幕を選ぶか、しばらくしてからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>%1 is down or overloaded at the moment%2; try again later.</source>
+        <translation type="unfinished">%1 は現在停止中か混雑しています%2。しばらくしてからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The subtitle could not be unpacked or stored in &quot;%1&quot;%2; choose another subtitle, or make sure that the folder may be written and has room.</source>
+        <translation type="unfinished">字幕を展開できないか、「%1」に保存できませんでした%2。別の字幕を選ぶか、フォルダーに書き込めて空きがあることを確認してください。</translation>
+    </message>
+    <message>
+        <source>%1 refused the request%2; ask for something else, or try again later.</source>
+        <translation type="unfinished">%1 は要求を拒否しました%2。別のものを指定するか、しばらくしてからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>%1 points to other addresses without end, or to one that may not be used%2; check the address that is set for it, or try again later.</source>
+        <translation type="unfinished">%1 は別のアドレスへの転送を繰り返すか、使えないアドレスに転送しています%2。設定されたアドレスを確認するか、しばらくしてからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The answer of %1 was empty, broke off or was too large; try again later.</source>
+        <translation type="unfinished">%1 の応答が空か、途中で切れたか、大きすぎました。しばらくしてからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The answer of %1 cannot be used%2; try again later.</source>
+        <translation type="unfinished">%1 の応答は使えません%2。しばらくしてからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>%1 could not answer%2; try again later.</source>
+        <translation type="unfinished">%1 は応答できませんでした%2。しばらくしてからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>%1 could not answer%2; check the address that is set for it and the proxy, or try again later.</source>
+        <translation type="unfinished">%1 は応答できませんでした%2。設定されたアドレスとプロキシを確認するか、しばらくしてからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The connection to %1 failed%2; check the proxy and whether the service&apos;s certificate is valid, or try again later.</source>
+        <translation type="unfinished">%1 への接続に失敗しました%2。プロキシとサービスの証明書が有効かどうかを確認するか、しばらくしてからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Another search or download has not ended yet; try again in a moment.</source>
+        <translation type="unfinished">別の検索またはダウンロードがまだ終わっていません。少し待ってからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>%1 cannot look for this%2; type a title or an IMDb id.</source>
+        <translation type="unfinished">%1 ではこれを検索できません%2。タイトルか IMDb ID を入力してください。</translation>
+    </message>
+    <message>
+        <source>%1 cannot search in this way; look for a title or an IMDb id.</source>
+        <translation type="unfinished">%1 ではこの方法で検索できません。タイトルか IMDb ID で検索してください。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be reached or did not answer in time; check the connection to the network and try again.</source>
+        <translation type="unfinished">%1 に接続できないか、時間内に応答がありませんでした。ネットワーク接続を確認してもう一度お試しください。</translation>
+    </message>
+</context>
+<context>
+    <name>OnlineSearchDialogPresenter</name>
+    <message>
+        <source>same file</source>
+        <translation type="unfinished">同じファイル</translation>
+    </message>
+    <message>
+        <source>same release group</source>
+        <translation type="unfinished">同じリリースグループ</translation>
+    </message>
+    <message>
+        <source>same source</source>
+        <translation type="unfinished">同じソース</translation>
+    </message>
+    <message>
+        <source>same resolution</source>
+        <translation type="unfinished">同じ解像度</translation>
+    </message>
+    <message>
+        <source>same episode</source>
+        <translation type="unfinished">同じエピソード</translation>
+    </message>
+    <message>
+        <source>another episode</source>
+        <translation type="unfinished">別のエピソード</translation>
+    </message>
+    <message>
+        <source>another film</source>
+        <translation type="unfinished">別の映画</translation>
+    </message>
+    <message>
+        <source>Type a title or an IMDb id to search for.</source>
+        <translation type="unfinished">検索するタイトルか IMDb ID を入力してください。</translation>
+    </message>
+    <message>
+        <source>This is no IMDb id: type &quot;tt&quot; and digits, or leave it empty.</source>
+        <translation type="unfinished">これは IMDb ID ではありません。「tt」と数字を入力するか、空欄にしてください。</translation>
+    </message>
+    <message>
+        <source>The season is no number: type digits, or leave it empty.</source>
+        <translation type="unfinished">シーズンが数字ではありません。数字を入力するか、空欄にしてください。</translation>
+    </message>
+    <message>
+        <source>The episode is no number: type digits, or leave it empty.</source>
+        <translation type="unfinished">エピソードが数字ではありません。数字を入力するか、空欄にしてください。</translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation type="unfinished">検索しています...</translation>
+    </message>
+    <message numerus="yes">
+        <source>Searching... %n found so far</source>
+        <translation type="unfinished">
+            <numerusform>検索しています... これまでに %n 件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) found.</source>
+        <translation type="unfinished">
+            <numerusform>字幕が %n 件見つかりました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>check the spelling of the title</source>
+        <translation type="unfinished">タイトルのつづりの確認</translation>
+    </message>
+    <message>
+        <source>type the title</source>
+        <translation type="unfinished">タイトルの入力</translation>
+    </message>
+    <message>
+        <source>type the film&apos;s IMDb id</source>
+        <translation type="unfinished">映画の IMDb ID の入力</translation>
+    </message>
+    <message>
+        <source>check the IMDb id</source>
+        <translation type="unfinished">IMDb ID の確認</translation>
+    </message>
+    <message>
+        <source>leave out the season and the episode</source>
+        <translation type="unfinished">シーズンとエピソードの省略</translation>
+    </message>
+    <message>
+        <source>choose other languages</source>
+        <translation type="unfinished">他の言語の選択</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation type="unfinished">%1、または%2</translation>
+    </message>
+    <message>
+        <source>No subtitles were found: %1.</source>
+        <translation type="unfinished">字幕が見つかりませんでした。次をお試しください：%1。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Downloading %n subtitle(s)...</source>
+        <translation type="unfinished">
+            <numerusform>字幕 %n 件をダウンロードしています...</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) added to the film.</source>
+        <translation type="unfinished">
+            <numerusform>字幕 %n 件を映画に追加しました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n download(s) left.</source>
+        <translation type="unfinished">
+            <numerusform>残りのダウンロードは %n 回です。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Waiting for the last request to end...</source>
+        <translation type="unfinished">最後の要求の終了を待っています...</translation>
+    </message>
+    <message>
+        <source>The search was cancelled.</source>
+        <translation type="unfinished">検索をキャンセルしました。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The search was cancelled; %n subtitle(s) found.</source>
+        <translation type="unfinished">
+            <numerusform>検索をキャンセルしました。字幕は %n 件見つかりました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The download was cancelled.</source>
+        <translation type="unfinished">ダウンロードをキャンセルしました。</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1、%2</translation>
+    </message>
+</context>
+<context>
+    <name>ResultList</name>
+    <message>
+        <source>Machine</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">機械翻訳</translation>
+    </message>
+    <message>
+        <source>Translated by a machine</source>
+        <translation type="unfinished">機械で翻訳されたもの</translation>
+    </message>
+    <message>
+        <source>Foreign</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">外国語</translation>
+    </message>
+    <message>
+        <source>Only what is spoken in a foreign language</source>
+        <translation type="unfinished">外国語で話される部分だけ</translation>
+    </message>
+    <message>
+        <source>HI</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">聴覚障害</translation>
+    </message>
+    <message>
+        <source>For the hearing impaired: sounds are described</source>
+        <translation type="unfinished">聴覚障害者向け：音も説明されています</translation>
+    </message>
+    <message>
+        <source>Trusted</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">信頼</translation>
+    </message>
+    <message>
+        <source>From an uploader whom the service trusts</source>
+        <translation type="unfinished">サービスが信頼する投稿者によるもの</translation>
+    </message>
+    <message>
+        <source>CD %1/%2</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">CD %1/%2</translation>
+    </message>
+    <message>
+        <source>Part %1 of %2; all parts are downloaded</source>
+        <translation type="unfinished">%2 パート中のパート %1。すべてのパートをダウンロードします</translation>
+    </message>
+    <message>
+        <source>HD</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">HD</translation>
+    </message>
+    <message>
+        <source>Made for a release in high definition</source>
+        <translation type="unfinished">高解像度のリリース用</translation>
+    </message>
+    <message>
+        <source>Made for this file or release</source>
+        <translation type="unfinished">このファイルまたはリリース用</translation>
+    </message>
+    <message>
+        <source>For this film, perhaps for another cut of it</source>
+        <translation type="unfinished">この映画用。ただし別の編集版向けかもしれません</translation>
+    </message>
+    <message>
+        <source>For another film or episode</source>
+        <translation type="unfinished">別の映画またはエピソード用</translation>
+    </message>
+    <message>
+        <source>It is not known how well it fits</source>
+        <translation type="unfinished">どの程度合うかは不明です</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished">名前</translation>
+    </message>
+    <message>
+        <source>Match</source>
+        <translation type="unfinished">一致</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished">言語</translation>
+    </message>
+    <message>
+        <source>Marks</source>
+        <translation type="unfinished">印</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation type="unfinished">ダウンロード数</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation type="unfinished">評価</translation>
+    </message>
+    <message>
+        <source>Uploaded</source>
+        <translation type="unfinished">投稿日</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation type="unfinished">形式</translation>
+    </message>
+    <message>
+        <source>Release: %1</source>
+        <translation type="unfinished">リリース: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of 10, by %n vote(s)</source>
+        <translation type="unfinished">
+            <numerusform>10 点中 %1 点、%n 票</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -489,6 +489,44 @@
     </message>
 </context>
 <context>
+    <name>Korvex::Converter::Subtitles::Details::AutocompleteField</name>
+    <message>
+        <source>Film or series</source>
+        <translation type="unfinished">Film lub serial</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished">Tytuł</translation>
+    </message>
+    <message>
+        <source>Suggested titles</source>
+        <translation type="unfinished">Podpowiadane tytuły</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::ImdbIdValidator</name>
+    <message numerus="yes">
+        <source>The IMDb id is too short: it has at least %n digit(s), as in tt0123456.</source>
+        <translation type="unfinished">
+            <numerusform>Numer IMDb jest za krótki: ma co najmniej %n cyfrę, jak w tt0123456.</numerusform>
+            <numerusform>Numer IMDb jest za krótki: ma co najmniej %n cyfry, jak w tt0123456.</numerusform>
+            <numerusform>Numer IMDb jest za krótki: ma co najmniej %n cyfr, jak w tt0123456.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The IMDb id is too long: it has at most %n digit(s).</source>
+        <translation type="unfinished">
+            <numerusform>Numer IMDb jest za długi: ma najwyżej %n cyfrę.</numerusform>
+            <numerusform>Numer IMDb jest za długi: ma najwyżej %n cyfry.</numerusform>
+            <numerusform>Numer IMDb jest za długi: ma najwyżej %n cyfr.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is no IMDb id: type &quot;tt&quot; and a number, or the number alone, as in tt0123456.</source>
+        <translation type="unfinished">To nie jest numer IMDb: wpisz „tt” i liczbę lub samą liczbę, jak w tt0123456.</translation>
+    </message>
+</context>
+<context>
     <name>Korvex::Converter::Subtitles::Details::ItemPanel</name>
     <message>
         <source>Subtitles of this film</source>
@@ -521,6 +559,180 @@
     <message>
         <source>Done</source>
         <translation type="unfinished">Gotowe</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::LanguageSelector</name>
+    <message>
+        <source>Languages: %1</source>
+        <translation type="unfinished">Języki: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::LanguageSelectorList</name>
+    <message>
+        <source>Languages to search in</source>
+        <translation type="unfinished">Języki wyszukiwania</translation>
+    </message>
+    <message>
+        <source>Find a language</source>
+        <translation type="unfinished">Znajdź język</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindow</name>
+    <message>
+        <source>Type a title and press &quot;Search&quot;.</source>
+        <translation type="unfinished">Wpisz tytuł i naciśnij „Szukaj”.</translation>
+    </message>
+    <message>
+        <source>Find subtitles</source>
+        <translation type="unfinished">Znajdź napisy</translation>
+    </message>
+    <message>
+        <source>Find subtitles: %1</source>
+        <translation type="unfinished">Znajdź napisy: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindowFields</name>
+    <message>
+        <source>&amp;Title</source>
+        <translation type="unfinished">&amp;Tytuł</translation>
+    </message>
+    <message>
+        <source>&amp;Season</source>
+        <translation type="unfinished">&amp;Sezon</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation type="unfinished">Sezon</translation>
+    </message>
+    <message>
+        <source>&amp;Episode</source>
+        <translation type="unfinished">&amp;Odcinek</translation>
+    </message>
+    <message>
+        <source>Episode</source>
+        <translation type="unfinished">Odcinek</translation>
+    </message>
+    <message>
+        <source>&amp;Episode...</source>
+        <translation type="unfinished">&amp;Odcinek...</translation>
+    </message>
+    <message>
+        <source>Search for an episode of a series</source>
+        <translation type="unfinished">Szukaj odcinka serialu</translation>
+    </message>
+    <message>
+        <source>Sea&amp;rch</source>
+        <translation type="unfinished">S&amp;zukaj</translation>
+    </message>
+    <message>
+        <source>I&amp;MDb id</source>
+        <translation type="unfinished">Numer I&amp;MDb</translation>
+    </message>
+    <message>
+        <source>IMDb id</source>
+        <translation type="unfinished">Numer IMDb</translation>
+    </message>
+    <message>
+        <source>The film&apos;s number at IMDb, as in tt0123456</source>
+        <translation type="unfinished">Numer filmu w IMDb, jak w tt0123456</translation>
+    </message>
+    <message>
+        <source>&amp;Languages</source>
+        <translation type="unfinished">&amp;Języki</translation>
+    </message>
+    <message>
+        <source>E&amp;xactly this file</source>
+        <translation type="unfinished">&amp;Dokładnie ten plik</translation>
+    </message>
+    <message>
+        <source>Finds subtitles by the fingerprint of the file, whatever its name is</source>
+        <translation type="unfinished">Znajduje napisy według odcisku pliku, niezależnie od jego nazwy</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindowStatus</name>
+    <message>
+        <source>Searching...</source>
+        <translation type="unfinished">Szukanie...</translation>
+    </message>
+    <message>
+        <source>Downloading...</source>
+        <translation type="unfinished">Pobieranie...</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation type="unfinished">Anulowanie...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) found</source>
+        <translation type="unfinished">
+            <numerusform>Znaleziono %n napisy</numerusform>
+            <numerusform>Znaleziono %n napisy</numerusform>
+            <numerusform>Znaleziono %n napisów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished">&amp;Anuluj</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Download %n</source>
+        <translation type="unfinished">
+            <numerusform>&amp;Pobierz %n</numerusform>
+            <numerusform>&amp;Pobierz %n</numerusform>
+            <numerusform>&amp;Pobierz %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Download</source>
+        <translation type="unfinished">&amp;Pobierz</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Zamknij</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::ResultList</name>
+    <message>
+        <source>Smallest first; press to turn it round</source>
+        <translation type="unfinished">Od najmniejszych; naciśnij, aby odwrócić</translation>
+    </message>
+    <message>
+        <source>Largest first; press to turn it round</source>
+        <translation type="unfinished">Od największych; naciśnij, aby odwrócić</translation>
+    </message>
+    <message numerus="yes">
+        <source>None of the %n subtitle(s) found holds &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform>Znaleziono %n napisy, ale bez „%1”.</numerusform>
+            <numerusform>Znaleziono %n napisy, ale żadne nie zawierają „%1”.</numerusform>
+            <numerusform>Znaleziono %n napisów, ale żadne nie zawierają „%1”.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Best match</source>
+        <translation type="unfinished">Najlepsze trafienia</translation>
+    </message>
+    <message>
+        <source>Subtitles found</source>
+        <translation type="unfinished">Znalezione napisy</translation>
+    </message>
+    <message>
+        <source>Filter the list</source>
+        <translation type="unfinished">Filtruj listę</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by</source>
+        <translation type="unfinished">So&amp;rtuj według</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation type="unfinished">Sortuj według</translation>
     </message>
 </context>
 <context>
@@ -636,6 +848,10 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <source>Add</source>
         <translation type="unfinished">Dodaj</translation>
     </message>
+    <message>
+        <source>S&amp;ettings...</source>
+        <translation type="unfinished">&amp;Ustawienia...</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>
@@ -744,6 +960,25 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
     <message>
         <source>Folders work too. Subtitle files beside a film are found automatically.</source>
         <translation type="unfinished">Foldery też działają. Pliki napisów obok filmu są znajdowane automatycznie.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::FetchedSubtitles</name>
+    <message>
+        <source>&quot;%1&quot; was added to &quot;%2&quot;.</source>
+        <translation type="unfinished">Dodano „%1” do „%2”.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle file(s) were added to &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform>Dodano %n plik z napisami do „%1”.</numerusform>
+            <numerusform>Dodano %n pliki z napisami do „%1”.</numerusform>
+            <numerusform>Dodano %n plików z napisami do „%1”.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished">Cofnij</translation>
     </message>
 </context>
 <context>
@@ -1287,6 +1522,139 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
     <message>
         <source>The list of films could not be saved in &quot;%1&quot; (%2): check that you may write there.</source>
         <translation type="unfinished">Listy filmów nie dało się zapisać w „%1” (%2): sprawdź, czy masz tam prawo zapisu.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished">Ustawienia</translation>
+    </message>
+    <message>
+        <source>Online service</source>
+        <translation type="unfinished">Usługa internetowa</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation type="unfinished">Statystyki</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished">OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Anuluj</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsOnlinePage</name>
+    <message>
+        <source>version 1 of OpenSubtitles, because an API key is set.</source>
+        <translation type="unfinished">wersja 1 OpenSubtitles, bo ustawiono klucz API.</translation>
+    </message>
+    <message>
+        <source>version 1 of OpenSubtitles, because the configuration file says so. It answers nobody without an API key: enter one below.</source>
+        <translation type="unfinished">wersja 1 OpenSubtitles, bo tak mówi plik konfiguracyjny. Bez klucza API nie odpowiada nikomu: wpisz go poniżej.</translation>
+    </message>
+    <message>
+        <source>the older interface of OpenSubtitles, because the configuration file says so. The API key is not used.</source>
+        <translation type="unfinished">starszy interfejs OpenSubtitles, bo tak mówi plik konfiguracyjny. Klucz API nie jest używany.</translation>
+    </message>
+    <message>
+        <source>the older interface of OpenSubtitles, because no API key is set.</source>
+        <translation type="unfinished">starszy interfejs OpenSubtitles, bo nie ustawiono klucza API.</translation>
+    </message>
+    <message>
+        <source>API &amp;key:</source>
+        <translation type="unfinished">&amp;Klucz API:</translation>
+    </message>
+    <message>
+        <source>API key</source>
+        <translation type="unfinished">Klucz API</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation type="unfinished">P&amp;okaż</translation>
+    </message>
+    <message>
+        <source>Fetched &amp;files:</source>
+        <translation type="unfinished">&amp;Pobrane pliki:</translation>
+    </message>
+    <message>
+        <source>Folder for fetched files</source>
+        <translation type="unfinished">Folder na pobrane pliki</translation>
+    </message>
+    <message>
+        <source>&amp;Choose...</source>
+        <translation type="unfinished">&amp;Wybierz...</translation>
+    </message>
+    <message>
+        <source>&amp;Usual folder</source>
+        <translation type="unfinished">&amp;Zwykły folder</translation>
+    </message>
+    <message>
+        <source>Version 1:</source>
+        <translation type="unfinished">Wersja 1:</translation>
+    </message>
+    <message>
+        <source>Older interface:</source>
+        <translation type="unfinished">Starszy interfejs:</translation>
+    </message>
+    <message>
+        <source>The addresses are set in the configuration file &quot;%1&quot;.</source>
+        <translation type="unfinished">Adresy ustawia się w pliku konfiguracyjnym „%1”.</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation type="unfinished">W użyciu: %1</translation>
+    </message>
+    <message>
+        <source>From the next start of the program on: %1</source>
+        <translation type="unfinished">Od następnego uruchomienia programu: %1</translation>
+    </message>
+    <message>
+        <source>Folder for fetched subtitle files</source>
+        <translation type="unfinished">Folder na pobrane pliki z napisami</translation>
+    </message>
+    <message>
+        <source>It comes from the account pages of opensubtitles.com, is kept in the configuration file, and is used from the next start on.</source>
+        <translation type="unfinished">Pochodzi ze stron konta w opensubtitles.com, jest przechowywany w pliku konfiguracyjnym i używany od następnego uruchomienia.</translation>
+    </message>
+    <message>
+        <source>The variable %1 of the environment sets it.</source>
+        <translation type="unfinished">Ustawia go zmienna środowiskowa %1.</translation>
+    </message>
+    <message>
+        <source>This is no API key: a key has no blanks and no special characters. Copy it again.</source>
+        <translation type="unfinished">To nie jest klucz API: klucz nie ma spacji ani znaków specjalnych. Skopiuj go jeszcze raz.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsStatisticsPage</name>
+    <message>
+        <source>If you agree, the program counts how the online search is used: from where it is opened, which fields are filled in, how many searches find something, nothing or fail, and how many files are fetched. Names, folders and what you type are never recorded. The record stays on this computer; it is sent to nobody.</source>
+        <translation type="unfinished">Jeśli się zgodzisz, program będzie zliczał, jak używane jest wyszukiwanie w internecie: skąd je otwarto, które pola wypełniono, ile wyszukiwań coś znajduje, nic nie znajduje lub kończy się błędem i ile plików pobrano. Nazwy, foldery i to, co wpisujesz, nigdy nie są zapisywane. Zapis pozostaje na tym komputerze; nie jest nikomu wysyłany.</translation>
+    </message>
+    <message>
+        <source>&amp;Count how the online search is used</source>
+        <translation type="unfinished">&amp;Zliczaj, jak używane jest wyszukiwanie w internecie</translation>
+    </message>
+    <message>
+        <source>&amp;Recorded in &quot;%1&quot;:</source>
+        <translation type="unfinished">Zapisano &amp;w „%1”:</translation>
+    </message>
+    <message>
+        <source>Nothing has been recorded.</source>
+        <translation type="unfinished">Nic nie zapisano.</translation>
+    </message>
+    <message>
+        <source>What has been recorded</source>
+        <translation type="unfinished">Co zostało zapisane</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished">&amp;Usuń</translation>
     </message>
 </context>
 <context>
@@ -1857,6 +2225,13 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
     </message>
 </context>
 <context>
+    <name>LanguageSelector</name>
+    <message>
+        <source>All languages</source>
+        <translation type="unfinished">Wszystkie języki</translation>
+    </message>
+</context>
+<context>
     <name>NumberTexts</name>
     <message>
         <source>%1%</source>
@@ -1869,6 +2244,354 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
     <message>
         <source>No online subtitle service is set up; add its API key to the settings.</source>
         <translation type="unfinished">Nie skonfigurowano internetowej usługi z napisami; dodaj jej klucz API do ustawień.</translation>
+    </message>
+    <message>
+        <source> (it says: &quot;%1&quot;)</source>
+        <translation type="unfinished"> (odpowiedział: „%1”)</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again after %3.</source>
+        <translation type="unfinished">Limit pobrań w serwisie %1 został wyczerpany%2; pobieraj ponownie po tym czasie: %3.</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again in %3.</source>
+        <translation type="unfinished">Limit pobrań w serwisie %1 został wyczerpany%2; pobieraj ponownie po upływie: %3.</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again tomorrow.</source>
+        <translation type="unfinished">Limit pobrań w serwisie %1 został wyczerpany%2; pobieraj ponownie jutro.</translation>
+    </message>
+    <message>
+        <source>%1 was asked too often%2; wait %3 s and try again.</source>
+        <translation type="unfinished">Serwis %1 otrzymał zbyt wiele zapytań%2; odczekaj %3 s i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>%1 was asked too often%2; try again in a minute.</source>
+        <translation type="unfinished">Serwis %1 otrzymał zbyt wiele zapytań%2; spróbuj ponownie za minutę.</translation>
+    </message>
+    <message>
+        <source>%1 did not accept the API key%2; set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
+        <translation type="unfinished">Serwis %1 nie przyjął klucza API%2; ustaw prawidłowy jako KORVEX_OPENSUBTITLES_API_KEY w środowisku lub jako api_key w pliku konfiguracyjnym.</translation>
+    </message>
+    <message>
+        <source>%1 sent something else in place of the subtitle%2; choose another one, or try again later.</source>
+        <translation type="unfinished">Serwis %1 przysłał coś innego zamiast napisów%2; wybierz inne lub spróbuj później.</translation>
+    </message>
+    <message>
+        <source>%1 is down or overloaded at the moment%2; try again later.</source>
+        <translation type="unfinished">Serwis %1 jest teraz niedostępny lub przeciążony%2; spróbuj później.</translation>
+    </message>
+    <message>
+        <source>The subtitle could not be unpacked or stored in &quot;%1&quot;%2; choose another subtitle, or make sure that the folder may be written and has room.</source>
+        <translation type="unfinished">Nie udało się rozpakować napisów lub zapisać ich w „%1”%2; wybierz inne napisy lub upewnij się, że w folderze wolno zapisywać i jest w nim miejsce.</translation>
+    </message>
+    <message>
+        <source>%1 refused the request%2; ask for something else, or try again later.</source>
+        <translation type="unfinished">Serwis %1 odrzucił żądanie%2; poproś o coś innego lub spróbuj później.</translation>
+    </message>
+    <message>
+        <source>%1 points to other addresses without end, or to one that may not be used%2; check the address that is set for it, or try again later.</source>
+        <translation type="unfinished">Serwis %1 bez końca odsyła pod inne adresy lub pod taki, którego nie wolno użyć%2; sprawdź ustawiony dla niego adres lub spróbuj później.</translation>
+    </message>
+    <message>
+        <source>The answer of %1 was empty, broke off or was too large; try again later.</source>
+        <translation type="unfinished">Odpowiedź serwisu %1 była pusta, urwała się lub była za duża; spróbuj później.</translation>
+    </message>
+    <message>
+        <source>The answer of %1 cannot be used%2; try again later.</source>
+        <translation type="unfinished">Odpowiedzi serwisu %1 nie można użyć%2; spróbuj później.</translation>
+    </message>
+    <message>
+        <source>%1 could not answer%2; try again later.</source>
+        <translation type="unfinished">Serwis %1 nie mógł odpowiedzieć%2; spróbuj później.</translation>
+    </message>
+    <message>
+        <source>%1 could not answer%2; check the address that is set for it and the proxy, or try again later.</source>
+        <translation type="unfinished">Serwis %1 nie mógł odpowiedzieć%2; sprawdź ustawiony dla niego adres i serwer proxy lub spróbuj później.</translation>
+    </message>
+    <message>
+        <source>The connection to %1 failed%2; check the proxy and whether the service&apos;s certificate is valid, or try again later.</source>
+        <translation type="unfinished">Połączenie z serwisem %1 nie powiodło się%2; sprawdź serwer proxy i ważność certyfikatu serwisu lub spróbuj później.</translation>
+    </message>
+    <message>
+        <source>Another search or download has not ended yet; try again in a moment.</source>
+        <translation type="unfinished">Inne wyszukiwanie lub pobieranie jeszcze trwa; spróbuj ponownie za chwilę.</translation>
+    </message>
+    <message>
+        <source>%1 cannot look for this%2; type a title or an IMDb id.</source>
+        <translation type="unfinished">Serwis %1 nie może tego wyszukać%2; wpisz tytuł lub numer IMDb.</translation>
+    </message>
+    <message>
+        <source>%1 cannot search in this way; look for a title or an IMDb id.</source>
+        <translation type="unfinished">Serwis %1 nie może szukać w ten sposób; szukaj tytułu lub numeru IMDb.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be reached or did not answer in time; check the connection to the network and try again.</source>
+        <translation type="unfinished">Serwis %1 jest nieosiągalny lub nie odpowiedział na czas; sprawdź połączenie z siecią i spróbuj ponownie.</translation>
+    </message>
+</context>
+<context>
+    <name>OnlineSearchDialogPresenter</name>
+    <message>
+        <source>same file</source>
+        <translation type="unfinished">ten sam plik</translation>
+    </message>
+    <message>
+        <source>same release group</source>
+        <translation type="unfinished">ta sama grupa wydająca</translation>
+    </message>
+    <message>
+        <source>same source</source>
+        <translation type="unfinished">to samo źródło</translation>
+    </message>
+    <message>
+        <source>same resolution</source>
+        <translation type="unfinished">ta sama rozdzielczość</translation>
+    </message>
+    <message>
+        <source>same episode</source>
+        <translation type="unfinished">ten sam odcinek</translation>
+    </message>
+    <message>
+        <source>another episode</source>
+        <translation type="unfinished">inny odcinek</translation>
+    </message>
+    <message>
+        <source>another film</source>
+        <translation type="unfinished">inny film</translation>
+    </message>
+    <message>
+        <source>Type a title or an IMDb id to search for.</source>
+        <translation type="unfinished">Wpisz tytuł lub numer IMDb, którego szukasz.</translation>
+    </message>
+    <message>
+        <source>This is no IMDb id: type &quot;tt&quot; and digits, or leave it empty.</source>
+        <translation type="unfinished">To nie jest numer IMDb: wpisz „tt” i cyfry lub pozostaw pole puste.</translation>
+    </message>
+    <message>
+        <source>The season is no number: type digits, or leave it empty.</source>
+        <translation type="unfinished">Sezon nie jest liczbą: wpisz cyfry lub pozostaw pole puste.</translation>
+    </message>
+    <message>
+        <source>The episode is no number: type digits, or leave it empty.</source>
+        <translation type="unfinished">Odcinek nie jest liczbą: wpisz cyfry lub pozostaw pole puste.</translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation type="unfinished">Szukanie...</translation>
+    </message>
+    <message numerus="yes">
+        <source>Searching... %n found so far</source>
+        <translation type="unfinished">
+            <numerusform>Szukanie... znaleziono dotąd: %n</numerusform>
+            <numerusform>Szukanie... znaleziono dotąd: %n</numerusform>
+            <numerusform>Szukanie... znaleziono dotąd: %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) found.</source>
+        <translation type="unfinished">
+            <numerusform>Znaleziono %n napisy.</numerusform>
+            <numerusform>Znaleziono %n napisy.</numerusform>
+            <numerusform>Znaleziono %n napisów.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>check the spelling of the title</source>
+        <translation type="unfinished">sprawdź pisownię tytułu</translation>
+    </message>
+    <message>
+        <source>type the title</source>
+        <translation type="unfinished">wpisz tytuł</translation>
+    </message>
+    <message>
+        <source>type the film&apos;s IMDb id</source>
+        <translation type="unfinished">wpisz numer IMDb filmu</translation>
+    </message>
+    <message>
+        <source>check the IMDb id</source>
+        <translation type="unfinished">sprawdź numer IMDb</translation>
+    </message>
+    <message>
+        <source>leave out the season and the episode</source>
+        <translation type="unfinished">pomiń sezon i odcinek</translation>
+    </message>
+    <message>
+        <source>choose other languages</source>
+        <translation type="unfinished">wybierz inne języki</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation type="unfinished">%1 lub %2</translation>
+    </message>
+    <message>
+        <source>No subtitles were found: %1.</source>
+        <translation type="unfinished">Nie znaleziono napisów: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Downloading %n subtitle(s)...</source>
+        <translation type="unfinished">
+            <numerusform>Pobieranie napisów (%n)...</numerusform>
+            <numerusform>Pobieranie napisów (%n)...</numerusform>
+            <numerusform>Pobieranie napisów (%n)...</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) added to the film.</source>
+        <translation type="unfinished">
+            <numerusform>Dodano do filmu %n napisy.</numerusform>
+            <numerusform>Dodano do filmu %n napisy.</numerusform>
+            <numerusform>Dodano do filmu %n napisów.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n download(s) left.</source>
+        <translation type="unfinished">
+            <numerusform>Zostało %n pobranie.</numerusform>
+            <numerusform>Zostały %n pobrania.</numerusform>
+            <numerusform>Zostało %n pobrań.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Waiting for the last request to end...</source>
+        <translation type="unfinished">Oczekiwanie na koniec ostatniego żądania...</translation>
+    </message>
+    <message>
+        <source>The search was cancelled.</source>
+        <translation type="unfinished">Wyszukiwanie anulowano.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The search was cancelled; %n subtitle(s) found.</source>
+        <translation type="unfinished">
+            <numerusform>Wyszukiwanie anulowano; znaleziono %n napisy.</numerusform>
+            <numerusform>Wyszukiwanie anulowano; znaleziono %n napisy.</numerusform>
+            <numerusform>Wyszukiwanie anulowano; znaleziono %n napisów.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The download was cancelled.</source>
+        <translation type="unfinished">Pobieranie anulowano.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>ResultList</name>
+    <message>
+        <source>Machine</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Maszynowe</translation>
+    </message>
+    <message>
+        <source>Translated by a machine</source>
+        <translation type="unfinished">Przetłumaczone maszynowo</translation>
+    </message>
+    <message>
+        <source>Foreign</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Obcy język</translation>
+    </message>
+    <message>
+        <source>Only what is spoken in a foreign language</source>
+        <translation type="unfinished">Tylko to, co mówi się w obcym języku</translation>
+    </message>
+    <message>
+        <source>HI</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">SDH</translation>
+    </message>
+    <message>
+        <source>For the hearing impaired: sounds are described</source>
+        <translation type="unfinished">Dla niesłyszących: dźwięki są opisane</translation>
+    </message>
+    <message>
+        <source>Trusted</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Zaufane</translation>
+    </message>
+    <message>
+        <source>From an uploader whom the service trusts</source>
+        <translation type="unfinished">Od osoby, której serwis ufa</translation>
+    </message>
+    <message>
+        <source>CD %1/%2</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">CD %1/%2</translation>
+    </message>
+    <message>
+        <source>Part %1 of %2; all parts are downloaded</source>
+        <translation type="unfinished">Część %1 z %2; pobierane są wszystkie części</translation>
+    </message>
+    <message>
+        <source>HD</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">HD</translation>
+    </message>
+    <message>
+        <source>Made for a release in high definition</source>
+        <translation type="unfinished">Do wydania w wysokiej rozdzielczości</translation>
+    </message>
+    <message>
+        <source>Made for this file or release</source>
+        <translation type="unfinished">Do tego pliku lub wydania</translation>
+    </message>
+    <message>
+        <source>For this film, perhaps for another cut of it</source>
+        <translation type="unfinished">Do tego filmu, może do innej wersji montażowej</translation>
+    </message>
+    <message>
+        <source>For another film or episode</source>
+        <translation type="unfinished">Do innego filmu lub odcinka</translation>
+    </message>
+    <message>
+        <source>It is not known how well it fits</source>
+        <translation type="unfinished">Nie wiadomo, czy pasują</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished">Nazwa</translation>
+    </message>
+    <message>
+        <source>Match</source>
+        <translation type="unfinished">Zgodność</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished">Język</translation>
+    </message>
+    <message>
+        <source>Marks</source>
+        <translation type="unfinished">Oznaczenia</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation type="unfinished">Pobrania</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation type="unfinished">Ocena</translation>
+    </message>
+    <message>
+        <source>Uploaded</source>
+        <translation type="unfinished">Przesłano</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation type="unfinished">Format</translation>
+    </message>
+    <message>
+        <source>Release: %1</source>
+        <translation type="unfinished">Wydanie: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of 10, by %n vote(s)</source>
+        <translation type="unfinished">
+            <numerusform>%1 z 10, %n głos</numerusform>
+            <numerusform>%1 z 10, %n głosy</numerusform>
+            <numerusform>%1 z 10, %n głosów</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -489,6 +489,44 @@
     </message>
 </context>
 <context>
+    <name>Korvex::Converter::Subtitles::Details::AutocompleteField</name>
+    <message>
+        <source>Film or series</source>
+        <translation type="unfinished">Фильм или сериал</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished">Название</translation>
+    </message>
+    <message>
+        <source>Suggested titles</source>
+        <translation type="unfinished">Подсказанные названия</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::ImdbIdValidator</name>
+    <message numerus="yes">
+        <source>The IMDb id is too short: it has at least %n digit(s), as in tt0123456.</source>
+        <translation type="unfinished">
+            <numerusform>Номер IMDb слишком короткий: в нём не меньше %n цифры, как в tt0123456.</numerusform>
+            <numerusform>Номер IMDb слишком короткий: в нём не меньше %n цифр, как в tt0123456.</numerusform>
+            <numerusform>Номер IMDb слишком короткий: в нём не меньше %n цифр, как в tt0123456.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The IMDb id is too long: it has at most %n digit(s).</source>
+        <translation type="unfinished">
+            <numerusform>Номер IMDb слишком длинный: в нём не больше %n цифры.</numerusform>
+            <numerusform>Номер IMDb слишком длинный: в нём не больше %n цифр.</numerusform>
+            <numerusform>Номер IMDb слишком длинный: в нём не больше %n цифр.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is no IMDb id: type &quot;tt&quot; and a number, or the number alone, as in tt0123456.</source>
+        <translation type="unfinished">Это не номер IMDb: введите «tt» и число или только число, как в tt0123456.</translation>
+    </message>
+</context>
+<context>
     <name>Korvex::Converter::Subtitles::Details::ItemPanel</name>
     <message>
         <source>Subtitles of this film</source>
@@ -521,6 +559,180 @@
     <message>
         <source>Done</source>
         <translation type="unfinished">Готово</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::LanguageSelector</name>
+    <message>
+        <source>Languages: %1</source>
+        <translation type="unfinished">Языки: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::LanguageSelectorList</name>
+    <message>
+        <source>Languages to search in</source>
+        <translation type="unfinished">Языки поиска</translation>
+    </message>
+    <message>
+        <source>Find a language</source>
+        <translation type="unfinished">Найти язык</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindow</name>
+    <message>
+        <source>Type a title and press &quot;Search&quot;.</source>
+        <translation type="unfinished">Введите название и нажмите «Найти».</translation>
+    </message>
+    <message>
+        <source>Find subtitles</source>
+        <translation type="unfinished">Найти субтитры</translation>
+    </message>
+    <message>
+        <source>Find subtitles: %1</source>
+        <translation type="unfinished">Найти субтитры: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindowFields</name>
+    <message>
+        <source>&amp;Title</source>
+        <translation type="unfinished">&amp;Название</translation>
+    </message>
+    <message>
+        <source>&amp;Season</source>
+        <translation type="unfinished">&amp;Сезон</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation type="unfinished">Сезон</translation>
+    </message>
+    <message>
+        <source>&amp;Episode</source>
+        <translation type="unfinished">Сер&amp;ия</translation>
+    </message>
+    <message>
+        <source>Episode</source>
+        <translation type="unfinished">Серия</translation>
+    </message>
+    <message>
+        <source>&amp;Episode...</source>
+        <translation type="unfinished">Сер&amp;ия...</translation>
+    </message>
+    <message>
+        <source>Search for an episode of a series</source>
+        <translation type="unfinished">Искать серию сериала</translation>
+    </message>
+    <message>
+        <source>Sea&amp;rch</source>
+        <translation type="unfinished">На&amp;йти</translation>
+    </message>
+    <message>
+        <source>I&amp;MDb id</source>
+        <translation type="unfinished">Номе&amp;р IMDb</translation>
+    </message>
+    <message>
+        <source>IMDb id</source>
+        <translation type="unfinished">Номер IMDb</translation>
+    </message>
+    <message>
+        <source>The film&apos;s number at IMDb, as in tt0123456</source>
+        <translation type="unfinished">Номер фильма в IMDb, как в tt0123456</translation>
+    </message>
+    <message>
+        <source>&amp;Languages</source>
+        <translation type="unfinished">&amp;Языки</translation>
+    </message>
+    <message>
+        <source>E&amp;xactly this file</source>
+        <translation type="unfinished">И&amp;менно этот файл</translation>
+    </message>
+    <message>
+        <source>Finds subtitles by the fingerprint of the file, whatever its name is</source>
+        <translation type="unfinished">Находит субтитры по отпечатку файла, как бы он ни назывался</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindowStatus</name>
+    <message>
+        <source>Searching...</source>
+        <translation type="unfinished">Поиск...</translation>
+    </message>
+    <message>
+        <source>Downloading...</source>
+        <translation type="unfinished">Скачивание...</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation type="unfinished">Отмена...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) found</source>
+        <translation type="unfinished">
+            <numerusform>Найдены %n субтитры</numerusform>
+            <numerusform>Найдено %n субтитра</numerusform>
+            <numerusform>Найдено %n субтитров</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished">&amp;Отмена</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Download %n</source>
+        <translation type="unfinished">
+            <numerusform>С&amp;качать %n</numerusform>
+            <numerusform>С&amp;качать %n</numerusform>
+            <numerusform>С&amp;качать %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Download</source>
+        <translation type="unfinished">С&amp;качать</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::ResultList</name>
+    <message>
+        <source>Smallest first; press to turn it round</source>
+        <translation type="unfinished">Сначала меньшие; нажмите, чтобы обратить порядок</translation>
+    </message>
+    <message>
+        <source>Largest first; press to turn it round</source>
+        <translation type="unfinished">Сначала большие; нажмите, чтобы обратить порядок</translation>
+    </message>
+    <message numerus="yes">
+        <source>None of the %n subtitle(s) found holds &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform>Найдены %n субтитры, но без «%1».</numerusform>
+            <numerusform>Найдено %n субтитра, но ни в одном нет «%1».</numerusform>
+            <numerusform>Найдено %n субтитров, но ни в одном нет «%1».</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Best match</source>
+        <translation type="unfinished">Лучшее совпадение</translation>
+    </message>
+    <message>
+        <source>Subtitles found</source>
+        <translation type="unfinished">Найденные субтитры</translation>
+    </message>
+    <message>
+        <source>Filter the list</source>
+        <translation type="unfinished">Отфильтровать список</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by</source>
+        <translation type="unfinished">Сор&amp;тировка</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation type="unfinished">Сортировка</translation>
     </message>
 </context>
 <context>
@@ -636,6 +848,10 @@ It is built on Qt, FFmpeg and libass.</source>
         <source>Add</source>
         <translation type="unfinished">Добавить</translation>
     </message>
+    <message>
+        <source>S&amp;ettings...</source>
+        <translation type="unfinished">&amp;Настройки...</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>
@@ -744,6 +960,25 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>Folders work too. Subtitle files beside a film are found automatically.</source>
         <translation type="unfinished">Можно и папки. Файлы субтитров рядом с фильмом находятся сами.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::FetchedSubtitles</name>
+    <message>
+        <source>&quot;%1&quot; was added to &quot;%2&quot;.</source>
+        <translation type="unfinished">«%1» добавлен к «%2».</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle file(s) were added to &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform>К «%1» добавлен %n файл субтитров.</numerusform>
+            <numerusform>К «%1» добавлено %n файла субтитров.</numerusform>
+            <numerusform>К «%1» добавлено %n файлов субтитров.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished">Отменить</translation>
     </message>
 </context>
 <context>
@@ -1287,6 +1522,139 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>The list of films could not be saved in &quot;%1&quot; (%2): check that you may write there.</source>
         <translation type="unfinished">Список фильмов не удалось сохранить в «%1» (%2): проверьте, можно ли туда писать.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished">Настройки</translation>
+    </message>
+    <message>
+        <source>Online service</source>
+        <translation type="unfinished">Онлайн-сервис</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation type="unfinished">Статистика</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished">ОК</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsOnlinePage</name>
+    <message>
+        <source>version 1 of OpenSubtitles, because an API key is set.</source>
+        <translation type="unfinished">версия 1 OpenSubtitles, потому что ключ API задан.</translation>
+    </message>
+    <message>
+        <source>version 1 of OpenSubtitles, because the configuration file says so. It answers nobody without an API key: enter one below.</source>
+        <translation type="unfinished">версия 1 OpenSubtitles, потому что так указано в файле конфигурации. Без ключа API она никому не отвечает: введите его ниже.</translation>
+    </message>
+    <message>
+        <source>the older interface of OpenSubtitles, because the configuration file says so. The API key is not used.</source>
+        <translation type="unfinished">старый интерфейс OpenSubtitles, потому что так указано в файле конфигурации. Ключ API не используется.</translation>
+    </message>
+    <message>
+        <source>the older interface of OpenSubtitles, because no API key is set.</source>
+        <translation type="unfinished">старый интерфейс OpenSubtitles, потому что ключ API не задан.</translation>
+    </message>
+    <message>
+        <source>API &amp;key:</source>
+        <translation type="unfinished">&amp;Ключ API:</translation>
+    </message>
+    <message>
+        <source>API key</source>
+        <translation type="unfinished">Ключ API</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation type="unfinished">&amp;Показать</translation>
+    </message>
+    <message>
+        <source>Fetched &amp;files:</source>
+        <translation type="unfinished">&amp;Скачанные файлы:</translation>
+    </message>
+    <message>
+        <source>Folder for fetched files</source>
+        <translation type="unfinished">Папка для скачанных файлов</translation>
+    </message>
+    <message>
+        <source>&amp;Choose...</source>
+        <translation type="unfinished">&amp;Выбрать...</translation>
+    </message>
+    <message>
+        <source>&amp;Usual folder</source>
+        <translation type="unfinished">&amp;Обычная папка</translation>
+    </message>
+    <message>
+        <source>Version 1:</source>
+        <translation type="unfinished">Версия 1:</translation>
+    </message>
+    <message>
+        <source>Older interface:</source>
+        <translation type="unfinished">Старый интерфейс:</translation>
+    </message>
+    <message>
+        <source>The addresses are set in the configuration file &quot;%1&quot;.</source>
+        <translation type="unfinished">Адреса задаются в файле конфигурации «%1».</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation type="unfinished">Используется: %1</translation>
+    </message>
+    <message>
+        <source>From the next start of the program on: %1</source>
+        <translation type="unfinished">Со следующего запуска программы: %1</translation>
+    </message>
+    <message>
+        <source>Folder for fetched subtitle files</source>
+        <translation type="unfinished">Папка для скачанных файлов субтитров</translation>
+    </message>
+    <message>
+        <source>It comes from the account pages of opensubtitles.com, is kept in the configuration file, and is used from the next start on.</source>
+        <translation type="unfinished">Его дают на страницах учётной записи opensubtitles.com; он хранится в файле конфигурации и действует со следующего запуска.</translation>
+    </message>
+    <message>
+        <source>The variable %1 of the environment sets it.</source>
+        <translation type="unfinished">Его задаёт переменная окружения %1.</translation>
+    </message>
+    <message>
+        <source>This is no API key: a key has no blanks and no special characters. Copy it again.</source>
+        <translation type="unfinished">Это не ключ API: в ключе нет ни пробелов, ни специальных знаков. Скопируйте его ещё раз.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsStatisticsPage</name>
+    <message>
+        <source>If you agree, the program counts how the online search is used: from where it is opened, which fields are filled in, how many searches find something, nothing or fail, and how many files are fetched. Names, folders and what you type are never recorded. The record stays on this computer; it is sent to nobody.</source>
+        <translation type="unfinished">Если вы согласны, программа считает, как используется онлайн-поиск: откуда он открыт, какие поля заполнены, сколько поисков что-то находят, ничего не находят или не удаются и сколько файлов скачано. Имена, папки и то, что вы вводите, никогда не записываются. Запись остаётся на этом компьютере и никому не отправляется.</translation>
+    </message>
+    <message>
+        <source>&amp;Count how the online search is used</source>
+        <translation type="unfinished">&amp;Считать, как используется онлайн-поиск</translation>
+    </message>
+    <message>
+        <source>&amp;Recorded in &quot;%1&quot;:</source>
+        <translation type="unfinished">&amp;Записано в «%1»:</translation>
+    </message>
+    <message>
+        <source>Nothing has been recorded.</source>
+        <translation type="unfinished">Ничего не записано.</translation>
+    </message>
+    <message>
+        <source>What has been recorded</source>
+        <translation type="unfinished">Что записано</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished">&amp;Удалить</translation>
     </message>
 </context>
 <context>
@@ -1857,6 +2225,13 @@ It is built on Qt, FFmpeg and libass.</source>
     </message>
 </context>
 <context>
+    <name>LanguageSelector</name>
+    <message>
+        <source>All languages</source>
+        <translation type="unfinished">Все языки</translation>
+    </message>
+</context>
+<context>
     <name>NumberTexts</name>
     <message>
         <source>%1%</source>
@@ -1869,6 +2244,354 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>No online subtitle service is set up; add its API key to the settings.</source>
         <translation type="unfinished">Служба субтитров в интернете не настроена; добавьте её ключ API в настройки.</translation>
+    </message>
+    <message>
+        <source> (it says: &quot;%1&quot;)</source>
+        <translation type="unfinished"> (он сообщает: «%1»)</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again after %3.</source>
+        <translation type="unfinished">Ваши скачивания в сервисе %1 исчерпаны%2; скачивайте снова после этого времени: %3.</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again in %3.</source>
+        <translation type="unfinished">Ваши скачивания в сервисе %1 исчерпаны%2; скачивайте снова, когда пройдёт: %3.</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again tomorrow.</source>
+        <translation type="unfinished">Ваши скачивания в сервисе %1 исчерпаны%2; скачивайте снова завтра.</translation>
+    </message>
+    <message>
+        <source>%1 was asked too often%2; wait %3 s and try again.</source>
+        <translation type="unfinished">Сервис %1 получил слишком много запросов%2; подождите %3 с и попробуйте ещё раз.</translation>
+    </message>
+    <message>
+        <source>%1 was asked too often%2; try again in a minute.</source>
+        <translation type="unfinished">Сервис %1 получил слишком много запросов%2; попробуйте ещё раз через минуту.</translation>
+    </message>
+    <message>
+        <source>%1 did not accept the API key%2; set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
+        <translation type="unfinished">Сервис %1 не принял ключ API%2; задайте верный как KORVEX_OPENSUBTITLES_API_KEY в окружении или как api_key в файле конфигурации.</translation>
+    </message>
+    <message>
+        <source>%1 sent something else in place of the subtitle%2; choose another one, or try again later.</source>
+        <translation type="unfinished">Сервис %1 прислал вместо субтитров что-то другое%2; выберите другие или попробуйте позже.</translation>
+    </message>
+    <message>
+        <source>%1 is down or overloaded at the moment%2; try again later.</source>
+        <translation type="unfinished">Сервис %1 сейчас не работает или перегружен%2; попробуйте позже.</translation>
+    </message>
+    <message>
+        <source>The subtitle could not be unpacked or stored in &quot;%1&quot;%2; choose another subtitle, or make sure that the folder may be written and has room.</source>
+        <translation type="unfinished">Не удалось распаковать субтитры или сохранить их в «%1»%2; выберите другие субтитры или убедитесь, что в папку можно писать и в ней есть место.</translation>
+    </message>
+    <message>
+        <source>%1 refused the request%2; ask for something else, or try again later.</source>
+        <translation type="unfinished">Сервис %1 отклонил запрос%2; запросите что-нибудь другое или попробуйте позже.</translation>
+    </message>
+    <message>
+        <source>%1 points to other addresses without end, or to one that may not be used%2; check the address that is set for it, or try again later.</source>
+        <translation type="unfinished">Сервис %1 без конца отсылает к другим адресам или к такому, который использовать нельзя%2; проверьте заданный для него адрес или попробуйте позже.</translation>
+    </message>
+    <message>
+        <source>The answer of %1 was empty, broke off or was too large; try again later.</source>
+        <translation type="unfinished">Ответ сервиса %1 оказался пустым, оборвался или слишком велик; попробуйте позже.</translation>
+    </message>
+    <message>
+        <source>The answer of %1 cannot be used%2; try again later.</source>
+        <translation type="unfinished">Ответ сервиса %1 непригоден%2; попробуйте позже.</translation>
+    </message>
+    <message>
+        <source>%1 could not answer%2; try again later.</source>
+        <translation type="unfinished">Сервис %1 не смог ответить%2; попробуйте позже.</translation>
+    </message>
+    <message>
+        <source>%1 could not answer%2; check the address that is set for it and the proxy, or try again later.</source>
+        <translation type="unfinished">Сервис %1 не смог ответить%2; проверьте заданный для него адрес и прокси или попробуйте позже.</translation>
+    </message>
+    <message>
+        <source>The connection to %1 failed%2; check the proxy and whether the service&apos;s certificate is valid, or try again later.</source>
+        <translation type="unfinished">Не удалось подключиться к сервису %1%2; проверьте прокси и действителен ли сертификат сервиса или попробуйте позже.</translation>
+    </message>
+    <message>
+        <source>Another search or download has not ended yet; try again in a moment.</source>
+        <translation type="unfinished">Другой поиск или другое скачивание ещё не закончены; попробуйте ещё раз чуть позже.</translation>
+    </message>
+    <message>
+        <source>%1 cannot look for this%2; type a title or an IMDb id.</source>
+        <translation type="unfinished">Сервис %1 не может это найти%2; введите название или номер IMDb.</translation>
+    </message>
+    <message>
+        <source>%1 cannot search in this way; look for a title or an IMDb id.</source>
+        <translation type="unfinished">Сервис %1 не умеет искать таким способом; ищите по названию или номеру IMDb.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be reached or did not answer in time; check the connection to the network and try again.</source>
+        <translation type="unfinished">Сервис %1 недоступен или не ответил вовремя; проверьте подключение к сети и попробуйте ещё раз.</translation>
+    </message>
+</context>
+<context>
+    <name>OnlineSearchDialogPresenter</name>
+    <message>
+        <source>same file</source>
+        <translation type="unfinished">тот же файл</translation>
+    </message>
+    <message>
+        <source>same release group</source>
+        <translation type="unfinished">та же релиз-группа</translation>
+    </message>
+    <message>
+        <source>same source</source>
+        <translation type="unfinished">тот же источник</translation>
+    </message>
+    <message>
+        <source>same resolution</source>
+        <translation type="unfinished">то же разрешение</translation>
+    </message>
+    <message>
+        <source>same episode</source>
+        <translation type="unfinished">та же серия</translation>
+    </message>
+    <message>
+        <source>another episode</source>
+        <translation type="unfinished">другая серия</translation>
+    </message>
+    <message>
+        <source>another film</source>
+        <translation type="unfinished">другой фильм</translation>
+    </message>
+    <message>
+        <source>Type a title or an IMDb id to search for.</source>
+        <translation type="unfinished">Введите название или номер IMDb для поиска.</translation>
+    </message>
+    <message>
+        <source>This is no IMDb id: type &quot;tt&quot; and digits, or leave it empty.</source>
+        <translation type="unfinished">Это не номер IMDb: введите «tt» и цифры или оставьте поле пустым.</translation>
+    </message>
+    <message>
+        <source>The season is no number: type digits, or leave it empty.</source>
+        <translation type="unfinished">Номер сезона — не число: введите цифры или оставьте поле пустым.</translation>
+    </message>
+    <message>
+        <source>The episode is no number: type digits, or leave it empty.</source>
+        <translation type="unfinished">Номер серии — не число: введите цифры или оставьте поле пустым.</translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation type="unfinished">Поиск...</translation>
+    </message>
+    <message numerus="yes">
+        <source>Searching... %n found so far</source>
+        <translation type="unfinished">
+            <numerusform>Поиск... пока найдено: %n</numerusform>
+            <numerusform>Поиск... пока найдено: %n</numerusform>
+            <numerusform>Поиск... пока найдено: %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) found.</source>
+        <translation type="unfinished">
+            <numerusform>Найдены %n субтитры.</numerusform>
+            <numerusform>Найдено %n субтитра.</numerusform>
+            <numerusform>Найдено %n субтитров.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>check the spelling of the title</source>
+        <translation type="unfinished">проверьте написание названия</translation>
+    </message>
+    <message>
+        <source>type the title</source>
+        <translation type="unfinished">введите название</translation>
+    </message>
+    <message>
+        <source>type the film&apos;s IMDb id</source>
+        <translation type="unfinished">введите номер IMDb фильма</translation>
+    </message>
+    <message>
+        <source>check the IMDb id</source>
+        <translation type="unfinished">проверьте номер IMDb</translation>
+    </message>
+    <message>
+        <source>leave out the season and the episode</source>
+        <translation type="unfinished">не указывайте сезон и серию</translation>
+    </message>
+    <message>
+        <source>choose other languages</source>
+        <translation type="unfinished">выберите другие языки</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation type="unfinished">%1 или %2</translation>
+    </message>
+    <message>
+        <source>No subtitles were found: %1.</source>
+        <translation type="unfinished">Субтитры не найдены: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Downloading %n subtitle(s)...</source>
+        <translation type="unfinished">
+            <numerusform>Скачивание субтитров (%n)...</numerusform>
+            <numerusform>Скачивание субтитров (%n)...</numerusform>
+            <numerusform>Скачивание субтитров (%n)...</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) added to the film.</source>
+        <translation type="unfinished">
+            <numerusform>К фильму добавлены %n субтитры.</numerusform>
+            <numerusform>К фильму добавлено %n субтитра.</numerusform>
+            <numerusform>К фильму добавлено %n субтитров.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n download(s) left.</source>
+        <translation type="unfinished">
+            <numerusform>Осталось %n скачивание.</numerusform>
+            <numerusform>Осталось %n скачивания.</numerusform>
+            <numerusform>Осталось %n скачиваний.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Waiting for the last request to end...</source>
+        <translation type="unfinished">Ожидание конца последнего запроса...</translation>
+    </message>
+    <message>
+        <source>The search was cancelled.</source>
+        <translation type="unfinished">Поиск отменён.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The search was cancelled; %n subtitle(s) found.</source>
+        <translation type="unfinished">
+            <numerusform>Поиск отменён; найдены %n субтитры.</numerusform>
+            <numerusform>Поиск отменён; найдено %n субтитра.</numerusform>
+            <numerusform>Поиск отменён; найдено %n субтитров.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The download was cancelled.</source>
+        <translation type="unfinished">Скачивание отменено.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>ResultList</name>
+    <message>
+        <source>Machine</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Машинный</translation>
+    </message>
+    <message>
+        <source>Translated by a machine</source>
+        <translation type="unfinished">Переведено машиной</translation>
+    </message>
+    <message>
+        <source>Foreign</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Чужой язык</translation>
+    </message>
+    <message>
+        <source>Only what is spoken in a foreign language</source>
+        <translation type="unfinished">Только то, что говорят на чужом языке</translation>
+    </message>
+    <message>
+        <source>HI</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Для глухих</translation>
+    </message>
+    <message>
+        <source>For the hearing impaired: sounds are described</source>
+        <translation type="unfinished">Для глухих и слабослышащих: звуки описаны</translation>
+    </message>
+    <message>
+        <source>Trusted</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Надёжный</translation>
+    </message>
+    <message>
+        <source>From an uploader whom the service trusts</source>
+        <translation type="unfinished">От участника, которому сервис доверяет</translation>
+    </message>
+    <message>
+        <source>CD %1/%2</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">CD %1/%2</translation>
+    </message>
+    <message>
+        <source>Part %1 of %2; all parts are downloaded</source>
+        <translation type="unfinished">Часть %1 из %2; скачиваются все части</translation>
+    </message>
+    <message>
+        <source>HD</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">HD</translation>
+    </message>
+    <message>
+        <source>Made for a release in high definition</source>
+        <translation type="unfinished">Для издания в высоком разрешении</translation>
+    </message>
+    <message>
+        <source>Made for this file or release</source>
+        <translation type="unfinished">Для этого файла или релиза</translation>
+    </message>
+    <message>
+        <source>For this film, perhaps for another cut of it</source>
+        <translation type="unfinished">Для этого фильма, возможно, для другой монтажной версии</translation>
+    </message>
+    <message>
+        <source>For another film or episode</source>
+        <translation type="unfinished">Для другого фильма или серии</translation>
+    </message>
+    <message>
+        <source>It is not known how well it fits</source>
+        <translation type="unfinished">Неизвестно, насколько подходят</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished">Имя</translation>
+    </message>
+    <message>
+        <source>Match</source>
+        <translation type="unfinished">Совпадение</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished">Язык</translation>
+    </message>
+    <message>
+        <source>Marks</source>
+        <translation type="unfinished">Пометки</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation type="unfinished">Скачивания</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation type="unfinished">Оценка</translation>
+    </message>
+    <message>
+        <source>Uploaded</source>
+        <translation type="unfinished">Загружено</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation type="unfinished">Формат</translation>
+    </message>
+    <message>
+        <source>Release: %1</source>
+        <translation type="unfinished">Релиз: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of 10, by %n vote(s)</source>
+        <translation type="unfinished">
+            <numerusform>%1 из 10, %n голос</numerusform>
+            <numerusform>%1 из 10, %n голоса</numerusform>
+            <numerusform>%1 из 10, %n голосов</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -489,6 +489,44 @@
     </message>
 </context>
 <context>
+    <name>Korvex::Converter::Subtitles::Details::AutocompleteField</name>
+    <message>
+        <source>Film or series</source>
+        <translation type="unfinished">Фільм або серіал</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished">Назва</translation>
+    </message>
+    <message>
+        <source>Suggested titles</source>
+        <translation type="unfinished">Підказані назви</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::ImdbIdValidator</name>
+    <message numerus="yes">
+        <source>The IMDb id is too short: it has at least %n digit(s), as in tt0123456.</source>
+        <translation type="unfinished">
+            <numerusform>Номер IMDb закороткий: у ньому не менше %n цифри, як у tt0123456.</numerusform>
+            <numerusform>Номер IMDb закороткий: у ньому не менше %n цифр, як у tt0123456.</numerusform>
+            <numerusform>Номер IMDb закороткий: у ньому не менше %n цифр, як у tt0123456.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The IMDb id is too long: it has at most %n digit(s).</source>
+        <translation type="unfinished">
+            <numerusform>Номер IMDb задовгий: у ньому не більше %n цифри.</numerusform>
+            <numerusform>Номер IMDb задовгий: у ньому не більше %n цифр.</numerusform>
+            <numerusform>Номер IMDb задовгий: у ньому не більше %n цифр.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is no IMDb id: type &quot;tt&quot; and a number, or the number alone, as in tt0123456.</source>
+        <translation type="unfinished">Це не номер IMDb: введіть «tt» і число або тільки число, як у tt0123456.</translation>
+    </message>
+</context>
+<context>
     <name>Korvex::Converter::Subtitles::Details::ItemPanel</name>
     <message>
         <source>Subtitles of this film</source>
@@ -521,6 +559,180 @@
     <message>
         <source>Done</source>
         <translation type="unfinished">Готово</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::LanguageSelector</name>
+    <message>
+        <source>Languages: %1</source>
+        <translation type="unfinished">Мови: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::LanguageSelectorList</name>
+    <message>
+        <source>Languages to search in</source>
+        <translation type="unfinished">Мови пошуку</translation>
+    </message>
+    <message>
+        <source>Find a language</source>
+        <translation type="unfinished">Знайти мову</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindow</name>
+    <message>
+        <source>Type a title and press &quot;Search&quot;.</source>
+        <translation type="unfinished">Введіть назву й натисніть «Знайти».</translation>
+    </message>
+    <message>
+        <source>Find subtitles</source>
+        <translation type="unfinished">Знайти субтитри</translation>
+    </message>
+    <message>
+        <source>Find subtitles: %1</source>
+        <translation type="unfinished">Знайти субтитри: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindowFields</name>
+    <message>
+        <source>&amp;Title</source>
+        <translation type="unfinished">&amp;Назва</translation>
+    </message>
+    <message>
+        <source>&amp;Season</source>
+        <translation type="unfinished">&amp;Сезон</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation type="unfinished">Сезон</translation>
+    </message>
+    <message>
+        <source>&amp;Episode</source>
+        <translation type="unfinished">Сер&amp;ія</translation>
+    </message>
+    <message>
+        <source>Episode</source>
+        <translation type="unfinished">Серія</translation>
+    </message>
+    <message>
+        <source>&amp;Episode...</source>
+        <translation type="unfinished">Сер&amp;ія...</translation>
+    </message>
+    <message>
+        <source>Search for an episode of a series</source>
+        <translation type="unfinished">Шукати серію серіалу</translation>
+    </message>
+    <message>
+        <source>Sea&amp;rch</source>
+        <translation type="unfinished">Зна&amp;йти</translation>
+    </message>
+    <message>
+        <source>I&amp;MDb id</source>
+        <translation type="unfinished">Номе&amp;р IMDb</translation>
+    </message>
+    <message>
+        <source>IMDb id</source>
+        <translation type="unfinished">Номер IMDb</translation>
+    </message>
+    <message>
+        <source>The film&apos;s number at IMDb, as in tt0123456</source>
+        <translation type="unfinished">Номер фільму в IMDb, як у tt0123456</translation>
+    </message>
+    <message>
+        <source>&amp;Languages</source>
+        <translation type="unfinished">&amp;Мови</translation>
+    </message>
+    <message>
+        <source>E&amp;xactly this file</source>
+        <translation type="unfinished">Саме &amp;цей файл</translation>
+    </message>
+    <message>
+        <source>Finds subtitles by the fingerprint of the file, whatever its name is</source>
+        <translation type="unfinished">Знаходить субтитри за відбитком файлу, хоч би як він називався</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindowStatus</name>
+    <message>
+        <source>Searching...</source>
+        <translation type="unfinished">Пошук...</translation>
+    </message>
+    <message>
+        <source>Downloading...</source>
+        <translation type="unfinished">Завантаження...</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation type="unfinished">Скасування...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) found</source>
+        <translation type="unfinished">
+            <numerusform>Знайдено %n субтитри</numerusform>
+            <numerusform>Знайдено %n субтитри</numerusform>
+            <numerusform>Знайдено %n субтитрів</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished">Ск&amp;асувати</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Download %n</source>
+        <translation type="unfinished">
+            <numerusform>&amp;Завантажити %n</numerusform>
+            <numerusform>&amp;Завантажити %n</numerusform>
+            <numerusform>&amp;Завантажити %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Download</source>
+        <translation type="unfinished">&amp;Завантажити</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Закрити</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::ResultList</name>
+    <message>
+        <source>Smallest first; press to turn it round</source>
+        <translation type="unfinished">Спочатку менші; натисніть, щоб обернути порядок</translation>
+    </message>
+    <message>
+        <source>Largest first; press to turn it round</source>
+        <translation type="unfinished">Спочатку більші; натисніть, щоб обернути порядок</translation>
+    </message>
+    <message numerus="yes">
+        <source>None of the %n subtitle(s) found holds &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform>Знайдено %n субтитри, але без «%1».</numerusform>
+            <numerusform>Знайдено %n субтитри, але в жодних немає «%1».</numerusform>
+            <numerusform>Знайдено %n субтитрів, але в жодних немає «%1».</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Best match</source>
+        <translation type="unfinished">Найкращий збіг</translation>
+    </message>
+    <message>
+        <source>Subtitles found</source>
+        <translation type="unfinished">Знайдені субтитри</translation>
+    </message>
+    <message>
+        <source>Filter the list</source>
+        <translation type="unfinished">Відфільтрувати список</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by</source>
+        <translation type="unfinished">Сор&amp;тування</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation type="unfinished">Сортування</translation>
     </message>
 </context>
 <context>
@@ -636,6 +848,10 @@ It is built on Qt, FFmpeg and libass.</source>
         <source>Add</source>
         <translation type="unfinished">Додати</translation>
     </message>
+    <message>
+        <source>S&amp;ettings...</source>
+        <translation type="unfinished">На&amp;лаштування...</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>
@@ -744,6 +960,25 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>Folders work too. Subtitle files beside a film are found automatically.</source>
         <translation type="unfinished">Можна й теки. Файли субтитрів поруч із фільмом знаходяться самі.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::FetchedSubtitles</name>
+    <message>
+        <source>&quot;%1&quot; was added to &quot;%2&quot;.</source>
+        <translation type="unfinished">«%1» додано до «%2».</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle file(s) were added to &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform>До «%1» додано %n файл субтитрів.</numerusform>
+            <numerusform>До «%1» додано %n файли субтитрів.</numerusform>
+            <numerusform>До «%1» додано %n файлів субтитрів.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished">Скасувати</translation>
     </message>
 </context>
 <context>
@@ -1287,6 +1522,139 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>The list of films could not be saved in &quot;%1&quot; (%2): check that you may write there.</source>
         <translation type="unfinished">Список фільмів не вдалося зберегти в «%1» (%2): перевірте, чи можна туди писати.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished">Налаштування</translation>
+    </message>
+    <message>
+        <source>Online service</source>
+        <translation type="unfinished">Онлайн-сервіс</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation type="unfinished">Статистика</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished">Гаразд</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Скасувати</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsOnlinePage</name>
+    <message>
+        <source>version 1 of OpenSubtitles, because an API key is set.</source>
+        <translation type="unfinished">версія 1 OpenSubtitles, бо ключ API задано.</translation>
+    </message>
+    <message>
+        <source>version 1 of OpenSubtitles, because the configuration file says so. It answers nobody without an API key: enter one below.</source>
+        <translation type="unfinished">версія 1 OpenSubtitles, бо так указано у файлі конфігурації. Без ключа API вона нікому не відповідає: введіть його нижче.</translation>
+    </message>
+    <message>
+        <source>the older interface of OpenSubtitles, because the configuration file says so. The API key is not used.</source>
+        <translation type="unfinished">старий інтерфейс OpenSubtitles, бо так указано у файлі конфігурації. Ключ API не використовується.</translation>
+    </message>
+    <message>
+        <source>the older interface of OpenSubtitles, because no API key is set.</source>
+        <translation type="unfinished">старий інтерфейс OpenSubtitles, бо ключ API не задано.</translation>
+    </message>
+    <message>
+        <source>API &amp;key:</source>
+        <translation type="unfinished">&amp;Ключ API:</translation>
+    </message>
+    <message>
+        <source>API key</source>
+        <translation type="unfinished">Ключ API</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation type="unfinished">&amp;Показати</translation>
+    </message>
+    <message>
+        <source>Fetched &amp;files:</source>
+        <translation type="unfinished">&amp;Завантажені файли:</translation>
+    </message>
+    <message>
+        <source>Folder for fetched files</source>
+        <translation type="unfinished">Тека для завантажених файлів</translation>
+    </message>
+    <message>
+        <source>&amp;Choose...</source>
+        <translation type="unfinished">&amp;Вибрати...</translation>
+    </message>
+    <message>
+        <source>&amp;Usual folder</source>
+        <translation type="unfinished">Звича&amp;йна тека</translation>
+    </message>
+    <message>
+        <source>Version 1:</source>
+        <translation type="unfinished">Версія 1:</translation>
+    </message>
+    <message>
+        <source>Older interface:</source>
+        <translation type="unfinished">Старий інтерфейс:</translation>
+    </message>
+    <message>
+        <source>The addresses are set in the configuration file &quot;%1&quot;.</source>
+        <translation type="unfinished">Адреси задаються у файлі конфігурації «%1».</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation type="unfinished">Використовується: %1</translation>
+    </message>
+    <message>
+        <source>From the next start of the program on: %1</source>
+        <translation type="unfinished">З наступного запуску програми: %1</translation>
+    </message>
+    <message>
+        <source>Folder for fetched subtitle files</source>
+        <translation type="unfinished">Тека для завантажених файлів субтитрів</translation>
+    </message>
+    <message>
+        <source>It comes from the account pages of opensubtitles.com, is kept in the configuration file, and is used from the next start on.</source>
+        <translation type="unfinished">Його дають на сторінках облікового запису opensubtitles.com; він зберігається у файлі конфігурації та діє з наступного запуску.</translation>
+    </message>
+    <message>
+        <source>The variable %1 of the environment sets it.</source>
+        <translation type="unfinished">Його задає змінна середовища %1.</translation>
+    </message>
+    <message>
+        <source>This is no API key: a key has no blanks and no special characters. Copy it again.</source>
+        <translation type="unfinished">Це не ключ API: у ключі немає ані пробілів, ані спеціальних знаків. Скопіюйте його ще раз.</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsStatisticsPage</name>
+    <message>
+        <source>If you agree, the program counts how the online search is used: from where it is opened, which fields are filled in, how many searches find something, nothing or fail, and how many files are fetched. Names, folders and what you type are never recorded. The record stays on this computer; it is sent to nobody.</source>
+        <translation type="unfinished">Якщо ви згодні, програма рахує, як використовується онлайн-пошук: звідки його відкрито, які поля заповнено, скільки пошуків щось знаходять, нічого не знаходять або не вдаються і скільки файлів завантажено. Назви, теки й те, що ви вводите, ніколи не записуються. Запис лишається на цьому комп&apos;ютері й нікому не надсилається.</translation>
+    </message>
+    <message>
+        <source>&amp;Count how the online search is used</source>
+        <translation type="unfinished">&amp;Рахувати, як використовується онлайн-пошук</translation>
+    </message>
+    <message>
+        <source>&amp;Recorded in &quot;%1&quot;:</source>
+        <translation type="unfinished">&amp;Записано в «%1»:</translation>
+    </message>
+    <message>
+        <source>Nothing has been recorded.</source>
+        <translation type="unfinished">Нічого не записано.</translation>
+    </message>
+    <message>
+        <source>What has been recorded</source>
+        <translation type="unfinished">Що записано</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished">&amp;Видалити</translation>
     </message>
 </context>
 <context>
@@ -1857,6 +2225,13 @@ It is built on Qt, FFmpeg and libass.</source>
     </message>
 </context>
 <context>
+    <name>LanguageSelector</name>
+    <message>
+        <source>All languages</source>
+        <translation type="unfinished">Усі мови</translation>
+    </message>
+</context>
+<context>
     <name>NumberTexts</name>
     <message>
         <source>%1%</source>
@@ -1869,6 +2244,354 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>No online subtitle service is set up; add its API key to the settings.</source>
         <translation type="unfinished">Службу субтитрів в інтернеті не налаштовано; додайте її ключ API до налаштувань.</translation>
+    </message>
+    <message>
+        <source> (it says: &quot;%1&quot;)</source>
+        <translation type="unfinished"> (він повідомляє: «%1»)</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again after %3.</source>
+        <translation type="unfinished">Ваші завантаження в сервісі %1 вичерпано%2; завантажуйте знову після цього часу: %3.</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again in %3.</source>
+        <translation type="unfinished">Ваші завантаження в сервісі %1 вичерпано%2; завантажуйте знову, коли мине: %3.</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again tomorrow.</source>
+        <translation type="unfinished">Ваші завантаження в сервісі %1 вичерпано%2; завантажуйте знову завтра.</translation>
+    </message>
+    <message>
+        <source>%1 was asked too often%2; wait %3 s and try again.</source>
+        <translation type="unfinished">Сервіс %1 отримав забагато запитів%2; зачекайте %3 с і спробуйте ще раз.</translation>
+    </message>
+    <message>
+        <source>%1 was asked too often%2; try again in a minute.</source>
+        <translation type="unfinished">Сервіс %1 отримав забагато запитів%2; спробуйте ще раз за хвилину.</translation>
+    </message>
+    <message>
+        <source>%1 did not accept the API key%2; set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
+        <translation type="unfinished">Сервіс %1 не прийняв ключ API%2; задайте правильний як KORVEX_OPENSUBTITLES_API_KEY у середовищі або як api_key у файлі конфігурації.</translation>
+    </message>
+    <message>
+        <source>%1 sent something else in place of the subtitle%2; choose another one, or try again later.</source>
+        <translation type="unfinished">Сервіс %1 надіслав замість субтитрів щось інше%2; виберіть інші або спробуйте пізніше.</translation>
+    </message>
+    <message>
+        <source>%1 is down or overloaded at the moment%2; try again later.</source>
+        <translation type="unfinished">Сервіс %1 зараз не працює або перевантажений%2; спробуйте пізніше.</translation>
+    </message>
+    <message>
+        <source>The subtitle could not be unpacked or stored in &quot;%1&quot;%2; choose another subtitle, or make sure that the folder may be written and has room.</source>
+        <translation type="unfinished">Не вдалося розпакувати субтитри або зберегти їх у «%1»%2; виберіть інші субтитри або переконайтеся, що в теку можна писати і в ній є місце.</translation>
+    </message>
+    <message>
+        <source>%1 refused the request%2; ask for something else, or try again later.</source>
+        <translation type="unfinished">Сервіс %1 відхилив запит%2; запитайте щось інше або спробуйте пізніше.</translation>
+    </message>
+    <message>
+        <source>%1 points to other addresses without end, or to one that may not be used%2; check the address that is set for it, or try again later.</source>
+        <translation type="unfinished">Сервіс %1 без кінця відсилає до інших адрес або до такої, яку використовувати не можна%2; перевірте задану для нього адресу або спробуйте пізніше.</translation>
+    </message>
+    <message>
+        <source>The answer of %1 was empty, broke off or was too large; try again later.</source>
+        <translation type="unfinished">Відповідь сервісу %1 була порожня, обірвалася або завелика; спробуйте пізніше.</translation>
+    </message>
+    <message>
+        <source>The answer of %1 cannot be used%2; try again later.</source>
+        <translation type="unfinished">Відповідь сервісу %1 непридатна%2; спробуйте пізніше.</translation>
+    </message>
+    <message>
+        <source>%1 could not answer%2; try again later.</source>
+        <translation type="unfinished">Сервіс %1 не зміг відповісти%2; спробуйте пізніше.</translation>
+    </message>
+    <message>
+        <source>%1 could not answer%2; check the address that is set for it and the proxy, or try again later.</source>
+        <translation type="unfinished">Сервіс %1 не зміг відповісти%2; перевірте задану для нього адресу і проксі або спробуйте пізніше.</translation>
+    </message>
+    <message>
+        <source>The connection to %1 failed%2; check the proxy and whether the service&apos;s certificate is valid, or try again later.</source>
+        <translation type="unfinished">Не вдалося з&apos;єднатися із сервісом %1%2; перевірте проксі та чи дійсний сертифікат сервісу або спробуйте пізніше.</translation>
+    </message>
+    <message>
+        <source>Another search or download has not ended yet; try again in a moment.</source>
+        <translation type="unfinished">Інший пошук або інше завантаження ще не закінчено; спробуйте ще раз трохи згодом.</translation>
+    </message>
+    <message>
+        <source>%1 cannot look for this%2; type a title or an IMDb id.</source>
+        <translation type="unfinished">Сервіс %1 не може це знайти%2; введіть назву або номер IMDb.</translation>
+    </message>
+    <message>
+        <source>%1 cannot search in this way; look for a title or an IMDb id.</source>
+        <translation type="unfinished">Сервіс %1 не вміє шукати в такий спосіб; шукайте за назвою або номером IMDb.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be reached or did not answer in time; check the connection to the network and try again.</source>
+        <translation type="unfinished">Сервіс %1 недоступний або не відповів вчасно; перевірте з&apos;єднання з мережею і спробуйте ще раз.</translation>
+    </message>
+</context>
+<context>
+    <name>OnlineSearchDialogPresenter</name>
+    <message>
+        <source>same file</source>
+        <translation type="unfinished">той самий файл</translation>
+    </message>
+    <message>
+        <source>same release group</source>
+        <translation type="unfinished">та сама реліз-група</translation>
+    </message>
+    <message>
+        <source>same source</source>
+        <translation type="unfinished">те саме джерело</translation>
+    </message>
+    <message>
+        <source>same resolution</source>
+        <translation type="unfinished">та сама роздільність</translation>
+    </message>
+    <message>
+        <source>same episode</source>
+        <translation type="unfinished">та сама серія</translation>
+    </message>
+    <message>
+        <source>another episode</source>
+        <translation type="unfinished">інша серія</translation>
+    </message>
+    <message>
+        <source>another film</source>
+        <translation type="unfinished">інший фільм</translation>
+    </message>
+    <message>
+        <source>Type a title or an IMDb id to search for.</source>
+        <translation type="unfinished">Введіть назву або номер IMDb для пошуку.</translation>
+    </message>
+    <message>
+        <source>This is no IMDb id: type &quot;tt&quot; and digits, or leave it empty.</source>
+        <translation type="unfinished">Це не номер IMDb: введіть «tt» і цифри або залиште поле порожнім.</translation>
+    </message>
+    <message>
+        <source>The season is no number: type digits, or leave it empty.</source>
+        <translation type="unfinished">Номер сезону — не число: введіть цифри або залиште поле порожнім.</translation>
+    </message>
+    <message>
+        <source>The episode is no number: type digits, or leave it empty.</source>
+        <translation type="unfinished">Номер серії — не число: введіть цифри або залиште поле порожнім.</translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation type="unfinished">Пошук...</translation>
+    </message>
+    <message numerus="yes">
+        <source>Searching... %n found so far</source>
+        <translation type="unfinished">
+            <numerusform>Пошук... поки знайдено: %n</numerusform>
+            <numerusform>Пошук... поки знайдено: %n</numerusform>
+            <numerusform>Пошук... поки знайдено: %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) found.</source>
+        <translation type="unfinished">
+            <numerusform>Знайдено %n субтитри.</numerusform>
+            <numerusform>Знайдено %n субтитри.</numerusform>
+            <numerusform>Знайдено %n субтитрів.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>check the spelling of the title</source>
+        <translation type="unfinished">перевірте написання назви</translation>
+    </message>
+    <message>
+        <source>type the title</source>
+        <translation type="unfinished">введіть назву</translation>
+    </message>
+    <message>
+        <source>type the film&apos;s IMDb id</source>
+        <translation type="unfinished">введіть номер IMDb фільму</translation>
+    </message>
+    <message>
+        <source>check the IMDb id</source>
+        <translation type="unfinished">перевірте номер IMDb</translation>
+    </message>
+    <message>
+        <source>leave out the season and the episode</source>
+        <translation type="unfinished">не вказуйте сезон і серію</translation>
+    </message>
+    <message>
+        <source>choose other languages</source>
+        <translation type="unfinished">виберіть інші мови</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation type="unfinished">%1 або %2</translation>
+    </message>
+    <message>
+        <source>No subtitles were found: %1.</source>
+        <translation type="unfinished">Субтитрів не знайдено: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Downloading %n subtitle(s)...</source>
+        <translation type="unfinished">
+            <numerusform>Завантаження субтитрів (%n)...</numerusform>
+            <numerusform>Завантаження субтитрів (%n)...</numerusform>
+            <numerusform>Завантаження субтитрів (%n)...</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) added to the film.</source>
+        <translation type="unfinished">
+            <numerusform>До фільму додано %n субтитри.</numerusform>
+            <numerusform>До фільму додано %n субтитри.</numerusform>
+            <numerusform>До фільму додано %n субтитрів.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n download(s) left.</source>
+        <translation type="unfinished">
+            <numerusform>Лишилося %n завантаження.</numerusform>
+            <numerusform>Лишилося %n завантаження.</numerusform>
+            <numerusform>Лишилося %n завантажень.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Waiting for the last request to end...</source>
+        <translation type="unfinished">Очікування кінця останнього запиту...</translation>
+    </message>
+    <message>
+        <source>The search was cancelled.</source>
+        <translation type="unfinished">Пошук скасовано.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The search was cancelled; %n subtitle(s) found.</source>
+        <translation type="unfinished">
+            <numerusform>Пошук скасовано; знайдено %n субтитри.</numerusform>
+            <numerusform>Пошук скасовано; знайдено %n субтитри.</numerusform>
+            <numerusform>Пошук скасовано; знайдено %n субтитрів.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The download was cancelled.</source>
+        <translation type="unfinished">Завантаження скасовано.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>ResultList</name>
+    <message>
+        <source>Machine</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Машинний</translation>
+    </message>
+    <message>
+        <source>Translated by a machine</source>
+        <translation type="unfinished">Перекладено машиною</translation>
+    </message>
+    <message>
+        <source>Foreign</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Чужа мова</translation>
+    </message>
+    <message>
+        <source>Only what is spoken in a foreign language</source>
+        <translation type="unfinished">Тільки те, що говорять чужою мовою</translation>
+    </message>
+    <message>
+        <source>HI</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Для глухих</translation>
+    </message>
+    <message>
+        <source>For the hearing impaired: sounds are described</source>
+        <translation type="unfinished">Для глухих і слабочутних: звуки описано</translation>
+    </message>
+    <message>
+        <source>Trusted</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">Надійний</translation>
+    </message>
+    <message>
+        <source>From an uploader whom the service trusts</source>
+        <translation type="unfinished">Від учасника, якому сервіс довіряє</translation>
+    </message>
+    <message>
+        <source>CD %1/%2</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">CD %1/%2</translation>
+    </message>
+    <message>
+        <source>Part %1 of %2; all parts are downloaded</source>
+        <translation type="unfinished">Частина %1 з %2; завантажуються всі частини</translation>
+    </message>
+    <message>
+        <source>HD</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">HD</translation>
+    </message>
+    <message>
+        <source>Made for a release in high definition</source>
+        <translation type="unfinished">Для видання у високій роздільності</translation>
+    </message>
+    <message>
+        <source>Made for this file or release</source>
+        <translation type="unfinished">Для цього файлу або релізу</translation>
+    </message>
+    <message>
+        <source>For this film, perhaps for another cut of it</source>
+        <translation type="unfinished">Для цього фільму, можливо, для іншої монтажної версії</translation>
+    </message>
+    <message>
+        <source>For another film or episode</source>
+        <translation type="unfinished">Для іншого фільму або серії</translation>
+    </message>
+    <message>
+        <source>It is not known how well it fits</source>
+        <translation type="unfinished">Невідомо, наскільки підходять</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished">Назва</translation>
+    </message>
+    <message>
+        <source>Match</source>
+        <translation type="unfinished">Збіг</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished">Мова</translation>
+    </message>
+    <message>
+        <source>Marks</source>
+        <translation type="unfinished">Позначки</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation type="unfinished">Завантаження</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation type="unfinished">Оцінка</translation>
+    </message>
+    <message>
+        <source>Uploaded</source>
+        <translation type="unfinished">Вивантажено</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation type="unfinished">Формат</translation>
+    </message>
+    <message>
+        <source>Release: %1</source>
+        <translation type="unfinished">Реліз: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of 10, by %n vote(s)</source>
+        <translation type="unfinished">
+            <numerusform>%1 з 10, %n голос</numerusform>
+            <numerusform>%1 з 10, %n голоси</numerusform>
+            <numerusform>%1 з 10, %n голосів</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -473,6 +473,40 @@
     </message>
 </context>
 <context>
+    <name>Korvex::Converter::Subtitles::Details::AutocompleteField</name>
+    <message>
+        <source>Film or series</source>
+        <translation type="unfinished">影片或剧集</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished">标题</translation>
+    </message>
+    <message>
+        <source>Suggested titles</source>
+        <translation type="unfinished">建议的标题</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::ImdbIdValidator</name>
+    <message numerus="yes">
+        <source>The IMDb id is too short: it has at least %n digit(s), as in tt0123456.</source>
+        <translation type="unfinished">
+            <numerusform>IMDb 编号太短：至少有 %n 位数字，如 tt0123456。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The IMDb id is too long: it has at most %n digit(s).</source>
+        <translation type="unfinished">
+            <numerusform>IMDb 编号太长：最多有 %n 位数字。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is no IMDb id: type &quot;tt&quot; and a number, or the number alone, as in tt0123456.</source>
+        <translation type="unfinished">这不是 IMDb 编号：请输入“tt”加数字，或只输入数字，如 tt0123456。</translation>
+    </message>
+</context>
+<context>
     <name>Korvex::Converter::Subtitles::Details::ItemPanel</name>
     <message>
         <source>Subtitles of this film</source>
@@ -505,6 +539,174 @@
     <message>
         <source>Done</source>
         <translation type="unfinished">完成</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::LanguageSelector</name>
+    <message>
+        <source>Languages: %1</source>
+        <translation type="unfinished">语言：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::LanguageSelectorList</name>
+    <message>
+        <source>Languages to search in</source>
+        <translation type="unfinished">要搜索的语言</translation>
+    </message>
+    <message>
+        <source>Find a language</source>
+        <translation type="unfinished">查找语言</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindow</name>
+    <message>
+        <source>Type a title and press &quot;Search&quot;.</source>
+        <translation type="unfinished">请输入标题并按“搜索”。</translation>
+    </message>
+    <message>
+        <source>Find subtitles</source>
+        <translation type="unfinished">查找字幕</translation>
+    </message>
+    <message>
+        <source>Find subtitles: %1</source>
+        <translation type="unfinished">查找字幕：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindowFields</name>
+    <message>
+        <source>&amp;Title</source>
+        <translation type="unfinished">标题(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Season</source>
+        <translation type="unfinished">季(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation type="unfinished">季</translation>
+    </message>
+    <message>
+        <source>&amp;Episode</source>
+        <translation type="unfinished">集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Episode</source>
+        <translation type="unfinished">集</translation>
+    </message>
+    <message>
+        <source>&amp;Episode...</source>
+        <translation type="unfinished">集(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Search for an episode of a series</source>
+        <translation type="unfinished">搜索剧集中的一集</translation>
+    </message>
+    <message>
+        <source>Sea&amp;rch</source>
+        <translation type="unfinished">搜索(&amp;R)</translation>
+    </message>
+    <message>
+        <source>I&amp;MDb id</source>
+        <translation type="unfinished">IMDb 编号(&amp;M)</translation>
+    </message>
+    <message>
+        <source>IMDb id</source>
+        <translation type="unfinished">IMDb 编号</translation>
+    </message>
+    <message>
+        <source>The film&apos;s number at IMDb, as in tt0123456</source>
+        <translation type="unfinished">影片在 IMDb 上的编号，如 tt0123456</translation>
+    </message>
+    <message>
+        <source>&amp;Languages</source>
+        <translation type="unfinished">语言(&amp;L)</translation>
+    </message>
+    <message>
+        <source>E&amp;xactly this file</source>
+        <translation type="unfinished">仅限此文件(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Finds subtitles by the fingerprint of the file, whatever its name is</source>
+        <translation type="unfinished">按文件指纹查找字幕，与文件名无关</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::OnlineSearchWindowStatus</name>
+    <message>
+        <source>Searching...</source>
+        <translation type="unfinished">正在搜索...</translation>
+    </message>
+    <message>
+        <source>Downloading...</source>
+        <translation type="unfinished">正在下载...</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation type="unfinished">正在取消...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) found</source>
+        <translation type="unfinished">
+            <numerusform>找到 %n 个字幕</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished">取消(&amp;C)</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Download %n</source>
+        <translation type="unfinished">
+            <numerusform>下载 %n 个(&amp;D)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Download</source>
+        <translation type="unfinished">下载(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">关闭</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Converter::Subtitles::Details::ResultList</name>
+    <message>
+        <source>Smallest first; press to turn it round</source>
+        <translation type="unfinished">从小到大；按下可反转</translation>
+    </message>
+    <message>
+        <source>Largest first; press to turn it round</source>
+        <translation type="unfinished">从大到小；按下可反转</translation>
+    </message>
+    <message numerus="yes">
+        <source>None of the %n subtitle(s) found holds &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform>找到的 %n 个字幕中没有包含“%1”的。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Best match</source>
+        <translation type="unfinished">最佳匹配</translation>
+    </message>
+    <message>
+        <source>Subtitles found</source>
+        <translation type="unfinished">找到的字幕</translation>
+    </message>
+    <message>
+        <source>Filter the list</source>
+        <translation type="unfinished">筛选列表</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by</source>
+        <translation type="unfinished">排序方式(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation type="unfinished">排序方式</translation>
     </message>
 </context>
 <context>
@@ -620,6 +822,10 @@ It is built on Qt, FFmpeg and libass.</source>
         <source>Add</source>
         <translation type="unfinished">添加</translation>
     </message>
+    <message>
+        <source>S&amp;ettings...</source>
+        <translation type="unfinished">设置(&amp;E)...</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>
@@ -728,6 +934,23 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>Folders work too. Subtitle files beside a film are found automatically.</source>
         <translation type="unfinished">也可以是文件夹。影片旁的字幕文件会自动找到。</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::FetchedSubtitles</name>
+    <message>
+        <source>&quot;%1&quot; was added to &quot;%2&quot;.</source>
+        <translation type="unfinished">已将“%1”添加到“%2”。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle file(s) were added to &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform>已将 %n 个字幕文件添加到“%1”。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished">撤销</translation>
     </message>
 </context>
 <context>
@@ -1259,6 +1482,139 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>The list of films could not be saved in &quot;%1&quot; (%2): check that you may write there.</source>
         <translation type="unfinished">影片列表无法保存到“%1”（%2）：请检查您是否有写入权限。</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished">设置</translation>
+    </message>
+    <message>
+        <source>Online service</source>
+        <translation type="unfinished">在线服务</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation type="unfinished">统计</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished">确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">取消</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsOnlinePage</name>
+    <message>
+        <source>version 1 of OpenSubtitles, because an API key is set.</source>
+        <translation type="unfinished">OpenSubtitles 的版本 1，因为已设置 API 密钥。</translation>
+    </message>
+    <message>
+        <source>version 1 of OpenSubtitles, because the configuration file says so. It answers nobody without an API key: enter one below.</source>
+        <translation type="unfinished">OpenSubtitles 的版本 1，因为配置文件如此规定。没有 API 密钥时它不会应答：请在下方输入密钥。</translation>
+    </message>
+    <message>
+        <source>the older interface of OpenSubtitles, because the configuration file says so. The API key is not used.</source>
+        <translation type="unfinished">OpenSubtitles 的旧接口，因为配置文件如此规定。不使用 API 密钥。</translation>
+    </message>
+    <message>
+        <source>the older interface of OpenSubtitles, because no API key is set.</source>
+        <translation type="unfinished">OpenSubtitles 的旧接口，因为没有设置 API 密钥。</translation>
+    </message>
+    <message>
+        <source>API &amp;key:</source>
+        <translation type="unfinished">API 密钥(&amp;K)：</translation>
+    </message>
+    <message>
+        <source>API key</source>
+        <translation type="unfinished">API 密钥</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation type="unfinished">显示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Fetched &amp;files:</source>
+        <translation type="unfinished">下载的文件(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Folder for fetched files</source>
+        <translation type="unfinished">下载文件的文件夹</translation>
+    </message>
+    <message>
+        <source>&amp;Choose...</source>
+        <translation type="unfinished">选择(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>&amp;Usual folder</source>
+        <translation type="unfinished">默认文件夹(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Version 1:</source>
+        <translation type="unfinished">版本 1：</translation>
+    </message>
+    <message>
+        <source>Older interface:</source>
+        <translation type="unfinished">旧接口：</translation>
+    </message>
+    <message>
+        <source>The addresses are set in the configuration file &quot;%1&quot;.</source>
+        <translation type="unfinished">地址在配置文件“%1”中设置。</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation type="unfinished">正在使用：%1</translation>
+    </message>
+    <message>
+        <source>From the next start of the program on: %1</source>
+        <translation type="unfinished">下次启动程序后：%1</translation>
+    </message>
+    <message>
+        <source>Folder for fetched subtitle files</source>
+        <translation type="unfinished">下载的字幕文件的文件夹</translation>
+    </message>
+    <message>
+        <source>It comes from the account pages of opensubtitles.com, is kept in the configuration file, and is used from the next start on.</source>
+        <translation type="unfinished">密钥来自 opensubtitles.com 的账户页面，保存在配置文件中，下次启动时生效。</translation>
+    </message>
+    <message>
+        <source>The variable %1 of the environment sets it.</source>
+        <translation type="unfinished">由环境变量 %1 设置。</translation>
+    </message>
+    <message>
+        <source>This is no API key: a key has no blanks and no special characters. Copy it again.</source>
+        <translation type="unfinished">这不是 API 密钥：密钥中没有空格和特殊字符。请重新复制。</translation>
+    </message>
+</context>
+<context>
+    <name>Korvex::Desktop::SettingsStatisticsPage</name>
+    <message>
+        <source>If you agree, the program counts how the online search is used: from where it is opened, which fields are filled in, how many searches find something, nothing or fail, and how many files are fetched. Names, folders and what you type are never recorded. The record stays on this computer; it is sent to nobody.</source>
+        <translation type="unfinished">如果您同意，程序会统计在线搜索的使用情况：从哪里打开、填写了哪些字段、有多少次搜索有结果、无结果或失败，以及下载了多少文件。绝不记录名称、文件夹和您输入的内容。记录只保留在这台计算机上，不会发送给任何人。</translation>
+    </message>
+    <message>
+        <source>&amp;Count how the online search is used</source>
+        <translation type="unfinished">统计在线搜索的使用情况(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Recorded in &quot;%1&quot;:</source>
+        <translation type="unfinished">记录在“%1”中(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>Nothing has been recorded.</source>
+        <translation type="unfinished">没有任何记录。</translation>
+    </message>
+    <message>
+        <source>What has been recorded</source>
+        <translation type="unfinished">已记录的内容</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished">删除(&amp;D)</translation>
     </message>
 </context>
 <context>
@@ -1823,6 +2179,13 @@ It is built on Qt, FFmpeg and libass.</source>
     </message>
 </context>
 <context>
+    <name>LanguageSelector</name>
+    <message>
+        <source>All languages</source>
+        <translation type="unfinished">所有语言</translation>
+    </message>
+</context>
+<context>
     <name>NumberTexts</name>
     <message>
         <source>%1%</source>
@@ -1835,6 +2198,340 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>No online subtitle service is set up; add its API key to the settings.</source>
         <translation type="unfinished">未设置在线字幕服务；请在设置中添加其 API 密钥。</translation>
+    </message>
+    <message>
+        <source> (it says: &quot;%1&quot;)</source>
+        <translation type="unfinished"> （它回复：“%1”）</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again after %3.</source>
+        <translation type="unfinished">您在 %1 的下载次数已用完%2；请在 %3 之后再下载。</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again in %3.</source>
+        <translation type="unfinished">您在 %1 的下载次数已用完%2；请在以下时间过后再下载：%3。</translation>
+    </message>
+    <message>
+        <source>Your downloads at %1 are used up%2; download again tomorrow.</source>
+        <translation type="unfinished">您在 %1 的下载次数已用完%2；请明天再下载。</translation>
+    </message>
+    <message>
+        <source>%1 was asked too often%2; wait %3 s and try again.</source>
+        <translation type="unfinished">对 %1 的请求过于频繁%2；请等待 %3 秒后重试。</translation>
+    </message>
+    <message>
+        <source>%1 was asked too often%2; try again in a minute.</source>
+        <translation type="unfinished">对 %1 的请求过于频繁%2；请一分钟后重试。</translation>
+    </message>
+    <message>
+        <source>%1 did not accept the API key%2; set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
+        <translation type="unfinished">%1 不接受该 API 密钥%2；请在环境变量 KORVEX_OPENSUBTITLES_API_KEY 或配置文件的 api_key 中设置有效的密钥。</translation>
+    </message>
+    <message>
+        <source>%1 sent something else in place of the subtitle%2; choose another one, or try again later.</source>
+        <translation type="unfinished">%1 发来的不是字幕%2；请选择其他字幕，或稍后重试。</translation>
+    </message>
+    <message>
+        <source>%1 is down or overloaded at the moment%2; try again later.</source>
+        <translation type="unfinished">%1 目前停机或过载%2；请稍后重试。</translation>
+    </message>
+    <message>
+        <source>The subtitle could not be unpacked or stored in &quot;%1&quot;%2; choose another subtitle, or make sure that the folder may be written and has room.</source>
+        <translation type="unfinished">无法解压字幕或将其保存到“%1”%2；请选择其他字幕，或确保该文件夹可写且有空间。</translation>
+    </message>
+    <message>
+        <source>%1 refused the request%2; ask for something else, or try again later.</source>
+        <translation type="unfinished">%1 拒绝了请求%2；请改为请求其他内容，或稍后重试。</translation>
+    </message>
+    <message>
+        <source>%1 points to other addresses without end, or to one that may not be used%2; check the address that is set for it, or try again later.</source>
+        <translation type="unfinished">%1 不断转到其他地址，或转到不允许使用的地址%2；请检查为它设置的地址，或稍后重试。</translation>
+    </message>
+    <message>
+        <source>The answer of %1 was empty, broke off or was too large; try again later.</source>
+        <translation type="unfinished">%1 的应答为空、中断或过大；请稍后重试。</translation>
+    </message>
+    <message>
+        <source>The answer of %1 cannot be used%2; try again later.</source>
+        <translation type="unfinished">%1 的应答无法使用%2；请稍后重试。</translation>
+    </message>
+    <message>
+        <source>%1 could not answer%2; try again later.</source>
+        <translation type="unfinished">%1 无法应答%2；请稍后重试。</translation>
+    </message>
+    <message>
+        <source>%1 could not answer%2; check the address that is set for it and the proxy, or try again later.</source>
+        <translation type="unfinished">%1 无法应答%2；请检查为它设置的地址和代理，或稍后重试。</translation>
+    </message>
+    <message>
+        <source>The connection to %1 failed%2; check the proxy and whether the service&apos;s certificate is valid, or try again later.</source>
+        <translation type="unfinished">连接 %1 失败%2；请检查代理以及该服务的证书是否有效，或稍后重试。</translation>
+    </message>
+    <message>
+        <source>Another search or download has not ended yet; try again in a moment.</source>
+        <translation type="unfinished">另一个搜索或下载尚未结束；请稍候重试。</translation>
+    </message>
+    <message>
+        <source>%1 cannot look for this%2; type a title or an IMDb id.</source>
+        <translation type="unfinished">%1 无法搜索此内容%2；请输入标题或 IMDb 编号。</translation>
+    </message>
+    <message>
+        <source>%1 cannot search in this way; look for a title or an IMDb id.</source>
+        <translation type="unfinished">%1 无法以这种方式搜索；请按标题或 IMDb 编号查找。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be reached or did not answer in time; check the connection to the network and try again.</source>
+        <translation type="unfinished">无法连接 %1，或它没有及时应答；请检查网络连接后重试。</translation>
+    </message>
+</context>
+<context>
+    <name>OnlineSearchDialogPresenter</name>
+    <message>
+        <source>same file</source>
+        <translation type="unfinished">同一文件</translation>
+    </message>
+    <message>
+        <source>same release group</source>
+        <translation type="unfinished">同一发布组</translation>
+    </message>
+    <message>
+        <source>same source</source>
+        <translation type="unfinished">相同来源</translation>
+    </message>
+    <message>
+        <source>same resolution</source>
+        <translation type="unfinished">相同分辨率</translation>
+    </message>
+    <message>
+        <source>same episode</source>
+        <translation type="unfinished">同一集</translation>
+    </message>
+    <message>
+        <source>another episode</source>
+        <translation type="unfinished">另一集</translation>
+    </message>
+    <message>
+        <source>another film</source>
+        <translation type="unfinished">另一部影片</translation>
+    </message>
+    <message>
+        <source>Type a title or an IMDb id to search for.</source>
+        <translation type="unfinished">请输入要搜索的标题或 IMDb 编号。</translation>
+    </message>
+    <message>
+        <source>This is no IMDb id: type &quot;tt&quot; and digits, or leave it empty.</source>
+        <translation type="unfinished">这不是 IMDb 编号：请输入“tt”加数字，或留空。</translation>
+    </message>
+    <message>
+        <source>The season is no number: type digits, or leave it empty.</source>
+        <translation type="unfinished">季数不是数字：请输入数字或留空。</translation>
+    </message>
+    <message>
+        <source>The episode is no number: type digits, or leave it empty.</source>
+        <translation type="unfinished">集数不是数字：请输入数字或留空。</translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation type="unfinished">正在搜索...</translation>
+    </message>
+    <message numerus="yes">
+        <source>Searching... %n found so far</source>
+        <translation type="unfinished">
+            <numerusform>正在搜索... 目前找到 %n 个</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) found.</source>
+        <translation type="unfinished">
+            <numerusform>找到 %n 个字幕。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>check the spelling of the title</source>
+        <translation type="unfinished">检查标题的拼写</translation>
+    </message>
+    <message>
+        <source>type the title</source>
+        <translation type="unfinished">输入标题</translation>
+    </message>
+    <message>
+        <source>type the film&apos;s IMDb id</source>
+        <translation type="unfinished">输入影片的 IMDb 编号</translation>
+    </message>
+    <message>
+        <source>check the IMDb id</source>
+        <translation type="unfinished">检查 IMDb 编号</translation>
+    </message>
+    <message>
+        <source>leave out the season and the episode</source>
+        <translation type="unfinished">不填季和集</translation>
+    </message>
+    <message>
+        <source>choose other languages</source>
+        <translation type="unfinished">选择其他语言</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation type="unfinished">%1或%2</translation>
+    </message>
+    <message>
+        <source>No subtitles were found: %1.</source>
+        <translation type="unfinished">没有找到字幕：请%1。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Downloading %n subtitle(s)...</source>
+        <translation type="unfinished">
+            <numerusform>正在下载 %n 个字幕...</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subtitle(s) added to the film.</source>
+        <translation type="unfinished">
+            <numerusform>已将 %n 个字幕添加到影片。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n download(s) left.</source>
+        <translation type="unfinished">
+            <numerusform>还可下载 %n 次。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Waiting for the last request to end...</source>
+        <translation type="unfinished">正在等待上一个请求结束...</translation>
+    </message>
+    <message>
+        <source>The search was cancelled.</source>
+        <translation type="unfinished">搜索已取消。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The search was cancelled; %n subtitle(s) found.</source>
+        <translation type="unfinished">
+            <numerusform>搜索已取消；找到 %n 个字幕。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The download was cancelled.</source>
+        <translation type="unfinished">下载已取消。</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1，%2</translation>
+    </message>
+</context>
+<context>
+    <name>ResultList</name>
+    <message>
+        <source>Machine</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">机器翻译</translation>
+    </message>
+    <message>
+        <source>Translated by a machine</source>
+        <translation type="unfinished">由机器翻译</translation>
+    </message>
+    <message>
+        <source>Foreign</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">外语</translation>
+    </message>
+    <message>
+        <source>Only what is spoken in a foreign language</source>
+        <translation type="unfinished">仅限外语对白</translation>
+    </message>
+    <message>
+        <source>HI</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">听障</translation>
+    </message>
+    <message>
+        <source>For the hearing impaired: sounds are described</source>
+        <translation type="unfinished">听障人士适用：包含声音描述</translation>
+    </message>
+    <message>
+        <source>Trusted</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">可信</translation>
+    </message>
+    <message>
+        <source>From an uploader whom the service trusts</source>
+        <translation type="unfinished">来自该服务信任的上传者</translation>
+    </message>
+    <message>
+        <source>CD %1/%2</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">CD %1/%2</translation>
+    </message>
+    <message>
+        <source>Part %1 of %2; all parts are downloaded</source>
+        <translation type="unfinished">第 %1 部分，共 %2 部分；将下载所有部分</translation>
+    </message>
+    <message>
+        <source>HD</source>
+        <comment>short mark</comment>
+        <translation type="unfinished">高清</translation>
+    </message>
+    <message>
+        <source>Made for a release in high definition</source>
+        <translation type="unfinished">为高清版本制作</translation>
+    </message>
+    <message>
+        <source>Made for this file or release</source>
+        <translation type="unfinished">为此文件或版本制作</translation>
+    </message>
+    <message>
+        <source>For this film, perhaps for another cut of it</source>
+        <translation type="unfinished">用于此影片，但可能是另一剪辑版本</translation>
+    </message>
+    <message>
+        <source>For another film or episode</source>
+        <translation type="unfinished">用于其他影片或剧集</translation>
+    </message>
+    <message>
+        <source>It is not known how well it fits</source>
+        <translation type="unfinished">不清楚是否匹配</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished">名称</translation>
+    </message>
+    <message>
+        <source>Match</source>
+        <translation type="unfinished">匹配</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished">语言</translation>
+    </message>
+    <message>
+        <source>Marks</source>
+        <translation type="unfinished">标记</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation type="unfinished">下载次数</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation type="unfinished">评分</translation>
+    </message>
+    <message>
+        <source>Uploaded</source>
+        <translation type="unfinished">上传时间</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation type="unfinished">格式</translation>
+    </message>
+    <message>
+        <source>Release: %1</source>
+        <translation type="unfinished">版本：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of 10, by %n vote(s)</source>
+        <translation type="unfinished">
+            <numerusform>10 分中的 %1 分，%n 票</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -57,6 +57,15 @@ QString NameReason(MatchReason reason)
     return {};
 }
 
+/// Not every script parts the members of a list by the same sign.
+QString JoinAsList(QStringList const& members)
+{
+    QString list;
+    for (QString const& member : members)
+        list = list.isEmpty() ? member : Texts::tr("%1, %2").arg(list, member);
+    return list;
+}
+
 int ToPlural(std::size_t count)
 {
     return static_cast<int>(count);
@@ -79,7 +88,7 @@ QString DescribeMatch(std::vector<MatchReason> const& reasons)
         if (QString const name = NameReason(reason); !name.isEmpty())
             words.append(name);
     }
-    QString text = words.join(QStringLiteral(", "));
+    QString text = JoinAsList(words);
     if (!text.isEmpty())
         text[0] = text.at(0).toUpper();
     return text;
@@ -148,7 +157,7 @@ QString DescribeNothingFound(UseCases::SearchRequest const& request)
     if (!request.languages.empty())
         advice.append(Texts::tr("choose other languages"));
     QString const last = advice.takeLast();
-    QString const all = advice.isEmpty() ? last : Texts::tr("%1 or %2").arg(advice.join(QStringLiteral(", ")), last);
+    QString const all = advice.isEmpty() ? last : Texts::tr("%1 or %2").arg(JoinAsList(advice), last);
     return Texts::tr("No subtitles were found: %1.").arg(all);
 }
 
