@@ -31,6 +31,7 @@ struct TrackChoice
     TrackProperties properties;
     Converter::Subtitles::Entities::SubtitleEncoding encoding = Converter::Subtitles::Entities::SubtitleEncoding::Auto;
     double offsetSeconds = 0.0;
+    std::string detail; ///< of a file: what was known of it beyond its name; empty: nothing
 };
 
 /// Everything that the user decided about the subtitles of a film, apart from what the film itself holds: it survives

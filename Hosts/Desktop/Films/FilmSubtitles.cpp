@@ -127,6 +127,8 @@ void FilmSubtitles::RestoreTracks(FilmChoice const& choice, SubtitleCollection& 
             auto const found = tracks->find(id);
             if (found == tracks->end())
                 continue;
+            if (found->second.isExternal && !chosen.detail.empty())
+                found->second.detail = chosen.detail;
             SetNames(chosen.properties, found->second);
             found->second.encoding = chosen.encoding;
             found->second.synchronizationOffset = chosen.offsetSeconds;
@@ -200,8 +202,8 @@ void FilmSubtitles::NoteTrack(SubtitleTrack const& track, FilmChoice& choice) co
                             own->second.title == track.title && own->second.isForced == track.isForced &&
                             track.synchronizationOffset == 0.0;
     if (!isAsInFilm)
-        choice.tracks.emplace(track.id,
-                              TrackChoice{ReadProperties(track), track.encoding, track.synchronizationOffset});
+        choice.tracks.emplace(track.id, TrackChoice{ReadProperties(track), track.encoding, track.synchronizationOffset,
+                                                    track.isExternal ? track.detail : std::string()});
 }
 
 std::vector<SubtitleTrack> FilmSubtitles::ListLeftOut() const

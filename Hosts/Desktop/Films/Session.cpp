@@ -136,6 +136,7 @@ QJsonObject WriteTrack(SubtitleTrackID const& id, TrackChoice const& track)
             {"language", ToText(track.properties.language)},
             {"title", ToText(track.properties.title)},
             {"forced", track.properties.isForced},
+            {"detail", ToText(track.detail)},
             {"encoding", ToText(EncodingToCoreString(track.encoding))},
             {"offset", track.offsetSeconds}};
 }
@@ -146,6 +147,7 @@ TrackChoice ReadTrack(QJsonObject const& object)
     track.properties.language = ReadText(object, "language");
     track.properties.title = ReadText(object, "title");
     track.properties.isForced = object.value("forced").toBool();
+    track.detail = ReadText(object, "detail");
     track.encoding = EncodingFromCoreString(ReadText(object, "encoding"));
     track.offsetSeconds = object.value("offset").toDouble();
     return track;

@@ -25,12 +25,13 @@ struct Entry
 constexpr char const* CONTEXT = "Korvex::Desktop::Actions";
 
 // clang-format off
-std::array<Entry, 21> const ENTRIES = {{
+std::array<Entry, 22> const ENTRIES = {{
     {ActionId::AddFilms, "addFilmsAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "&Add films..."), "Ctrl+O"},
     {ActionId::AddSubtitles, "addSubtitlesAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "Add &subtitles..."), "Ctrl+Shift+O"},
     {ActionId::ShowSettings, "settingsAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "S&ettings..."), "Ctrl+,"},
     {ActionId::Quit, "quitAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "&Quit"), "Ctrl+Q"},
     {ActionId::ChooseSubtitles, "chooseSubtitlesAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "&Subtitles..."), "Ctrl+T"},
+    {ActionId::FindSubtitles, "findSubtitlesAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "Find subtitles &online..."), "Ctrl+F"},
     {ActionId::ApplyToAll, "applyToAllAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "Apply these subtitles to &all"), "Ctrl+Shift+A"},
     {ActionId::CopyCommand, "copyCommandAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "&Copy as command line"), "Ctrl+Shift+C"},
     {ActionId::RevealOutput, "revealOutputAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "Show &output in folder"), "Ctrl+Shift+F"},
@@ -89,11 +90,11 @@ void Actions::SetIcons()
 {
     using GUI::IconKind;
     std::map<ActionId, IconKind> const icons{
-        {ActionId::AddFilms, IconKind::Add},          {ActionId::AddSubtitles, IconKind::Subtitle},
-        {ActionId::ShowSettings, IconKind::Settings}, {ActionId::RevealOutput, IconKind::Folder},
-        {ActionId::RemoveFilms, IconKind::Remove},    {ActionId::ConvertAll, IconKind::Play},
-        {ActionId::CancelAll, IconKind::Stop},        {ActionId::ShowShortcuts, IconKind::Help},
-        {ActionId::ShowAbout, IconKind::Information}};
+        {ActionId::AddFilms, IconKind::Add},        {ActionId::AddSubtitles, IconKind::Subtitle},
+        {ActionId::FindSubtitles, IconKind::Find},  {ActionId::ShowSettings, IconKind::Settings},
+        {ActionId::RevealOutput, IconKind::Folder}, {ActionId::RemoveFilms, IconKind::Remove},
+        {ActionId::ConvertAll, IconKind::Play},     {ActionId::CancelAll, IconKind::Stop},
+        {ActionId::ShowShortcuts, IconKind::Help},  {ActionId::ShowAbout, IconKind::Information}};
     for (auto const& [id, kind] : icons)
         Get(id)->setIcon(GUI::MakeIcon(kind));
 }

@@ -18,6 +18,7 @@ enum class ActionId
     ShowSettings,
     Quit,
     ChooseSubtitles,
+    FindSubtitles,
     ApplyToAll,
     CopyCommand,
     RevealOutput,

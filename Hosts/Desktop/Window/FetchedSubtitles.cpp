@@ -6,8 +6,11 @@
 
 #include "Subtitles/Entities/SubtitleCollection.h"
 #include "Subtitles/UseCases/IOnlineDownloaderInteractor.h"
+#include "Subtitles/UseCases/IOnlineSearchPresenter.h"
 
 #include "Core/ScopedObservation.h"
+
+#include <Hypodermic/Container.h>
 
 #include <algorithm>
 #include <string>
@@ -21,6 +24,9 @@ using Converter::Subtitles::Entities::SubtitleTrackID;
 using Converter::Subtitles::UseCases::IOnlineDownloaderInteractor;
 using Converter::Subtitles::UseCases::IOnlineDownloaderInteractorObserver;
 using Converter::Subtitles::UseCases::IOnlineSearchController;
+using Converter::Subtitles::UseCases::IOnlineSearchPresenter;
+using Converter::Subtitles::UseCases::IOnlineSearchPresenterEventObserver;
+using Converter::Subtitles::UseCases::SearchRequest;
 using Converter::Subtitles::UseCases::SearchResult;
 
 namespace
@@ -33,14 +39,17 @@ QString NameOf(ioPath const& file)
 
 } // namespace
 
-class FetchedSubtitles::Impl final : public IOnlineDownloaderInteractorObserver
+class FetchedSubtitles::Impl final : public IOnlineDownloaderInteractorObserver,
+                                     public IOnlineSearchPresenterEventObserver
 {
 public:
     Impl(Hosts::HostServices& services, FilmList& films, Notices& notices)
         : m_films(films),
           m_notices(notices),
           m_downloader(services.GetOnlineDownloader()),
-          m_observation(*m_downloader, *this)
+          m_presenter(services.GetContainer().resolve<IOnlineSearchPresenter>()),
+          m_downloaderObservation(*m_downloader, *this),
+          m_presenterObservation(*m_presenter, *this)
     {
     }
 
@@ -57,17 +66,18 @@ public:
         Tell(*film);
     }
 
-    void OnSearchResults(SubtitleCollectionID /*collection*/,
-                         std::vector<std::shared_ptr<SearchResult>> const& /*results*/) override
-    {
-        BeginFetch();
-    }
     void OnOperationFinished(SubtitleCollectionID /*collection*/) override { BeginFetch(); }
     void OnOperationFailed(SubtitleCollectionID /*collection*/, IOnlineSearchController::Status /*status*/,
                            QString const& /*message*/) override
     {
         BeginFetch();
     }
+
+    // What is cancelled ends in silence.
+    void OnCancelRequested() override { BeginFetch(); }
+    void OnSearchClosed() override { BeginFetch(); }
+    void OnSearchRequested(SearchRequest const& /*request*/) override {}
+    void OnDownloadRequested(std::vector<std::shared_ptr<SearchResult>> const& /*results*/) override {}
 
 private:
     /// What came in at one wish of the user's.
@@ -124,8 +134,10 @@ private:
     FilmList& m_films;
     Notices& m_notices;
     std::shared_ptr<IOnlineDownloaderInteractor> m_downloader;
+    std::shared_ptr<IOnlineSearchPresenter> m_presenter;
     Fetch m_fetch; ///< that is going on, or will be the next
-    Core::ScopedObservation<IOnlineDownloaderInteractorObserver> m_observation;
+    Core::ScopedObservation<IOnlineDownloaderInteractorObserver> m_downloaderObservation;
+    Core::ScopedObservation<IOnlineSearchPresenterEventObserver> m_presenterObservation;
 };
 
 FetchedSubtitles::FetchedSubtitles(Hosts::HostServices& services, FilmList& films, Notices& notices, QObject* parent)

@@ -94,6 +94,7 @@ void FilmActions::UpdateEnabled()
     auto const enable = [this](ActionId id, bool isEnabled) { m_parts.actions.Get(id)->setEnabled(isEnabled); };
     enable(ActionId::AddSubtitles, film != nullptr);
     enable(ActionId::ChooseSubtitles, isReady);
+    enable(ActionId::FindSubtitles, isReady);
     enable(ActionId::ApplyToAll, isReady && m_parts.films.rowCount() > 1);
     enable(ActionId::CopyCommand, isReady);
     enable(ActionId::RevealOutput, status && status->state == ConversionState::Done);

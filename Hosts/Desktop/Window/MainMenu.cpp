@@ -41,7 +41,8 @@ MainMenu::MainMenu(Actions const& actions, QMenuBar& bar, QObject* parent)
 
     Fill(m_film, actions, {ActionId::ConvertFilm, ActionId::CancelFilm, ActionId::RevealOutput});
     m_film->addSeparator();
-    Fill(m_film, actions, {ActionId::ChooseSubtitles, ActionId::AddSubtitles, ActionId::ApplyToAll});
+    Fill(m_film, actions,
+         {ActionId::ChooseSubtitles, ActionId::AddSubtitles, ActionId::FindSubtitles, ActionId::ApplyToAll});
     m_putBack = m_film->addMenu(QString());
     m_film->addSeparator();
     Fill(m_film, actions, {ActionId::CopyCommand, ActionId::PreviousFilm, ActionId::NextFilm});

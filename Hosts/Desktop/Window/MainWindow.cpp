@@ -18,6 +18,7 @@
 #include "Desktop/Window/ModulePanels.h"
 #include "Desktop/Window/NoticeBar.h"
 #include "Desktop/Window/Notices.h"
+#include "Desktop/Window/OnlineSearchActions.h"
 #include "Desktop/Window/OnlineSettings.h"
 #include "Desktop/Window/OutputBar.h"
 #include "Desktop/Window/OutputControl.h"
@@ -90,6 +91,7 @@ void MainWindow::MakeParts()
     m_filmActions->FillPutBackMenu(*m_menu->GetPutBackMenu());
     m_trackActions = new TrackActions(*m_panels, *m_notices, *this);
     m_onlineSettings = new OnlineSettings(store, statistics, this);
+    m_onlineSearch = new OnlineSearchActions({services, films, *m_filmPane, *m_actions, *m_onlineSettings}, this);
     new FetchedSubtitles(services, films, *m_notices, this);
     // Without a parent until they are laid out, so that the tabulator comes to them in that order.
     m_textHelp = new TextHelpPane;
@@ -259,8 +261,10 @@ void MainWindow::changeEvent(QEvent* event)
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(m_control->ConfirmClose(this) && m_trackActions->ConfirmClose());
-    if (event->isAccepted())
-        KeepPlaces();
+    if (!event->isAccepted())
+        return;
+    m_onlineSearch->CloseSearch();
+    KeepPlaces();
 }
 
 } // namespace Korvex::Desktop

@@ -31,6 +31,7 @@ class MainMenu;
 class ModulePanels;
 class NoticeBar;
 class Notices;
+class OnlineSearchActions;
 class OnlineSettings;
 class OutputBar;
 class PreviewPane;
@@ -95,6 +96,7 @@ private:
     FilmActions* m_filmActions = nullptr;
     TrackActions* m_trackActions = nullptr;
     OnlineSettings* m_onlineSettings = nullptr;
+    OnlineSearchActions* m_onlineSearch = nullptr;
     TextHelpPane* m_textHelp = nullptr;
     PreviewPane* m_preview = nullptr;
     OutputBar* m_outputBar = nullptr;
