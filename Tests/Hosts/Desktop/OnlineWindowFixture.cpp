@@ -1,9 +1,17 @@
 #include "Hosts/Desktop/OnlineWindowFixture.h"
 
 #include "App/Configuration.h"
+#include "Subtitles/UseCases/IOnlineSearchInteractor.h"
+
+#include <Hypodermic/Container.h>
+
+#include <QLabel>
+#include <QSettings>
 
 namespace Korvex::Testing
 {
+
+using Converter::Subtitles::UseCases::IOnlineSearchInteractor;
 
 namespace
 {
@@ -24,9 +32,42 @@ App::Configuration MakeConfiguration(OnlineServer const& server, Client client, 
 
 } // namespace
 
-OnlineWindowFixture::OnlineWindowFixture(Client client, std::string const& fault)
+OnlineWindowFixture::OnlineWindowFixture(Client client, std::string const& fault, QStringList const& languages)
     : WindowFixture(MakeConfiguration(m_server, client, fault))
 {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                       QString::fromStdString((m_folder / "settings").utf8string()));
+    QSettings(QStringLiteral("korvex"), QStringLiteral("subtitles"))
+        .setValue(QStringLiteral("onlineSearch/languages"), languages);
+    m_services.GetContainer().resolve<IOnlineSearchInteractor>()->SetDownloadFolder(GetFetched());
+}
+
+void OnlineWindowFixture::OpenSearch()
+{
+    GetWindow().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&GetWindow()));
+    Click("addSubtitlesButton");
+    Click("findButton");
+    WaitUntil([this] { return IsSearchOpen(); });
+}
+
+void OnlineWindowFixture::WaitForSearch()
+{
+    WaitUntil([this] { return !Get<QWidget>("searchCancelButton").isVisible(); });
+}
+
+bool OnlineWindowFixture::IsSearchOpen()
+{
+    auto const* window = GetWindow().findChild<QWidget*>(QStringLiteral("onlineSearchWindow"));
+    return window != nullptr && window->isVisible();
+}
+
+std::string OnlineWindowFixture::GetSearchSentence()
+{
+    auto const& inPlace = Get<QLabel>("resultEmptyLabel");
+    return (inPlace.isVisible() && !inPlace.text().isEmpty() ? inPlace : Get<QLabel>("searchStateLabel"))
+        .text()
+        .toStdString();
 }
 
 } // namespace Korvex::Testing
