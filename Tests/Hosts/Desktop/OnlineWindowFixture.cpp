@@ -1,17 +1,12 @@
 #include "Hosts/Desktop/OnlineWindowFixture.h"
 
 #include "App/Configuration.h"
-#include "Subtitles/UseCases/IOnlineSearchInteractor.h"
-
-#include <Hypodermic/Container.h>
 
 #include <QLabel>
 #include <QSettings>
 
 namespace Korvex::Testing
 {
-
-using Converter::Subtitles::UseCases::IOnlineSearchInteractor;
 
 namespace
 {
@@ -39,7 +34,6 @@ OnlineWindowFixture::OnlineWindowFixture(Client client, std::string const& fault
                        QString::fromStdString((m_folder / "settings").utf8string()));
     QSettings(QStringLiteral("korvex"), QStringLiteral("subtitles"))
         .setValue(QStringLiteral("onlineSearch/languages"), languages);
-    m_services.GetContainer().resolve<IOnlineSearchInteractor>()->SetDownloadFolder(GetFetched());
 }
 
 void OnlineWindowFixture::OpenSearch()

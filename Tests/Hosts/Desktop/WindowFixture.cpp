@@ -30,6 +30,8 @@ void WindowFixture::Start()
     EXPECT_EQ(m_store->Restore(), QString());
     if (m_store->GetExtra("language").isEmpty())
         m_store->SetExtra("language", "en");
+    if (m_store->GetExtra("subtitlesFolder").isEmpty())
+        m_store->SetExtra("subtitlesFolder", QByteArray::fromStdString((m_folder / "fetched").utf8string()));
     m_window = std::make_unique<Desktop::MainWindow>(
         Desktop::Program{m_services, m_list, *m_queue, *m_store, GetLookAndFeel(), m_languages, *m_statistics});
     ShowAndWait(*m_window);
