@@ -129,6 +129,7 @@ TEST_P(OnlineFailureTest, IsToldInTheDialog)
     EXPECT_THAT(GetSearchSentence(), HasSubstr(GetParam().sentence));
     EXPECT_THAT(GetSearchSentence(), testing::Not(HasSubstr("korvex-test-key")));
     EXPECT_TRUE(film.GetCollection().tracks.empty());
+    QTest::qWait(60); // a long sentence takes its room
     SaveScreenshot(Get<QDialog>("onlineSearchWindow"), QString::fromStdString("online-" + GetParam().name));
 }
 
