@@ -2447,6 +2447,11 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <source>%1, %2</source>
         <translation type="unfinished">%1, %2</translation>
     </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation type="unfinished">%1 %2</translation>
+    </message>
 </context>
 <context>
     <name>ResultList</name>
@@ -2534,7 +2539,7 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
     </message>
     <message>
         <source>Marks</source>
-        <translation type="unfinished">Markierungen</translation>
+        <translation type="unfinished">Merkmale</translation>
     </message>
     <message>
         <source>Downloads</source>

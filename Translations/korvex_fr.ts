@@ -2447,6 +2447,11 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <source>%1, %2</source>
         <translation type="unfinished">%1, %2</translation>
     </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation type="unfinished">%1 %2</translation>
+    </message>
 </context>
 <context>
     <name>ResultList</name>

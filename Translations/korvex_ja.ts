@@ -2418,6 +2418,11 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <source>%1, %2</source>
         <translation type="unfinished">%1、%2</translation>
     </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation type="unfinished">%1%2</translation>
+    </message>
 </context>
 <context>
     <name>ResultList</name>

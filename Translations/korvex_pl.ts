@@ -2476,6 +2476,11 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <source>%1, %2</source>
         <translation type="unfinished">%1, %2</translation>
     </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation type="unfinished">%1 %2</translation>
+    </message>
 </context>
 <context>
     <name>ResultList</name>

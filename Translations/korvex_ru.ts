@@ -2476,6 +2476,11 @@ It is built on Qt, FFmpeg and libass.</source>
         <source>%1, %2</source>
         <translation type="unfinished">%1, %2</translation>
     </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation type="unfinished">%1 %2</translation>
+    </message>
 </context>
 <context>
     <name>ResultList</name>
@@ -2500,7 +2505,7 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>HI</source>
         <comment>short mark</comment>
-        <translation type="unfinished">Для глухих</translation>
+        <translation type="unfinished">Глухим</translation>
     </message>
     <message>
         <source>For the hearing impaired: sounds are described</source>

@@ -171,7 +171,7 @@ QString DescribeDownloaded(std::size_t count, std::optional<int> downloadsLeft)
     QString const done = Texts::tr("%n subtitle(s) added to the film.", nullptr, ToPlural(count));
     if (!downloadsLeft)
         return done;
-    return done + QLatin1Char(' ') + Texts::tr("%n download(s) left.", nullptr, *downloadsLeft);
+    return Texts::tr("%1 %2", "two sentences").arg(done, Texts::tr("%n download(s) left.", nullptr, *downloadsLeft));
 }
 
 QString DescribeCancelling()

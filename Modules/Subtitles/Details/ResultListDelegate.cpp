@@ -260,7 +260,7 @@ int ResultListDelegate::FindColumnWidth(QFontMetrics const& metrics, int column)
         int most;
     };
     // In average characters: enough for two lines of most texts.
-    static constexpr Limits LIMITS[ResultListModel::COLUMN_COUNT] = {{25, 25}, {10, 20}, {6, 10}, {4, 12},
+    static constexpr Limits LIMITS[ResultListModel::COLUMN_COUNT] = {{25, 25}, {10, 20}, {6, 13}, {4, 12},
                                                                      {4, 10},  {3, 6},   {6, 10}, {3, 6}};
     Limits const& limits = LIMITS[column];
     int const character = metrics.averageCharWidth();
