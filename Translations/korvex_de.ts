@@ -839,6 +839,10 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <source>S&amp;ettings...</source>
         <translation type="unfinished">&amp;Einstellungen...</translation>
     </message>
+    <message>
+        <source>Find subtitles on&amp;line...</source>
+        <translation type="unfinished">Untertitel &amp;online suchen...</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>

@@ -839,6 +839,10 @@ Se basa en Qt, FFmpeg y libass.</translation>
         <source>S&amp;ettings...</source>
         <translation type="unfinished">A&amp;justes...</translation>
     </message>
+    <message>
+        <source>Find subtitles on&amp;line...</source>
+        <translation type="unfinished">Buscar subtítulos en &amp;línea...</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>

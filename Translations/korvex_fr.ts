@@ -839,6 +839,10 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <source>S&amp;ettings...</source>
         <translation type="unfinished">&amp;Réglages...</translation>
     </message>
+    <message>
+        <source>Find subtitles on&amp;line...</source>
+        <translation type="unfinished">Chercher des sous-titres en &amp;ligne...</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>

@@ -826,6 +826,10 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <source>S&amp;ettings...</source>
         <translation type="unfinished">設定(&amp;E)...</translation>
     </message>
+    <message>
+        <source>Find subtitles on&amp;line...</source>
+        <translation type="unfinished">字幕をオンラインで探す(&amp;L)...</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>

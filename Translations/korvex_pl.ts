@@ -852,6 +852,10 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <source>S&amp;ettings...</source>
         <translation type="unfinished">&amp;Ustawienia...</translation>
     </message>
+    <message>
+        <source>Find subtitles on&amp;line...</source>
+        <translation type="unfinished">Znajdź napisy w &amp;internecie...</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>

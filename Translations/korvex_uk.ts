@@ -852,6 +852,10 @@ It is built on Qt, FFmpeg and libass.</source>
         <source>S&amp;ettings...</source>
         <translation type="unfinished">На&amp;лаштування...</translation>
     </message>
+    <message>
+        <source>Find subtitles on&amp;line...</source>
+        <translation type="unfinished">&amp;Знайти субтитри в інтернеті...</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>

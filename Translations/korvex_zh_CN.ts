@@ -826,6 +826,10 @@ It is built on Qt, FFmpeg and libass.</source>
         <source>S&amp;ettings...</source>
         <translation type="unfinished">设置(&amp;E)...</translation>
     </message>
+    <message>
+        <source>Find subtitles on&amp;line...</source>
+        <translation type="unfinished">在线查找字幕(&amp;L)...</translation>
+    </message>
 </context>
 <context>
     <name>Korvex::Desktop::ApplyReportDialog</name>

@@ -31,7 +31,7 @@ std::array<Entry, 22> const ENTRIES = {{
     {ActionId::ShowSettings, "settingsAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "S&ettings..."), "Ctrl+,"},
     {ActionId::Quit, "quitAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "&Quit"), "Ctrl+Q"},
     {ActionId::ChooseSubtitles, "chooseSubtitlesAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "&Subtitles..."), "Ctrl+T"},
-    {ActionId::FindSubtitles, "findSubtitlesAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "Find subtitles &online..."), "Ctrl+F"},
+    {ActionId::FindSubtitles, "findSubtitlesAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "Find subtitles on&line..."), "Ctrl+F"},
     {ActionId::ApplyToAll, "applyToAllAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "Apply these subtitles to &all"), "Ctrl+Shift+A"},
     {ActionId::CopyCommand, "copyCommandAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "&Copy as command line"), "Ctrl+Shift+C"},
     {ActionId::RevealOutput, "revealOutputAction", QT_TRANSLATE_NOOP("Korvex::Desktop::Actions", "Show &output in folder"), "Ctrl+Shift+F"},
