@@ -2319,7 +2319,7 @@ Se basa en Qt, FFmpeg y libass.</translation>
     </message>
     <message>
         <source>same release group</source>
-        <translation type="unfinished">mismo grupo de publicación</translation>
+        <translation type="unfinished">mismo grupo</translation>
     </message>
     <message>
         <source>same source</source>

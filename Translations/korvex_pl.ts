@@ -2342,7 +2342,7 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
     </message>
     <message>
         <source>same release group</source>
-        <translation type="unfinished">ta sama grupa wydająca</translation>
+        <translation type="unfinished">ta sama grupa</translation>
     </message>
     <message>
         <source>same source</source>

@@ -2518,7 +2518,7 @@ It is built on Qt, FFmpeg and libass.</source>
     <message>
         <source>Trusted</source>
         <comment>short mark</comment>
-        <translation type="unfinished">Надёжный</translation>
+        <translation type="unfinished">Надёжно</translation>
     </message>
     <message>
         <source>From an uploader whom the service trusts</source>

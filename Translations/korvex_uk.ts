@@ -2350,7 +2350,7 @@ It is built on Qt, FFmpeg and libass.</source>
     </message>
     <message>
         <source>same resolution</source>
-        <translation type="unfinished">та сама роздільність</translation>
+        <translation type="unfinished">та ж роздільність</translation>
     </message>
     <message>
         <source>same episode</source>
