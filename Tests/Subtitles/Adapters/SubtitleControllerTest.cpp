@@ -4,20 +4,13 @@
 #include "Subtitles/Entities/SubtitleCodecs.h"
 #include "Subtitles/Entities/SubtitleCollection.h"
 
-#include "Conf/IFormatCodec.h"
 #include "Conf/IFormatCodecSubtitle.h"
-#include "Conf/IFormatFile.h"
-#include "Core/CoreManager.h"
-#include "Core/FileSystem.h"
-#include "Proc/Register.h"
 
 namespace Korvex::Converter::Subtitles::Adapters
 {
 namespace
 {
 
-using Conf::IFormatCodecSubtitle;
-using Conf::IFormatFile;
 using Entities::SubtitleCollection;
 using Entities::SubtitleCollectionMode;
 
@@ -42,16 +35,6 @@ protected:
     std::shared_ptr<SubtitleCollection> m_collection = std::make_shared<SubtitleCollection>();
 };
 
-TEST_F(SubtitleControllerTest, KnowsWhatContainersCarry)
-{
-    auto const codecs = [this](std::string const& format) { return m_controller.GetAllowedSoftCodecIds(format); };
-    EXPECT_EQ(codecs(IFormatFile::FORMAT_MP4), (std::set<std::string>{"dvd_subtitle", "mov_text"}));
-    EXPECT_EQ(codecs(IFormatFile::FORMAT_MOV), codecs(IFormatFile::FORMAT_MP4));
-    EXPECT_EQ(codecs(IFormatFile::FORMAT_MPEGTS), (std::set<std::string>{"dvb_subtitle", "dvb_teletext"}));
-    EXPECT_EQ(codecs(IFormatFile::FORMAT_MPEG2TS), codecs(IFormatFile::FORMAT_MPEGTS));
-    EXPECT_TRUE(codecs("MATROSKA").empty());
-}
-
 TEST_F(SubtitleControllerTest, KnowsFilesByExtensionAndPath)
 {
     for (char const* extension : {"srt", "SRT", "ass", "ssa", "Smi"})
@@ -65,7 +48,7 @@ TEST_F(SubtitleControllerTest, KnowsFilesByExtensionAndPath)
 
 TEST_F(SubtitleControllerTest, EntitiesKnowTheCoresCodecNames)
 {
-    using Id = IFormatCodecSubtitle;
+    using Id = Conf::IFormatCodecSubtitle;
     for (std::string const& codec :
          {Id::CODEC_ID_SUBRIP, Id::CODEC_ID_SAMI, Id::CODEC_ID_TEXT, Id::CODEC_ID_WEBVTT, Id::CODEC_ID_MOV_TEXT})
         EXPECT_TRUE(Entities::IsRestylableSubtitleCodec(codec) && Entities::IsTextSubtitleCodec(codec)) << codec;
@@ -75,45 +58,17 @@ TEST_F(SubtitleControllerTest, EntitiesKnowTheCoresCodecNames)
     EXPECT_FALSE(Entities::IsTextSubtitleCodec(Id::CODEC_ID_HDMV_PGS_SUBTITLE));
 }
 
-TEST_F(SubtitleControllerTest, DeterminesTheCodecOfRealFiles)
+TEST_F(SubtitleControllerTest, AnUndecidedCollectionChangesNothing)
 {
-    Proc::RegisterFactories();
-    ioPath const folder = std::move(Core::CreateWorkFolder()).Value();
-    auto const codecOf = [&](char const* name, char const* bytes)
-    {
-        EXPECT_FALSE(Core::WriteFile(folder / name, bytes, false));
-        return m_controller.DetermineSubtitleCodec(folder / name);
-    };
-    EXPECT_EQ(codecOf("a.srt", "1\n00:00:01,000 --> 00:00:02,000\nHello\n"), IFormatCodecSubtitle::CODEC_ID_SUBRIP);
-    EXPECT_EQ(codecOf("empty.srt", ""), Conf::IFormatCodec::CODEC_ID_NONE);
-    EXPECT_EQ(codecOf("noise.srt", "\x01\x02\x03 nothing"), Conf::IFormatCodec::CODEC_ID_NONE);
-    EXPECT_EQ(m_controller.DetermineSubtitleCodec(folder / "missing.srt"), Conf::IFormatCodec::CODEC_ID_NONE);
-    EXPECT_NE(m_controller.GetCodecName(IFormatCodecSubtitle::CODEC_ID_SUBRIP), "");
-    Core::RemoveWorkFolder(folder);
-}
-
-TEST_F(SubtitleControllerTest, SoftAndBurnedInExcludeEachOther)
-{
-    Apply(SubtitleCollectionMode::AllSoftSubtitles);
-    EXPECT_NE(Impl().GetSubtitleSoftSettings(), nullptr);
-    EXPECT_EQ(Impl().GetSubtitleMixerSettings(), nullptr);
-
     m_collection->currentTrack = Entities::SubtitleTrackID(2u);
     Apply(SubtitleCollectionMode::SelectedTrack);
-    EXPECT_EQ(Impl().GetSubtitleSoftSettings(), nullptr);
     auto const mixer = Impl().GetSubtitleMixerSettings();
     EXPECT_NE(mixer, nullptr);
 
     Apply(SubtitleCollectionMode::ModeNone);
     EXPECT_EQ(Impl().GetSubtitleMixerSettings(), mixer) << "nothing decided, nothing changed";
-    m_collection->withoutSubtitles = 1;
-    Apply(SubtitleCollectionMode::SelectedTrack);
-    EXPECT_EQ(Impl().GetSubtitleMixerSettings(), nullptr);
-
-    m_collection->withoutSubtitles = 0;
-    Apply(SubtitleCollectionMode::AllSoftSubtitles);
     m_controller.ClearSettings();
-    EXPECT_EQ(Impl().GetSubtitleSoftSettings(), nullptr);
+    EXPECT_EQ(Impl().GetSubtitleMixerSettings(), nullptr);
 }
 
 TEST_F(SubtitleControllerTest, LeavesAnotherImplementationsHolderAlone)

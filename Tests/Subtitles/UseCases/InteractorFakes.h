@@ -164,15 +164,12 @@ class FakeOnlineSearch final : public UseCases::IOnlineSearchInteractor
 public:
     void RegisterEventHandler(UseCases::ISearchDialogStatisticObserver*) override {}
     void UnregisterEventHandler(UseCases::ISearchDialogStatisticObserver*) override {}
-    void Open(Entities::SubtitleCollectionID, Entities::SubtitleSearchMediaInfoSettings const& media,
-              std::string const& source) override
+    void Open(Entities::SubtitleCollectionID, Entities::SubtitleSearchMediaInfoSettings const&,
+              std::string const&) override
     {
-        opened.push_back(source + ": " + media.path.utf8string() + ", " + media.title);
     }
     void Close() override {}
     void SetDownloadFolder(ioPath const&) override {}
-
-    std::vector<std::string> opened;
 };
 
 } // namespace Korvex::Converter::Subtitles::Testing

@@ -28,10 +28,8 @@ std::string Words(OnlineFailure const& failure)
 TEST(OnlineFailureTextsTest, SaysWhatHappenedAndWhatToDo)
 {
     using testing::HasSubstr;
-    auto wrongKey = MakeFailure(Status::NetworkError, Reason::WrongKey, "You cannot consume this service, 100 %1");
-    EXPECT_EQ(Words(wrongKey), "Example did not accept the API key (it says: \"You cannot consume this service, 100 "
-                               "%1\"); set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the environment or as "
-                               "api_key in the configuration file.");
+    EXPECT_THAT(Words(MakeFailure(Status::NetworkError, Reason::WrongKey, "You cannot, 100 %1")),
+                HasSubstr("(it says: \"You cannot, 100 %1\"); set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the"));
 
     auto quota = MakeFailure(Status::NetworkError, Reason::QuotaUsedUp);
     quota.report.resetTime = QStringLiteral("5 hours");
@@ -40,24 +38,10 @@ TEST(OnlineFailureTextsTest, SaysWhatHappenedAndWhatToDo)
     EXPECT_THAT(Words(quota),
                 HasSubstr(QLocale().toString(quota.report.resetsAt.toLocalTime(), QLocale::ShortFormat).toStdString()));
 
-    auto tooMany = MakeFailure(Status::NetworkError, Reason::TooManyRequests);
-    tooMany.report.retryAfterSeconds = 7;
-    EXPECT_THAT(Words(tooMany), HasSubstr("wait 7 s"));
-
     auto file = MakeFailure(Status::FileError);
     file.error = QStringLiteral("Failed to create temp directory");
     file.folder = "/films/subs";
     EXPECT_THAT(Words(file), HasSubstr("\"/films/subs\" (Failed to create temp directory)"));
-
-    auto parsing = MakeFailure(Status::ServerError);
-    parsing.report.httpStatus = 200;
-    parsing.error = QStringLiteral("Invalid server response format: not an array");
-    EXPECT_EQ(Words(parsing), "The answer of Example cannot be used (Invalid server response format: not an array); "
-                              "try again later.");
-
-    auto instead = MakeFailure(Status::ServerError, Reason::NotASubtitle);
-    instead.error = QStringLiteral("The server sent an advertisement");
-    EXPECT_THAT(Words(instead), HasSubstr("(The server sent an advertisement)"));
 }
 
 TEST(OnlineFailureTextsTest, HasASentenceForEveryFailure)

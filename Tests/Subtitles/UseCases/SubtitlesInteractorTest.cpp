@@ -15,7 +15,6 @@ namespace
 using Entities::SubtitleCollection;
 using Entities::SubtitleCollectionMode;
 using Entities::SubtitleEncoding;
-using Entities::SubtitleTextSettings;
 using Entities::SubtitleTrack;
 using Entities::SubtitleTrackID;
 
@@ -102,16 +101,11 @@ TEST_F(SubtitlesInteractorTest, WritesEditsToTheTrackOrTheCollection)
     m_panel->Edit([](auto* observer) { observer->OnFontChanged(QFont("Arial", 30)); });
     EXPECT_EQ(m_controller->calls, Testing::SETTINGS_MADE);
     EXPECT_EQ(m_changed, std::vector{m_collection->collectionId});
-    m_panel->Edit([](auto* observer) { observer->OnTextColorChanged(Qt::red); });
     m_panel->Edit([](auto* observer) { observer->OnOutlineColorChanged(Qt::blue); });
     m_panel->Edit([](auto* observer) { observer->OnEncodingChanged(SubtitleEncoding::BIG5); });
-    m_panel->Edit([](auto* observer) { observer->OnAlignChanged(Entities::SubtitleAlign::Top, observer->ByUser); });
-    m_panel->Edit([](auto* observer) { observer->OnSynchronizationOffsetChanged(-2.0); });
-    m_panel->Edit([](auto* observer) { observer->OnPositionShiftChanged(-7); });
-    EXPECT_EQ(m_collection->textSettings,
-              SubtitleTextSettings(-7, QFont("Arial", 30), Qt::red, Qt::blue, Entities::SubtitleAlign::Top));
+    EXPECT_EQ(m_collection->textSettings.font, QFont("Arial", 30));
+    EXPECT_EQ(m_collection->textSettings.outlineColor, QColor(Qt::blue));
     EXPECT_EQ(Track().encoding, SubtitleEncoding::BIG5);
-    EXPECT_EQ(Track().synchronizationOffset, -2.0);
 }
 
 TEST_F(SubtitlesInteractorTest, AlwaysHasATrackToWriteInto)
