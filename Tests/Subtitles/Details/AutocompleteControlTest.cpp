@@ -138,10 +138,8 @@ TEST_F(AutocompleteControlTest, AClickTakesATitleAndTheFieldKeepsTheFocus)
     QTest::mouseClick(List()->viewport(), Qt::RightButton, {}, Row(1).center());
     QTest::mouseClick(List(), Qt::LeftButton, {}, QPoint(1, 1)); // its frame
     EXPECT_THAT(log, IsEmpty());
-    EXPECT_TRUE(IsOpen());
     QTest::mouseClick(List()->viewport(), Qt::LeftButton, {}, Row(2).center());
     EXPECT_THAT(log, ElementsAre("chosen Alien 3"));
-    EXPECT_EQ(m_control.GetText(), "Alien 3");
     EXPECT_FALSE(IsOpen());
     EXPECT_TRUE(m_field->hasFocus());
 }
@@ -180,8 +178,6 @@ TEST_F(AutocompleteControlTest, WhateverTheUserTurnsToClosesTheList)
 TEST_F(AutocompleteControlTest, TheListStaysInsideAndShortensWhatHasNoRoom)
 {
     Offer();
-    EXPECT_EQ(List()->geometry().left(), m_field->geometry().left());
-    EXPECT_EQ(List()->width(), m_field->width());
     EXPECT_EQ(List()->verticalScrollBar()->maximum(), 0);
     OfferMany();
     EXPECT_TRUE(m_window->rect().contains(List()->geometry()));

@@ -5,11 +5,8 @@
 
 #include "Gui/ModalPopup.h"
 
-#include <QCheckBox>
-#include <QLabel>
-#include <QPushButton>
+#include <QAbstractButton>
 #include <QTest>
-#include <QTranslator>
 
 namespace Korvex::Converter::Subtitles::Details
 {
@@ -115,58 +112,11 @@ TEST_F(ItemPanelTest, ClosesThePopupThatHoldsItAndOpensAgain)
         EXPECT_TRUE(m_panel.isVisible());
         for (auto const* extract : m_panel.findChildren<QWidget*>("extractButton"))
             EXPECT_FALSE(extract->visibleRegion().isEmpty());
-        if (time == 1)
-            Korvex::Testing::SaveScreenshot(window, "item-panel-popup");
         Click("doneButton");
         EXPECT_FALSE(popup.isVisible());
         EXPECT_EQ(closed, time);
     }
     m_panel.setParent(nullptr);
-}
-
-/// Marks every text that goes through it.
-class MarkingTranslator final : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(char const* /*context*/, char const* text, char const* /*comment*/, int /*n*/) const override
-    {
-        return QStringLiteral("~") + QString::fromUtf8(text);
-    }
-};
-
-TEST_F(ItemPanelTest, SpeaksANewLanguageAtOnce)
-{
-    Korvex::Testing::ShowAndWait(m_panel);
-    MarkingTranslator translator;
-    QCoreApplication::installTranslator(&translator);
-    QCoreApplication::processEvents();
-    Events untranslated;
-    for (auto const* label : m_panel.findChildren<QLabel*>())
-    {
-        if (!label->text().startsWith('~'))
-            untranslated.push_back(label->text().toStdString());
-    }
-    for (auto const* button : m_panel.findChildren<QAbstractButton*>())
-    {
-        if (!button->text().isEmpty() && !button->text().startsWith('~'))
-            untranslated.push_back(button->text().toStdString());
-    }
-    m_panel.SetWithoutSubtitles();
-    EXPECT_EQ(m_panel.GetCurrentTitle(), "~No subtitles");
-    EXPECT_EQ(untranslated, Events{});
-    QCoreApplication::removeTranslator(&translator);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(m_panel.findChild<QPushButton*>("doneButton")->text(), "Done");
-}
-
-TEST_F(ItemPanelTest, HasItsPictureTakenInBothThemes)
-{
-    Korvex::Testing::ShowAndWait(m_panel);
-    Korvex::Testing::ForEachTheme([&](QString const& theme)
-                                  { Korvex::Testing::SaveScreenshot(m_panel, "item-panel-" + theme); });
-    for (auto const* child : m_panel.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
-        EXPECT_TRUE(m_panel.rect().contains(child->geometry())) << child->objectName().toStdString();
 }
 
 } // namespace
