@@ -178,6 +178,8 @@ TEST_F(AutocompleteControlTest, WhateverTheUserTurnsToClosesTheList)
 TEST_F(AutocompleteControlTest, TheListStaysInsideAndShortensWhatHasNoRoom)
 {
     Offer();
+    EXPECT_EQ(List()->geometry().left(), m_field->geometry().left());
+    EXPECT_EQ(List()->width(), m_field->width());
     EXPECT_EQ(List()->verticalScrollBar()->maximum(), 0);
     OfferMany();
     EXPECT_TRUE(m_window->rect().contains(List()->geometry()));

@@ -1,4 +1,5 @@
 #include "Hosts/Desktop/LayoutLint.h"
+#include "Support/LongerTexts.h"
 #include "Support/WidgetSupport.h"
 
 #include "Subtitles/Details/AutocompleteControl.h"
@@ -7,7 +8,6 @@
 #include "Subtitles/UseCases/SearchResult.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QHeaderView>
@@ -20,14 +20,12 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTranslator>
 #include <QTreeView>
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
 #include <ctime>
-#include <iostream>
 
 namespace Korvex::Converter::Subtitles::Details
 {
@@ -119,22 +117,6 @@ std::vector<OnlineSearchRow> MakeManyRows(int count)
     }
     return rows;
 }
-
-/// Stands for the languages that nobody thought of: every text 40 % longer.
-class LongerTexts final : public QTranslator
-{
-public:
-    [[nodiscard]] bool isEmpty() const override { return false; }
-    [[nodiscard]] QString translate(char const* context, char const* source, char const*, int) const override
-    {
-        QString const text = QString::fromUtf8(source);
-        if (context[0] == 'Q')
-            return {};
-        QString filling = QString("aus er den ung eine lich ver keit das ent sein ").repeated(text.size());
-        filling.truncate((text.size() * 2 + 4) / 5);
-        return text + (text.size() < 16 ? filling.remove(' ') : filling);
-    }
-};
 
 class OnlineSearchDialogTest : public testing::Test
 {
@@ -534,7 +516,6 @@ TEST_F(OnlineSearchDialogTest, KeepsUpWithManyResults)
         step();
         QCoreApplication::processEvents();
         double const taken = 1000.0 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
-        std::cout << what << ": " << taken << " ms\n";
         EXPECT_LT(taken, LONGEST_MS) << what;
     };
     measure("show", [&] { dialog->SetResults(rows); });
@@ -587,7 +568,7 @@ TEST_F(OnlineSearchDialogTest, ChangesItsLanguageWhileItIsOpen)
         QTest::keyClick(&View(), Qt::Key_A, Qt::ControlModifier);
         SetState(OnlineSearchState::Searching);
     };
-    LongerTexts longer;
+    Testing::LongerTexts longer;
     openWithEverything();
     Click("languagesButton");
     QStringList const before = ListTexts(*Window());
@@ -606,7 +587,7 @@ TEST_F(OnlineSearchDialogTest, ChangesItsLanguageWhileItIsOpen)
 
 TEST_F(OnlineSearchDialogTest, HasRoomForEverythingInBothThemesAndLongLanguages)
 {
-    LongerTexts longer;
+    Testing::LongerTexts longer;
     auto const lookAt = [&](QString const& what)
     {
         QTest::qWait(20); // the layout comes to rest in a few rounds
