@@ -1,6 +1,6 @@
-#include "Subtitles/Adapters/HostBridge.h"
+#include "Support/MediaMaker.h"
 
-#include "Core/FileSystem.h"
+#include "Subtitles/Adapters/HostBridge.h"
 
 namespace Korvex::Converter::Subtitles
 {
@@ -9,9 +9,9 @@ namespace
 
 TEST(HostBridgeTest, NotesTheEncodingsOfReadableTextFiles)
 {
-    ioPath const folder = std::move(Core::CreateWorkFolder()).Value();
+    Korvex::Testing::TemporaryFolder const folder;
     std::string const cue = "1\n00:00:01,000 --> 00:00:02,000\n";
-    ASSERT_FALSE(Core::WriteFile(folder / "a.srt", cue + "Привет\n", false));
+    folder.Write("a.srt", cue + "Привет\n");
     Entities::SubtitleCollection collection;
     for (char const* name : {"a.srt", "missing.srt"})
     {
@@ -24,7 +24,6 @@ TEST(HostBridgeTest, NotesTheEncodingsOfReadableTextFiles)
     EXPECT_EQ(collection.tracks.at(Entities::SubtitleTrackID(folder / "a.srt")).extra, "UTF-8");
     EXPECT_EQ(collection.tracks.at(Entities::SubtitleTrackID(folder / "missing.srt")).extra, "");
     EXPECT_EQ(collection.tracks.at(Entities::SubtitleTrackID(2u)).extra, "");
-    Core::RemoveWorkFolder(folder);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
-#include "Subtitles/Adapters/OnlineDownloaderController.h"
+#include "Support/MediaMaker.h"
 
-#include "Core/FileSystem.h"
+#include "Subtitles/Adapters/OnlineDownloaderController.h"
 
 #include <QFile>
 
@@ -11,14 +11,14 @@ namespace
 
 TEST(OnlineDownloaderControllerTest, FingerprintsBothEndsAndTheSize)
 {
-    ioPath const folder = std::move(Core::CreateWorkFolder()).Value();
+    Korvex::Testing::TemporaryFolder const folder;
     // Zeros but for one word in the first block, one in the last, and one between them that does not count.
     std::string bytes(200000, '\0');
     bytes[8] = '\x02';
     bytes[100000] = '\x7f';
     bytes[199999] = '\x10'; // the top byte of the last block's last word
-    ASSERT_FALSE(Core::WriteFile(folder / "film.mkv", bytes, false));
-    ASSERT_FALSE(Core::WriteFile(folder / "short.mkv", bytes.substr(0, 131071), false));
+    folder.Write("film.mkv", bytes);
+    folder.Write("short.mkv", bytes.substr(0, 131071));
 
     OnlineDownloaderController const controller;
     auto const fingerprint = controller.DetermineFingerprint(folder / "film.mkv");
@@ -30,8 +30,9 @@ TEST(OnlineDownloaderControllerTest, FingerprintsBothEndsAndTheSize)
 
     auto const getHash = [&](std::string const& content)
     {
-        EXPECT_FALSE(Core::WriteFile(folder / "vector.mkv", content, true));
-        return controller.DetermineFingerprint(folder / "vector.mkv").value_or(UseCases::MediaFingerprint()).hash;
+        return controller.DetermineFingerprint(folder.Write("vector.mkv", content))
+            .value_or(UseCases::MediaFingerprint())
+            .hash;
     };
     std::string counting(200000, '\0');
     for (std::size_t i = 0; i < counting.size(); ++i)
@@ -44,8 +45,7 @@ TEST(OnlineDownloaderControllerTest, FingerprintsBothEndsAndTheSize)
     QFile large(QString::fromStdString((folder / "vector.mkv").utf8string()));
     ASSERT_TRUE(large.resize(Q_INT64_C(0x140030000))); // with a hole, so that it takes no space
     EXPECT_EQ(controller.DetermineFingerprint(folder / "vector.mkv")->byteSize, 0x140030000u);
-    EXPECT_FALSE(controller.DetermineFingerprint(folder));
-    Core::RemoveWorkFolder(folder);
+    EXPECT_FALSE(controller.DetermineFingerprint(folder.Path()));
 }
 
 } // namespace

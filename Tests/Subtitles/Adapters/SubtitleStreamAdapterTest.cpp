@@ -1,11 +1,11 @@
 #include "Subtitles/Fakes/LogCatcher.h"
+#include "Support/MediaMaker.h"
 
 #include "Subtitles/Adapters/SubtitleStreamAdapter.h"
 
 #include "Subtitles/Entities/SubtitleTrack.h"
 
 #include "Core/CoreManager.h"
-#include "Core/FileSystem.h"
 #include "Proc/Register.h"
 #include "Proc/Streams.h"
 
@@ -35,11 +35,9 @@ TEST(SubtitleStreamAdapterTest, LogsAFailingReaderOnce)
 TEST(SubtitleStreamAdapterTest, DecodesARealFile)
 {
     Proc::RegisterFactories();
-    ioPath const folder = std::move(Core::CreateWorkFolder()).Value();
-    ioPath const file = folder / "a.srt";
-    ASSERT_FALSE(Core::WriteFile(file, "1\n00:00:01,000 --> 00:00:02,000\nHello\n", false));
+    Korvex::Testing::TemporaryFolder const folder;
     SubtitleStreamAdapter adapter;
-    adapter.SetStreamReader(Proc::MakeStreamReader(file));
+    adapter.SetStreamReader(Proc::MakeStreamReader(folder.Write("a.srt", "1\n00:00:01,000 --> 00:00:02,000\nHello\n")));
     auto const stream = adapter.GetSubtitleStreamFromTrack(Entities::SubtitleTrack(0u));
     ASSERT_NE(stream, nullptr);
     auto const event = stream->ReadEvent();
@@ -48,7 +46,6 @@ TEST(SubtitleStreamAdapterTest, DecodesARealFile)
 
     adapter.SetStreamReader(nullptr);
     EXPECT_EQ(adapter.GetRawSubtitleStreamFromTrack(Entities::SubtitleTrack(0u)), nullptr);
-    Core::RemoveWorkFolder(folder);
 }
 
 } // namespace

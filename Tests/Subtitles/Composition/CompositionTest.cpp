@@ -1,16 +1,14 @@
-#include "Subtitles/Fakes/FakeTranscoder.h"
-
 #include "Subtitles/Adapters/IAutocompleteControl.h"
 #include "Subtitles/Adapters/IEditingPanel.h"
 #include "Subtitles/Adapters/IExternalSubtitlesDialog.h"
 #include "Subtitles/Adapters/IItemPanel.h"
 #include "Subtitles/Adapters/IOnlineSearchDialog.h"
+#include "Subtitles/Composition/BuiltModule.h"
 #include "Subtitles/Details/OnlineSearch/INetworkManager.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/IRESTRequestFactory.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_0/RESTSearchEngine.h"
 #include "Subtitles/Details/OnlineSearch/OpenSubtitles/Ver_1/RESTSearchEngine.h"
 #include "Subtitles/Entities/ISubtitleImpl.h"
-#include "Subtitles/Subtitles.h"
 #include "Subtitles/UseCases/IAdaptersFactory.h"
 #include "Subtitles/UseCases/IAutocompletePresenter.h"
 #include "Subtitles/UseCases/IEditingPresenter.h"
@@ -26,28 +24,13 @@
 #include "Subtitles/UseCases/ISubtitleStreamAdapter.h"
 
 #include "App/Configuration.h"
-#include "App/GUIContainer.h"
-
-#include "Hypodermic/Container.h"
-#include "Hypodermic/ContainerBuilder.h"
 
 namespace Korvex::Converter::Subtitles
 {
 namespace
 {
 
-std::shared_ptr<Hypodermic::Container>
-BuildModule(std::shared_ptr<App::ICustomizationManager> const& customization = nullptr)
-{
-    Hypodermic::ContainerBuilder builder;
-    builder.registerInstance(std::make_shared<Testing::FakeTranscoder>())
-        .as<Transcoder::Entities::ITranscoderInteractor>();
-    builder.registerInstance(std::make_shared<Gui::GUIContainer>());
-    FillBuilder(builder, customization);
-    auto container = builder.build();
-    InitFactories(container);
-    return container;
-}
+using Testing::BuildModule;
 
 enum class Lifetime
 {

@@ -1,18 +1,13 @@
+#include "Subtitles/Composition/BuiltModule.h"
 #include "Subtitles/Fakes/FakeEditingPanel.h"
-#include "Subtitles/Fakes/FakeTranscoder.h"
 #include "Subtitles/Fakes/TrackListClicks.h"
 #include "Support/WidgetSupport.h"
 
 #include "Subtitles/Details/EditingPanel.h"
 #include "Subtitles/Details/ItemPanel.h"
-#include "Subtitles/Subtitles.h"
 
-#include "App/GUIContainer.h"
 #include "Conf/IFormatFile.h"
 #include "Proc/Settings.h"
-
-#include "Hypodermic/Container.h"
-#include "Hypodermic/ContainerBuilder.h"
 
 #include <QAbstractButton>
 #include <QSpinBox>
@@ -45,16 +40,10 @@ public:
            std::shared_ptr<Adapters::IItemPanel> const& itemPanel, Entities::SubtitlePresenterKind kind)
         : m_kind(kind)
     {
-        Hypodermic::ContainerBuilder builder;
-        builder.registerInstance(std::make_shared<Testing::FakeTranscoder>())
-            .as<Transcoder::Entities::ITranscoderInteractor>();
         auto const widgets = std::make_shared<Gui::GUIContainer>();
         widgets->Register(editingPanel);
         widgets->Register(itemPanel);
-        builder.registerInstance(widgets);
-        FillBuilder(builder, nullptr);
-        m_container = builder.build();
-        InitFactories(m_container);
+        m_container = Testing::BuildModule(nullptr, widgets);
     }
 
     /// An interactor with two tracks in the panels.

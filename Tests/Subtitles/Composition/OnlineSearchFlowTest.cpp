@@ -1,19 +1,14 @@
-#include "Subtitles/Fakes/FakeTranscoder.h"
+#include "Subtitles/Composition/BuiltModule.h"
 #include "Support/OnlineServer/OnlineServer.h"
 #include "Support/WidgetSupport.h"
 
 #include "Subtitles/Entities/ISubtitleCollectionInteractorPool.h"
 #include "Subtitles/Entities/SubtitleSearchMediaInfoSettings.h"
-#include "Subtitles/Subtitles.h"
 #include "Subtitles/UseCases/IOnlineSearchInteractor.h"
 
 #include "App/Configuration.h"
-#include "App/GUIContainer.h"
 #include "Core/FileSystem.h"
 #include "Proc/Register.h"
-
-#include "Hypodermic/Container.h"
-#include "Hypodermic/ContainerBuilder.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -42,13 +37,7 @@ protected:
         configuration.openSubtitlesApiKey = "korvex-test-key";
         configuration.features["USE_OPENSUBTITLES_VER_1"] = GetParam();
         App::SetActiveConfiguration(configuration);
-        Hypodermic::ContainerBuilder builder;
-        builder.registerInstance(std::make_shared<Testing::FakeTranscoder>())
-            .as<Transcoder::Entities::ITranscoderInteractor>();
-        builder.registerInstance(std::make_shared<Gui::GUIContainer>());
-        FillBuilder(builder, std::make_shared<App::CustomizationManager>(configuration));
-        m_container = builder.build();
-        InitFactories(m_container);
+        m_container = Testing::BuildModule(std::make_shared<App::CustomizationManager>(configuration));
     }
     void TearDown() override
     {

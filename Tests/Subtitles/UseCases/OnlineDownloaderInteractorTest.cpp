@@ -1,4 +1,5 @@
 #include "Subtitles/Fakes/FakeOnlineService.h"
+#include "Support/MediaMaker.h"
 
 #include "Subtitles/UseCases/OnlineDownloaderInteractor.h"
 
@@ -194,9 +195,6 @@ TEST_F(OnlineDownloaderInteractorTest, LeavesTheFingerprintToFillersAndDiscsWith
 class FetchTest : public OnlineDownloaderInteractorTest
 {
 protected:
-    void SetUp() override { m_storage = std::move(Core::CreateWorkFolder()).Value(); }
-    void TearDown() override { Core::RemoveWorkFolder(m_storage); }
-
     void OnSubtitlesDownloaded(Entities::SubtitleCollectionID, std::shared_ptr<SearchResult> const& result,
                                ioPath const& file) override
     {
@@ -223,7 +221,8 @@ protected:
 
     int m_argumentCount = 0;
     QCoreApplication const m_application{m_argumentCount, nullptr};
-    ioPath m_storage;
+    Korvex::Testing::TemporaryFolder const m_folder;
+    ioPath const m_storage = m_folder.Path();
 };
 
 TEST_F(FetchTest, AsksOnlyForWhatIsNotThere)

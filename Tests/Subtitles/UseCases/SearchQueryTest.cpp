@@ -1,3 +1,5 @@
+#include "Support/MediaMaker.h"
+
 #include "Subtitles/UseCases/SearchQuery.h"
 
 #include "Subtitles/Entities/SubtitleSearchMediaInfoSettings.h"
@@ -89,42 +91,25 @@ TEST(SearchQueryTest, SendsTitlesThatNoAddressMisunderstands)
     EXPECT_EQ(CleanImdbId("tt"), "");
 }
 
-class NfoFileTest : public testing::Test
+TEST(NfoFileTest, BelongsToTheFilmOfItsNameOrToTheOnlyOne)
 {
-protected:
-    void SetUp() override { m_folder = std::move(Core::CreateWorkFolder()).Value(); }
-    void TearDown() override { Core::RemoveWorkFolder(m_folder); }
-    void Write(std::string const& name, std::string const& text) const
-    {
-        ASSERT_FALSE(Core::WriteFile(m_folder / name, text, false));
-    }
-
-    ioPath m_folder;
-};
-
-TEST_F(NfoFileTest, BelongsToTheFilmOfItsNameOrToTheOnlyOne)
-{
-    EXPECT_EQ(FindImdbIdInNfo(m_folder / "a.mkv"), "");
-    Write("a.mkv", "");
-    Write("release.nfo", std::string("\xFF\xFE") + std::string("t\0t\0"
-                                                               "0\0"
-                                                               "1\0"
-                                                               "3\0"
-                                                               "3\0"
-                                                               "0\0"
-                                                               "9\0"
-                                                               "3\0",
-                                                               18));
-    EXPECT_EQ(FindImdbIdInNfo(m_folder / "a.mkv"), "133093") << "UTF-16";
-    Write("b.nfo", "https://www.imdb.com/title/tt7654321/");
-    EXPECT_EQ(FindImdbIdInNfo(m_folder / "a.mkv"), "") << "which of the two?";
-    EXPECT_EQ(FindImdbIdInNfo(m_folder / "b.mkv"), "7654321");
-    Core::RemoveFile(m_folder / "release.nfo");
-    EXPECT_EQ(FindImdbIdInNfo(m_folder / "a.mkv"), "7654321");
-    Write("b.mkv", "");
-    EXPECT_EQ(FindImdbIdInNfo(m_folder / "a.mkv"), "") << "it is the other film's";
-    Write("c.nfo", std::string(65536, ' ') + "tt1234567");
-    EXPECT_EQ(FindImdbIdInNfo(m_folder / "c.mkv"), "") << "beyond what is read";
+    Korvex::Testing::TemporaryFolder const folder;
+    EXPECT_EQ(FindImdbIdInNfo(folder / "a.mkv"), "");
+    folder.Write("a.mkv", "");
+    std::string wide = "\xFF\xFE";
+    for (char const c : std::string("tt0133093"))
+        wide += {c, '\0'};
+    folder.Write("release.nfo", wide);
+    EXPECT_EQ(FindImdbIdInNfo(folder / "a.mkv"), "133093") << "UTF-16";
+    folder.Write("b.nfo", "https://www.imdb.com/title/tt7654321/");
+    EXPECT_EQ(FindImdbIdInNfo(folder / "a.mkv"), "") << "which of the two?";
+    EXPECT_EQ(FindImdbIdInNfo(folder / "b.mkv"), "7654321");
+    Core::RemoveFile(folder / "release.nfo");
+    EXPECT_EQ(FindImdbIdInNfo(folder / "a.mkv"), "7654321");
+    folder.Write("b.mkv", "");
+    EXPECT_EQ(FindImdbIdInNfo(folder / "a.mkv"), "") << "it is the other film's";
+    folder.Write("c.nfo", std::string(65536, ' ') + "tt1234567");
+    EXPECT_EQ(FindImdbIdInNfo(folder / "c.mkv"), "") << "beyond what is read";
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "Subtitles/Fakes/FakeController.h"
+#include "Support/MediaMaker.h"
 
 #include "Subtitles/UseCases/SidecarLookup.h"
 
@@ -12,25 +13,21 @@ namespace
 class SidecarLookupTest : public testing::Test
 {
 protected:
-    void SetUp() override { m_folder = std::move(Core::CreateWorkFolder()).Value(); }
-    void TearDown() override { Core::RemoveWorkFolder(m_folder); }
-
     void Write(std::string const& name)
     {
-        ioPath const path = m_folder / name;
-        ASSERT_FALSE(Core::CreateFolders(path.Parent()));
-        ASSERT_FALSE(Core::WriteFile(path, "text", false));
+        ASSERT_FALSE(Core::CreateFolders((m_folder / name).Parent()));
+        m_folder.Write(name, "text");
     }
 
     std::vector<std::string> Find(std::string const& film)
     {
         std::vector<std::string> found;
         for (Entities::SubtitleTrack const& track : FindSidecars(m_folder / film, m_controller))
-            found.push_back(track.path.utf8string().substr(m_folder.utf8string().size() + 1));
+            found.push_back(track.path.utf8string().substr(m_folder.Path().utf8string().size() + 1));
         return found;
     }
 
-    ioPath m_folder;
+    Korvex::Testing::TemporaryFolder m_folder;
     Testing::FakeController m_controller;
 };
 

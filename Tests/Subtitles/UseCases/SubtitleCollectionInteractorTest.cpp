@@ -1,11 +1,10 @@
 #include "Subtitles/Fakes/FakeController.h"
 #include "Subtitles/Fakes/FakeTranscoder.h"
 #include "Subtitles/UseCases/InteractorFakes.h"
+#include "Support/MediaMaker.h"
 
 #include "Subtitles/UseCases/SearchResult.h"
 #include "Subtitles/UseCases/SubtitleCollectionInteractor.h"
-
-#include "Core/FileSystem.h"
 
 namespace Korvex::Converter::Subtitles::UseCases
 {
@@ -272,18 +271,14 @@ TEST_F(SubtitleCollectionInteractorTest, TakesDownloadsForItsOwnCollectionWithWh
 class SidecarTest : public SubtitleCollectionInteractorTest
 {
 protected:
-    void SetUp() override { m_folder = std::move(Core::CreateWorkFolder()).Value(); }
-    void TearDown() override { Core::RemoveWorkFolder(m_folder); }
-
-    void Write(std::string const& name) { ASSERT_FALSE(Core::WriteFile(m_folder / name, "text", false)); }
-
+    void Write(std::string const& name) { m_folder.Write(name, "text"); }
     void Announce()
     {
         auto const id = static_cast<std::uint32_t>(m_interactor.GetSubtitleCollection().collectionId);
         m_transcoder->AddMediaItem({m_folder / "Movie.mkv", id});
     }
 
-    ioPath m_folder;
+    Korvex::Testing::TemporaryFolder m_folder;
 };
 
 TEST_F(SidecarTest, AreAddedOnceToTheirFilm)
