@@ -1,3 +1,5 @@
+#include "Support/MediaMaker.h"
+
 #include "App/Configuration.h"
 
 #include "Core/FileSystem.h"
@@ -16,19 +18,9 @@ namespace
 class ConfigurationTest : public testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        auto folder = Core::CreateWorkFolder();
-        ASSERT_TRUE(folder);
-        m_folder = *folder;
-        m_file = m_folder / "korvex.conf";
-    }
-    void TearDown() override { Core::RemoveWorkFolder(m_folder); }
-
     Configuration Load(std::string const& text, std::map<std::string, std::string> const& variables = {})
     {
-        EXPECT_EQ(Core::WriteFile(m_file, text, true), Core::SUCCESS);
-        return LoadConfiguration(m_file,
+        return LoadConfiguration(m_folder.Write("korvex.conf", text),
                                  [&](std::string const& name) -> std::optional<std::string>
                                  {
                                      auto const found = variables.find(name);
@@ -45,8 +37,8 @@ protected:
             ->QueryBool("USE_OPENSUBTITLES_VER_1", defaultValue);
     }
 
-    ioPath m_folder;
-    ioPath m_file;
+    Testing::TemporaryFolder const m_folder;
+    ioPath const m_file = m_folder / "korvex.conf";
 };
 
 TEST_F(ConfigurationTest, AnApiKeyTurnsTheNewServiceOnUnlessTheFileSaysNo)
@@ -141,7 +133,8 @@ TEST_F(ConfigurationTest, AFileThatCannotBeReadIsAProblemAMissingOneIsNot)
 
     EXPECT_THAT(LoadConfiguration(m_file, nothing).problems, testing::IsEmpty());
     EXPECT_THAT(LoadConfiguration(m_file, named).problems, testing::ElementsAre(testing::HasSubstr("does not exist")));
-    EXPECT_THAT(LoadConfiguration(m_folder, nothing).problems, testing::ElementsAre(testing::HasSubstr("a folder")));
+    EXPECT_THAT(LoadConfiguration(m_folder.Path(), nothing).problems,
+                testing::ElementsAre(testing::HasSubstr("a folder")));
 }
 
 TEST_F(ConfigurationTest, StoringAnApiKeyLeavesTheRestOfTheFileAlone)
@@ -178,10 +171,9 @@ TEST_F(ConfigurationTest, StoringAnApiKeyLeavesTheRestOfTheFileAlone)
 
 TEST_F(ConfigurationTest, AStoredApiKeyIsItsUsersAlone)
 {
-    ioPath const fresh = m_folder / "new" / "korvex.conf";
+    ioPath const fresh = m_folder / "new/korvex.conf";
     ASSERT_EQ(StoreApiKey(fresh, "abc"), Core::SUCCESS);
-    ioPath const real = m_folder / "real.conf";
-    ASSERT_EQ(Core::WriteFile(real, "; shared\n", true), Core::SUCCESS);
+    ioPath const real = m_folder.Write("real.conf", "; shared\n");
     QString const link = QString::fromStdString(m_file.utf8string());
     ASSERT_TRUE(QFile::link(QString::fromStdString(real.utf8string()), link));
     ASSERT_EQ(StoreApiKey(m_file, "abc"), Core::SUCCESS);
@@ -192,8 +184,7 @@ TEST_F(ConfigurationTest, AStoredApiKeyIsItsUsersAlone)
                   QFile::Permissions());
 
     // What cannot be read is not replaced.
-    ioPath const large = m_folder / "large.conf";
-    ASSERT_EQ(Core::WriteFile(large, std::string(2 << 20, ';'), true), Core::SUCCESS);
+    ioPath const large = m_folder.Write("large.conf", std::string(2 << 20, ';'));
     EXPECT_NE(StoreApiKey(large, "abc"), Core::SUCCESS);
     EXPECT_EQ(Core::FindFileStamp(large)->size, std::uintmax_t{2} << 20);
 }

@@ -1,3 +1,5 @@
+#include "Support/MediaMaker.h"
+
 #include "App/JsonLinesTracker.h"
 
 #include "Core/FileSystem.h"
@@ -21,23 +23,8 @@ namespace
 class JsonLinesTrackerTest : public testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        auto folder = Core::CreateWorkFolder();
-        ASSERT_TRUE(folder);
-        m_folder = *folder;
-        m_file = m_folder / "kept" / "statistics.jsonl";
-    }
-    void TearDown() override { Core::RemoveWorkFolder(m_folder); }
-
-    [[nodiscard]] std::string ReadFile() const
-    {
-        auto const bytes = Core::ReadFile(m_file, 2 * JsonLinesTracker::MOST_FILE_BYTES);
-        return bytes ? *bytes : std::string();
-    }
-
-    ioPath m_folder;
-    ioPath m_file;
+    Testing::TemporaryFolder const m_folder;
+    ioPath const m_file = m_folder / "kept/statistics.jsonl";
 };
 
 TEST_F(JsonLinesTrackerTest, NothingIsKeptUntilItIsSwitchedOn)
@@ -52,7 +39,7 @@ TEST_F(JsonLinesTrackerTest, NothingIsKeptUntilItIsSwitchedOn)
         tracker.SetEnabled(false);
         tracker.TrackEvent("AFTER", {});
     } // writes what waits
-    std::string const line = ReadFile();
+    std::string const line = std::move(Core::ReadFile(m_file, 1000)).Value();
     EXPECT_EQ(std::count(line.begin(), line.end(), '\n'), 1);
     QJsonObject const event = QJsonDocument::fromJson(QByteArray::fromStdString(line)).object();
     EXPECT_EQ(event["event"].toString(), "DURING");
