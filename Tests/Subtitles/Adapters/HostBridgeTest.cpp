@@ -2,10 +2,25 @@
 
 #include "Subtitles/Adapters/HostBridge.h"
 
+#include "Proc/MediaInfo.h"
+
 namespace Korvex::Converter::Subtitles
 {
 namespace
 {
+
+TEST(HostBridgeTest, DescribesTheStreamsOfAFilm)
+{
+    Proc::MediaInfo media;
+    Proc::StreamInfo& text = media.streams.emplace_back();
+    text.kind = Proc::StreamKind::Subtitle;
+    text.codecId = "subrip";
+    text.title = "Signs";
+    text.isForced = text.isHearingImpaired = true;
+    Entities::SubtitleTrack const track = ListMediaTracks(media).begin()->second;
+    EXPECT_EQ(track.title + ", " + track.detail, "Signs, Forced SDH");
+    EXPECT_FALSE(track.codecName.empty() || track.isExternal || track.encodingEditable);
+}
 
 TEST(HostBridgeTest, NotesTheEncodingsOfReadableTextFiles)
 {

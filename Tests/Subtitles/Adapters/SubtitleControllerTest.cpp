@@ -5,6 +5,7 @@
 #include "Subtitles/Entities/SubtitleCollection.h"
 
 #include "Conf/IFormatCodecSubtitle.h"
+#include "Conf/IFormatFile.h"
 
 namespace Korvex::Converter::Subtitles::Adapters
 {
@@ -34,6 +35,13 @@ protected:
     SubtitleController m_controller;
     std::shared_ptr<SubtitleCollection> m_collection = std::make_shared<SubtitleCollection>();
 };
+
+TEST_F(SubtitleControllerTest, KnowsWhatTransportStreamsCarry)
+{
+    for (std::string const& format : {Conf::IFormatFile::FORMAT_MPEGTS, Conf::IFormatFile::FORMAT_MPEG2TS})
+        EXPECT_EQ(m_controller.GetAllowedSoftCodecIds(format), (std::set<std::string>{"dvb_subtitle", "dvb_teletext"}));
+    EXPECT_TRUE(m_controller.GetAllowedSoftCodecIds("MATROSKA").empty());
+}
 
 TEST_F(SubtitleControllerTest, KnowsFilesByExtensionAndPath)
 {
