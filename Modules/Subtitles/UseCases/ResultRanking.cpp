@@ -248,6 +248,8 @@ std::vector<std::shared_ptr<SearchResult>> FindSet(std::shared_ptr<SearchResult>
             if (IsPartOfSameSet(chosen->facts, result->facts))
                 parts.emplace(result->facts.discNumber, result);
         }
+        for (auto const& part : chosen->otherParts)
+            parts.emplace(part->facts.discNumber, part);
     }
     std::vector<std::shared_ptr<SearchResult>> set;
     set.reserve(parts.size());

@@ -40,7 +40,8 @@ RankResults(std::vector<std::shared_ptr<SearchResult>> const& results, SearchedF
             std::vector<Entities::Language::LanguageID> const& languages);
 
 /// The parts of the set of several files that `chosen` belongs to, `chosen` included, in the order of the parts; one
-/// result for each part. `chosen` alone when it is no part of a set or none of the others is there.
+/// result for each part, from `results` and from what `chosen` itself brings. `chosen` alone when it is no part of a
+/// set or none of the others is there.
 [[nodiscard]] KVSUBTITLES_API std::vector<std::shared_ptr<SearchResult>>
 FindSet(std::shared_ptr<SearchResult> const& chosen, std::vector<std::shared_ptr<SearchResult>> const& results);
 

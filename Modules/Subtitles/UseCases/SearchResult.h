@@ -8,8 +8,10 @@
 
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace Korvex::Converter::Subtitles::UseCases
 {
@@ -61,6 +63,8 @@ struct KVSUBTITLES_API SearchResult
     QString fileName;                        ///< as the service gives it
     std::map<std::string, std::string> tags; ///< `SearchTags` constants to values
     SearchResultFacts facts;
+    /// The rest of a set of several files, when the service lists the set as this one hit.
+    std::vector<std::shared_ptr<SearchResult>> otherParts;
 };
 
 } // namespace Korvex::Converter::Subtitles::UseCases

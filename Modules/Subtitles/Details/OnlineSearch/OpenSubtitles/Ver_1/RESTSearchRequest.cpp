@@ -107,8 +107,22 @@ INetworkOperation::Status RESTSearchRequest::ParseJsonReply(QJsonDocument const&
 std::shared_ptr<UseCases::SearchResult> RESTSearchRequest::ParseJsonObject(QJsonValue const& element)
 {
     QJsonObject const attributes = element.toObject().value(QStringLiteral("attributes")).toObject();
-    QJsonObject const file = attributes.value(QStringLiteral("files")).toArray().at(0).toObject();
+    QJsonArray const files = attributes.value(QStringLiteral("files")).toArray();
+    auto result = ParseFile(attributes, files.at(0).toObject());
+    if (result->facts.discCount < 2)
+        return result;
+    for (int i = 1; i < files.size(); ++i)
+    {
+        auto part = ParseFile(attributes, files.at(i).toObject());
+        if (IsResultValid(part))
+            result->otherParts.push_back(std::move(part));
+    }
+    return result;
+}
 
+std::shared_ptr<UseCases::SearchResult> RESTSearchRequest::ParseFile(QJsonObject const& attributes,
+                                                                     QJsonObject const& file)
+{
     auto result = std::make_shared<RESTSearchResultData>();
     result->format = ReadText(attributes, RESTProtocol::RESULT_KEY_FORMAT).trimmed();
     result->fileId =

@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+class QJsonObject;
 class QJsonValue;
 
 namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_1
@@ -26,6 +27,8 @@ public:
 
 private:
     [[nodiscard]] static std::shared_ptr<UseCases::SearchResult> ParseJsonObject(QJsonValue const& element);
+    [[nodiscard]] static std::shared_ptr<UseCases::SearchResult> ParseFile(QJsonObject const& attributes,
+                                                                           QJsonObject const& file);
     [[nodiscard]] static bool IsResultValid(std::shared_ptr<UseCases::SearchResult> const& result);
 
     UseCases::SearchRequest m_request;

@@ -8,6 +8,8 @@
 
 #include "Subtitles/Entities/SearchTags.h"
 
+#include "Subtitles/UseCases/ResultRanking.h"
+
 #include <QJsonDocument>
 
 namespace Korvex::Converter::Subtitles::Details::OpenSubtitles::Ver_1
@@ -66,7 +68,7 @@ TEST(OpenSubtitlesVer1, ReadsAllThatAHitTells)
         "comments":"Line &lt;one&gt;\r\nLine<br/>two",
         "feature_details":{"feature_type":"Episode","year":2014,"title":"Low Tide","imdb_id":"tt0040785",
         "season_number":2,"episode_number":3,"parent_title":"Harbour &amp; Sea","parent_imdb_id":23645},
-        "files":[{"file_id":815,"cd_number":2,"file_name":"Harbour.S02E03.SRT"},{"file_id":816,"cd_number":1}]}}]})");
+        "files":[{"file_id":815,"cd_number":2,"file_name":"Harbour.S02E03.SRT"},{"file_id":816,"cd_number":1},{}]}}]})");
     ASSERT_EQ(hits.size(), 1U);
     auto const* const hit = dynamic_cast<RESTSearchResultData const*>(hits.front().get());
     ASSERT_NE(hit, nullptr);
@@ -87,6 +89,9 @@ TEST(OpenSubtitlesVer1, ReadsAllThatAHitTells)
     EXPECT_TRUE(facts.isHearingImpaired && facts.isForeignPartsOnly && facts.isMachineTranslated &&
                 facts.isHighDefinition && facts.isHashMatch && !facts.isFromTrusted);
     EXPECT_EQ(std::make_pair(facts.discNumber, facts.discCount), std::make_pair(2, 2));
+    ASSERT_EQ(hit->otherParts.size(), 1U);
+    EXPECT_EQ(UseCases::FindSet(hits.front(), hits), (std::vector{hit->otherParts.front(), hits.front()}));
+    EXPECT_EQ(hit->otherParts.front()->facts.serviceId, QStringLiteral("816"));
     EXPECT_EQ(facts.title, QStringLiteral("Harbour & Sea"));
     EXPECT_EQ(facts.year, 2014);
     EXPECT_EQ(std::make_pair(facts.season, facts.episode), std::make_pair(std::optional(2), std::optional(3)));
