@@ -17,8 +17,11 @@ void PlaceInCorner(QDialog& dialog)
     if (!dialog.testAttribute(Qt::WA_Resized))
         dialog.adjustSize();
     // The dialog has no frame yet: the window's is as thick.
-    QSize const size = dialog.size() + window.frameSize() - window.size();
+    QSize const frame = window.frameSize() - window.size();
     QRect const screen = window.screen()->availableGeometry();
+    if (QSize const most = screen.size() - frame; dialog.width() > most.width() || dialog.height() > most.height())
+        dialog.resize(dialog.size().boundedTo(most));
+    QSize const size = dialog.size() + frame;
     QRect place(QPoint(), size);
     place.moveTopRight(window.frameGeometry().topRight());
     // What is larger than the screen shows its title.

@@ -22,7 +22,7 @@ namespace
 constexpr int MARGIN = 12;
 constexpr int GAP = 10;
 constexpr QSize LEAST_SIZE(640, 420);
-constexpr QSize FIRST_SIZE(960, 600);
+constexpr QSize FIRST_SIZE(1080, 600);
 
 } // namespace
 
