@@ -251,7 +251,7 @@ private:
 
     void Hear(std::string const& event)
     {
-        EXPECT_EQ(QThread::currentThread(), qApp->thread());
+        EXPECT_EQ(QThread::currentThread(), QCoreApplication::instance()->thread());
         if (m_expected.empty() || m_expected.front() != event)
         {
             ADD_FAILURE() << "heard \"" << event << "\" in place of "

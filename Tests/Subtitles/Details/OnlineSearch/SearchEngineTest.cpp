@@ -130,7 +130,7 @@ public:
 private:
     void Note(std::string const& event)
     {
-        EXPECT_EQ(QThread::currentThread(), qApp->thread());
+        EXPECT_EQ(QThread::currentThread(), QCoreApplication::instance()->thread());
         m_diary.Write(m_name + " " + event);
         if (reaction)
             std::exchange(reaction, nullptr)(event);
@@ -393,7 +393,7 @@ TEST_F(SearchEngineTest, GoesAtOnceWhenARequestHangsAndTakesItsReplyAlong)
     EXPECT_LT(timer.elapsed(), 1000);
     EXPECT_EQ(network->aliveReplyCount, 0);
     EXPECT_EQ(deletingThread.load(), replyThread.load());
-    EXPECT_NE(deletingThread.load(), qApp->thread());
+    EXPECT_NE(deletingThread.load(), QCoreApplication::instance()->thread());
     EXPECT_EQ(network.use_count(), 1);
 }
 
