@@ -2251,8 +2251,8 @@ Baut auf Qt, FFmpeg und libass auf.</translation>
         <translation type="unfinished">Der Dienst %1 wurde zu oft gefragt%2; versuchen Sie es in einer Minute erneut.</translation>
     </message>
     <message>
-        <source>%1 did not accept the API key%2; set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
-        <translation type="unfinished">Der Dienst %1 hat den API-Schlüssel nicht angenommen%2; legen Sie einen gültigen als KORVEX_OPENSUBTITLES_API_KEY in der Umgebung oder als api_key in der Konfigurationsdatei fest.</translation>
+        <source>%1 did not accept the API key%2; set a valid one in the settings, as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
+        <translation type="unfinished">Der Dienst %1 hat den API-Schlüssel nicht angenommen%2; legen Sie einen gültigen in den Einstellungen, als KORVEX_OPENSUBTITLES_API_KEY in der Umgebung oder als api_key in der Konfigurationsdatei fest.</translation>
     </message>
     <message>
         <source>%1 sent something else in place of the subtitle%2; choose another one, or try again later.</source>

@@ -2251,8 +2251,8 @@ Se basa en Qt, FFmpeg y libass.</translation>
         <translation type="unfinished">Se hicieron demasiadas peticiones a %1%2; inténtelo de nuevo dentro de un minuto.</translation>
     </message>
     <message>
-        <source>%1 did not accept the API key%2; set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
-        <translation type="unfinished">%1 no aceptó la clave de API%2; fije una válida como KORVEX_OPENSUBTITLES_API_KEY en el entorno o como api_key en el archivo de configuración.</translation>
+        <source>%1 did not accept the API key%2; set a valid one in the settings, as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
+        <translation type="unfinished">%1 no aceptó la clave de API%2; fije una válida en los ajustes, como KORVEX_OPENSUBTITLES_API_KEY en el entorno o como api_key en el archivo de configuración.</translation>
     </message>
     <message>
         <source>%1 sent something else in place of the subtitle%2; choose another one, or try again later.</source>

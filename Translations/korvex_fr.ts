@@ -2251,8 +2251,8 @@ Il repose sur Qt, FFmpeg et libass.</translation>
         <translation type="unfinished">Le service %1 a été trop souvent interrogé%2&#xa0;; réessayez dans une minute.</translation>
     </message>
     <message>
-        <source>%1 did not accept the API key%2; set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
-        <translation type="unfinished">Le service %1 n&apos;a pas accepté la clé d&apos;API%2&#xa0;; fixez-en une valable comme KORVEX_OPENSUBTITLES_API_KEY dans l&apos;environnement ou comme api_key dans le fichier de configuration.</translation>
+        <source>%1 did not accept the API key%2; set a valid one in the settings, as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
+        <translation type="unfinished">Le service %1 n&apos;a pas accepté la clé d&apos;API%2&#xa0;; fixez-en une valable dans les réglages, comme KORVEX_OPENSUBTITLES_API_KEY dans l&apos;environnement ou comme api_key dans le fichier de configuration.</translation>
     </message>
     <message>
         <source>%1 sent something else in place of the subtitle%2; choose another one, or try again later.</source>

@@ -2228,8 +2228,8 @@ Qt、FFmpeg、libass を利用しています。</translation>
         <translation type="unfinished">%1 への要求が多すぎます%2。1 分後にもう一度お試しください。</translation>
     </message>
     <message>
-        <source>%1 did not accept the API key%2; set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
-        <translation type="unfinished">%1 は API キーを受け付けませんでした%2。有効なキーを環境変数 KORVEX_OPENSUBTITLES_API_KEY または設定ファイルの api_key に設定してください。</translation>
+        <source>%1 did not accept the API key%2; set a valid one in the settings, as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
+        <translation type="unfinished">%1 は API キーを受け付けませんでした%2。有効なキーを設定画面、環境変数 KORVEX_OPENSUBTITLES_API_KEY、または設定ファイルの api_key に設定してください。</translation>
     </message>
     <message>
         <source>%1 sent something else in place of the subtitle%2; choose another one, or try again later.</source>

@@ -2274,8 +2274,8 @@ Zbudowano z użyciem Qt, FFmpeg i libass.</translation>
         <translation type="unfinished">Serwis %1 otrzymał zbyt wiele zapytań%2; spróbuj ponownie za minutę.</translation>
     </message>
     <message>
-        <source>%1 did not accept the API key%2; set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
-        <translation type="unfinished">Serwis %1 nie przyjął klucza API%2; ustaw prawidłowy jako KORVEX_OPENSUBTITLES_API_KEY w środowisku lub jako api_key w pliku konfiguracyjnym.</translation>
+        <source>%1 did not accept the API key%2; set a valid one in the settings, as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
+        <translation type="unfinished">Serwis %1 nie przyjął klucza API%2; ustaw prawidłowy w ustawieniach, jako KORVEX_OPENSUBTITLES_API_KEY w środowisku lub jako api_key w pliku konfiguracyjnym.</translation>
     </message>
     <message>
         <source>%1 sent something else in place of the subtitle%2; choose another one, or try again later.</source>

@@ -2274,8 +2274,8 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Сервис %1 получил слишком много запросов%2; попробуйте ещё раз через минуту.</translation>
     </message>
     <message>
-        <source>%1 did not accept the API key%2; set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
-        <translation type="unfinished">Сервис %1 не принял ключ API%2; задайте верный как KORVEX_OPENSUBTITLES_API_KEY в окружении или как api_key в файле конфигурации.</translation>
+        <source>%1 did not accept the API key%2; set a valid one in the settings, as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
+        <translation type="unfinished">Сервис %1 не принял ключ API%2; задайте верный в настройках, как KORVEX_OPENSUBTITLES_API_KEY в окружении или как api_key в файле конфигурации.</translation>
     </message>
     <message>
         <source>%1 sent something else in place of the subtitle%2; choose another one, or try again later.</source>

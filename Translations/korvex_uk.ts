@@ -2274,8 +2274,8 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">Сервіс %1 отримав забагато запитів%2; спробуйте ще раз за хвилину.</translation>
     </message>
     <message>
-        <source>%1 did not accept the API key%2; set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
-        <translation type="unfinished">Сервіс %1 не прийняв ключ API%2; задайте правильний як KORVEX_OPENSUBTITLES_API_KEY у середовищі або як api_key у файлі конфігурації.</translation>
+        <source>%1 did not accept the API key%2; set a valid one in the settings, as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
+        <translation type="unfinished">Сервіс %1 не прийняв ключ API%2; задайте правильний у налаштуваннях, як KORVEX_OPENSUBTITLES_API_KEY у середовищі або як api_key у файлі конфігурації.</translation>
     </message>
     <message>
         <source>%1 sent something else in place of the subtitle%2; choose another one, or try again later.</source>

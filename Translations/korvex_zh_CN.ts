@@ -2228,8 +2228,8 @@ It is built on Qt, FFmpeg and libass.</source>
         <translation type="unfinished">对 %1 的请求过于频繁%2；请一分钟后重试。</translation>
     </message>
     <message>
-        <source>%1 did not accept the API key%2; set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
-        <translation type="unfinished">%1 不接受该 API 密钥%2；请在环境变量 KORVEX_OPENSUBTITLES_API_KEY 或配置文件的 api_key 中设置有效的密钥。</translation>
+        <source>%1 did not accept the API key%2; set a valid one in the settings, as KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file.</source>
+        <translation type="unfinished">%1 不接受该 API 密钥%2；请在设置、环境变量 KORVEX_OPENSUBTITLES_API_KEY 或配置文件的 api_key 中设置有效的密钥。</translation>
     </message>
     <message>
         <source>%1 sent something else in place of the subtitle%2; choose another one, or try again later.</source>

@@ -70,9 +70,10 @@ QString DescribeReason(OnlineFailure const& failure)
     switch (failure.report.reason)
     {
     case Reason::WrongKey:
-        return Fill(Texts::tr("%1 did not accept the API key%2; set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the "
-                              "environment or as api_key in the configuration file."),
-                    failure.serviceName, words);
+        return Fill(
+            Texts::tr("%1 did not accept the API key%2; set a valid one in the settings, as "
+                      "KORVEX_OPENSUBTITLES_API_KEY in the environment or as api_key in the configuration file."),
+            failure.serviceName, words);
     case Reason::QuotaUsedUp:
         return DescribeUsedUpQuota(failure);
     case Reason::TooManyRequests:

@@ -213,9 +213,14 @@ public:
     void OnSubtitlesDownloaded(Entities::SubtitleCollectionID collection, std::shared_ptr<SearchResult> const& result,
                                ioPath const& file) override
     {
-        if (collection != m_collection->collectionId || SelectListed(file))
+        if (collection != m_collection->collectionId)
             return;
-        if (InsertExternalTracks({MakeDownloadedTrack(file, *result)}))
+        // A set comes in order, and its first part stays the chosen one.
+        if (result->facts.discNumber > 1)
+            AddKeepingChoice({MakeDownloadedTrack(file, *result)});
+        else if (SelectListed(file))
+            return;
+        else if (InsertExternalTracks({MakeDownloadedTrack(file, *result)}))
             FinishAdding(Selection::AddedTrack);
         WarnIfForeign(file);
     }
@@ -327,10 +332,12 @@ private:
     }
 
     /// Files that lie beside the film are offered; they never change what the user chose.
-    void AddSidecars(ioPath const& media)
+    void AddSidecars(ioPath const& media) { AddKeepingChoice(FindNewSidecars(media, *m_collection, *m_controller)); }
+
+    void AddKeepingChoice(std::vector<SubtitleTrack> tracks)
     {
         Choice const choice{m_collection->mode, m_collection->withoutSubtitles, m_collection->currentTrack};
-        if (!InsertExternalTracks(FindNewSidecars(media, *m_collection, *m_controller)))
+        if (!InsertExternalTracks(std::move(tracks)))
             return;
         m_collection->mode = choice.mode;
         m_collection->withoutSubtitles = choice.withoutSubtitles;

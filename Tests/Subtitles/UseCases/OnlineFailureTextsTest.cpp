@@ -29,7 +29,7 @@ TEST(OnlineFailureTextsTest, SaysWhatHappenedAndWhatToDo)
 {
     using testing::HasSubstr;
     EXPECT_THAT(Words(MakeFailure(Status::NetworkError, Reason::WrongKey, "You cannot, 100 %1")),
-                HasSubstr("(it says: \"You cannot, 100 %1\"); set a valid one as KORVEX_OPENSUBTITLES_API_KEY in the"));
+                HasSubstr("(it says: \"You cannot, 100 %1\"); set a valid one in the settings, as "));
 
     auto quota = MakeFailure(Status::NetworkError, Reason::QuotaUsedUp);
     quota.report.resetTime = QStringLiteral("5 hours");

@@ -246,6 +246,12 @@ TEST_F(SubtitleCollectionInteractorTest, TakesDownloadsForItsOwnCollectionWithWh
     EXPECT_TRUE(track.isForced && track.isExternal);
     EXPECT_EQ(m_interactor.GetSubtitleCollection().currentTrack, mine);
 
+    result.facts.discNumber = 2;
+    deliver(given.collectionId, "fetched/second disc.srt");
+    EXPECT_EQ(m_interactor.GetSubtitleCollection().tracks.size(), 2u);
+    EXPECT_EQ(m_interactor.GetSubtitleCollection().currentTrack, mine) << "the first disc stays chosen";
+    result.facts.discNumber = 1;
+
     result.facts.language = Entities::Language::LanguageID::None;
     result.facts.languageCode = "XX";
     deliver(given.collectionId, "next.srt");
