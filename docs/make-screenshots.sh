@@ -16,6 +16,6 @@ build/debug/bin/korvex-make-sample "$folder/Evening.mkv"
 cp Samples/clip.ru.srt "$folder/evening-walk.srt"
 LC_ALL=C.UTF-8 KORVEX_DISPLAY_SIZE=1280x800 Tests/Support/UnderXvfb.sh \
     build/debug/bin/korvex-portrait "$folder/Evening.mkv" "$folder/evening-walk.srt" docs/screenshots
-QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 KORVEX_SCREENSHOTS=$folder \
+LC_ALL=C.UTF-8 KORVEX_DISPLAY_SIZE=1280x800 KORVEX_SCREENSHOTS=$folder Tests/Support/UnderXvfb.sh \
     build/debug/bin/OnlineWindowTest --gtest_filter='*FromFindFile*Legacy' >"$folder/log"
 cp "$folder"/online-search-*.png docs/screenshots/
