@@ -8,12 +8,15 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace Korvex::Testing
 {
 
 namespace
 {
 
+constexpr int ROWS_PER_PAGE = 50;
 constexpr char LINK_FOLDER[] = "/download/";
 
 HttpReply MakeReply(int status, QJsonObject const& object)
@@ -114,7 +117,16 @@ HttpReply Search(HttpRequest const& request)
         if (Matches(subtitle, request))
             data.append(MakeRow(subtitle));
     }
-    return MakeReply(200, {{"total_pages", 1}, {"total_count", data.size()}, {"page", 1}, {"data", data}});
+    int const total = data.size();
+    int const page = request.Value("page").isEmpty() ? 1 : request.Value("page").toInt();
+    QJsonArray rows;
+    for (int i = (page - 1) * ROWS_PER_PAGE; i >= 0 && i < std::min(total, page * ROWS_PER_PAGE); ++i)
+        rows.append(data[i]);
+    return MakeReply(200, {{"total_pages", (total + ROWS_PER_PAGE - 1) / ROWS_PER_PAGE},
+                           {"total_count", total},
+                           {"per_page", ROWS_PER_PAGE},
+                           {"page", page},
+                           {"data", rows}});
 }
 
 HttpReply Suggest(HttpRequest const& request)

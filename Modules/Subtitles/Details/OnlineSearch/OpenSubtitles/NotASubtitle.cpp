@@ -105,14 +105,11 @@ std::optional<QString> FindPage(QString const& head)
         QRegularExpression::CaseInsensitiveOption);
     static QRegularExpression const SAMI(QStringLiteral("<(?:sami|sync)\\b"),
                                          QRegularExpression::CaseInsensitiveOption);
-    static QRegularExpression const TITLE(QStringLiteral("<(?:title|h1|message)\\b[^<>]*>([^<]+)</"),
-                                          QRegularExpression::CaseInsensitiveOption);
     QString const start = SkipPreamble(head);
     bool const isError = start.startsWith(QLatin1String("<error"), Qt::CaseInsensitive);
     if (!isError && (!PAGE.match(start).hasMatch() || SAMI.match(start).hasMatch()))
         return std::nullopt;
-    return Describe(isError ? QStringLiteral("an XML error") : QStringLiteral("an HTML page"),
-                    TITLE.match(start).captured(1));
+    return Describe(isError ? QStringLiteral("an XML error") : QStringLiteral("an HTML page"), FindPageTitle(start));
 }
 
 /// Texts may begin with the same brackets: "{1}{25}", "[Script Info]", "[0][20]".

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <string>
+
 namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
 {
 
@@ -17,7 +19,10 @@ struct KVSUBTITLES_API RESTNetworkConfiguration
     RESTNetworkConfiguration& operator=(RESTNetworkConfiguration&&) = default;
     virtual ~RESTNetworkConfiguration();
 
-    QString baseUrl; ///< without a slash at its end
+    /// The address as requests go on from it: without blanks around it and slashes at its end.
+    void SetBaseUrl(std::string const& address);
+
+    QString baseUrl;
 };
 
 } // namespace Korvex::Converter::Subtitles::Details::OpenSubtitles

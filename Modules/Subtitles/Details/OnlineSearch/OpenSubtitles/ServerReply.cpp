@@ -23,7 +23,6 @@ using UseCases::ServerReport;
 using Headers = QList<QNetworkReply::RawHeaderPair>;
 
 constexpr int MOST_CHARACTERS = 300;
-constexpr int MOST_CHARACTERS_BEFORE_TITLE = 16384;
 
 QByteArray FindHeader(Headers const& headers, char const* name)
 {
@@ -51,21 +50,6 @@ QString ToLine(QString const& words, QByteArray const& secret)
         return line;
     int const end = MOST_CHARACTERS - 1;
     return line.left(line.at(end - 1).isHighSurrogate() ? end - 1 : end) + QChar(0x2026);
-}
-
-QString FindTitle(QString const& markup)
-{
-    static QRegularExpression const TITLE(QStringLiteral("<(title|h1|message)\\b[^<>]*>(.*?)</\\1\\s*>"),
-                                          QRegularExpression::CaseInsensitiveOption |
-                                              QRegularExpression::DotMatchesEverythingOption);
-    static QRegularExpression const TAG(QStringLiteral("<[^<>]*>"));
-    for (auto match = TITLE.globalMatch(markup.left(MOST_CHARACTERS_BEFORE_TITLE)); match.hasNext();)
-    {
-        auto title = match.next().captured(2).replace(TAG, QStringLiteral(" ")).trimmed();
-        if (!title.isEmpty())
-            return title;
-    }
-    return {};
 }
 
 QString Decode(QByteArray const& body)
@@ -176,7 +160,9 @@ ServerReport ReadServerReport(int const httpStatus, Headers const& headers, QByt
     auto const document = QJsonDocument::fromJson(body);
     auto const object = document.isArray() ? document.array().at(0).toObject() : document.object();
     bool const isPage = document.isNull() && IsMarkup(text);
-    auto const words = isPage ? FindTitle(text) : !document.isNull() ? FindMessage(object) : FindPlainWords(body, text);
+    auto const words = isPage               ? FindPageTitle(text)
+                       : !document.isNull() ? FindMessage(object)
+                                            : FindPlainWords(body, text);
 
     ServerReport report;
     report.httpStatus = httpStatus;

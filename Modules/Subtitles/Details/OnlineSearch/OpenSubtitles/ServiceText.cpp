@@ -132,6 +132,22 @@ QString WithoutSecret(QString text, QByteArray const& secret)
     return text.contains(key, Qt::CaseInsensitive) ? QString() : text;
 }
 
+QString FindPageTitle(QString const& markup)
+{
+    constexpr int MOST_CHARACTERS_BEFORE_TITLE = 16384;
+    static QRegularExpression const TITLE(QStringLiteral("<(title|h1|message)\\b[^<>]*>(.*?)</\\1\\s*>"),
+                                          QRegularExpression::CaseInsensitiveOption |
+                                              QRegularExpression::DotMatchesEverythingOption);
+    static QRegularExpression const TAG(QStringLiteral("<[^<>]*>"));
+    for (auto match = TITLE.globalMatch(markup.left(MOST_CHARACTERS_BEFORE_TITLE)); match.hasNext();)
+    {
+        auto title = match.next().captured(2).replace(TAG, QStringLiteral(" ")).trimmed();
+        if (!title.isEmpty())
+            return title;
+    }
+    return {};
+}
+
 QString FindMessage(QJsonObject const& object)
 {
     for (auto const* key : {"message", "error", "errors"})

@@ -18,6 +18,9 @@ namespace Korvex::Converter::Subtitles::Details::OpenSubtitles
 /// The text with stars in place of the secret in any letter case; an empty one hides nothing.
 [[nodiscard]] KVSUBTITLES_API QString WithoutSecret(QString text, QByteArray const& secret);
 
+/// What a page of markup calls itself: its title, else its first heading. Empty when it says nothing.
+[[nodiscard]] KVSUBTITLES_API QString FindPageTitle(QString const& markup);
+
 /// The server's own words in a JSON reply: its `message`, else `error`, else `errors`. Empty when it says nothing.
 [[nodiscard]] KVSUBTITLES_API QString FindMessage(QJsonObject const& reply);
 

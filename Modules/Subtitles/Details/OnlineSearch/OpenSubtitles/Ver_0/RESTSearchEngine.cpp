@@ -26,10 +26,7 @@ std::string RESTSearchEngine::GetServiceName() const
 
 void RESTSearchEngine::ConfigureNetwork()
 {
-    QString baseUrl = QString::fromStdString(App::GetActiveConfiguration().openSubtitlesLegacyUrl).trimmed();
-    while (baseUrl.endsWith(u'/'))
-        baseUrl.chop(1);
-    m_configuration.baseUrl = baseUrl;
+    m_configuration.SetBaseUrl(App::GetActiveConfiguration().openSubtitlesLegacyUrl);
     m_configuration.userAgent = RESTProtocol::USER_AGENT;
 }
 

@@ -26,9 +26,7 @@ std::string RESTSearchEngine::GetServiceName() const
 void RESTSearchEngine::ConfigureNetwork()
 {
     App::Configuration const configuration = App::GetActiveConfiguration();
-    m_configuration.baseUrl = QString::fromStdString(configuration.openSubtitlesUrl).trimmed();
-    while (m_configuration.baseUrl.endsWith(QLatin1Char('/')))
-        m_configuration.baseUrl.chop(1);
+    m_configuration.SetBaseUrl(configuration.openSubtitlesUrl);
     m_configuration.apiKey = QByteArray::fromStdString(configuration.openSubtitlesApiKey).trimmed();
 }
 
